@@ -1,0 +1,10 @@
+# Fails unless FICHIER is a little-endian .mo catalogue, revision 0, of ENTREES entries.
+file(READ "${FICHIER}" entete LIMIT 12 HEX)
+if(NOT entete MATCHES "^de120495(00000000)(..)(..)(..)(..)$")
+    message(FATAL_ERROR "${FICHIER}: no little-endian catalogue of revision 0")
+endif()
+math(EXPR nombre "0x${CMAKE_MATCH_5}${CMAKE_MATCH_4}${CMAKE_MATCH_3}${CMAKE_MATCH_2}")
+if(NOT nombre EQUAL ENTREES)
+    file(REMOVE "${FICHIER}")
+    message(FATAL_ERROR "${FICHIER}: ${nombre} entries instead of ${ENTREES}")
+endif()

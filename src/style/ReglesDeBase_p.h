@@ -1,0 +1,7 @@
+// style/ReglesDeBase_p.h
+#pragma once
+
+#include "style/RegleTexteRiche.h"
+
+// The rules that a text without a widget is read by. Empty until they are first asked for.
+extern EnsembleRegles reglesDeBase;

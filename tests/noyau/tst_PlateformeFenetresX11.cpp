@@ -51,7 +51,7 @@ private Q_SLOTS:
     void poigneesMortes();
 
 private:
-    /// A foreign window, managed and in front.
+    /// A foreign window, shown and in front; null when that did not come about.
     HWND Ouvre(QString const & titre, QString const & genre = u"fenetre"_s);
     DWORD DonneStyle(HWND fenetre) const;
     DWORD DonneStyleEtendu(HWND fenetre) const;
@@ -74,8 +74,14 @@ void tst_PlateformeFenetresX11::cleanup()
 HWND tst_PlateformeFenetresX11::Ouvre(QString const & titre, QString const & genre)
 {
     HWND const fenetre = monProgramme->DemandePoignee(genre + u' ' + titre);
-    bool const devant =
-        QTest::qWaitFor([&] { return maPlateforme.GetForegroundWindow() == fenetre; }, kDelai);
+    // The manager says these in an order of its own.
+    bool const devant = QTest::qWaitFor(
+        [&] {
+            return maPlateforme.GetForegroundWindow() == fenetre &&
+                   maPlateforme.GetTopWindow(nullptr) == fenetre &&
+                   maPlateforme.IsWindowVisible(fenetre);
+        },
+        kDelai);
     return devant ? fenetre : nullptr;
 }
 

@@ -89,6 +89,8 @@ public:
         QObject::connect(lecture, &QKeychain::Job::finished, &contexte, [&](QKeychain::Job *) {
             if (lecture->error() == QKeychain::NoError)
                 secret = lecture->binaryData();
+            else if (lecture->error() == QKeychain::EntryNotFound)
+                secret = QByteArray();
         });
         Execute(lecture);
         return secret;

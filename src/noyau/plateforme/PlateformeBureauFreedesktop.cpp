@@ -51,6 +51,7 @@ bool Execute(QKeychain::Job * travail)
 {
     bool reussite = false;
     QEventLoop boucle;
+    // clazy:excludeall=lambda-in-connect: the context dies with what the lambda refers to.
     QObject::connect(travail, &QKeychain::Job::finished, &boucle, [&](QKeychain::Job * fini) {
         reussite = fini->error() == QKeychain::NoError;
         boucle.quit();

@@ -1,4 +1,7 @@
 // noyau/plateforme/PlateformeBureauFreedesktop.cpp
+//
+// Each lambda's context object dies with the variables that the lambda refers to.
+// clazy:excludeall=lambda-in-connect
 #include "noyau/plateforme/PlateformeBureau.h"
 
 #include "noyau/plateforme/EntreesBureau_p.h"
@@ -51,7 +54,6 @@ bool Execute(QKeychain::Job * travail)
 {
     bool reussite = false;
     QEventLoop boucle;
-    // clazy:excludeall=lambda-in-connect: the context dies with what the lambda refers to.
     QObject::connect(travail, &QKeychain::Job::finished, &boucle, [&](QKeychain::Job * fini) {
         reussite = fini->error() == QKeychain::NoError;
         boucle.quit();

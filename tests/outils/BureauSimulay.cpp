@@ -25,10 +25,7 @@ bool BureauSimulay::UtilisateurPeutExecuterElevay()
 
 std::optional<QByteArray> BureauSimulay::LisSecret(QString const & cle)
 {
-    auto const secret = secrets.constFind(cle);
-    if (!magasinPresent || secret == secrets.constEnd())
-        return std::nullopt;
-    return *secret;
+    return magasinPresent ? std::optional(secrets.value(cle)) : std::nullopt;
 }
 
 bool BureauSimulay::EcrisSecret(QString const & cle, QByteArray const & secret)

@@ -21,7 +21,7 @@ function(fabrel_ressources cible qrc sortie)
         # Little-endian whatever the machine: the file is the same in every package.
         add_custom_command(
             OUTPUT "${mo}"
-            COMMAND "${FABREL_MSGFMT}" --check --endianness=little -o "${mo}" "${po}"
+            COMMAND "${FABREL_MSGFMT}" --check-format --check-domain --endianness=little -o "${mo}" "${po}"
             COMMAND "${CMAKE_COMMAND}" -D "FICHIER=${mo}" -D "ENTREES=${ARG_ENTREES}"
                 -P "${PROJECT_SOURCE_DIR}/cmake/VerifieCatalogue.cmake"
             DEPENDS "${po}" "${PROJECT_SOURCE_DIR}/cmake/VerifieCatalogue.cmake"

@@ -72,7 +72,7 @@ DDialogue::eBoutons StockageReponse::DonneReponseEnregistree() const
     if (monGuid.Longueur() < 1)
         return DDialogue::kBoutonAucun;
     mesReglages->beginGroup(kGroupe);
-    int const reponse = mesReglages->value(monGuid, QVariant(0)).toInt();
+    int const reponse = mesReglages->value(QString(monGuid), QVariant(0)).toInt();
     mesReglages->endGroup();
     return static_cast<DDialogue::eBoutons>(reponse);
 }
@@ -80,7 +80,7 @@ DDialogue::eBoutons StockageReponse::DonneReponseEnregistree() const
 void StockageReponse::ActualiseReponse(int reponse)
 {
     mesReglages->beginGroup(kGroupe);
-    mesReglages->setValue(monGuid, reponse);
+    mesReglages->setValue(QString(monGuid), reponse);
     mesReglages->endGroup();
 }
 
@@ -106,6 +106,6 @@ UniChaine StockageReponse::DonneMessagePourJournalisation() const
 void StockageReponse::Reinitialise(UniChaine const & cle)
 {
     mesReglages->beginGroup(kGroupe);
-    mesReglages->remove(cle);
+    mesReglages->remove(QString(cle));
     mesReglages->endGroup();
 }

@@ -3,5 +3,7 @@
 
 #include "style/RegleTexteRiche.h"
 
+#include "FabrelGuiExport.h"
+
 // The rules that a text without a widget is read by. Empty until they are first asked for.
-extern EnsembleRegles reglesDeBase;
+extern FABRELGUI_EXPORT EnsembleRegles reglesDeBase;

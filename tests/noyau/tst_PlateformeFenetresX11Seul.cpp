@@ -26,6 +26,9 @@ private Q_SLOTS:
     void sansGestionnaireRienNEstIconique();
 
 private:
+    /// The next lower window that is shown: programs keep others, which only a manager leaves out.
+    HWND DonneSuivante(HWND fenetre) const;
+
     PlateformeFenetres & maPlateforme = PlateformeFenetres::Courante();
     std::unique_ptr<ProgrammeEtranger> monProgramme;
     HWND maPremiere = nullptr;
@@ -46,15 +49,23 @@ void tst_PlateformeFenetresX11Seul::cleanup()
     monProgramme.reset();
 }
 
+HWND tst_PlateformeFenetresX11Seul::DonneSuivante(HWND fenetre) const
+{
+    do
+        fenetre = maPlateforme.GetWindow(fenetre, GW_HWNDNEXT);
+    while (fenetre && !maPlateforme.IsWindowVisible(fenetre));
+    return fenetre;
+}
+
 void tst_PlateformeFenetresX11Seul::ordreZ()
 {
-    QCOMPARE(maPlateforme.GetWindow(maSeconde, GW_HWNDNEXT), maPremiere);
-    QCOMPARE(maPlateforme.GetWindow(maPremiere, GW_HWNDPREV), maSeconde);
+    QCOMPARE(DonneSuivante(maSeconde), maPremiere);
+    QCOMPARE(maPlateforme.GetTopWindow(nullptr), maSeconde);
 
     QVERIFY(maPlateforme.BringWindowToTop(maPremiere));
-    QCOMPARE(maPlateforme.GetWindow(maPremiere, GW_HWNDNEXT), maSeconde);
+    QCOMPARE(DonneSuivante(maPremiere), maSeconde);
     QVERIFY(maPlateforme.SetWindowPos(maPremiere, maSeconde, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE));
-    QCOMPARE(maPlateforme.GetWindow(maSeconde, GW_HWNDNEXT), maPremiere);
+    QCOMPARE(DonneSuivante(maSeconde), maPremiere);
 }
 
 void tst_PlateformeFenetresX11Seul::avantPlan()

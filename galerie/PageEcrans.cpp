@@ -205,7 +205,8 @@ void PageEcrans::PriseEcransChangay()
 
 void PageEcrans::PriseDispositionChangay()
 {
-    QRect const ecran = DonneEcrans(maDisposition->currentIndex()).first().disponible;
+    QList<EcranDessinay> const ecrans = DonneEcrans(maDisposition->currentIndex());
+    QRect const ecran = ecrans.first().disponible;
     // Out at the right edge, so that there is something to place.
     maVue->MetsRectangle(
         QRect(QPoint(ecran.right() - maLargeur->value() + kDebordement, ecran.center().y()),

@@ -50,6 +50,8 @@ configure_file("${PROJECT_SOURCE_DIR}/cmake/InstalleEntetes.cmake.in"
     "${PROJECT_BINARY_DIR}/InstalleEntetes.cmake" @ONLY)
 install(SCRIPT "${PROJECT_BINARY_DIR}/InstalleEntetes.cmake" COMPONENT developpement)
 
+# From the folder of the pkg-config files to the prefix: a package may be moved as a whole.
+file(RELATIVE_PATH FABREL_VERS_PREFIXE "/${CMAKE_INSTALL_LIBDIR}/pkgconfig" "/")
 foreach(bibliotheque IN ITEMS FabrelNoyau FabrelGui)
     configure_file("${PROJECT_SOURCE_DIR}/cmake/${bibliotheque}.pc.in"
         "${PROJECT_BINARY_DIR}/${bibliotheque}.pc" @ONLY)

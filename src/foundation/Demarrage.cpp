@@ -6,6 +6,7 @@
 // names classes of the folders above it.
 //
 // Loading must be legal without a QApplication: nothing here touches a widget, a font or a palette.
+// clazy:excludeall=non-pod-global-static
 #include "foundation/Demarrage.h"
 
 #include "desktop/DFrameProxy.h"
@@ -62,7 +63,7 @@ UniChaine const kVirgule(", ");
 } // namespace AccessibiliteQt
 
 // The compiled resource tree registers itself by a static object: the last one of this file.
-#include "qrc_FabrelGui.cpp"
+#include "qrc_FabrelGui.cpp" // NOLINT(bugprone-suspicious-include): its place is the point
 
 void InitQApplication()
 {

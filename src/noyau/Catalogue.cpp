@@ -26,6 +26,11 @@ constexpr int kDomaineUnique = 0; // a facet of ours holds one domain
 constexpr quint32 kMagie = 0x950412de;
 constexpr qsizetype kTailleEntete = 28;
 constexpr qsizetype kTailleMot = 4;
+constexpr qsizetype kTailleEntree = 2 * kTailleMot;
+
+// Bytes. The rules of the known languages stay under 200; each level of parentheses costs the
+// library that reads them about a kilobyte of stack.
+constexpr qsizetype kTailleRegleMax = 400;
 
 // Reads words of the image; any read outside of it makes the whole unsound.
 class Lecteur
@@ -58,6 +63,12 @@ public:
             monImageEstSaine = monImage.at(static_cast<qsizetype>(position + longueur)) == '\0';
     }
 
+    // Of an entry that was verified.
+    QByteArrayView Texte(quint64 entree)
+    {
+        return QByteArrayView(monImage).sliced(Mot(entree + kTailleMot), Mot(entree));
+    }
+
     bool Couvre(quint64 position, quint64 longueur)
     {
         monImageEstSaine =
@@ -72,6 +83,20 @@ private:
     bool monOrdreInverse = false;
     bool monImageEstSaine = false;
 };
+
+// The expression that chooses the form, in the header's line "Plural-Forms: nplurals=2;
+// plural=n>1;".
+qsizetype TailleDeRegle(QByteArrayView entete)
+{
+    constexpr QByteArrayView kCle = "plural=";
+    qsizetype const cle = entete.indexOf(kCle);
+    if (cle < 0)
+        return 0;
+    QByteArrayView const regle = entete.sliced(cle + kCle.size());
+    auto const fin =
+        std::find_first_of(regle.begin(), regle.end(), std::begin(";\r\n"), std::end(";\r\n"));
+    return fin - regle.begin();
+}
 
 // The record's views need no terminator; the facet wants one. Short texts stay off the heap.
 class TexteTerminay
@@ -99,9 +124,22 @@ private:
     std::string monLongTexte;
 };
 
+// An entry whose text is empty waits for its translator.
 std::optional<std::string_view> Resultat(char const * texte)
 {
-    return texte ? std::optional<std::string_view>(texte) : std::nullopt;
+    return texte && *texte ? std::optional<std::string_view>(texte) : std::nullopt;
+}
+
+bool ContientNul(VueTexte vue)
+{
+    return std::string_view(vue.texte, vue.longueur).find('\0') != std::string_view::npos;
+}
+
+// False for what no entry has: the empty key is the catalogue's header, and a NUL would end the key
+// early, at another message.
+bool PeutEtreCle(VueTexte identifiant, VueTexte contexte)
+{
+    return identifiant.longueur > 0 && !ContientNul(identifiant) && !ContientNul(contexte);
 }
 
 // The facet counts in int. Plural rules look at a number's size when it is small and at its last
@@ -133,8 +171,8 @@ bool ImageDeCatalogueEstSaine(QByteArray const & image)
     quint64 const textes = lecteur.Mot(16);
     quint64 const tailleHachage = lecteur.Mot(20);
     quint64 const hachage = lecteur.Mot(24);
-    constexpr quint64 kTailleEntree = 2 * kTailleMot;
-    if (revision >> 16 != 0 || !lecteur.Couvre(cles, entrees * kTailleEntree) ||
+    // Without an entry there is no header, hence no encoding.
+    if (revision >> 16 != 0 || entrees == 0 || !lecteur.Couvre(cles, entrees * kTailleEntree) ||
         !lecteur.Couvre(textes, entrees * kTailleEntree) ||
         !lecteur.Couvre(hachage, tailleHachage * kTailleMot))
         return false;
@@ -150,7 +188,8 @@ bool ImageDeCatalogueEstSaine(QByteArray const & image)
         if (place > entrees)
             return false;
     }
-    return lecteur.EstSain() && placeLibre && tailleHachage != 1 && tailleHachage != 2;
+    return lecteur.EstSain() && placeLibre && tailleHachage != 1 && tailleHachage != 2 &&
+           TailleDeRegle(lecteur.Texte(textes)) <= kTailleRegleMax;
 }
 
 Catalogue::Catalogue(QString const & fichier)
@@ -178,8 +217,7 @@ Catalogue::Catalogue(QString const & fichier)
 
 std::optional<std::string_view> Catalogue::Cherche(VueTexte identifiant, VueTexte contexte) const
 {
-    // The empty key is the catalogue's header, which is no message.
-    if (!maLocale || identifiant.longueur == 0)
+    if (!maLocale || !PeutEtreCle(identifiant, contexte))
         return std::nullopt;
     auto const & messages = std::use_facet<Messages>(*maLocale);
     return Resultat(messages.get(kDomaineUnique, TexteTerminay(contexte).PreteOuNul(),
@@ -189,7 +227,7 @@ std::optional<std::string_view> Catalogue::Cherche(VueTexte identifiant, VueText
 std::optional<std::string_view> Catalogue::Cherche(ChaineLocalisablePluriel const & message,
                                                    quint64 nombre) const
 {
-    if (!maLocale || message.singulier.longueur == 0)
+    if (!maLocale || !PeutEtreCle(message.singulier, message.contexte))
         return std::nullopt;
     auto const & messages = std::use_facet<Messages>(*maLocale);
     return Resultat(messages.get(kDomaineUnique, TexteTerminay(message.contexte).PreteOuNul(),

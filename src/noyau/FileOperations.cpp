@@ -4,12 +4,15 @@
 #include <QFile>
 #include <QSaveFile>
 
+#include <string>
+
 namespace {
 
 bool EcrisTout(QIODevice & sortie, UniChaine const & texte)
 {
-    QByteArray const octets = QString(texte).toUtf8();
-    return sortie.write(octets) == octets.size();
+    std::string const octets = to_string(texte);
+    auto const taille = static_cast<qint64>(octets.size());
+    return sortie.write(octets.data(), taille) == taille;
 }
 
 } // namespace

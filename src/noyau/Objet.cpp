@@ -3,8 +3,6 @@
 
 namespace sdd {
 
-Objet::~Objet() = default;
-
 void Objet::VideEtTueObjets() {}
 
 } // namespace sdd

@@ -14,7 +14,7 @@ public:
     Objet(Objet &&) noexcept = default;
     Objet & operator=(Objet const &) = default;
     Objet & operator=(Objet &&) noexcept = default;
-    virtual ~Objet();
+    virtual ~Objet() = default; // inline: every string that goes out of scope runs it
 
     /// Empties a container that owns its objects and destroys them; does nothing for other values.
     virtual void VideEtTueObjets();

@@ -7,20 +7,18 @@ namespace {
 
 using namespace Qt::StringLiterals;
 
-// The length of the tag at the start of `reste` when its name is listed, else 0.
+// The length of the tag at the start of `reste` when its name is listed, else 0. The name is read
+// first: only a listed one is worth the search for its end.
 qsizetype LongueurBaliseListay(QStringView reste, QList<QString> const & balises)
 {
-    qsizetype const fin = reste.indexOf(u'>');
-    if (fin < 0)
+    qsizetype const debutNom = reste.mid(1).startsWith(u'/') ? 2 : 1;
+    qsizetype finNom = debutNom;
+    while (finNom < reste.size() && !reste.at(finNom).isSpace() &&
+           !QStringView(u"/<>").contains(reste.at(finNom)))
+        ++finNom;
+    if (!balises.contains(reste.mid(debutNom, finNom - debutNom)))
         return 0;
-    QStringView nom = reste.mid(1, fin - 1);
-    if (nom.startsWith(u'/'))
-        nom = nom.mid(1);
-    qsizetype longueurNom = 0;
-    while (longueurNom < nom.size() && !nom.at(longueurNom).isSpace() &&
-           nom.at(longueurNom) != u'/')
-        ++longueurNom;
-    return balises.contains(nom.first(longueurNom)) ? fin + 1 : 0;
+    return reste.indexOf(u'>', finNom) + 1;
 }
 
 } // namespace
@@ -36,10 +34,11 @@ void RoutinesGeneralesQt::HTMLiser(QString & texte, QList<QString> const & balis
     QString html;
     html.reserve(texte.size() + texte.size() / 8);
     QStringView const source(texte);
+    qsizetype const derniereFin = balises.isEmpty() ? -1 : source.lastIndexOf(u'>');
     for (qsizetype i = 0; i < source.size();) {
         QChar const unite = source.at(i);
         qsizetype const balise =
-            unite == u'<' && !balises.isEmpty() ? LongueurBaliseListay(source.mid(i), balises) : 0;
+            unite == u'<' && i < derniereFin ? LongueurBaliseListay(source.mid(i), balises) : 0;
         if (balise > 0)
             html += source.mid(i, balise);
         else if (unite == u'\n')

@@ -56,6 +56,22 @@ std::wstring VersLarge(QString const & texte)
     return resultat;
 }
 
+// Qt writes a question mark for a lone surrogate.
+QByteArray VersUtf8(QString const & texte)
+{
+    if (texte.isValidUtf16())
+        return texte.toUtf8();
+    QString valide = texte;
+    for (qsizetype i = 0; i < valide.size(); ++i) {
+        if (valide.at(i).isHighSurrogate() && i + 1 < valide.size() &&
+            valide.at(i + 1).isLowSurrogate())
+            ++i;
+        else if (valide.at(i).isSurrogate())
+            valide[i] = QChar::ReplacementCharacter;
+    }
+    return valide.toUtf8();
+}
+
 QChar Unite(wchar_t caractere)
 {
     return QChar(static_cast<char16_t>(caractere));
@@ -133,8 +149,10 @@ bool UniChaine::TrouveDernier(UniChaine const & cherchay, int * position, int li
     QStringView cherchable(monTexte);
     if (limite >= 0)
         cherchable.truncate(std::min<qsizetype>(limite, cherchable.size()));
-    // From the size, not from -1, so that an empty text is found at the end as well.
-    qsizetype const trouvay = cherchable.lastIndexOf(cherchay.monTexte, cherchable.size());
+    // From the last place where it fits, so that an empty text is found at the end as well; Qt
+    // reads a single unit from behind the view when it is told to begin at the view's size.
+    qsizetype const depart = cherchable.size() - cherchay.monTexte.size();
+    qsizetype const trouvay = depart < 0 ? -1 : cherchable.lastIndexOf(cherchay.monTexte, depart);
     if (trouvay < 0)
         return false;
     if (position)
@@ -187,10 +205,12 @@ UniChaine UniChaine::Remplace(UniChaine const & cherchay, UniChaine const & remp
 UniChaine & UniChaine::Remplace(int debut, int longueur, UniChaine const & remplacement)
 {
     OublieTampons();
-    qsizetype const position = std::clamp<qsizetype>(debut, 0, monTexte.size());
-    qsizetype const reste = monTexte.size() - position;
-    monTexte.replace(position, longueur < 0 ? reste : std::min<qsizetype>(longueur, reste),
-                     remplacement.monTexte);
+    qsizetype const taille = monTexte.size();
+    qsizetype const position = std::clamp<qsizetype>(debut, 0, taille);
+    qsizetype const fin =
+        longueur < 0 ? taille
+                     : std::clamp<qsizetype>(qsizetype(debut) + longueur, position, taille);
+    monTexte.replace(position, fin - position, remplacement.monTexte);
     return *this;
 }
 
@@ -233,7 +253,7 @@ UniChaine & UniChaine::Majusculise()
 
 char const * UniChaine::PreteUTF8() const
 {
-    return Tampons::Donne(PreteTampons().utf8, [this] { return monTexte.toUtf8(); }).constData();
+    return Tampons::Donne(PreteTampons().utf8, [this] { return VersUtf8(monTexte); }).constData();
 }
 
 wchar_t const * UniChaine::PreteUniCString(unsigned capacite, wchar_t * const tampon,
@@ -285,7 +305,7 @@ void UniChaine::DetruisTampons() noexcept
 
 std::string to_string(UniChaine const & chaine)
 {
-    return QString(chaine).toStdString();
+    return VersUtf8(chaine).toStdString();
 }
 
 std::ostream & operator<<(std::ostream & flux, UniChaine const & chaine)

@@ -8,7 +8,11 @@
 
 #include <algorithm>
 #include <array>
+#include <cmath>
+#include <limits>
 #include <optional>
+#include <utility>
+#include <vector>
 
 namespace {
 
@@ -19,31 +23,60 @@ bool EstLettreAscii(QChar unite)
     return (unite >= u'a' && unite <= u'z') || (unite >= u'A' && unite <= u'Z');
 }
 
-// The position behind the tag that opens at `debut`, or -1 when "<" is text there.
-qsizetype FinDeBalise(QStringView texte, qsizetype debut)
+// Where the tags of a text end, found in two passes however broken the text is.
+class FinsDeBalises
 {
-    QStringView const reste = texte.mid(debut);
-    if (reste.startsWith(u"<!--")) {
-        qsizetype const fin = reste.indexOf(u"-->", 4);
-        return fin < 0 ? -1 : debut + fin + 3;
+public:
+    explicit FinsDeBalises(QStringView texte)
+        : monTexte(texte)
+        , mesFins(static_cast<std::size_t>(texte.size()) + 1, kAbsente)
+        , maDerniereFinDeCommentaire(texte.lastIndexOf(kFinDeCommentaire))
+    {
+        // Backwards, one value for each state of a scan: outside of quotes, and in either kind,
+        // where a ">" ends nothing.
+        qsizetype finDansGuillemets = kAbsente;
+        qsizetype finDansApostrophes = kAbsente;
+        for (qsizetype i = texte.size() - 1; i >= 0; --i) {
+            qsizetype const suite = Fin(i + 1);
+            qsizetype & fin = mesFins[static_cast<std::size_t>(i)];
+            fin = suite;
+            if (texte.at(i) == u'>')
+                fin = i + 1;
+            else if (texte.at(i) == u'"')
+                fin = std::exchange(finDansGuillemets, suite);
+            else if (texte.at(i) == u'\'')
+                fin = std::exchange(finDansApostrophes, suite);
+        }
     }
-    if (reste.size() < 2)
-        return -1;
-    QChar const suivant = reste.at(1);
-    if (!EstLettreAscii(suivant) && suivant != u'/' && suivant != u'!' && suivant != u'?')
-        return -1;
-    QChar guillemet; // the quote that an attribute value is in; a ">" in it ends nothing
-    for (qsizetype i = 1; i < reste.size(); ++i) {
-        QChar const unite = reste.at(i);
-        if (!guillemet.isNull())
-            guillemet = unite == guillemet ? QChar() : guillemet;
-        else if (unite == u'>')
-            return debut + i + 1;
-        else if (unite == u'"' || unite == u'\'')
-            guillemet = unite;
+
+    // The position behind the tag that opens at `debut`, or -1 when "<" is text there.
+    qsizetype Donne(qsizetype debut) const
+    {
+        QStringView const reste = monTexte.mid(debut);
+        if (reste.startsWith(u"<!--")) {
+            qsizetype const contenu = debut + 4;
+            return contenu > maDerniereFinDeCommentaire
+                       ? kAbsente
+                       : monTexte.indexOf(kFinDeCommentaire, contenu) + kFinDeCommentaire.size();
+        }
+        if (reste.size() < 2)
+            return kAbsente;
+        QChar const suivant = reste.at(1);
+        bool const ouvre =
+            EstLettreAscii(suivant) || suivant == u'/' || suivant == u'!' || suivant == u'?';
+        return ouvre ? Fin(debut + 1) : kAbsente;
     }
-    return -1;
-}
+
+private:
+    static constexpr qsizetype kAbsente = -1;
+    static constexpr QStringView kFinDeCommentaire = u"-->";
+
+    qsizetype Fin(qsizetype position) const { return mesFins[static_cast<std::size_t>(position)]; }
+
+    QStringView monTexte;
+    std::vector<qsizetype> mesFins; // for a scan that begins at the position, outside of quotes
+    qsizetype maDerniereFinDeCommentaire;
+};
 
 QStringView NomDeBalise(QStringView balise)
 {
@@ -131,7 +164,9 @@ QString CaractereEchappay(QStringView texte, qsizetype position)
             return {};
         octets.append(static_cast<char>(octet));
     }
-    QStringDecoder decodeur(QStringDecoder::Utf8, QStringDecoder::Flag::Stateless);
+    // U+FEFF is a character like any other here, not a mark to be dropped.
+    QStringDecoder decodeur(QStringDecoder::Utf8, QStringDecoder::Flag::Stateless |
+                                                      QStringDecoder::Flag::ConvertInitialBom);
     QString const caractere = decodeur(octets);
     return decodeur.hasError() ? QString() : caractere;
 }
@@ -200,6 +235,18 @@ QString FormateEntier(Conversion const & conversion, qlonglong entier)
     return QString::asprintf(format.constData(), entier);
 }
 
+// Truncates; what has no integer becomes the nearest one, and NaN 0.
+qlonglong VersEntier(double nombre)
+{
+    constexpr double kLimite = 0x1p63;
+    if (std::isnan(nombre))
+        return 0;
+    if (nombre >= kLimite)
+        return std::numeric_limits<qlonglong>::max();
+    return nombre < -kLimite ? std::numeric_limits<qlonglong>::min()
+                             : static_cast<qlonglong>(nombre);
+}
+
 struct Formateur
 {
     Conversion const & conversion;
@@ -215,7 +262,7 @@ struct Formateur
             return FormateNombre(conversion, nombre);
         if (conversion.lettre == 's')
             return (*this)(QString::number(nombre));
-        return FormateEntier(conversion, static_cast<qlonglong>(nombre));
+        return (*this)(VersEntier(nombre));
     }
 
     QString operator()(qlonglong entier) const { return Entier(entier, QString::number(entier)); }
@@ -253,11 +300,14 @@ struct Formateur
 
 UniChaine & UniChaine::NettoieHTML()
 {
+    if (!monTexte.contains(u'<'))
+        return *this;
     QString resultat;
     resultat.reserve(monTexte.size());
     QStringView const texte(monTexte);
+    FinsDeBalises const fins(texte);
     for (qsizetype i = 0; i < texte.size();) {
-        qsizetype const fin = texte.at(i) == u'<' ? FinDeBalise(texte, i) : -1;
+        qsizetype const fin = texte.at(i) == u'<' ? fins.Donne(i) : -1;
         if (fin < 0) {
             resultat.append(texte.at(i++));
             continue;

@@ -82,7 +82,7 @@ void tst_DFrameProxy::champsSelonLeType()
     panneau.MetsConfiguration(configuration);
     QCOMPARE(panneau.findChild<QSpinBox *>()->isEnabled(), serveur);
     for (QLineEdit const * champ :
-         panneau.findChildren<QLineEdit *>({}, Qt::FindDirectChildrenOnly)) {
+         panneau.findChildren<QLineEdit *>(QString(), Qt::FindDirectChildrenOnly)) {
         bool const estMotDePasse = champ->echoMode() == QLineEdit::Password;
         if (estMotDePasse)
             QCOMPARE(champ->isEnabled(), compte);
@@ -107,8 +107,8 @@ void tst_DFrameProxy::saisieAnnonceLeChangement()
     DFrameProxy panneau;
     panneau.MetsConfiguration({DFrameProxy::kHTTP, {}, 0, {}, {}});
     QSignalSpy espion(&panneau, &DFrameProxy::SignalConfigurationChangay);
-    QTest::keyClicks(panneau.findChildren<QLineEdit *>({}, Qt::FindDirectChildrenOnly).first(),
-                     u"ab"_s);
+    QTest::keyClicks(
+        panneau.findChildren<QLineEdit *>(QString(), Qt::FindDirectChildrenOnly).first(), u"ab"_s);
     QCOMPARE(espion.count(), 2);
     QCOMPARE(QString(panneau.DonneConfiguration().adresse), u"ab"_s);
 }
@@ -141,7 +141,7 @@ void tst_DFrameProxy::sansCleRienNEstGarde()
 void tst_DFrameProxy::magasinAbsent()
 {
     auto bureau = std::make_unique<BureauSimulay>();
-    bureau->magasinDisponible = false;
+    bureau->magasinPresent = false;
     PlateformeBureau::Installe(std::move(bureau));
     DFrameProxy panneau;
     panneau.MetsConfiguration({DFrameProxy::kHTTP, {}, 1, UniChaine("nom"), UniChaine("secret")});

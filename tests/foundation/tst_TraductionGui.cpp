@@ -107,8 +107,8 @@ void tst_TraductionGui::formatDuCatalogue()
     for (auto const & [cle, texte] : entrees)
         cles.append(cle);
     QVERIFY(std::is_sorted(cles.cbegin(), cles.cend()));
-    QByteArrayList attendues = {QByteArray(),
-                                QByteArray("{1} caractère restant\0{1} caractères restants", 46)};
+    QByteArrayList attendues = {QByteArray(), QByteArray("{1} caractère restant") + '\0' +
+                                                  "{1} caractères restants"};
     for (MessageGui const & message : kMessagesGui)
         attendues.append(Cle(message));
     std::sort(attendues.begin(), attendues.end());

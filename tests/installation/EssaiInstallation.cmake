@@ -3,10 +3,10 @@ set(prefixe "${ESSAI}/prefixe")
 
 function(execute)
     execute_process(COMMAND ${ARGV} RESULT_VARIABLE code OUTPUT_VARIABLE sortie
-        ERROR_VARIABLE sortie)
+        ERROR_VARIABLE erreurs)
     if(NOT code EQUAL 0)
         list(JOIN ARGV " " commande)
-        message(FATAL_ERROR "${commande}: ${code}\n${sortie}")
+        message(FATAL_ERROR "${commande}: ${code}\n${sortie}${erreurs}")
     endif()
     set(SORTIE "${sortie}" PARENT_SCOPE)
 endfunction()

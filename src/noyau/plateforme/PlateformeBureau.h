@@ -42,8 +42,8 @@ public:
     virtual bool PossedeAppCompatFlags(QString const & executable) = 0;
     /// True when the user may run a process with an administrator's rights.
     virtual bool UtilisateurPeutExecuterElevay() = 0;
-    /// The secret kept under `cle`; none when there is no entry, no store, or no permission.
-    /// Blocks.
+    /// The secret kept under `cle`: empty when there is no entry, none when there is no store or no
+    /// permission. Blocks.
     virtual std::optional<QByteArray> LisSecret(QString const & cle) = 0;
     /// False when the store is absent or refuses. Blocks.
     virtual bool EcrisSecret(QString const & cle, QByteArray const & secret) = 0;

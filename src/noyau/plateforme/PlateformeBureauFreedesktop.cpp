@@ -1,4 +1,7 @@
 // noyau/plateforme/PlateformeBureauFreedesktop.cpp
+//
+// Each lambda's context object dies with the variables that the lambda refers to.
+// clazy:excludeall=lambda-in-connect
 #include "noyau/plateforme/PlateformeBureau.h"
 
 #include "noyau/plateforme/EntreesBureau_p.h"
@@ -89,6 +92,8 @@ public:
         QObject::connect(lecture, &QKeychain::Job::finished, &contexte, [&](QKeychain::Job *) {
             if (lecture->error() == QKeychain::NoError)
                 secret = lecture->binaryData();
+            else if (lecture->error() == QKeychain::EntryNotFound)
+                secret = QByteArray();
         });
         Execute(lecture);
         return secret;

@@ -100,7 +100,7 @@ public:
     {
         PCREDENTIALW entree = nullptr;
         if (!::CredReadW(DonneTexte(cle), CRED_TYPE_GENERIC, 0, &entree))
-            return std::nullopt;
+            return ::GetLastError() == ERROR_NOT_FOUND ? std::optional(QByteArray()) : std::nullopt;
         QByteArray secret(reinterpret_cast<char const *>(entree->CredentialBlob),
                           static_cast<qsizetype>(entree->CredentialBlobSize));
         ::CredFree(entree);

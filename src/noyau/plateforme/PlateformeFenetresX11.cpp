@@ -155,22 +155,40 @@ bool PlateformeFenetresX11::Existe(xcb_window_t fenetre) const
                                xcb_get_window_attributes(connexion, fenetre)) != nullptr;
 }
 
-bool PlateformeFenetresX11::GestionnairePresent() const
+xcb_window_t PlateformeFenetresX11::DonneFenetreGestionnaire() const
 {
     // A manager that died leaves its properties on the root, but not the window that they name.
     xcb_atom_t const temoin = maConnexion.PreteAtomes()._NET_SUPPORTING_WM_CHECK;
     xcb_window_t const fenetre = maConnexion.LisMot(maConnexion.DonneRacine(), temoin);
-    return fenetre != XCB_NONE && maConnexion.LisMot(fenetre, temoin) == fenetre;
+    return maConnexion.LisMot(fenetre, temoin) == fenetre ? fenetre : XCB_NONE;
+}
+
+bool PlateformeFenetresX11::GestionnairePresent() const
+{
+    return DonneFenetreGestionnaire() != XCB_NONE;
+}
+
+bool PlateformeFenetresX11::EstEncadree(xcb_window_t fenetre) const
+{
+    xcb_window_t const parent = maConnexion.DonneParent(fenetre);
+    xcb_window_t const gestionnaire = DonneFenetreGestionnaire();
+    // The upper bits of an identifier tell the program that made the window.
+    std::uint32_t const masque = ~xcb_get_setup(maConnexion.Prete())->resource_id_mask;
+    return parent != XCB_NONE && gestionnaire != XCB_NONE &&
+           (parent & masque) == (gestionnaire & masque);
 }
 
 bool PlateformeFenetresX11::EstGeree(xcb_window_t fenetre) const
 {
-    return maConnexion.LisMot(fenetre, monAtomeEtat) != 0 && GestionnairePresent();
+    // A manager says WM_STATE last, and one that leaves frames to another program says nothing
+    // else.
+    return EstEncadree(fenetre) ||
+           (maConnexion.LisMot(fenetre, monAtomeEtat) != 0 && GestionnairePresent());
 }
 
 bool PlateformeFenetresX11::EstPremierNiveau(xcb_window_t fenetre) const
 {
-    return maConnexion.DonneParent(fenetre) == maConnexion.DonneRacine() ||
+    return maConnexion.DonneParent(fenetre) == maConnexion.DonneRacine() || EstEncadree(fenetre) ||
            !maConnexion.LisMots(fenetre, monAtomeEtat).empty();
 }
 

@@ -23,6 +23,10 @@ constexpr std::uint32_t kIconise = 3;
 constexpr std::uint32_t kEnleve = 0;
 constexpr std::uint32_t kAjoute = 1;
 
+// _NET_MOVERESIZE_WINDOW: which of its numbers count
+constexpr std::uint32_t kPosition = 3U << 8;
+constexpr std::uint32_t kDimensions = 3U << 10;
+
 std::int16_t DonneCoordonnee(int valeur)
 {
     using Limites = std::numeric_limits<std::int16_t>;
@@ -46,8 +50,9 @@ bool PlateformeFenetresX11::SetForegroundWindow(HWND fenetre)
     if (EstGeree(xid))
         return maConnexion.EnvoieAuGestionnaire(xid, atomes._NET_ACTIVE_WINDOW,
                                                 {kSourceOutil, XCB_CURRENT_TIME, 0, 0, 0});
-    return maConnexion.Reussit(xcb_set_input_focus_checked(
-        maConnexion.Prete(), XCB_INPUT_FOCUS_PARENT, xid, XCB_CURRENT_TIME));
+    return xid != XCB_NONE // which would take the focus from every window
+           && maConnexion.Reussit(xcb_set_input_focus_checked(
+                  maConnexion.Prete(), XCB_INPUT_FOCUS_PARENT, xid, XCB_CURRENT_TIME));
 }
 
 bool PlateformeFenetresX11::BringWindowToTop(HWND fenetre)
@@ -131,11 +136,13 @@ bool PlateformeFenetresX11::PostMessageW(HWND fenetre, UINT message, WPARAM wPar
 {
     maConnexion.RattrapeQt();
     xcb_window_t const xid = DonneXid(fenetre);
+    if (!Existe(xid)) // 0 and 1 would mean the window under the pointer and the focus
+        return false;
     // The scan code in the last argument belongs to another keyboard; the character decides.
     auto const caractere = static_cast<char32_t>(wParam);
     switch (message) {
     case WM_NULL:
-        return fenetre && Existe(xid);
+        return true;
     case WM_CLOSE:
         return Ferme(xid);
     case WM_KEYDOWN:
@@ -223,13 +230,17 @@ bool PlateformeFenetresX11::DestroyWindow(HWND fenetre)
            maConnexion.Reussit(xcb_destroy_window_checked(maConnexion.Prete(), DonneXid(fenetre)));
 }
 
+bool PlateformeFenetresX11::GestionnaireSait(xcb_atom_t message) const
+{
+    return maConnexion.PossedeMot(maConnexion.DonneRacine(),
+                                  maConnexion.PreteAtomes()._NET_SUPPORTED, message);
+}
+
 bool PlateformeFenetresX11::Empile(xcb_window_t fenetre, xcb_window_t voisine,
                                    std::uint32_t mode) const
 {
     auto const & atomes = maConnexion.PreteAtomes();
-    bool const gestionnaireSait = maConnexion.PossedeMot(
-        maConnexion.DonneRacine(), atomes._NET_SUPPORTED, atomes._NET_RESTACK_WINDOW);
-    if (gestionnaireSait && EstGeree(fenetre))
+    if (GestionnaireSait(atomes._NET_RESTACK_WINDOW) && EstGeree(fenetre))
         return maConnexion.EnvoieAuGestionnaire(fenetre, atomes._NET_RESTACK_WINDOW,
                                                 {kSourceOutil, voisine, mode, 0, 0});
     std::uint16_t masque = XCB_CONFIG_WINDOW_STACK_MODE;
@@ -296,21 +307,35 @@ bool PlateformeFenetresX11::Cache(xcb_window_t fenetre) const
 
 bool PlateformeFenetresX11::Deplace(xcb_window_t fenetre, QRect const & rect, UINT options) const
 {
+    bool const deplace = !(options & SWP_NOMOVE);
+    bool const dimensionne = !(options & SWP_NOSIZE);
+    if (!deplace && !dimensionne)
+        return true;
+
+    auto const & atomes = maConnexion.PreteAtomes();
+    auto const x = static_cast<std::uint32_t>(rect.x());
+    auto const y = static_cast<std::uint32_t>(rect.y());
+    std::uint32_t const largeur = DonneLongueur(rect.width());
+    std::uint32_t const hauteur = DonneLongueur(rect.height());
     // The position is that of the frame, as elsewhere; the size is that of the window inside it.
+    if (GestionnaireSait(atomes._NET_MOVERESIZE_WINDOW) && EstGeree(fenetre)) {
+        std::uint32_t const champs = (deplace ? kPosition : 0) | (dimensionne ? kDimensions : 0);
+        return maConnexion.EnvoieAuGestionnaire(
+            fenetre, atomes._NET_MOVERESIZE_WINDOW,
+            {XCB_GRAVITY_NORTH_WEST | champs | kSourceOutil << 12, x, y, largeur, hauteur});
+    }
     std::uint16_t masque = 0;
     std::vector<std::uint32_t> valeurs;
-    if (!(options & SWP_NOMOVE)) {
+    if (deplace) {
         masque |= XCB_CONFIG_WINDOW_X | XCB_CONFIG_WINDOW_Y;
-        valeurs.push_back(static_cast<std::uint32_t>(rect.x()));
-        valeurs.push_back(static_cast<std::uint32_t>(rect.y()));
+        valeurs.insert(valeurs.end(), {x, y});
     }
-    if (!(options & SWP_NOSIZE)) {
+    if (dimensionne) {
         masque |= XCB_CONFIG_WINDOW_WIDTH | XCB_CONFIG_WINDOW_HEIGHT;
-        valeurs.push_back(DonneLongueur(rect.width()));
-        valeurs.push_back(DonneLongueur(rect.height()));
+        valeurs.insert(valeurs.end(), {largeur, hauteur});
     }
-    return masque == 0 || maConnexion.Reussit(xcb_configure_window_checked(
-                              maConnexion.Prete(), fenetre, masque, valeurs.data()));
+    return maConnexion.Reussit(
+        xcb_configure_window_checked(maConnexion.Prete(), fenetre, masque, valeurs.data()));
 }
 
 bool PlateformeFenetresX11::Ferme(xcb_window_t fenetre) const

@@ -86,7 +86,11 @@ private:
     };
 
     bool Existe(xcb_window_t fenetre) const;
+    /// The window by which the window manager says that it runs; none when none does.
+    xcb_window_t DonneFenetreGestionnaire() const;
     bool GestionnairePresent() const;
+    /// True for a window inside one of the manager's own.
+    bool EstEncadree(xcb_window_t fenetre) const;
     /// True when requests about the window go to a manager; else the server does them.
     bool EstGeree(xcb_window_t fenetre) const;
     bool EstPremierNiveau(xcb_window_t fenetre) const;
@@ -112,6 +116,7 @@ private:
     /// In the root's pixels; empty for a window that has gone.
     QRect DonneRectangle(xcb_window_t fenetre) const;
 
+    bool GestionnaireSait(xcb_atom_t message) const;
     bool Empile(xcb_window_t fenetre, xcb_window_t voisine, std::uint32_t mode) const;
     bool ChangeEtat(xcb_window_t fenetre, bool ajoute, xcb_atom_t etat, xcb_atom_t autre) const;
     bool MetsPremierPlan(xcb_window_t fenetre, bool premierPlan) const;

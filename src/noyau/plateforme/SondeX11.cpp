@@ -16,7 +16,8 @@ public:
     explicit EcouteRacine(ConnexionX11 const & connexion)
         : maConnexion(connexion)
     {
-        Choisis(XCB_EVENT_MASK_SUBSTRUCTURE_NOTIFY);
+        // Programs send the answer to the first of these, and those on Qt to the second.
+        Choisis(XCB_EVENT_MASK_SUBSTRUCTURE_NOTIFY | XCB_EVENT_MASK_STRUCTURE_NOTIFY);
     }
     EcouteRacine(EcouteRacine const &) = delete;
     EcouteRacine & operator=(EcouteRacine const &) = delete;

@@ -22,9 +22,11 @@
 // The platform's own names and values, so that the logic above the platform layer is the same text
 // on every system. Only what the libraries use stands here.
 
+// NOLINTBEGIN(bugprone-reserved-identifier): the tags are the platform's own.
 struct HWND__;
 struct HMONITOR__;
 struct HINSTANCE__;
+// NOLINTEND(bugprone-reserved-identifier)
 
 using HWND = HWND__ *;
 using HMONITOR = HMONITOR__ *;
@@ -97,10 +99,13 @@ constexpr UINT SWP_NOSIZE = 0x0001;
 constexpr UINT SWP_NOMOVE = 0x0002;
 constexpr UINT SWP_NOZORDER = 0x0004;
 constexpr UINT SWP_NOACTIVATE = 0x0010;
+// NOLINTBEGIN(performance-no-int-to-ptr): numbers in the place of handles, as the platform has
+// them.
 inline HWND const HWND_TOP = nullptr;
 inline HWND const HWND_BOTTOM = reinterpret_cast<HWND>(static_cast<std::intptr_t>(1));
 inline HWND const HWND_TOPMOST = reinterpret_cast<HWND>(static_cast<std::intptr_t>(-1));
 inline HWND const HWND_NOTOPMOST = reinterpret_cast<HWND>(static_cast<std::intptr_t>(-2));
+// NOLINTEND(performance-no-int-to-ptr)
 
 // Messages
 constexpr UINT WM_NULL = 0x0000;

@@ -1,0 +1,48 @@
+// galerie/Pages.cpp
+#include "Pages.h"
+
+#include "PageEcrans.h"
+#include "PagePolices.h"
+#include "PageTextes.h"
+#include "PageTheme.h"
+#include "TraductionGalerie.h"
+
+#include <QLabel>
+#include <QVBoxLayout>
+
+using namespace Qt::StringLiterals;
+
+QList<DescriptionPage> const & DonnePages()
+{
+    static QList<DescriptionPage> const pages = {
+        {TexteGalerie("Thème"), u"theme"_s,
+         [](ThemeGalerie & theme) -> QWidget * { return new PageTheme(theme); }},
+        {TexteGalerie("Textes"), u"textes"_s,
+         [](ThemeGalerie &) -> QWidget * { return new PageTextes; }},
+        {TexteGalerie("Polices"), u"polices"_s,
+         [](ThemeGalerie &) -> QWidget * { return new PagePolices; }},
+        {TexteGalerie("Écrans"), u"ecrans"_s,
+         [](ThemeGalerie &) -> QWidget * { return new PageEcrans; }},
+    };
+    return pages;
+}
+
+QVBoxLayout * CreeMiseEnPage(QWidget * page, QString const & titre, QString const & explication)
+{
+    constexpr int kMarge = 20;      // logical pixels, around the page
+    constexpr int kEspacement = 12; // logical pixels, between its parts
+
+    auto * const disposition = new QVBoxLayout(page);
+    disposition->setContentsMargins(kMarge, kMarge, kMarge, kMarge);
+    disposition->setSpacing(kEspacement);
+
+    auto * const etiquetteTitre = new QLabel(titre);
+    etiquetteTitre->setObjectName(u"titrePage"_s);
+    disposition->addWidget(etiquetteTitre);
+
+    auto * const etiquetteExplication = new QLabel(explication);
+    etiquetteExplication->setObjectName(u"explicationPage"_s);
+    etiquetteExplication->setWordWrap(true);
+    disposition->addWidget(etiquetteExplication);
+    return disposition;
+}

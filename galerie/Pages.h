@@ -1,0 +1,25 @@
+// galerie/Pages.h
+#pragma once
+
+#include "noyau/ChaineLocalisable.h"
+
+#include <QList>
+#include <QString>
+
+class QVBoxLayout;
+class QWidget;
+class ThemeGalerie;
+
+/// One page of the gallery.
+struct DescriptionPage
+{
+    ChaineLocalisable titre;
+    QString nom; ///< of its icon, and in the file names of its pictures
+    QWidget * (*cree)(ThemeGalerie & theme);
+};
+
+/// The pages in the order of the list. A widget's page is added here.
+QList<DescriptionPage> const & DonnePages();
+
+/// The layout of a page, begun with its title and a sentence on what the page shows.
+QVBoxLayout * CreeMiseEnPage(QWidget * page, QString const & titre, QString const & explication);

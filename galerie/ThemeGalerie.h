@@ -1,0 +1,37 @@
+// galerie/ThemeGalerie.h
+#pragma once
+
+#include <QColor>
+#include <QString>
+#include <QStringList>
+
+#include <map>
+
+/// What an application does with the theme: defines variables, overwrites others, and applies its
+/// sheets and a palette made from them.
+///
+/// Built after the `QApplication`, whose palette gives the system's colours.
+class ThemeGalerie
+{
+public:
+    /// Back to the variables of the start-up, whatever was overwritten.
+    void Reinitialise();
+    /// Overwrites the colours of surfaces, borders and texts by those of a dark theme.
+    void Assombris();
+
+    QStringList DonneNoms() const;
+    /// The value as it was given, so that a reference to another variable stays one.
+    QString DonneValeur(QString const & nom) const;
+    /// False, and nothing changes, for a value whose expansion would not end: one that names an
+    /// unknown variable, or leads back to `nom`.
+    bool Remplace(QString const & nom, QString const & valeur);
+    void Remplace(QString const & nom, QColor const & couleur);
+
+    /// Gives the application its palette and its style sheets, expanded.
+    void Applique() const;
+
+private:
+    bool MeneA(QString const & nom, QString const & valeur) const;
+
+    std::map<QString, QString> mesReferences; // values that name variables, as given
+};

@@ -1,0 +1,72 @@
+// galerie/main.cpp
+#include "Captures.h"
+#include "FenetreGalerie.h"
+#include "LigneDeCommande.h"
+#include "ThemeGalerie.h"
+
+#include "dialogs/StockageReponse.h"
+#include "foundation/GeometrieEcran.h"
+#include "foundation/Polices.h"
+#include "foundation/ThemesQt.h"
+#include "noyau/Traductions.h"
+
+#include <QApplication>
+#include <QCursor>
+#include <QDir>
+#include <QTextStream>
+
+namespace {
+
+int Execute(ThemeGalerie & theme, LigneDeCommande const & commande)
+{
+    FenetreGalerie fenetre(theme);
+    if (commande.dossierCaptures.isEmpty()) {
+        fenetre.resize(
+            RoutinesFenetre::DonneTailleOptimaleFenetrePourEcran(QCursor::pos(), fenetre.size()));
+        RoutinesGeneralesQt::CentreDansEcranActif(fenetre, false);
+        fenetre.show();
+        return QApplication::exec();
+    }
+    QDir const dossier(commande.dossierCaptures);
+    if (!EcrisCaptures(fenetre, theme, dossier.path())) {
+        QTextStream(stderr) << dossier.absolutePath() << ": could not write the pictures\n";
+        return EXIT_FAILURE;
+    }
+    QTextStream(stdout) << dossier.absoluteFilePath(QStringLiteral("index.html")) << '\n';
+    return EXIT_SUCCESS;
+}
+
+} // namespace
+
+int main(int argc, char ** argv)
+{
+    // 1. The library is loaded, on this thread, before main begins: its resources, its texts and
+    // its
+    //    idea of the GUI thread are in place.
+    LigneDeCommande const commande = LisLigneDeCommande(argc, argv);
+    PrepareCaptures(commande); // chooses the platform, so before the application object
+
+    // 2. The application object.
+    QApplication application(argc, argv);
+    QApplication::setApplicationName(QStringLiteral("fabrel-galerie"));
+    VerifieLigneDeCommande(application);
+
+    // 3. The language: texts looked up before this would be in the default one.
+    Traductions::MetsLanguePourApplicationCourante(commande.langue);
+
+    // 4. The style is the platform's, but for pictures that shall be the same everywhere.
+    PreparePresentationCaptures(commande);
+
+    // 5. The application's own theme variables, then the sheets that name them.
+    ThemeGalerie theme;
+    theme.Reinitialise();
+    theme.Applique();
+
+    int const resultat = Execute(theme, commande);
+
+    // 6. What the library keeps goes before the application object does.
+    ThemesQt::DetruisToi();
+    RoutinesGeneralesQt::ModulateurFont::LibereInstance();
+    StockageReponse::LibereSingletons();
+    return resultat;
+}

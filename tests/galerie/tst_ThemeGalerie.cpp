@@ -1,0 +1,113 @@
+// tests/galerie/tst_ThemeGalerie.cpp
+#include "ThemeGalerie.h"
+
+#include "foundation/ThemesQt.h"
+
+#include <QtTest>
+
+using namespace Qt::StringLiterals;
+
+class tst_ThemeGalerie : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init();
+    void cleanup();
+
+    void valeurRefusee_data();
+    void valeurRefusee();
+    void boucleADeux();
+    void referenceResteUneReference();
+    void couleurRemplaceReference();
+    void reinitialisation();
+    void palette();
+
+private:
+    ThemeGalerie monTheme;
+};
+
+void tst_ThemeGalerie::init()
+{
+    monTheme.Reinitialise();
+}
+
+void tst_ThemeGalerie::cleanup()
+{
+    ThemesQt::DetruisToi();
+}
+
+void tst_ThemeGalerie::valeurRefusee_data()
+{
+    QTest::addColumn<QString>("valeur");
+    QTest::newRow("an unknown name") << u"@inconnue"_s;
+    QTest::newRow("no name behind the prefix") << u"@"_s;
+    QTest::newRow("an unknown name behind text") << u"1px solid @inconnue"_s;
+    QTest::newRow("its own name") << u"@couleurBordure"_s;
+    QTest::newRow("its own name behind text") << u"1px solid @couleurBordure, 2px"_s;
+}
+
+void tst_ThemeGalerie::valeurRefusee()
+{
+    QFETCH(QString, valeur);
+    QString const avant = monTheme.DonneValeur(u"couleurBordure"_s);
+
+    QVERIFY(!monTheme.Remplace(u"couleurBordure"_s, valeur));
+
+    QCOMPARE(monTheme.DonneValeur(u"couleurBordure"_s), avant);
+}
+
+void tst_ThemeGalerie::boucleADeux()
+{
+    QVERIFY(monTheme.Remplace(u"couleurBordure"_s, u"@couleurBordureGui"_s));
+    QVERIFY(monTheme.Remplace(u"couleurBordureGui"_s, u"@couleurBordureGeneral"_s));
+
+    QVERIFY(!monTheme.Remplace(u"couleurBordureGeneral"_s, u"@couleurBordure"_s));
+}
+
+void tst_ThemeGalerie::referenceResteUneReference()
+{
+    QVERIFY(monTheme.Remplace(u"couleurBordure"_s, u"@couleurTexteLien"_s));
+
+    QCOMPARE(monTheme.DonneValeur(u"couleurBordure"_s), u"@couleurTexteLien"_s);
+    QCOMPARE(ThemesQt::Instance()->DonneCouleur(u"couleurBordure"_s), QColor(24, 126, 188));
+}
+
+void tst_ThemeGalerie::couleurRemplaceReference()
+{
+    QVERIFY(monTheme.Remplace(u"couleurBordure"_s, u"@couleurTexteLien"_s));
+
+    monTheme.Remplace(u"couleurBordure"_s, QColor(1, 2, 3, 4));
+
+    QCOMPARE(monTheme.DonneValeur(u"couleurBordure"_s), u"rgba(1,2,3,4)"_s);
+    // The way back is free again.
+    QVERIFY(monTheme.Remplace(u"couleurTexteLien"_s, u"@couleurBordure"_s));
+}
+
+void tst_ThemeGalerie::reinitialisation()
+{
+    monTheme.Assombris();
+    monTheme.Applique();
+    QVERIFY(ThemesQt::Instance()->DonneCouleur(u"couleurFondBlanc"_s) != QColor(Qt::white));
+
+    monTheme.Reinitialise();
+    monTheme.Applique();
+
+    QCOMPARE(ThemesQt::Instance()->DonneCouleur(u"couleurFondBlanc"_s), QColor(Qt::white));
+    QCOMPARE(QApplication::palette().color(QPalette::Base), QColor(Qt::white));
+}
+
+void tst_ThemeGalerie::palette()
+{
+    QVERIFY(monTheme.Remplace(u"couleurFondBlanc"_s, u"rgba(10,20,30,255)"_s));
+    monTheme.Applique();
+    QCOMPARE(QApplication::palette().color(QPalette::Base), QColor(10, 20, 30));
+
+    // A text that is no colour paints nothing: the palette keeps what it had.
+    QVERIFY(monTheme.Remplace(u"couleurFondBlanc"_s, u"blanc"_s));
+    monTheme.Applique();
+    QVERIFY(QApplication::palette().color(QPalette::Base).isValid());
+}
+
+QTEST_MAIN(tst_ThemeGalerie)
+#include "tst_ThemeGalerie.moc"

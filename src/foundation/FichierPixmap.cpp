@@ -14,14 +14,13 @@ constexpr double kRatioMax = 2.0; // the resources hold no denser pictures
 
 FichierPixmap ChoisisFichierPixmap(QString const & chemin, double ratioVoulu)
 {
-    FichierPixmap const choixSimple{chemin, 1.0};
     if (ratioVoulu <= 1.0)
-        return choixSimple;
+        return {chemin, 1.0};
     // Qt's own switch for the variants that it loads itself.
     static bool const sansVariantes =
         !qEnvironmentVariableIsEmpty("QT_HIGHDPI_DISABLE_2X_IMAGE_LOADING");
     if (sansVariantes)
-        return choixSimple;
+        return {chemin, 1.0};
 
     qsizetype const point = chemin.lastIndexOf(u'.');
     qsizetype const place = point < 0 ? chemin.size() : point;
@@ -32,5 +31,5 @@ FichierPixmap ChoisisFichierPixmap(QString const & chemin, double ratioVoulu)
         if (QFile::exists(variante))
             return {variante, static_cast<double>(n)};
     }
-    return choixSimple;
+    return {chemin, 1.0};
 }

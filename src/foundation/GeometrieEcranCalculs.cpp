@@ -91,9 +91,9 @@ QPoint RoutinesGeometrie::DonneCoinCentre(QRect const & disponible, QSize const 
                                           bool plusHaut)
 {
     QRectF const zone(disponible);
-    // The half of the size is a whole number, that of the screen is not.
-    double const x = zone.left() + zone.width() / 2.0 - taille.width() / 2;
-    double y = zone.top() + zone.height() / 2.0 - taille.height() / 2;
+    QSize const demiTaille(taille.width() / 2, taille.height() / 2); // whole, unlike the screen's
+    double const x = zone.left() + zone.width() / 2.0 - demiTaille.width();
+    double y = zone.top() + zone.height() / 2.0 - demiTaille.height();
     if (plusHaut)
         y += DonneDecalageVertical(disponible.height());
     return Arrondis(x, y);

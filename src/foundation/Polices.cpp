@@ -36,8 +36,6 @@ ModulateurFont::ModulateurFont(double modulateur)
 {
 }
 
-ModulateurFont::~ModulateurFont() = default;
-
 ModulateurFont * ModulateurFont::Instance()
 {
     if (!singletonModulateur)

@@ -57,7 +57,7 @@ public:
 
 private:
     explicit ModulateurFont(double modulateur);
-    ~ModulateurFont();
+    ~ModulateurFont() = default;
 
     double DonneFacteur(bool avecModulateur) const;
 

@@ -7,10 +7,9 @@ int main()
 {
     InitQApplication();
     Traductions::MetsLanguePourApplicationCourante(kLangueAnglais);
-    UniChaine const texte =
-        TraductionGuiFormatay(TexteGui("Enlever «{1}»"), {UniChaine("été")});
-    QString const couleur = ThemesQt::Instance()->AppliquerVariable(
-        QStringLiteral("@couleurSeparateur"));
+    UniChaine const texte = TraductionGuiFormatay(TexteGui("Enlever «{1}»"), {UniChaine("été")});
+    QString const couleur =
+        ThemesQt::Instance()->AppliquerVariable(QStringLiteral("@couleurSeparateur"));
     std::printf("%s %s\n", texte.PreteUTF8(), qPrintable(couleur));
     ThemesQt::DetruisToi();
 }

@@ -84,13 +84,10 @@ void VueEcrans::paintEvent(QPaintEvent *)
     QPainter peintre(this);
     for (EcranDessinay const & ecran : mesEcrans) {
         QRectF const cadre = echelle.mapRect(QRectF(ecran.geometrie));
-        peintre.setPen(QPen(Couleur(u"couleurBordureGeneral"_s), kEpaisseur));
-        peintre.setBrush(Couleur(u"couleurFondBlanc"_s));
-        peintre.drawRect(cadre);
-        if (ecran.disponible != ecran.geometrie) {
-            peintre.setPen(QPen(Couleur(u"couleurBordureGui"_s), 1, Qt::DotLine));
-            peintre.drawRect(echelle.mapRect(QRectF(ecran.disponible)));
-        }
+        // What stays visible of the first layer is taken by task bars.
+        peintre.fillRect(cadre, Couleur(u"couleurSeparateur"_s));
+        peintre.fillRect(echelle.mapRect(QRectF(ecran.disponible)), Couleur(u"couleurFondBlanc"_s));
+        DessineCadre(peintre, cadre, u"couleurBordureGeneral"_s, Qt::SolidLine);
         peintre.setPen(Couleur(u"couleurTexteFoncee"_s));
         peintre.drawText(cadre.adjusted(kEcartTexte, kEcartTexte, -kEcartTexte, -kEcartTexte),
                          Qt::AlignLeft | Qt::AlignTop,

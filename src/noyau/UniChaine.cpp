@@ -2,6 +2,7 @@
 #include "noyau/UniChaine.h"
 
 #include <QByteArray>
+#include <QHashFunctions>
 
 #include <algorithm>
 #include <ostream>

@@ -3,6 +3,8 @@
 
 #include "noyau/Catalogue_p.h"
 
+#include <QScopedValueRollback>
+
 #include <array>
 #include <list>
 #include <mutex>
@@ -33,7 +35,14 @@ struct ContexteLocalisation::Domaine
 
     Catalogue const & Prete(std::size_t langue)
     {
+        // A journal that is told of a broken catalogue may look up texts itself: it gets
+        // identifiers, instead of waiting for the end of the loading that it is part of.
+        static Catalogue const aucun;
+        thread_local bool chargementEnCours = false;
+        if (chargementEnCours)
+            return aucun;
         std::call_once(chargements[langue], [this, langue] {
+            QScopedValueRollback const enCours(chargementEnCours, true);
             catalogues[langue] = std::make_unique<Catalogue>(
                 QString::fromStdString(chemin + kSuffixes[langue].texte + ".mo"));
         });

@@ -43,6 +43,7 @@ private Q_SLOTS:
     void cheminAccentuay();
     void catalogueAbsentJournaliseUneFois();
     void catalogueAbsentSansJournal();
+    void journalQuiTraduit();
     void chargementTardif();
     void filsSimultanes_data();
     void filsSimultanes();
@@ -176,6 +177,35 @@ void tst_ContexteLocalisation::catalogueAbsentSansJournal()
     ContexteLocalisation contexte;
     contexte.AjouteDomaine("Essai", Chemin("Absent"));
     QCOMPARE(Traduis(contexte, kAnnuler, kLangueAnglais), u"Annuler"_s);
+}
+
+// A journal that looks its own words up in the registry that is telling it of a broken catalogue.
+void tst_ContexteLocalisation::journalQuiTraduit()
+{
+    class JournalTraducteur : public JournalSimulay
+    {
+    public:
+        explicit JournalTraducteur(ContexteLocalisation const & contexte)
+            : monContexte(contexte)
+        {
+        }
+        void EcrisLigne(UniChaine const & ligne, bool horodatage, bool vider) override
+        {
+            JournalSimulay::EcrisLigne(ligne, horodatage, vider);
+            monMot = Traduis(monContexte, kAnnuler, kLangueAnglais);
+        }
+
+        ContexteLocalisation const & monContexte;
+        QString monMot;
+    };
+
+    ContexteLocalisation contexte;
+    contexte.AjouteDomaine("Essai", Chemin("Absent"));
+    monJournal.reset();
+    JournalTraducteur const journal(contexte);
+    QCOMPARE(Traduis(contexte, kAnnuler, kLangueAnglais), u"Annuler"_s);
+    QCOMPARE(journal.monMot, u"Annuler"_s);
+    QCOMPARE(journal.DonneLignes().size(), 1);
 }
 
 void tst_ContexteLocalisation::chargementTardif()

@@ -1,4 +1,4 @@
-// foundation/VariablesAttendues.h
+// tests/foundation/VariablesAttendues.h
 #pragma once
 
 // The names and values that applications and their style sheets rely on.

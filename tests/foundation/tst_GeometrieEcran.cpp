@@ -109,6 +109,19 @@ public:
     HWND poignee = nullptr;
 };
 
+// Names an owner that it does not take for a window, but tells its place all the same.
+class ProprietaireRefuse : public FenetresSimulees
+{
+public:
+    HWND GetWindow(HWND, UINT) override { return proprietaire; }
+    bool IsWindow(HWND fenetre) override
+    {
+        return fenetre != proprietaire && FenetresSimulees::IsWindow(fenetre);
+    }
+
+    HWND proprietaire = nullptr;
+};
+
 } // namespace
 
 class tst_GeometrieEcran : public QObject
@@ -145,6 +158,7 @@ private Q_SLOTS:
     void centrageDansParentNatif_data();
     void centrageDansParentNatif();
     void centrageParentNatifMort();
+    void centrageParentNatifRefuse();
     void centrageSansFenetreNative();
     void centrageSansParent();
 
@@ -467,6 +481,22 @@ void tst_GeometrieEcran::centrageParentNatifMort()
     QRect attendu(QPoint(), dialogue.frameSize());
     CentreDansEcranActif(attendu, true);
     CentrageWidgetDansParentOuEcran(&dialogue, true);
+    QCOMPARE(dialogue.pos(), attendu.topLeft());
+}
+
+void tst_GeometrieEcran::centrageParentNatifRefuse()
+{
+    auto plateforme = std::make_unique<ProprietaireRefuse>();
+    FenetresSimulees::Fenetre parent;
+    parent.client = QRect(200, 100, 600, 500);
+    plateforme->proprietaire = plateforme->Ajoute(parent);
+    PlateformeFenetres::Installe(std::move(plateforme));
+    QDialog dialogue;
+    dialogue.resize(200, 100);
+    dialogue.winId();
+    QRect attendu(QPoint(), dialogue.frameSize());
+    CentreDansEcranActif(attendu, false);
+    CentrageWidgetDansParentOuEcran(&dialogue, false);
     QCOMPARE(dialogue.pos(), attendu.topLeft());
 }
 

@@ -1,12 +1,11 @@
 // tests/foundation/tst_Polices.cpp
-#include "foundation/FichierPixmap_p.h"
 #include "foundation/Polices.h"
+#include "foundation/ProgrammeEnfant.h"
 
 #include <QtTest>
 
 #include <QFontInfo>
-#include <QProcess>
-#include <QTemporaryDir>
+#include <QTemporaryFile>
 
 #include <cmath>
 
@@ -16,7 +15,6 @@ using namespace RoutinesGeneralesQt;
 namespace {
 
 constexpr char kOptionModulateur[] = "--modulateur";
-constexpr char kOptionPixmap[] = "--pixmap";
 
 QFont FontEnPoints(double points)
 {
@@ -35,34 +33,6 @@ QFont FontEnPixels(int pixels)
 int PixelsPour(double points, double modulateur)
 {
     return static_cast<int>(std::ceil(QFontInfo(FontEnPoints(points)).pixelSize() / modulateur));
-}
-
-// What the program prints for its arguments in another environment.
-QString LanceEnfant(QStringList const & arguments, QHash<QString, QString> const & variables)
-{
-    QProcessEnvironment environnement = QProcessEnvironment::systemEnvironment();
-    for (auto it = variables.begin(); it != variables.end(); ++it)
-        environnement.insert(it.key(), it.value());
-    QProcess enfant;
-    enfant.setProcessEnvironment(environnement);
-    enfant.start(QCoreApplication::applicationFilePath(), arguments);
-    if (!enfant.waitForFinished() || enfant.exitCode() != 0)
-        return u"failed"_s;
-    return QString::fromUtf8(enfant.readAllStandardOutput()).trimmed();
-}
-
-int Imprime(QString const & texte)
-{
-    std::puts(qPrintable(texte));
-    return 0;
-}
-
-// The width of the picture in pixels and its ratio.
-QString DecrisPixmap(QString const & chemin)
-{
-    QPixmap const pixmap = DonnePixmapAvecDPI(chemin);
-    return pixmap.isNull() ? u"null"_s
-                           : u"%1 at %2"_s.arg(pixmap.width()).arg(pixmap.devicePixelRatio());
 }
 
 // Notes the widgets whose font changes, by name.
@@ -103,7 +73,6 @@ class tst_Polices : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase();
     void init();
     void cleanup();
 
@@ -129,33 +98,7 @@ private Q_SLOTS:
     void metsTaille();
     void ajusterRecursivement();
     void ajusterRecursivementUnEnfantDisparait();
-
-    void choixDuFichier_data();
-    void choixDuFichier();
-    void choixSansExtension();
-    void pixmap_data();
-    void pixmap();
-
-private:
-    void EcrisImage(QString const & nom, int cote);
-
-    QTemporaryDir monDossier;
 };
-
-void tst_Polices::initTestCase()
-{
-    QVERIFY(monDossier.isValid());
-    QVERIFY(QDir(monDossier.path()).mkpath(u"avec.point"_s));
-    EcrisImage(u"double.png"_s, 8);
-    EcrisImage(u"double@2x.png"_s, 16);
-    EcrisImage(u"double@3x.png"_s, 24);
-    EcrisImage(u"simple.png"_s, 8);
-    EcrisImage(u"triple.png"_s, 8);
-    EcrisImage(u"triple@3x.png"_s, 24);
-    EcrisImage(u"deux.points.png"_s, 8);
-    EcrisImage(u"deux.points@2x.png"_s, 16);
-    EcrisImage(u"seulement@2x.png"_s, 16);
-}
 
 void tst_Polices::init()
 {
@@ -166,13 +109,6 @@ void tst_Polices::cleanup()
 {
     ModulateurFont::LibereInstance();
     QVERIFY(QApplication::topLevelWidgets().isEmpty());
-}
-
-void tst_Polices::EcrisImage(QString const & nom, int cote)
-{
-    QImage image(cote, cote, QImage::Format_RGB32);
-    image.fill(Qt::red);
-    QVERIFY(image.save(monDossier.filePath(nom), "PNG"));
 }
 
 void tst_Polices::instance()
@@ -213,8 +149,8 @@ void tst_Polices::modulateurACalculer()
 void tst_Polices::modulateurCalculeSelonResolution()
 {
     // The base is the resolution that Qt scales by; the two equal leave it to the application.
-    QFile ecrans(monDossier.filePath(u"ecrans.json"_s));
-    QVERIFY(ecrans.open(QIODevice::WriteOnly));
+    QTemporaryFile ecrans;
+    QVERIFY(ecrans.open());
     ecrans.write(R"({"screens": [{"name": "dense", "x": 0, "y": 0, "width": 800, "height": 600,
                      "logicalDpi": 144, "logicalBaseDpi": 144, "dpr": 1}]})");
     ecrans.close();
@@ -442,100 +378,6 @@ void tst_Polices::ajusterRecursivementUnEnfantDisparait()
     QCOMPARE(parent.font().pixelSize(), 37);
 }
 
-void tst_Polices::choixDuFichier_data()
-{
-    QTest::addColumn<QString>("chemin");
-    QTest::addColumn<double>("voulu");
-    QTest::addColumn<QString>("nom");
-    QTest::addColumn<double>("ratio");
-    QString const deux = u"double.png"_s;
-    QString const variante = u"double@2x.png"_s;
-    QTest::newRow("ratio 0") << deux << 0.0 << deux << 1.0;
-    QTest::newRow("ratio 1") << deux << 1.0 << deux << 1.0;
-    QTest::newRow("a little above 1") << deux << 1.01 << variante << 2.0;
-    QTest::newRow("ratio 1.5") << deux << 1.5 << variante << 2.0;
-    QTest::newRow("ratio 2") << deux << 2.0 << variante << 2.0;
-    QTest::newRow("ratio 3 looks for nothing denser") << deux << 3.0 << variante << 2.0;
-    QTest::newRow("only a denser variant") << u"triple.png"_s << 3.0 << u"triple.png"_s << 1.0;
-    QTest::newRow("no variant") << u"simple.png"_s << 2.0 << u"simple.png"_s << 1.0;
-    QTest::newRow("two points") << u"deux.points.png"_s << 2.0 << u"deux.points@2x.png"_s << 2.0;
-    QTest::newRow("the variant alone") << u"seulement.png"_s << 2.0 << u"seulement@2x.png"_s << 2.0;
-    QTest::newRow("missing") << u"absent.png"_s << 2.0 << u"absent.png"_s << 1.0;
-}
-
-void tst_Polices::choixDuFichier()
-{
-    QFETCH(QString, chemin);
-    QFETCH(double, voulu);
-    QFETCH(QString, nom);
-    QFETCH(double, ratio);
-    FichierPixmap const fichier = ChoisisFichierPixmap(monDossier.filePath(chemin), voulu);
-    QCOMPARE(fichier.nom, monDossier.filePath(nom));
-    QCOMPARE(fichier.ratio, ratio);
-}
-
-void tst_Polices::choixSansExtension()
-{
-    // In the working directory, so that no folder above has a point in its name.
-    QString const avant = QDir::currentPath();
-    QVERIFY(QDir::setCurrent(monDossier.path()));
-    for (char const * nom : {"image@2x", "avec@2x.point", "@2x"}) {
-        QString const chemin = QString::fromLatin1(nom);
-        QVERIFY(QDir().mkpath(chemin));
-        QFile::remove(chemin + u"/image"_s);
-        QFile fichier(chemin + u"/image"_s);
-        QVERIFY(fichier.open(QIODevice::WriteOnly));
-    }
-    FichierPixmap const sansPoint = ChoisisFichierPixmap(u"image"_s, 2.0);
-    // The last point of the whole path counts, even that of a folder.
-    FichierPixmap const dossier = ChoisisFichierPixmap(u"avec.point/image"_s, 2.0);
-    FichierPixmap const vide = ChoisisFichierPixmap(QString(), 2.0);
-    FichierPixmap const videSimple = ChoisisFichierPixmap(QString(), 1.0);
-    QVERIFY(QDir::setCurrent(avant));
-
-    QCOMPARE(sansPoint.nom, u"image@2x"_s);
-    QCOMPARE(dossier.nom, u"avec@2x.point/image"_s);
-    QCOMPARE(vide.nom, u"@2x"_s);
-    QCOMPARE(videSimple.nom, QString());
-}
-
-void tst_Polices::pixmap_data()
-{
-    QTest::addColumn<QString>("chemin");
-    QTest::addColumn<QString>("echelle");
-    QTest::addColumn<bool>("sansVariantes");
-    QTest::addColumn<QString>("description");
-    QString const fichier = monDossier.filePath(u"double.png"_s);
-    QTest::newRow("at 1") << fichier << u"1"_s << false << u"8 at 1"_s;
-    QTest::newRow("at 1.5, drawn at 2") << fichier << u"1.5"_s << false << u"16 at 2"_s;
-    QTest::newRow("at 2") << fichier << u"2"_s << false << u"16 at 2"_s;
-    QTest::newRow("at 3") << fichier << u"3"_s << false << u"16 at 2"_s;
-    QTest::newRow("switched off") << fichier << u"2"_s << true << u"8 at 1"_s;
-    QTest::newRow("no variant") << monDossier.filePath(u"simple.png"_s) << u"2"_s << false
-                                << u"8 at 1"_s;
-    QTest::newRow("missing") << monDossier.filePath(u"absent.png"_s) << u"2"_s << false
-                             << u"null"_s;
-    QTest::newRow("empty path") << QString() << u"2"_s << false << u"null"_s;
-    QString const ressource = u":/Images/boutonFermetureOngletActif"_s;
-    QTest::newRow("a resource with a variant only")
-        << ressource + u".png"_s << u"2"_s << false
-        << u"%1 at 2"_s.arg(QImage(ressource + u"@2x.png"_s).width());
-    QTest::newRow("the same at 1") << ressource + u".png"_s << u"1"_s << false << u"null"_s;
-}
-
-void tst_Polices::pixmap()
-{
-    QFETCH(QString, chemin);
-    QFETCH(QString, echelle);
-    QFETCH(bool, sansVariantes);
-    QFETCH(QString, description);
-    QString const interrupteur = u"QT_HIGHDPI_DISABLE_2X_IMAGE_LOADING"_s;
-    QCOMPARE(LanceEnfant({QString::fromLatin1(kOptionPixmap), chemin},
-                         {{u"QT_SCALE_FACTOR"_s, echelle},
-                          {interrupteur, sansVariantes ? u"1"_s : QString()}}),
-             description);
-}
-
 int main(int nombre, char ** arguments)
 {
     QApplication application(nombre, arguments);
@@ -544,8 +386,6 @@ int main(int nombre, char ** arguments)
         ModulateurFont::Instance()->PrendsModulateur(-1.0);
         return Imprime(QString::number(ModulateurFont::Instance()->DonneModulateurEffectif()));
     }
-    if (options.size() == 3 && options[1] == QLatin1String(kOptionPixmap))
-        return Imprime(DecrisPixmap(options[2]));
     tst_Polices test;
     return QTest::qExec(&test, nombre, arguments);
 }

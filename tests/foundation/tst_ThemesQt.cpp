@@ -302,8 +302,10 @@ void tst_ThemesQt::appliquer_data()
     QTest::newRow("a name may hold other signs") << u"@b.b-b:b;"_s << u"signes;"_s;
     QTest::newRow("a longer name is another") << u"@bb;"_s << u"2px;"_s;
     QTest::newRow("a value with delimiters") << u"(@fonction)"_s << u"(f(1px, 1px))"_s;
-    QTest::newRow("the two small sheets")
+    QTest::newRow("a sheet of text")
         << u"color :@couleurTexteDeBase;"_s << u"color :rgba(0,0,0,255);"_s;
+    QTest::newRow("a sheet of links")
+        << u"color: @couleurTexteLien;"_s << u"color: rgba(24,126,188,255);"_s;
 }
 
 void tst_ThemesQt::appliquer()

@@ -79,7 +79,7 @@ QFont ModulateurFont::DonneFontPointVersPixels(double points, QFont const & font
     return enPixels;
 }
 
-QFont ModulateurFont::DonneFontPointVersPixels(double points, QString const & famille) const
+QFont ModulateurFont::DonneFontPointVersPixels(double points, QString famille) const
 {
     return DonneFontPointVersPixels(points, QFont(famille, -1, -1, false));
 }

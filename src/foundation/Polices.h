@@ -40,7 +40,7 @@ public:
     /// `font` with the pixel size that stands for `points`, rounded up. The result has no point
     /// size any more.
     QFont DonneFontPointVersPixels(double points, QFont const & font) const;
-    QFont DonneFontPointVersPixels(double points, QString const & famille) const;
+    QFont DonneFontPointVersPixels(double points, QString famille) const;
     /// `font` made `difference` points larger.
     QFont DonneFontPointVersPixelsAvecDiff(QFont const & font, double difference) const;
 

@@ -7,7 +7,6 @@
 
 #include "noyau/plateforme/PlateformeFenetres.h"
 
-#include <QColor>
 #include <QPalette>
 
 #include <utility>
@@ -101,6 +100,14 @@ QColor ThemesQt::DonneCouleur(QString const & nom) const
     auto const [rouge, vert, bleu, alpha] = composantes;
     return QColor::fromRgba(alpha << 24 | (rouge & 0xff) << 16 | (vert & 0xff) << 8 |
                             (bleu & 0xff));
+}
+
+QStringList ThemesQt::DonneNoms() const
+{
+    QStringList noms;
+    for (auto const & [nom, valeur] : mesVariables)
+        noms.append(nom);
+    return noms;
 }
 
 QStringList ThemesQt::VariablesInconnues(QString const & texte) const

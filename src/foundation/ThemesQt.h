@@ -3,12 +3,11 @@
 
 #include "FabrelGuiExport.h"
 
+#include <QColor>
 #include <QString>
 #include <QStringList>
 
 #include <map>
-
-class QColor;
 
 /// The table of the theme's named values: colours as "rgba(red,green,blue,alpha)" with all four
 /// from 0 to 255, font and length values, and four colours of the system.
@@ -47,6 +46,8 @@ public:
     /// is not "rgba(" with four integers. Each integer is cut to its low 8 bits.
     QColor DonneCouleur(QString const & nom) const;
 
+    /// The names of all variables, in the order of `QString`.
+    QStringList DonneNoms() const;
     /// The names that the table lacks among those that the text leads to, directly or by values of
     /// other variables: each once, in order of appearance. Always returns, whatever the text.
     QStringList VariablesInconnues(QString const & texte) const;

@@ -79,6 +79,7 @@ QFont ModulateurFont::DonneFontPointVersPixels(double points, QFont const & font
     return enPixels;
 }
 
+// NOLINTNEXTLINE(performance-unnecessary-value-param): by value is the interface
 QFont ModulateurFont::DonneFontPointVersPixels(double points, QString famille) const
 {
     return DonneFontPointVersPixels(points, QFont(famille, -1, -1, false));

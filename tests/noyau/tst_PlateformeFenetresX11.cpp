@@ -242,6 +242,12 @@ void tst_PlateformeFenetresX11::styles()
     QCOMPARE(maPlateforme.GetParent(dialogue), principale);
     QCOMPARE(maPlateforme.GetWindow(dialogue, GW_OWNER), principale);
 
+    // A dialog without a parent belongs to no window, as on the other platform.
+    HWND const orphelin = Ouvre(u"Avis"_s, u"orphelin"_s);
+    QVERIFY(orphelin);
+    QCOMPARE(maPlateforme.GetParent(orphelin), nullptr);
+    QCOMPARE(maPlateforme.GetWindow(orphelin, GW_OWNER), nullptr);
+
     HWND const outil = monProgramme->DemandePoignee(u"outil Palette"_s);
     QTRY_VERIFY_WITH_TIMEOUT(maPlateforme.IsWindowVisible(outil), kDelai);
     QVERIFY(DonneStyleEtendu(outil) & WS_EX_TOOLWINDOW);

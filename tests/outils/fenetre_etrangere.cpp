@@ -26,6 +26,8 @@ public:
     {
         if (commande == "fenetre"_L1)
             return Montre(argument, std::make_unique<QWidget>());
+        if (commande == "orphelin"_L1)
+            return Montre(argument, std::make_unique<QDialog>());
         if (commande == "dialogue"_L1)
             return Montre(argument, std::make_unique<QDialog>(mesFenetres.begin()->second.get()));
         if (commande == "outil"_L1)

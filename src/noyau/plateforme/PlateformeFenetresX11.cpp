@@ -56,6 +56,7 @@ PlateformeFenetresX11::PlateformeFenetresX11()
     if (!maConnexion.EstValide())
         return;
     monAtomeEtat = maConnexion.DonneAtome("WM_STATE");
+    monAtomeChef = maConnexion.DonneAtome("WM_CLIENT_LEADER");
     monAtomeChangeEtat = maConnexion.DonneAtome("WM_CHANGE_STATE");
     monAtomeFermeture = maConnexion.DonneAtome("WM_DELETE_WINDOW");
     monAtomeOpacite = maConnexion.DonneAtome("_NET_WM_WINDOW_OPACITY");
@@ -202,9 +203,10 @@ xcb_window_t PlateformeFenetresX11::DonnePremierNiveau(xcb_window_t fenetre) con
 xcb_window_t PlateformeFenetresX11::DonneProprietaire(xcb_window_t fenetre) const
 {
     xcb_window_t const proprietaire = maConnexion.LisMot(fenetre, XCB_ATOM_WM_TRANSIENT_FOR);
-    // The root stands for "the whole program", and some windows name themselves.
+    // The root stands for "the whole program", and so does the hidden window that leads a program's
+    // group, which Qt names for a dialog without a parent; some windows name themselves.
     if (proprietaire == maConnexion.DonneRacine() || proprietaire == fenetre ||
-        !Existe(proprietaire))
+        proprietaire == maConnexion.LisMot(fenetre, monAtomeChef) || !Existe(proprietaire))
         return XCB_NONE;
     return proprietaire;
 }

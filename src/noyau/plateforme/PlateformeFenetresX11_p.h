@@ -128,6 +128,7 @@ private:
     ConnexionX11 maConnexion;
     ClavierX11 monClavier{maConnexion};
     xcb_atom_t monAtomeEtat = XCB_ATOM_NONE; // WM_STATE
+    xcb_atom_t monAtomeChef = XCB_ATOM_NONE; // WM_CLIENT_LEADER
     xcb_atom_t monAtomeChangeEtat = XCB_ATOM_NONE;
     xcb_atom_t monAtomeFermeture = XCB_ATOM_NONE;
     xcb_atom_t monAtomeOpacite = XCB_ATOM_NONE;

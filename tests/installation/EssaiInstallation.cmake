@@ -49,3 +49,10 @@ execute("${COMPILATEUR}" -std=c++20 -fPIC "${SOURCE}/application/main.cpp" ${dra
     "-Wl,-rpath,${prefixe}/${LIBDIR}" -o "${ESSAI}/application-pkgconfig")
 execute("${ESSAI}/application-pkgconfig")
 verifie_sortie()
+
+# The example of the first page, as it stands there.
+file(READ "${SOURCE}/../../README.md" page)
+string(REGEX MATCH "```cpp\n(.*)\n```" bloc "${page}")
+string(REGEX REPLACE "\n```.*" "" exemple "${CMAKE_MATCH_1}")
+file(WRITE "${ESSAI}/exemple.cpp" "${exemple}\n")
+execute("${COMPILATEUR}" -std=c++20 -fPIC "${ESSAI}/exemple.cpp" ${drapeaux} -o "${ESSAI}/exemple")

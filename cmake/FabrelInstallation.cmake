@@ -2,6 +2,12 @@
 
 include(CMakePackageConfigHelpers)
 
+foreach(dossier IN ITEMS CMAKE_INSTALL_LIBDIR CMAKE_INSTALL_INCLUDEDIR)
+    if(IS_ABSOLUTE "${${dossier}}")
+        message(FATAL_ERROR "${dossier} is to be given from the prefix on")
+    endif()
+endforeach()
+
 set(FABREL_DOSSIER_PAQUET "${CMAKE_INSTALL_LIBDIR}/cmake/FabrelGui")
 
 install(TARGETS FabrelNoyau FabrelGui EXPORT FabrelGuiTargets

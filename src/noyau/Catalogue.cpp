@@ -86,16 +86,35 @@ private:
 
 // The expression that chooses the form, in the header's line "Plural-Forms: nplurals=2;
 // plural=n>1;".
-qsizetype TailleDeRegle(QByteArrayView entete)
+QByteArrayView LisRegle(QByteArrayView entete)
 {
     constexpr QByteArrayView kCle = "plural=";
     qsizetype const cle = entete.indexOf(kCle);
     if (cle < 0)
-        return 0;
+        return {};
     QByteArrayView const regle = entete.sliced(cle + kCle.size());
     auto const fin =
         std::find_first_of(regle.begin(), regle.end(), std::begin(";\r\n"), std::end(";\r\n"));
-    return fin - regle.begin();
+    return regle.first(fin - regle.begin());
+}
+
+// False for a rule whose evaluation could stop the process: one so deep that reading it overflows
+// the stack, or one that may divide the smallest integer by -1. No language's rule divides, and
+// those that take a remainder take it by a number written out.
+bool RegleEstSure(QByteArrayView regle)
+{
+    if (regle.size() > kTailleRegleMax || regle.contains('/'))
+        return false;
+    for (qsizetype i = regle.indexOf('%'); i >= 0; i = regle.indexOf('%', i + 1)) {
+        QByteArrayView const diviseur = regle.sliced(i + 1).trimmed();
+        auto const fin = std::find_if(diviseur.begin(), diviseur.end(),
+                                      [](char c) { return c < '0' || c > '9'; });
+        constexpr auto kChiffresMax = 9; // what an int holds
+        if (fin == diviseur.begin() || fin - diviseur.begin() > kChiffresMax ||
+            diviseur.front() == '0')
+            return false;
+    }
+    return true;
 }
 
 // The record's views need no terminator; the facet wants one. Short texts stay off the heap.
@@ -189,7 +208,7 @@ bool ImageDeCatalogueEstSaine(QByteArray const & image)
             return false;
     }
     return lecteur.EstSain() && placeLibre && tailleHachage != 1 && tailleHachage != 2 &&
-           TailleDeRegle(lecteur.Texte(textes)) <= kTailleRegleMax;
+           RegleEstSure(LisRegle(lecteur.Texte(textes)));
 }
 
 Catalogue::Catalogue(QString const & fichier)

@@ -10,6 +10,8 @@
 
 namespace {
 
+using namespace Qt::StringLiterals;
+
 struct Magasin
 {
     QMutex verrou;
@@ -23,9 +25,16 @@ Magasin & PreteMagasin()
     return magasin;
 }
 
+// A part of a key as the file has it: a slash would begin another part, and so would a backslash.
+QString PartDeCle(QString part)
+{
+    part.replace(u'%', "%25"_L1).replace(u'/', "%2F"_L1).replace(u'\\', "%5C"_L1);
+    return part.isEmpty() ? u"%"_s : part; // an empty part would name the whole section
+}
+
 QString CleDeFichier(QString const & cle, QString const & nom)
 {
-    return cle + u'/' + nom;
+    return PartDeCle(cle) + u'/' + PartDeCle(nom);
 }
 
 } // namespace

@@ -32,6 +32,7 @@ public:
     eTypeDialogue DonneTypeDialogue() const { return monType; }
     UniChaine DonneMessage() const { return monMessage; }
     UniChaine DonneNote() const { return maNote; }
+    /// The default title is read when it is asked for, and then the GUI thread's to ask.
     UniChaine DonneTitreFenetre() const;
     bool EstTitreParDefaut() const { return monTitreEstParDefaut; }
     /// The message, as the journal shows it.

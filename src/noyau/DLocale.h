@@ -18,7 +18,7 @@ enum eLangue : int
 class FABRELNOYAU_EXPORT DLocale
 {
 public:
-    explicit DLocale(eLangue langue)
+    DLocale(eLangue langue)
         : maLangue(langue)
     {
     }

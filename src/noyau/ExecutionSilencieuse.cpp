@@ -30,10 +30,12 @@ ExecutionSilencieuse * ExecutionSilencieuse::Instance()
 
 void ExecutionSilencieuse::Demarre(bool silencieux)
 {
-    if (ExecutionSilencieuse * const existante = instance)
-        existante->monModeSilencieux = silencieux;
-    else
-        instance = new ExecutionSilencieuse(silencieux);
+    auto * const nouvelle = new ExecutionSilencieuse(silencieux);
+    ExecutionSilencieuse * existante = nullptr;
+    if (instance.compare_exchange_strong(existante, nouvelle))
+        return;
+    existante->monModeSilencieux = silencieux;
+    delete nouvelle;
 }
 
 void ExecutionSilencieuse::Arrete()

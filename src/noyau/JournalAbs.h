@@ -15,7 +15,8 @@ public:
     /// Writes one line. The libraries pass true for both switches.
     virtual void EcrisLigne(UniChaine const & ligne, bool avecHorodatage, bool viderTampon) = 0;
 
-    bool estActif = false; ///< callers write nothing while this is false
+    /// Callers write nothing while this is false. Set it before other threads write.
+    bool estActif = false;
 };
 
 /// The journal of the process, or null.

@@ -34,15 +34,20 @@ LocalisateurContextuel::LocalisateurContextuel(ChaineLocalisablePluriel message,
 
 LocalisateurContextuel::operator QString() const
 {
-    return QString::fromUtf8(monTexte.data(), static_cast<qsizetype>(monTexte.size()));
+    return operator UniChaine();
 }
 
 LocalisateurContextuel::operator UniChaine() const
 {
-    return UniChaine(QString(*this));
+    return UniChaine(monTexte.data(), UniChaine::kUTF8, static_cast<int>(monTexte.size()));
 }
 
 LocalisateurContextuel::operator std::string() const
 {
     return std::string(monTexte);
+}
+
+UniChaine & UniChaine::operator=(LocalisateurContextuel const & message)
+{
+    return *this = message.operator UniChaine();
 }

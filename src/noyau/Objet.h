@@ -5,7 +5,7 @@
 
 namespace sdd {
 
-/// The base of the values and containers of the family.
+/// The base of the values of the family.
 class FABRELNOYAU_EXPORT Objet
 {
 public:

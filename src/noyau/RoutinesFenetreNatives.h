@@ -16,8 +16,9 @@ FABRELNOYAU_EXPORT UniChaine DonneNomClasse(HWND fenetre);
 /// `sansDossier`. False, and an empty `nom`, when it can't be told.
 FABRELNOYAU_EXPORT bool DonneNomEXEAPartirHWND(HWND fenetre, UniChaine & nom, bool sansDossier);
 
-/// True when the window's class bears that name, case included.
+/// True when the window's class bears that name, case included: classes are told apart as strings
+/// throughout the library, only the platform's own searches overlook case.
 FABRELNOYAU_EXPORT bool DonneSiHwndRecherchay(HWND fenetre, UniChaine const & classe);
 
-/// The first window of that class below `parent`, at any depth; null when there is none.
+/// The first child window of that class, or else the first below a child; null when there is none.
 FABRELNOYAU_EXPORT HWND DonneHwndFenetreEnfant(HWND parent, UniChaine const & classe);

@@ -11,7 +11,8 @@
 
 bool RoutinesFichier::FichierExiste(UniChaine const & chemin)
 {
-    return QFileInfo(chemin).isFile();
+    QFileInfo const infos(chemin);
+    return infos.exists() && !infos.isDir();
 }
 
 QList<UniChaine> RoutinesRepertoire::ListeTousLesFichiers(UniChaine const & repertoire,

@@ -26,7 +26,10 @@ qsizetype LongueurBaliseListay(QStringView reste, QList<QString> const & balises
 QString RoutinesGeneralesQt::ContenuFichier(QString const & chemin)
 {
     QFile fichier(chemin);
-    return fichier.open(QIODevice::ReadOnly) ? QString::fromUtf8(fichier.readAll()) : QString();
+    // Qt warns about a name that is empty.
+    return !chemin.isEmpty() && fichier.open(QIODevice::ReadOnly)
+               ? QString::fromUtf8(fichier.readAll())
+               : QString();
 }
 
 void RoutinesGeneralesQt::HTMLiser(QString & texte, QList<QString> const & balises)

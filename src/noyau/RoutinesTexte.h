@@ -14,7 +14,7 @@ FABRELNOYAU_EXPORT QString ContenuFichier(QString const & chemin);
 /// Turns plain text into HTML, in place: < > & " are escaped, a line feed becomes "<br>".
 ///
 /// Tags of an element of `balises`, named without brackets ("b" leaves "<b>", "</b>" and "<b/>"
-/// alone, with attributes or not), stay as they are.
+/// alone, with attributes or not), stay as they are. Such a tag ends at its first ">".
 FABRELNOYAU_EXPORT void HTMLiser(QString & texte, QList<QString> const & balises = {});
 
 } // namespace RoutinesGeneralesQt

@@ -73,11 +73,6 @@ QByteArray VersUtf8(QString const & texte)
     return valide.toUtf8();
 }
 
-QChar Unite(wchar_t caractere)
-{
-    return QChar(static_cast<char16_t>(caractere));
-}
-
 } // namespace
 
 UniChaine const kUniChaineNulle;
@@ -175,25 +170,20 @@ UniChaine & UniChaine::AjouteFin(wchar_t caractere)
 
 UniChaine & UniChaine::AjouteDebut(UniChaine const & debut)
 {
-    OublieTampons();
-    monTexte.prepend(debut.monTexte);
-    return *this;
+    return Modifie([&debut](QString & texte) { texte.prepend(debut.monTexte); });
 }
 
 UniChaine & UniChaine::EnleveFin(unsigned nombre)
 {
-    OublieTampons();
-    monTexte.chop(nombre);
-    return *this;
+    return Modifie([nombre](QString & texte) { texte.chop(nombre); });
 }
 
 UniChaine & UniChaine::Remplace(UniChaine const & cherchay, UniChaine const & remplacement)
 {
     if (cherchay.EstVide()) // Qt would insert between all units
         return *this;
-    OublieTampons();
-    monTexte.replace(cherchay.monTexte, remplacement.monTexte);
-    return *this;
+    return Modifie(
+        [&](QString & texte) { texte.replace(cherchay.monTexte, remplacement.monTexte); });
 }
 
 UniChaine UniChaine::Remplace(UniChaine const & cherchay, UniChaine const & remplacement) const
@@ -205,28 +195,32 @@ UniChaine UniChaine::Remplace(UniChaine const & cherchay, UniChaine const & remp
 
 UniChaine & UniChaine::Remplace(int debut, int longueur, UniChaine const & remplacement)
 {
-    OublieTampons();
     qsizetype const taille = monTexte.size();
     qsizetype const position = std::clamp<qsizetype>(debut, 0, taille);
     qsizetype const fin =
         longueur < 0 ? taille
                      : std::clamp<qsizetype>(qsizetype(debut) + longueur, position, taille);
-    monTexte.replace(position, fin - position, remplacement.monTexte);
-    return *this;
+    return Modifie(
+        [&](QString & texte) { texte.replace(position, fin - position, remplacement.monTexte); });
 }
 
 UniChaine & UniChaine::Remplace(wchar_t cherchay, wchar_t remplacement)
 {
-    OublieTampons();
-    monTexte.replace(Unite(cherchay), Unite(remplacement));
-    return *this;
+    // Where it has 32 bits, a character above U+FFFF is no unit: as such it is nowhere to be found.
+    constexpr char32_t kDerniereUnite = 0xFFFF;
+    if (static_cast<char32_t>(cherchay) > kDerniereUnite)
+        return *this;
+    if (static_cast<char32_t>(remplacement) > kDerniereUnite)
+        return Remplace(UniChaine(&cherchay, 1), UniChaine(&remplacement, 1));
+    return Modifie([&](QString & texte) {
+        texte.replace(QChar(static_cast<char16_t>(cherchay)),
+                      QChar(static_cast<char16_t>(remplacement)));
+    });
 }
 
 UniChaine & UniChaine::NettoieBlancs()
 {
-    OublieTampons();
-    monTexte = std::move(monTexte).trimmed();
-    return *this;
+    return Modifie([](QString & texte) { texte = std::move(texte).trimmed(); });
 }
 
 UniChaine & UniChaine::ConsolideBlancs()
@@ -247,9 +241,7 @@ UniChaine & UniChaine::ConsolideBlancs()
 
 UniChaine & UniChaine::Majusculise()
 {
-    OublieTampons();
-    monTexte = std::move(monTexte).toUpper();
-    return *this;
+    return Modifie([](QString & texte) { texte = std::move(texte).toUpper(); });
 }
 
 char const * UniChaine::PreteUTF8() const
@@ -285,6 +277,17 @@ wchar_t const * UniChaine::PreteUniCString(unsigned capacite, wchar_t * const ta
 std::size_t UniChaine::hash() const
 {
     return qHash(*this);
+}
+
+QString UniChaine::DepuisUtf8AvecMarque(QByteArrayView octets)
+{
+    constexpr QByteArrayView kMarque("\xEF\xBB\xBF");
+    QString texte;
+    while (octets.startsWith(kMarque)) {
+        texte.append(QChar(QChar::ByteOrderMark));
+        octets = octets.sliced(kMarque.size());
+    }
+    return texte + QString::fromUtf8(octets);
 }
 
 UniChaine::Tampons & UniChaine::PreteTampons() const

@@ -5,9 +5,11 @@
 
 #include "FabrelNoyauExport.h"
 
+#include <QByteArrayView>
 #include <QString>
 
 #include <atomic>
+#include <compare>
 #include <concepts>
 #include <functional>
 #include <initializer_list>
@@ -17,13 +19,15 @@
 
 class ContexteLocalisation;
 class DLocale;
+class LocalisateurContextuel;
 
 /// The string value of the family: 16-bit units, value semantics, text kept in a shared `QString`.
 ///
 /// Indexes and lengths count 16-bit units, also where `wchar_t` has 32 bits: wide text is converted
 /// at the border, a character above U+FFFF being two units. Lone surrogates survive every
 /// conversion but UTF-8, where they become U+FFFD. Positions and lengths out of range are cut to
-/// the text; no operation fails. Converts to and from `QString` implicitly and without loss.
+/// the text; no operation fails. Converts to and from `QString` implicitly and without loss. In a
+/// `QVariant` it keeps its own type: a view shows only what is put there as a `QString`.
 class FABRELNOYAU_EXPORT UniChaine : public sdd::Objet
 {
 public:
@@ -73,11 +77,16 @@ public:
     }
     /// Decodes `longueur` bytes, or up to the NUL for -1. A null pointer gives the empty string.
     UniChaine(char const * texte, Codage = kUTF8, int longueur = -1)
-        : monTexte(QString::fromUtf8(texte, longueur))
+        : monTexte(DepuisUtf8(QByteArrayView(texte, LongueurOctets(texte, longueur))))
     {
     }
     UniChaine(std::string const & texte, Codage = kUTF8)
-        : monTexte(QString::fromUtf8(texte.data(), static_cast<qsizetype>(texte.size())))
+        : monTexte(DepuisUtf8(texte))
+    {
+    }
+    /// Copies UTF-16 text up to the NUL.
+    UniChaine(char16_t const * texte)
+        : monTexte(QString::fromUtf16(texte))
     {
     }
     /// Copies `longueur` wide characters, or up to the NUL for -1.
@@ -89,18 +98,17 @@ public:
     UniChaine & operator=(UniChaine const & autre) noexcept { return *this = autre.monTexte; }
     UniChaine & operator=(UniChaine && autre) noexcept
     {
-        OublieTampons();
-        autre.OublieTampons();
-        monTexte = std::move(autre.monTexte);
+        Modifie([&autre](QString & cible) { cible = std::move(autre.monTexte); });
+        if (this != &autre)
+            autre.OublieTampons();
         return *this;
     }
     UniChaine & operator=(QString const & texte) noexcept
     {
-        OublieTampons();
-        monTexte = texte;
-        return *this;
+        return Modifie([&texte](QString & cible) { cible = texte; });
     }
     UniChaine & operator=(char const * texte) { return *this = UniChaine(texte); }
+    UniChaine & operator=(LocalisateurContextuel const & message);
 
     operator QString() const noexcept { return monTexte; }
 
@@ -108,9 +116,7 @@ public:
     bool EstVide() const noexcept { return monTexte.isEmpty(); }
     UniChaine & Vide()
     {
-        OublieTampons();
-        monTexte.clear();
-        return *this;
+        return Modifie([](QString & texte) { texte.clear(); });
     }
     /// The unit at the 0-based `index`; 0 out of range.
     wchar_t operator[](unsigned index) const noexcept
@@ -126,12 +132,32 @@ public:
     }
     friend bool operator==(UniChaine const & a, char const * b)
     {
-        return a.monTexte.compare(QString::fromUtf8(b)) == 0;
+        return a.monTexte == DepuisUtf8(b);
     }
     /// The order of 16-bit units, the same in every language.
     friend bool operator<(UniChaine const & a, UniChaine const & b) noexcept
     {
         return a.monTexte < b.monTexte;
+    }
+    friend bool operator<(UniChaine const & a, QString const & b) noexcept
+    {
+        return a.monTexte < b;
+    }
+    friend bool operator<(QString const & a, UniChaine const & b) noexcept
+    {
+        return a < b.monTexte;
+    }
+    friend std::strong_ordering operator<=>(UniChaine const & a, UniChaine const & b) noexcept
+    {
+        return a.monTexte.compare(b.monTexte) <=> 0;
+    }
+    friend std::strong_ordering operator<=>(UniChaine const & a, QString const & b) noexcept
+    {
+        return a.monTexte.compare(b) <=> 0;
+    }
+    friend std::strong_ordering operator<=>(UniChaine const & a, char const * b)
+    {
+        return a.monTexte.compare(DepuisUtf8(b)) <=> 0;
     }
 
     bool CommencePar(UniChaine const & debut) const { return monTexte.startsWith(debut.monTexte); }
@@ -159,9 +185,7 @@ public:
 
     UniChaine & AjouteFin(UniChaine const & fin)
     {
-        OublieTampons();
-        monTexte.append(fin.monTexte);
-        return *this;
+        return Modifie([&fin](QString & texte) { texte.append(fin.monTexte); });
     }
     UniChaine & AjouteFin(wchar_t caractere);
     UniChaine & operator+=(UniChaine const & fin) { return AjouteFin(fin); }
@@ -175,6 +199,15 @@ public:
     {
         debut.AjouteFin(fin);
         return debut;
+    }
+    friend UniChaine operator+(UniChaine debut, char const * fin)
+    {
+        debut.AjouteFin(UniChaine(fin));
+        return debut;
+    }
+    friend UniChaine operator+(char const * debut, UniChaine const & fin)
+    {
+        return UniChaine(debut) + fin;
     }
     friend UniChaine operator+(QString const & debut, UniChaine const & fin)
     {
@@ -254,6 +287,7 @@ private:
                 valeur = static_cast<qulonglong>(entier);
             else
                 valeur = static_cast<qlonglong>(entier);
+            octets = sizeof(Entier);
         }
         explicit ArgumentFormat(double nombre)
             : valeur(nombre)
@@ -276,11 +310,51 @@ private:
         {
         }
 
+        explicit ArgumentFormat(wchar_t const * texte)
+            : valeur(QString(UniChaine(texte)))
+        {
+        }
+
         std::variant<qlonglong, qulonglong, double, QString> valeur;
+        int octets = sizeof(qlonglong); // the size of an integer before it was widened
     };
 
     UniChaine & FormateListe(UniChaine const & modele,
                              std::initializer_list<ArgumentFormat> arguments);
+    // Keeps every unit, also the U+FEFF at the start that Qt takes for a mark of the encoding.
+    static QString DepuisUtf8(QByteArrayView octets)
+    {
+        // Not through a constant of the class: such a symbol would keep a library from being
+        // unloaded.
+        return octets.startsWith("\xEF\xBB\xBF") ? DepuisUtf8AvecMarque(octets)
+                                                 : QString::fromUtf8(octets);
+    }
+    static QString DepuisUtf8AvecMarque(QByteArrayView octets);
+    static qsizetype LongueurOctets(char const * texte, int longueur)
+    {
+        if (!texte)
+            return 0;
+        return longueur >= 0 ? longueur
+                             : static_cast<qsizetype>(std::char_traits<char>::length(texte));
+    }
+
+    // What was lent stays valid through an operation that changes nothing.
+    template <typename Modification>
+    UniChaine & Modifie(Modification modification)
+    {
+        if (!mesTampons.load(std::memory_order_relaxed)) [[likely]] {
+            modification(monTexte);
+            return *this;
+        }
+        QString texte = monTexte;
+        modification(texte);
+        if (texte != monTexte) {
+            DetruisTampons();
+            monTexte = std::move(texte);
+        }
+        return *this;
+    }
+
     Tampons & PreteTampons() const;
     void OublieTampons() noexcept
     {

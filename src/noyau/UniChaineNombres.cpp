@@ -32,8 +32,9 @@ UniChaine UniChaine::DonneNombreFormatay(DLocale locale, int valeur)
 UniChaine UniChaine::DonnePourcentageFormatay(ContexteLocalisation const &, DLocale locale,
                                               double valeur, int decimales, bool sansSymbole)
 {
+    constexpr int kDecimalesMax = 64; // more than a double has to tell
     QLocale const format = locale.DonneQLocale();
-    QString texte = format.toString(valeur * 100.0, 'f', std::max(decimales, 0));
+    QString texte = format.toString(valeur * 100.0, 'f', std::clamp(decimales, 0, kDecimalesMax));
     if (sansSymbole)
         return UniChaine(texte);
     // QLocale has no percent pattern. French sets its sign off by the space that also groups its

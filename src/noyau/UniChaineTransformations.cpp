@@ -101,6 +101,14 @@ bool ContenuEstBalisage(QStringView nom)
            nom.compare(u"head", Qt::CaseInsensitive) == 0;
 }
 
+int ChiffreHexadecimal(QChar unite)
+{
+    if (unite >= u'0' && unite <= u'9')
+        return unite.unicode() - u'0';
+    QChar const minuscule(unite.unicode() | 0x20);
+    return minuscule >= u'a' && minuscule <= u'f' ? minuscule.unicode() - u'a' + 10 : -1;
+}
+
 // The reserved character that the inside of an entity ("amp", "#38", "#x26") stands for.
 std::optional<QChar> CaractereReservay(QStringView entite)
 {
@@ -114,21 +122,17 @@ std::optional<QChar> CaractereReservay(QStringView entite)
     char16_t code = 0;
     if (entite.startsWith(u'#')) {
         bool const hexadecimal = entite.mid(1).startsWith(u'x', Qt::CaseInsensitive);
-        code = entite.mid(hexadecimal ? 2 : 1).toUShort(nullptr, hexadecimal ? 16 : 10);
+        QStringView const chiffres = entite.mid(hexadecimal ? 2 : 1);
+        // Qt would also take blanks, a sign and a prefix.
+        if (std::all_of(chiffres.begin(), chiffres.end(),
+                        [](QChar unite) { return ChiffreHexadecimal(unite) >= 0; }))
+            code = chiffres.toUShort(nullptr, hexadecimal ? 16 : 10);
     }
     for (auto const & reservay : kReserves) {
         if (entite == reservay.nom || code == reservay.caractere)
             return QChar(reservay.caractere);
     }
     return std::nullopt;
-}
-
-int ChiffreHexadecimal(QChar unite)
-{
-    if (unite >= u'0' && unite <= u'9')
-        return unite.unicode() - u'0';
-    QChar const minuscule(unite.unicode() | 0x20);
-    return minuscule >= u'a' && minuscule <= u'f' ? minuscule.unicode() - u'a' + 10 : -1;
 }
 
 // The byte of the escape "%XX" at `position`, or -1.
@@ -247,9 +251,18 @@ qlonglong VersEntier(double nombre)
                              : static_cast<qlonglong>(nombre);
 }
 
+// What an integer of that many bytes is when it is read without its sign.
+qlonglong SansSigne(qlonglong bits, int octets)
+{
+    constexpr int kBitsParOctet = 8;
+    int const manquants = kBitsParOctet * (static_cast<int>(sizeof bits) - octets);
+    return static_cast<qlonglong>(static_cast<qulonglong>(bits) << manquants >> manquants);
+}
+
 struct Formateur
 {
     Conversion const & conversion;
+    int octets; // of an integer argument
 
     QString operator()(QString const & texte) const
     {
@@ -289,7 +302,7 @@ struct Formateur
         case 'x':
         case 'X':
         case 'o':
-            return FormateEntier(conversion, bits);
+            return FormateEntier(conversion, SansSigne(bits, octets));
         default:
             return FormateNombre(conversion, texte.toDouble());
         }
@@ -376,7 +389,7 @@ UniChaine & UniChaine::FormateListe(UniChaine const & modele,
             resultat.append(texte.at(i++));
             continue;
         }
-        resultat.append(std::visit(Formateur{*conversion}, argument->valeur));
+        resultat.append(std::visit(Formateur{*conversion, argument->octets}, argument->valeur));
         ++argument;
         i = conversion->fin;
     }

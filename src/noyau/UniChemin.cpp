@@ -41,6 +41,8 @@ UniChemin & UniChemin::AjouteComposantChemin(UniChemin const & composant)
             chemin.append(QDir::separator());
         while (!ajout.isEmpty() && EstSeparateur(ajout.front()))
             ajout = ajout.mid(1);
+        if (ajout.isEmpty())
+            return *this;
     }
     UniChaine::operator=(chemin + ajout.toString());
     return *this;
@@ -59,5 +61,6 @@ UniChaine UniChemin::DonneDernierComposantCheminSaufExtension() const
     QStringView const chemin = SansSeparateurFinal(texte);
     QStringView const nom = chemin.mid(DebutDernierComposant(chemin));
     qsizetype const point = nom.lastIndexOf(u'.');
-    return UniChaine((point > 0 ? nom.first(point) : nom).toString());
+    bool const aExtension = point > 0 && nom != u"..";
+    return UniChaine((aExtension ? nom.first(point) : nom).toString());
 }

@@ -32,6 +32,12 @@ public:
     UniChemin & AjouteComposantChemin(UniChemin const & composant);
     /// The parent: "/a/b" and "/a/b/" give "/a", "/a" gives "/", "a" and "" give "".
     UniChaine DonneChaineEnEnlevantDernierComposantChemin() const;
-    /// The file name without its last extension: "/a/b.tar.gz" gives "b.tar", ".profil" stays.
+    /// The file name without its last extension: "/a/b.tar.gz" gives "b.tar"; ".profil"
+    /// and ".." stay.
     UniChaine DonneDernierComposantCheminSaufExtension() const;
+};
+
+template <>
+struct std::hash<UniChemin> : std::hash<UniChaine>
+{
 };

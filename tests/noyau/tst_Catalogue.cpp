@@ -234,8 +234,14 @@ void tst_Catalogue::regles_data()
     QTest::newRow("form above those of the entry")
         << "nplurals=3; plural=2;"_ba << quint64(1) << aucune;
     QTest::newRow("negative form is the first") << "nplurals=2; plural=0-1;"_ba << quint64(5) << un;
-    QTest::newRow("division by zero") << "nplurals=2; plural=n/0;"_ba << quint64(5) << un;
-    QTest::newRow("remainder by zero") << "nplurals=2; plural=n%0;"_ba << quint64(5) << un;
+    QTest::newRow("division by zero") << "nplurals=2; plural=n/0;"_ba << quint64(5) << aucune;
+    QTest::newRow("division of the smallest integer by -1")
+        << "nplurals=2; plural=(0-2147483647-1)/(0-1);"_ba << quint64(5) << aucune;
+    QTest::newRow("remainder of the smallest integer by -1")
+        << "nplurals=2; plural=(0-2147483647-1)%(0-1);"_ba << quint64(5) << aucune;
+    QTest::newRow("remainder by a number that reads as -1")
+        << "nplurals=2; plural=(0-2147483647-1)%4294967295;"_ba << quint64(5) << aucune;
+    QTest::newRow("remainder by zero") << "nplurals=2; plural=n%0;"_ba << quint64(5) << aucune;
     QTest::newRow("malformed, 1, as in English")
         << "nplurals=2; plural=n>>;"_ba << quint64(1) << un;
     QTest::newRow("malformed, 2") << "nplurals=2; plural=n>>;"_ba << quint64(2) << plusieurs;

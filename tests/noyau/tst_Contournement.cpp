@@ -55,6 +55,8 @@ private Q_SLOTS:
     void fichierEcritALaMain();
     void changementDeFichier();
     void cheminInutilisable();
+    void clesQuiSeRessemblent_data();
+    void clesQuiSeRessemblent();
     void filsSimultanes();
 
 private:
@@ -177,6 +179,29 @@ void tst_Contournement::cheminInutilisable()
     Contournement::EcrisBool(kCle, kNom, true);
     Contournement::Efface(kCle, kNom);
     QCOMPARE(Lis(), kAbsent);
+}
+
+void tst_Contournement::clesQuiSeRessemblent_data()
+{
+    QTest::addColumn<bool>("enFichier");
+    QTest::newRow("in memory") << false;
+    QTest::newRow("in the file") << true;
+}
+
+// Slashes and empty parts are part of a key or a name; they neither join nor widen it.
+void tst_Contournement::clesQuiSeRessemblent()
+{
+    QFETCH(bool, enFichier);
+    Contournement::MetsFichier(enFichier ? UniChemin(Fichier()) : UniChemin());
+    Contournement::EcrisBool("a/b", "c", true);
+    QCOMPARE(Lis("a/b", "c"), kVrai);
+    QCOMPARE(Lis("a", "b/c"), kAbsent);
+    QCOMPARE(Lis("a%2Fb", "c"), kAbsent);
+    Contournement::EcrisBool("", "", false);
+    QCOMPARE(Lis("", ""), kFaux);
+    Contournement::Efface("", "");
+    QCOMPARE(Lis("", ""), kAbsent);
+    QCOMPARE(Lis("a/b", "c"), kVrai);
 }
 
 void tst_Contournement::filsSimultanes()

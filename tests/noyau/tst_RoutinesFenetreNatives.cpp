@@ -90,6 +90,8 @@ void tst_RoutinesFenetreNatives::fenetreEnfant()
     HWND const liste = mesFenetres->Ajoute({.classe = u"Liste"_s, .parent = cadre});
     QCOMPARE(DonneHwndFenetreEnfant(maFenetre, u"Cadre"_s), cadre);
     QCOMPARE(DonneHwndFenetreEnfant(maFenetre, u"Liste"_s), liste);
+    HWND const listeDirecte = mesFenetres->Ajoute({.classe = u"Liste"_s, .parent = maFenetre});
+    QCOMPARE(DonneHwndFenetreEnfant(maFenetre, u"Liste"_s), listeDirecte);
     QCOMPARE(DonneHwndFenetreEnfant(liste, u"Cadre"_s), nullptr);
     QCOMPARE(DonneHwndFenetreEnfant(nullptr, u"Liste"_s), nullptr);
 }

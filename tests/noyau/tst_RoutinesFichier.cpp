@@ -70,6 +70,9 @@ void tst_RoutinesFichier::fichierExiste()
 {
     using RoutinesFichier::FichierExiste;
     QVERIFY(FichierExiste(UniChaine(monDossier->filePath(u"a.txt"_s))));
+    QVERIFY(!FichierExiste(UniChaine(monDossier->path())));
+    if (QFile::exists(u"/dev/null"_s))
+        QVERIFY(FichierExiste("/dev/null"));
     QVERIFY(FichierExiste(UniChemin(monDossier->filePath(u"Été.exe"_s))));
     QVERIFY(FichierExiste(UniChaine(":/fichiers/NoyauFr.mo")));
     QVERIFY(!FichierExiste(UniChaine(monDossier->filePath(u"absent"_s))));

@@ -57,6 +57,8 @@ private Q_SLOTS:
     void pretsStables();
     void pretsRenouveles_data();
     void pretsRenouveles();
+    void pretsGardesSansChangement_data();
+    void pretsGardesSansChangement();
     void pretsDUneCopie();
     void pretsEntreFils();
     void tamponDeLAppelant_data();
@@ -91,6 +93,9 @@ void tst_UniChaine::construitDepuisUtf8_data()
     QTest::newRow("four-byte character is two units")
         << "\xF0\x9F\x98\x80"_ba << -1 << Unites({kHaut, kBas});
     QTest::newRow("length 0 reads nothing") << "abc"_ba << 0 << QString();
+    QTest::newRow("U+FEFF at the start is a unit") << "\xEF\xBB\xBF\xEF\xBB\xBF"
+                                                      "a"_ba
+                                                   << -1 << Unites({0xFEFF, 0xFEFF, u'a'});
     QTest::newRow("length counts bytes") << "\xC3\xA9t\xC3\xA9"_ba << 3 << u"ét"_s;
     QTest::newRow("NUL within the length is a unit")
         << QByteArray("a\0b", 3) << 3 << Unites({u'a', 0, u'b'});
@@ -134,6 +139,8 @@ void tst_UniChaine::construitDepuisStdString()
     QCOMPARE(QString(UniChaine(std::string("d\xC3\xA9j\xC3\xA0"), UniChaine::kUTF8)), u"déjà"_s);
     QCOMPARE(UniChaine(std::string("a\0b", 3)).Longueur(), 3U);
     QVERIFY(UniChaine(std::string()).EstVide());
+    UniChaine const marquee(Unites({0xFEFF, u'a'}));
+    QCOMPARE(QString(UniChaine(to_string(marquee))), QString(marquee));
 }
 
 void tst_UniChaine::construitDepuisLarge_data()
@@ -383,6 +390,43 @@ void tst_UniChaine::pretsRenouveles()
     QVERIFY(QString(chaine) != avant);
     QCOMPARE(QString::fromUtf8(chaine.PreteUTF8()), QString(chaine));
     QCOMPARE(QString::fromWCharArray(chaine.PreteUniCString()), QString(chaine));
+}
+
+void tst_UniChaine::pretsGardesSansChangement_data()
+{
+    using Operation = std::function<void(UniChaine &)>;
+    QTest::addColumn<Operation>("operation");
+    auto const ligne = [](char const * nom, Operation const & operation) {
+        QTest::newRow(nom) << operation;
+    };
+    ligne("assignment to itself", [](UniChaine & c) { c = *&c; });
+    ligne("assignment of the same text", [](UniChaine & c) { c = QString(c); });
+    ligne("append nothing", [](UniChaine & c) { c += UniChaine(); });
+    ligne("prepend nothing", [](UniChaine & c) { c.AjouteDebut(UniChaine()); });
+    ligne("chop nothing", [](UniChaine & c) { c.EnleveFin(0); });
+    ligne("replace what is absent", [](UniChaine & c) { c.Remplace("absent", "x"); });
+    ligne("replace an absent unit", [](UniChaine & c) { c.Remplace(L'z', L'x'); });
+    ligne("replace an empty stretch", [](UniChaine & c) { c.Remplace(1, 0, UniChaine()); });
+    ligne("trim what has no blanks", [](UniChaine & c) { c.NettoieBlancs(); });
+    ligne("collapse single blanks", [](UniChaine & c) { c.ConsolideBlancs(); });
+    ligne("upper case of capitals", [](UniChaine & c) { c.Majusculise(); });
+    ligne("remove absent markup", [](UniChaine & c) { c.NettoieHTML(); });
+    ligne("decode absent entities", [](UniChaine & c) { c.DecodeCaracteresReservesHTML(); });
+}
+
+void tst_UniChaine::pretsGardesSansChangement()
+{
+    using Operation = std::function<void(UniChaine &)>;
+    QFETCH(Operation, operation);
+    UniChaine chaine("UN ÉTÉ");
+    char const * const utf8 = chaine.PreteUTF8();
+    wchar_t const * const large = chaine.PreteUniCString();
+
+    operation(chaine);
+
+    QCOMPARE(chaine.PreteUTF8(), utf8);
+    QCOMPARE(chaine.PreteUniCString(), large);
+    QCOMPARE(QString::fromUtf8(utf8), u"UN ÉTÉ"_s);
 }
 
 void tst_UniChaine::pretsDUneCopie()

@@ -109,6 +109,9 @@ void tst_UniChaineNombres::pourcentage_data()
     int const francais = kLangueFrancais;
     int const anglais = kLangueAnglais;
     QString const signe = QLocale(QLocale::French).groupSeparator() + u'%';
+    QTest::newRow("no more decimals than a double has to tell")
+        << anglais << 0.5 << std::numeric_limits<int>::max() << true
+        << u"50."_s + QString(64, u'0');
     QTest::newRow("French comma, space, sign")
         << francais << 0.125 << 1 << false << u"12,5"_s + signe;
     QTest::newRow("English point and sign") << anglais << 0.125 << 1 << false << u"12.5%"_s;

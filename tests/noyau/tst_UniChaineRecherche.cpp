@@ -366,6 +366,14 @@ void tst_UniChaineRecherche::remplaceUnite()
     UniChaine chaine("a/b/c");
     QCOMPARE(&chaine.Remplace(L'/', L'\\'), &chaine);
     QCOMPARE(QString(chaine), u"a\\b\\c"_s);
+    if constexpr (sizeof(wchar_t) > sizeof(char16_t)) {
+        // No unit is U+1F600, not even the one that its low 16 bits would be.
+        UniChaine privee(QString(QChar(0xF600)));
+        privee.Remplace(static_cast<wchar_t>(0x1F600), L'x');
+        QCOMPARE(QString(privee), QString(QChar(0xF600)));
+        privee.Remplace(static_cast<wchar_t>(0xF600), static_cast<wchar_t>(0x1F600));
+        QCOMPARE(QString(privee), u"\U0001F600"_s);
+    }
     chaine.Remplace(L'x', L'y');
     QCOMPARE(QString(chaine), u"a\\b\\c"_s);
 }

@@ -104,6 +104,8 @@ void tst_UniChaineTransformations::decodeReserves_data()
     QTest::newRow("no semicolon") << u"&lt &amp"_s << u"&lt &amp"_s;
     QTest::newRow("the case of names counts") << u"&LT;"_s << u"&LT;"_s;
     QTest::newRow("number out of range stays") << u"&#65596;"_s << u"&#65596;"_s;
+    QTest::newRow("blank, sign, second prefix")
+        << u"&# 38;&#+38;&#x0x26;"_s << u"&# 38;&#+38;&#x0x26;"_s;
     QTest::newRow("no number") << u"&#;&#x;&;"_s << u"&#;&#x;&;"_s;
     QTest::newRow("ampersand before an entity") << u"a & b &lt; c"_s << u"a & b < c"_s;
     QTest::newRow("ampersand at the end") << u"a&"_s << u"a&"_s;
@@ -180,6 +182,10 @@ void tst_UniChaineTransformations::formatEntier()
     QCOMPARE(QString(chaine), u"-42 7 42"_s);
     chaine.Format(UniChaine("%x %X %o"), 255, 255, 8);
     QCOMPARE(QString(chaine), u"ff FF 10"_s);
+    chaine.Format(UniChaine("%x %u %hx %llx"), -1, -2, short(-1), -1LL);
+    QCOMPARE(QString(chaine), u"ffffffff 4294967294 ffff ffffffffffffffff"_s);
+    chaine.Format(UniChaine("%s"), L"é");
+    QCOMPARE(QString(chaine), u"é"_s);
     chaine.Format(UniChaine("%05d|%-5d|%+d|%5d"), 42, 42, 42, 42);
     QCOMPARE(QString(chaine), u"00042|42   |+42|   42"_s);
     chaine.Format(UniChaine("%c%c"), 'A', L'é');

@@ -77,6 +77,7 @@ void tst_UniChemin::ajouteComposant_data()
     QTest::newRow("empty path") << QString() << u"b"_s << u"b"_s;
     QTest::newRow("empty path, component from the root") << QString() << u"/b"_s << u"/b"_s;
     QTest::newRow("empty component") << u"a"_s << QString() << u"a"_s;
+    QTest::newRow("nothing but a separator") << u"a"_s << u"/"_s << u"a"_s;
     QTest::newRow("both empty") << QString() << QString() << QString();
     QTest::newRow("resource") << u":/fichiers/"_s << u"a.mo"_s << u":/fichiers/a.mo"_s;
 }
@@ -123,6 +124,8 @@ void tst_UniChemin::nomSansExtension_data()
     QTest::addColumn<QString>("chemin");
     QTest::addColumn<QString>("attendu");
     QTest::newRow("extension") << u"/a/b.txt"_s << u"b"_s;
+    QTest::newRow("parent folder") << u"/a/.."_s << u".."_s;
+    QTest::newRow("folder itself") << u"/a/."_s << u"."_s;
     QTest::newRow("only the last extension") << u"/a/b.tar.gz"_s << u"b.tar"_s;
     QTest::newRow("no extension") << u"/a/b"_s << u"b"_s;
     QTest::newRow("point of a folder is none of the file") << u"/a.d/b"_s << u"b"_s;

@@ -411,9 +411,12 @@ HWND FenetresSimulees::DonneEnfantDeClasse(HWND parent, QString const & classe)
 {
     if (!parent)
         return nullptr;
-    for (HWND const enfant : DonneEnfants(parent)) {
+    auto const enfants = DonneEnfants(parent);
+    for (HWND const enfant : enfants) {
         if (Prete(enfant).classe.compare(classe, Qt::CaseInsensitive) == 0)
             return enfant;
+    }
+    for (HWND const enfant : enfants) {
         if (HWND const trouvee = DonneEnfantDeClasse(enfant, classe))
             return trouvee;
     }

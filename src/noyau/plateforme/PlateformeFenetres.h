@@ -96,7 +96,7 @@ public:
     virtual QString DonneNomClasse(HWND fenetre) = 0;
     /// The path of the executable that owns the window; empty when it can't be told.
     virtual QString DonneExecutable(HWND fenetre) = 0;
-    /// The first child of that class at any depth below `parent`, null when there is none.
+    /// The first child of that class, or else the first below a child; null when there is none.
     virtual HWND DonneEnfantDeClasse(HWND parent, QString const & classe) = 0;
 
 protected:

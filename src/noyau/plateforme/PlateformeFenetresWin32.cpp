@@ -175,6 +175,8 @@ public:
     {
         if (!parent || classe.isEmpty()) // without a parent the walk is over the whole desktop
             return nullptr;
+        if (HWND const enfant = ::FindWindowExW(parent, nullptr, DonneTexte(classe), nullptr))
+            return enfant;
         RechercheEnfant recherche{classe};
         ::EnumChildWindows(parent, ExamineEnfant, reinterpret_cast<LPARAM>(&recherche));
         return recherche.trouvee;

@@ -267,9 +267,12 @@ DWORD PlateformeFenetresX11::DonneProcessus(xcb_window_t fenetre) const
 
 xcb_window_t PlateformeFenetresX11::TrouveEnfant(xcb_window_t parent, QString const & classe) const
 {
-    for (xcb_window_t const enfant : maConnexion.DonneEnfants(parent)) {
+    auto const enfants = maConnexion.DonneEnfants(parent);
+    for (xcb_window_t const enfant : enfants) {
         if (DonneClasse(enfant).compare(classe, Qt::CaseInsensitive) == 0)
             return enfant;
+    }
+    for (xcb_window_t const enfant : enfants) {
         if (xcb_window_t const trouvee = TrouveEnfant(enfant, classe); trouvee != XCB_NONE)
             return trouvee;
     }

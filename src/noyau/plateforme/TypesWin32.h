@@ -32,8 +32,6 @@ using HWND = HWND__ *;
 using HMONITOR = HMONITOR__ *;
 using HINSTANCE = HINSTANCE__ *;
 
-using BOOL = int;
-using BYTE = std::uint8_t;
 using DWORD = std::uint32_t;
 using UINT = std::uint32_t;
 using LONG = std::int32_t;
@@ -43,7 +41,6 @@ using DWORD_PTR = std::uintptr_t;
 using WPARAM = std::uintptr_t;
 using LPARAM = std::intptr_t;
 using LRESULT = std::intptr_t;
-using COLORREF = std::uint32_t;
 
 struct RECT
 {

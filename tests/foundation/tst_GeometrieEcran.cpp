@@ -6,6 +6,8 @@
 
 #include <QDialog>
 #include <QPointer>
+#include <QScreen>
+#include <QStyle>
 #include <QTemporaryFile>
 
 #include <optional>

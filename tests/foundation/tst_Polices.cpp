@@ -4,6 +4,7 @@
 
 #include <QtTest>
 
+#include <QDialog>
 #include <QFontInfo>
 #include <QTemporaryFile>
 

@@ -35,7 +35,9 @@ FABRELGUI_EXPORT QSize DonneResolutionEcran(QScreen * ecran);
 /// true the widget gets an event of the type `QEvent::User` (1000), on which it may adjust itself
 /// again. What widgets adjust while they handle it starts no further round.
 FABRELGUI_EXPORT void AjusteDansEcran(QRect & rect, bool avecMarge, bool force, bool redimensionne);
-/// The same for the frame of a widget at its position; moves and resizes it only on a change.
+/// The same for the frame of a widget at its position: moves it when its frame has to move or to
+/// shrink, and with `redimensionne` gives it the smaller size. Without that flag the size never
+/// changes, however large the widget is.
 FABRELGUI_EXPORT void AjusteDansEcran(QWidget & widget, bool avecMarge, bool force,
                                       bool redimensionne);
 
@@ -73,10 +75,11 @@ FABRELGUI_EXPORT void CentrageWidgetDansParentOuEcran(QWidget * widget, bool plu
 
 /// Moves `widget`, not null, to the place nearest to `rect` at which it is inside the screen and
 /// clear of three rectangles, and returns the direction that it took. All rectangles are in global
-/// coordinates; an empty one is nowhere in the way.
+/// coordinates, and a null one is nowhere in the way.
 ///
 /// It goes `ecart` pixels above `rectC`, and as `direction` says `ecart` pixels above `rectA`; last
-/// to the left of `rectB`.
+/// to the left of `rectB`. With `kAuDessus` it goes above `rectA` whether that is in the way or
+/// not, even a null one, whose top is the origin; with `kEnDessous` it stays even on `rectA`.
 FABRELGUI_EXPORT eDirectionAffichage
 DeplaceFenetreSiSorsDeLecranOuSurRect(QWidget * widget, QRect rect, QRect rectA, QRect rectB,
                                       QRect rectC, int ecart, eDirectionAffichage direction);

@@ -6,6 +6,8 @@
 
 #include <QDialog>
 #include <QPointer>
+#include <QScreen>
+#include <QStyle>
 #include <QTemporaryFile>
 
 #include <optional>
@@ -142,6 +144,7 @@ private Q_SLOTS:
     void ajusteRectSelonSonCentre();
     void ajusteWidget();
     void ajusteWidgetInchangay();
+    void ajusteWidgetRedimensionne_data();
     void ajusteWidgetRedimensionne();
     void ajusteCadreDeFenetre();
     void annonceAjustement();
@@ -283,14 +286,39 @@ void tst_GeometrieEcran::ajusteWidgetInchangay()
     QCOMPARE(fenetre.deplacements, 0);
 }
 
+void tst_GeometrieEcran::ajusteWidgetRedimensionne_data()
+{
+    QTest::addColumn<QRect>("geometrie");
+    QTest::addColumn<bool>("force");
+    QTest::addColumn<bool>("redimensionne");
+    QTest::addColumn<QRect>("resultat");
+    // The screen is 1600 by 1400.
+    QRect const large(100, 100, 2000, 300);
+    QTest::newRow("too wide, flag off") << large << false << false << large;
+    QTest::newRow("too wide, flag on") << large << false << true << QRect(100, 100, 1590, 300);
+    QTest::newRow("too wide and moved, flag off")
+        << large << true << false << QRect(5, 100, 2000, 300);
+    QTest::newRow("too wide and moved, flag on")
+        << large << true << true << QRect(5, 100, 1585, 300);
+    QRect const haute(100, -10, 300, 2000);
+    QTest::newRow("too high, flag off") << haute << false << false << QRect(100, 5, 300, 2000);
+    QTest::newRow("too high, flag on")
+        << haute << false << true << QRect(100, 5, 300, 1385 - HauteurTitre());
+    QRect const petite(100, 100, 300, 200);
+    QTest::newRow("fits, flag off") << petite << false << false << petite;
+    QTest::newRow("fits, flag on") << petite << false << true << petite;
+}
+
 void tst_GeometrieEcran::ajusteWidgetRedimensionne()
 {
+    QFETCH(QRect, geometrie);
+    QFETCH(bool, force);
+    QFETCH(bool, redimensionne);
+    QFETCH(QRect, resultat);
     FenetreTemoin fenetre;
-    fenetre.setGeometry(100, 100, 2000, 300);
-    AjusteDansEcran(fenetre, true, false, false);
-    QCOMPARE(fenetre.size(), QSize(2000, 300));
-    AjusteDansEcran(fenetre, true, false, true);
-    QCOMPARE(fenetre.geometry(), QRect(100, 100, 1590, 300));
+    fenetre.setGeometry(geometrie);
+    AjusteDansEcran(fenetre, true, force, redimensionne);
+    QCOMPARE(fenetre.geometry(), resultat);
 }
 
 void tst_GeometrieEcran::ajusteCadreDeFenetre()

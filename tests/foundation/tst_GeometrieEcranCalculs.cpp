@@ -29,6 +29,8 @@ private Q_SLOTS:
     void placeDansEcran();
     void direction_data();
     void direction();
+    void directionRectangleNul_data();
+    void directionRectangleNul();
     void placeHorsDeBEtC_data();
     void placeHorsDeBEtC();
     void tailleOptimale_data();
@@ -315,6 +317,32 @@ void tst_GeometrieEcranCalculs::direction()
     QCOMPARE(placement.direction, prise);
     // Ten free rows between the two.
     QCOMPARE(placement.coin, deplacee ? QPoint(120, 350) : rect.topLeft());
+}
+
+void tst_GeometrieEcranCalculs::directionRectangleNul_data()
+{
+    QTest::addColumn<eDirectionAffichage>("voulue");
+    QTest::addColumn<QPoint>("coin");
+    QTest::addColumn<eDirectionAffichage>("prise");
+    QPoint const surPlace(120, 420);
+    QTest::newRow("none: below") << kDirectionAucune << surPlace << kEnDessous;
+    QTest::newRow("above by force: stays") << kAuDessusForce << surPlace << kAuDessusForce;
+    // Deliberate: above is above, though there is nothing to be above of. The top of a null
+    // rectangle is 0, so the last row is ten above that, out of the screen.
+    QTest::newRow("above: above the origin all the same")
+        << kAuDessus << QPoint(120, -50) << kAuDessus;
+    QTest::newRow("below") << kEnDessous << surPlace << kEnDessous;
+}
+
+void tst_GeometrieEcranCalculs::directionRectangleNul()
+{
+    QFETCH(eDirectionAffichage, voulue);
+    QFETCH(QPoint, coin);
+    QFETCH(eDirectionAffichage, prise);
+    Obstacles const obstacles = {QRect(0, 0, 1000, 800), {}, QRect(), QRect(), QRect(), 10};
+    Placement const placement = PlaceHorsDe(obstacles, QRect(120, 420, 50, 40), voulue);
+    QCOMPARE(placement.coin, coin);
+    QCOMPARE(placement.direction, prise);
 }
 
 void tst_GeometrieEcranCalculs::placeHorsDeBEtC_data()

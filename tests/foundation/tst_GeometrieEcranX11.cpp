@@ -3,7 +3,9 @@
 
 #include <QtTest>
 
+#include <QCursor>
 #include <QDialog>
+#include <QScreen>
 #include <QWindow>
 
 #include <memory>
@@ -20,6 +22,8 @@ private Q_SLOTS:
     void parentTransitoireEtranger();
     void proprietaireNatif();
     void parentDetruit();
+    void dialogueSansParent_data();
+    void dialogueSansParent();
 };
 
 void tst_GeometrieEcranX11::initTestCase()
@@ -101,6 +105,42 @@ void tst_GeometrieEcranX11::parentDetruit()
     RoutinesFenetre::CentrageWidgetDansParentOuEcran(&dialogue, false);
 
     QCOMPARE(dialogue.pos(), attendu.topLeft());
+}
+
+void tst_GeometrieEcranX11::dialogueSansParent_data()
+{
+    QTest::addColumn<Qt::WindowFlags>("drapeaux");
+    QTest::addColumn<bool>("modal");
+    QTest::newRow("plain") << Qt::WindowFlags(Qt::Dialog) << false;
+    QTest::newRow("modal") << Qt::WindowFlags(Qt::Dialog) << true;
+    QTest::newRow("without the window manager")
+        << (Qt::Dialog | Qt::X11BypassWindowManagerHint) << false;
+    QTest::newRow("modal without the window manager")
+        << (Qt::Dialog | Qt::X11BypassWindowManagerHint) << true;
+}
+
+void tst_GeometrieEcranX11::dialogueSansParent()
+{
+    QFETCH(Qt::WindowFlags, drapeaux);
+    QFETCH(bool, modal);
+    // Qt gives such a dialog an owner all the same: a hidden window of its own, at the origin.
+    QDialog dialogue(nullptr, drapeaux);
+    dialogue.setModal(modal);
+    dialogue.resize(200, 100);
+    dialogue.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&dialogue));
+    QTRY_COMPARE(dialogue.frameSize() != dialogue.size(),
+                 !drapeaux.testFlag(Qt::X11BypassWindowManagerHint));
+    QSize const cadre = dialogue.frameSize();
+    QRect const ecran = RoutinesGeneralesQt::EcranLePlusProche(QCursor::pos())->availableGeometry();
+    QPointF const centre = QRectF(ecran).center() - QPoint(cadre.width() / 2, cadre.height() / 2);
+
+    RoutinesFenetre::CentrageWidgetDansParentOuEcran(&dialogue, false);
+
+    QTRY_COMPARE(dialogue.pos(), centre.toPoint());
+    RoutinesFenetre::CentrageWidgetDansParentOuEcran(&dialogue, true);
+    QCOMPARE(dialogue.pos().x(), centre.toPoint().x());
+    QTRY_VERIFY(dialogue.pos().y() < centre.toPoint().y() - ecran.height() / 5);
 }
 
 QTEST_MAIN(tst_GeometrieEcranX11)

@@ -4,6 +4,7 @@
 
 #include <QtTest>
 
+#include <QDialog>
 #include <QFontInfo>
 #include <QTemporaryFile>
 
@@ -15,6 +16,8 @@ using namespace RoutinesGeneralesQt;
 namespace {
 
 constexpr char kOptionModulateur[] = "--modulateur";
+
+constexpr char kResolution[] = "QT_FONT_DPI"; // dots per inch, whatever the screen has
 
 QFont FontEnPoints(double points)
 {
@@ -28,11 +31,6 @@ QFont FontEnPixels(int pixels)
     QFont font;
     font.setPixelSize(pixels);
     return font;
-}
-
-int PixelsPour(double points, double modulateur)
-{
-    return static_cast<int>(std::ceil(QFontInfo(FontEnPoints(points)).pixelSize() / modulateur));
 }
 
 // Notes the widgets whose font changes, by name.
@@ -132,14 +130,13 @@ void tst_Polices::libereInstance()
 
 void tst_Polices::modulateurACalculer()
 {
-    double const calcule = QGuiApplication::primaryScreen()->logicalDotsPerInchX() / 96.0;
-    QCOMPARE(ModulateurFont::DonneModulateurCalculee(), calcule);
+    QCOMPARE(ModulateurFont::DonneModulateurCalculee(), 1.0); // see below for another resolution
 
     ModulateurFont * const modulateur = ModulateurFont::Instance();
     modulateur->PrendsModulateur(-1.0);
     QCOMPARE(modulateur->DonneModulateurEffectif(), -1.0);
-    QCOMPARE(ModulateurFont::Instance()->DonneModulateurEffectif(), calcule);
-    QCOMPARE(modulateur->DonneModulateurEffectif(), calcule);
+    QCOMPARE(ModulateurFont::Instance()->DonneModulateurEffectif(), 1.0);
+    QCOMPARE(modulateur->DonneModulateurEffectif(), 1.0);
 
     // Only exactly -1.0 asks for it.
     modulateur->PrendsModulateur(-1.5);
@@ -172,37 +169,52 @@ void tst_Polices::prendsModulateur()
 void tst_Polices::pointsVersPixels_data()
 {
     QTest::addColumn<double>("points");
+    QTest::addColumn<int>("pixels"); // what the font's info answers for these points
     QTest::addColumn<double>("modulateur");
-    for (double const points : {1.0, 8.0, 10.0, 10.5, 12.0, 36.0}) {
-        for (double const modulateur : {0.5, 1.0, 1.25, 1.5, 2.0})
-            QTest::addRow("%g points at %g", points, modulateur) << points << modulateur;
+    QTest::addColumn<int>("modules");
+    struct
+    {
+        double points;
+        int pixels;
+        int modules[5];
+    } const tailles[] = {
+        {1.0, 1, {2, 1, 1, 1, 1}},       {8.0, 11, {22, 11, 9, 8, 6}},
+        {10.0, 13, {26, 13, 11, 9, 7}},  {10.5, 14, {28, 14, 12, 10, 7}},
+        {12.0, 16, {32, 16, 13, 11, 8}}, {36.0, 48, {96, 48, 39, 32, 24}},
+    };
+    double const modulateurs[] = {0.5, 1.0, 1.25, 1.5, 2.0};
+    for (auto const & taille : tailles) {
+        for (std::size_t i = 0; i < std::size(modulateurs); ++i)
+            QTest::addRow("%g points at %g", taille.points, modulateurs[i])
+                << taille.points << taille.pixels << modulateurs[i] << taille.modules[i];
     }
 }
 
 void tst_Polices::pointsVersPixels()
 {
     QFETCH(double, points);
+    QFETCH(int, pixels);
     QFETCH(double, modulateur);
+    QFETCH(int, modules);
+    QCOMPARE(QFontInfo(FontEnPoints(points)).pixelSize(), pixels);
     ModulateurFont::Instance()->PrendsModulateur(modulateur);
     QFont const font = ModulateurFont::Instance()->DonneFontPointVersPixels(points, QFont());
-    QCOMPARE(font.pixelSize(), PixelsPour(points, modulateur));
+    QCOMPARE(font.pixelSize(), modules);
     QCOMPARE(font.pointSize(), -1);
 }
 
 void tst_Polices::pointsVersPixelsArrondisVersLeHaut()
 {
-    int const pixels = QFontInfo(FontEnPoints(10.0)).pixelSize();
-    QVERIFY(pixels > 1);
     ModulateurFont * const modulateur = ModulateurFont::Instance();
-    modulateur->PrendsModulateur(pixels * 2.0); // half a pixel
+    QCOMPARE(QFontInfo(FontEnPoints(10.0)).pixelSize(), 13);
+    modulateur->PrendsModulateur(26.0); // half a pixel
     QCOMPARE(modulateur->DonneFontPointVersPixels(10.0, QFont()).pixelSize(), 1);
-    modulateur->PrendsModulateur(pixels); // exactly one
+    modulateur->PrendsModulateur(13.0); // exactly one
     QCOMPARE(modulateur->DonneFontPointVersPixels(10.0, QFont()).pixelSize(), 1);
-    modulateur->PrendsModulateur(pixels / 1.01); // a little more than one
+    modulateur->PrendsModulateur(12.9); // a little more than one
     QCOMPARE(modulateur->DonneFontPointVersPixels(10.0, QFont()).pixelSize(), 2);
-    modulateur->PrendsModulateur(1.5);
-    if (pixels == 13) // at 96 dots per inch
-        QCOMPARE(modulateur->DonneFontPointVersPixels(10.0, QFont()).pixelSize(), 9);
+    modulateur->PrendsModulateur(1.5); // 13 / 1.5 is 8.67
+    QCOMPARE(modulateur->DonneFontPointVersPixels(10.0, QFont()).pixelSize(), 9);
 }
 
 void tst_Polices::pointsVersPixelsGardeLeReste()
@@ -222,9 +234,7 @@ void tst_Polices::pointsVersPixelsParFamille()
     QFont const font = ModulateurFont::Instance()->DonneFontPointVersPixels(10.0, u"Une police"_s);
     QCOMPARE(font.family(), u"Une police"_s);
     QVERIFY(!font.italic());
-    QFont attendue(u"Une police"_s, -1, -1, false);
-    attendue.setPointSizeF(10.0);
-    QCOMPARE(font.pixelSize(), QFontInfo(attendue).pixelSize());
+    QCOMPARE(font.pixelSize(), 13);
 }
 
 void tst_Polices::pointsVersPixelsAvecDiff()
@@ -233,39 +243,35 @@ void tst_Polices::pointsVersPixelsAvecDiff()
     modulateur->PrendsModulateur(1.5);
     QFont const enPoints = FontEnPoints(12.0);
     QCOMPARE(modulateur->DonneFontPointVersPixelsAvecDiff(enPoints, 2.5).pixelSize(),
-             PixelsPour(14.5, 1.5));
+             13); // 14.5 points are 19
     QCOMPARE(modulateur->DonneFontPointVersPixelsAvecDiff(enPoints, -4.0).pixelSize(),
-             PixelsPour(8.0, 1.5));
-    // A font in pixels is read with the modulator.
-    QFont const enPixels = FontEnPixels(20);
-    double const points = QFontInfo(FontEnPixels(30)).pointSizeF();
-    QCOMPARE(modulateur->DonneFontPointVersPixelsAvecDiff(enPixels, 3.0).pixelSize(),
-             PixelsPour(points + 3.0, 1.5));
+             8); // 8 points are 11
+    // A font in pixels is read with the modulator: 30 pixels are 22.5 points, and 25.5 points 34.
+    QCOMPARE(modulateur->DonneFontPointVersPixelsAvecDiff(FontEnPixels(20), 3.0).pixelSize(), 23);
 }
 
 void tst_Polices::pixelSize_data()
 {
     QTest::addColumn<QFont>("font");
     QTest::addColumn<int>("brute");
-    QTest::addColumn<bool>("enPixels");
-    QTest::newRow("sized in pixels") << FontEnPixels(15) << 15 << true;
-    QTest::newRow("sized in points")
-        << FontEnPoints(10.0) << QFontInfo(FontEnPoints(10.0)).pixelSize() << false;
+    QTest::addColumn<int>("avec");
+    QTest::addColumn<int>("sansMod");
+    // Deliberate: only a size that comes from points is modulated in the one, and any in the other.
+    QTest::newRow("sized in pixels") << FontEnPixels(15) << 15 << 15 << 26;   // 25.5
+    QTest::newRow("sized in points") << FontEnPoints(10.0) << 13 << 23 << 23; // 22.1
 }
 
 void tst_Polices::pixelSize()
 {
     QFETCH(QFont, font);
     QFETCH(int, brute);
-    QFETCH(bool, enPixels);
+    QFETCH(int, avec);
+    QFETCH(int, sansMod);
     ModulateurFont * const modulateur = ModulateurFont::Instance();
     modulateur->PrendsModulateur(1.7);
-    int const modulee = static_cast<int>(std::ceil(brute * 1.7));
-    QVERIFY(modulee != brute);
     QCOMPARE(modulateur->DonnePixelSizeDeFont(font, false), brute);
-    // Deliberate: only a size that comes from points is modulated here, and any size there.
-    QCOMPARE(modulateur->DonnePixelSizeDeFont(font, true), enPixels ? brute : modulee);
-    QCOMPARE(modulateur->DonnePixelSizeDeFontSansMod(font), modulee);
+    QCOMPARE(modulateur->DonnePixelSizeDeFont(font, true), avec);
+    QCOMPARE(modulateur->DonnePixelSizeDeFontSansMod(font), sansMod);
 }
 
 void tst_Polices::pointSize_data()
@@ -278,8 +284,7 @@ void tst_Polices::pointSize_data()
     double const demi = FontEnPoints(10.5).pointSize();
     QTest::newRow("a half becomes what the font answers") << FontEnPoints(10.5) << demi << demi;
     QTest::newRow("pixels, rounded up")
-        << FontEnPixels(15) << QFontInfo(FontEnPixels(15)).pointSizeF()
-        << QFontInfo(FontEnPixels(26)).pointSizeF(); // 15 * 1.7 is 25.5
+        << FontEnPixels(15) << 11.25 << 19.5; // 15 * 1.7 is 25.5: 26 pixels
 }
 
 void tst_Polices::pointSize()
@@ -304,25 +309,25 @@ void tst_Polices::unites()
 void tst_Polices::ajusteTaille_data()
 {
     QTest::addColumn<int>("difference");
-    QTest::addColumn<double>("points");
-    QTest::newRow("larger") << 3 << 15.0;
-    QTest::newRow("none") << 0 << 12.0;
-    QTest::newRow("smaller") << -4 << 8.0;
-    QTest::newRow("just above the least") << -10 << 2.0;
-    QTest::newRow("the least") << -11 << 1.0;
-    QTest::newRow("never below the least") << -12 << 1.0;
-    QTest::newRow("far below the least") << -100 << 1.0;
+    QTest::addColumn<int>("pixels");
+    QTest::newRow("larger") << 3 << 40;
+    QTest::newRow("none") << 0 << 32;
+    QTest::newRow("smaller") << -4 << 22;
+    QTest::newRow("just above the least") << -10 << 6; // 2 points are 3
+    QTest::newRow("the least") << -11 << 2;            // 1 point is 1
+    QTest::newRow("never below the least") << -12 << 2;
+    QTest::newRow("far below the least") << -100 << 2;
 }
 
 void tst_Polices::ajusteTaille()
 {
     QFETCH(int, difference);
-    QFETCH(double, points);
+    QFETCH(int, pixels);
     ModulateurFont::Instance()->PrendsModulateur(0.5); // so that sizes of a point differ
     QWidget widget;
     widget.setFont(FontEnPoints(12.0));
     AjusteTaillePoliceWidget(&widget, difference);
-    QCOMPARE(widget.font().pixelSize(), PixelsPour(points, 0.5));
+    QCOMPARE(widget.font().pixelSize(), pixels);
 }
 
 void tst_Polices::metsTaille()
@@ -331,9 +336,9 @@ void tst_Polices::metsTaille()
     QWidget widget;
     widget.setFont(FontEnPixels(50));
     MetsTaillePoliceWidget(&widget, 10U);
-    QCOMPARE(widget.font().pixelSize(), PixelsPour(10.0, 1.5));
+    QCOMPARE(widget.font().pixelSize(), 9);
     MetsTaillePoliceWidget(&widget, 72U);
-    QCOMPARE(widget.font().pixelSize(), PixelsPour(72.0, 1.5));
+    QCOMPARE(widget.font().pixelSize(), 64);
 }
 
 void tst_Polices::ajusterRecursivement()
@@ -380,9 +385,11 @@ void tst_Polices::ajusterRecursivementUnEnfantDisparait()
 
 int main(int nombre, char ** arguments)
 {
+    // The resolution at which 10 points are 13 pixels; the child takes that of its screen.
+    bool const estEnfant = nombre == 2 && qstrcmp(arguments[1], kOptionModulateur) == 0;
+    qputenv(kResolution, estEnfant ? "" : "96");
     QApplication application(nombre, arguments);
-    QStringList const options = QCoreApplication::arguments();
-    if (options.size() == 2 && options[1] == QLatin1String(kOptionModulateur)) {
+    if (estEnfant) {
         ModulateurFont::Instance()->PrendsModulateur(-1.0);
         return Imprime(QString::number(ModulateurFont::Instance()->DonneModulateurEffectif()));
     }

@@ -8,8 +8,13 @@
 #include <QtTest>
 
 #include <QColor>
+#include <QElapsedTimer>
+#include <QFile>
 #include <QPalette>
 #include <QProcess>
+
+#include <algorithm>
+#include <cstdio>
 
 using namespace Qt::StringLiterals;
 
@@ -17,8 +22,24 @@ namespace {
 
 constexpr char kOptionSansFin[] = "--applique";
 
-// A call that lasts this long on a text of a few characters will never return.
-constexpr int kDureeSansFin = 700; // ms
+// Computing time after which a call on a text of a few characters will never return: the texts that
+// end take some microseconds.
+constexpr qint64 kDureeSansFin = 400; // ms
+
+constexpr qint64 kBattement =
+    10; // ms; Linux counts the time of processes in hundredths of a second
+
+// Sorted by the numbers of the characters.
+QStringList DonneNomsAttendus()
+{
+    QStringList noms;
+    for (VariableAttendue const & variable : kVariablesAttendues)
+        noms.append(QString::fromUtf16(variable.nom));
+    for (char16_t const * const nom : kVariablesDuSysteme)
+        noms.append(QString::fromUtf16(nom));
+    std::sort(noms.begin(), noms.end());
+    return noms;
+}
 
 // Tables for calls that may not return, by name.
 QString PrepareCas(QString const & cas, ThemesQt & themes)
@@ -44,17 +65,37 @@ QString PrepareCas(QString const & cas, ThemesQt & themes)
     return textes.value(cas);
 }
 
-// The child's side of the test: says when the call begins and when it is over.
+void Dis(char const * ligne)
+{
+    std::puts(ligne);
+    std::fflush(stdout);
+}
+
+// The child's side of the test: says that a good text came back, then when the call is over.
 int AppliqueEtDis(QString const & cas)
 {
     ThemesQt themes;
     QString const texte = PrepareCas(cas, themes);
-    std::fputs("begins\n", stdout);
-    std::fflush(stdout);
+    if (themes.AppliquerVariable(u"width: @bonne;"_s) != u"width: 1px;"_s)
+        return 1;
+    Dis("begins");
     themes.AppliquerVariable(texte);
-    std::fputs("ends\n", stdout);
-    std::fflush(stdout);
+    Dis("ends");
     return 0;
+}
+
+// What a process has computed so far, in ms. Where the system does not tell, the time that has
+// passed since `depuis`.
+qint64 DonneTempsDeCalcul(QProcess const & processus, QElapsedTimer const & depuis)
+{
+    QFile fichier(u"/proc/%1/stat"_s.arg(processus.processId()));
+    if (!fichier.open(QIODevice::ReadOnly))
+        return depuis.elapsed();
+    QByteArray const contenu = fichier.readAll();
+    // The name stands in brackets and may hold blanks. The times of the program and of the system
+    // for it come as the 12th and 13th field behind it.
+    QList<QByteArray> const champs = contenu.mid(contenu.lastIndexOf(')') + 2).split(' ');
+    return (champs.value(11).toLongLong() + champs.value(12).toLongLong()) * kBattement;
 }
 
 } // namespace
@@ -70,6 +111,7 @@ private Q_SLOTS:
     void valeurParDefaut_data();
     void valeurParDefaut();
     void tableSansAutreVariable();
+    void nomsDansLOrdre();
     void nomSensibleALaCasse();
     void couleurSysteme_data();
     void couleurSysteme();
@@ -135,15 +177,27 @@ void tst_ThemesQt::valeurParDefaut()
 
 void tst_ThemesQt::tableSansAutreVariable()
 {
-    QCOMPARE(std::size(kVariablesAttendues), std::size_t(67));
+    QStringList const noms = DonneNomsAttendus();
+    QCOMPARE(noms.size(), 71);
+    QCOMPARE(ThemesQt().DonneNoms(), noms);
     QCOMPARE(std::size(kVariablesParDefaut), std::size(kVariablesAttendues));
-    ThemesQt const themes;
-    for (char16_t const * nom : kVariablesDuSysteme)
-        QVERIFY(themes.DonneCouleur(QString::fromUtf16(nom)).isValid());
-    QStringList const absentes = {u"widgetListeEditableFontSize"_s,
-                                  u"couleurBoutonDStyleProxyMouseOver"_s, QString()};
-    for (QString const & nom : absentes)
-        QCOMPARE(themes.VariablesInconnues(u'@' + nom), QStringList{nom});
+}
+
+void tst_ThemesQt::nomsDansLOrdre()
+{
+    ThemesQt themes;
+    QCOMPARE(themes.DonneNoms().first(), u"CouleurFondBoutonSelectionnay"_s); // capitals first
+    QCOMPARE(themes.DonneNoms().last(), u"tailleTitre"_s);
+
+    themes.AjouterVariable(u"tailleTitre"_s, u"1px"_s); // only another value
+    QCOMPARE(themes.DonneNoms(), DonneNomsAttendus());
+
+    themes.AjouterVariable(u"zone"_s, u"1px"_s);
+    themes.AjouterVariable(QString(), u"1px"_s);
+    themes.AjouterVariable(u"Couleur"_s, QColor(1, 2, 3));
+    QStringList const attendus =
+        QStringList{QString(), u"Couleur"_s} + DonneNomsAttendus() + QStringList{u"zone"_s};
+    QCOMPARE(themes.DonneNoms(), attendus);
 }
 
 void tst_ThemesQt::nomSensibleALaCasse()
@@ -220,9 +274,12 @@ void tst_ThemesQt::detruisToiOublieLesAjouts()
     ThemesQt::Instance()->AjouterVariable(u"tailleTitre"_s, u"1px"_s);
     QCOMPARE(ThemesQt::Instance()->AppliquerVariable(u"@ajoutee @tailleTitre"_s), u"1px 1px"_s);
 
+    QVERIFY(ThemesQt::Instance()->DonneNoms().contains(u"ajoutee"_s));
+
     ThemesQt::DetruisToi();
 
     QCOMPARE(ThemesQt::instanceUnique, nullptr);
+    QCOMPARE(ThemesQt::Instance()->DonneNoms(), DonneNomsAttendus());
     QCOMPARE(ThemesQt::Instance()->VariablesInconnues(u"@ajoutee"_s), QStringList{u"ajoutee"_s});
     QCOMPARE(ThemesQt::Instance()->AppliquerVariable(u"@tailleTitre"_s), u"26px"_s);
 }
@@ -357,14 +414,21 @@ void tst_ThemesQt::appliquerSansFin()
     if (finit) {
         QVERIFY(enfant.state() == QProcess::NotRunning || enfant.waitForFinished());
         QCOMPARE(enfant.exitStatus(), QProcess::NormalExit);
+        QCOMPARE(enfant.exitCode(), 0);
         sortie += enfant.readAllStandardOutput();
         QVERIFY(sortie.contains("ends"));
         return;
     }
-    QVERIFY(!enfant.waitForFinished(kDureeSansFin));
+    // A child that is not let run, or that waits for something, computes nothing and fails here.
+    QElapsedTimer depuis;
+    depuis.start();
+    qint64 const avant = DonneTempsDeCalcul(enfant, depuis);
+    QTRY_VERIFY_WITH_TIMEOUT(enfant.state() != QProcess::Running ||
+                                 DonneTempsDeCalcul(enfant, depuis) - avant >= kDureeSansFin,
+                             30000);
     QCOMPARE(enfant.state(), QProcess::Running);
     sortie += enfant.readAllStandardOutput();
-    QVERIFY(!sortie.contains("ends"));
+    QVERIFY2(!sortie.contains("ends"), sortie.constData());
     enfant.kill();
     QVERIFY(enfant.waitForFinished());
 }

@@ -324,10 +324,9 @@ private:
     // Keeps every unit, also the U+FEFF at the start that Qt takes for a mark of the encoding.
     static QString DepuisUtf8(QByteArrayView octets)
     {
-        // Not through a constant of the class: such a symbol would keep a library from being
-        // unloaded.
-        return octets.startsWith("\xEF\xBB\xBF") ? DepuisUtf8AvecMarque(octets)
-                                                 : QString::fromUtf8(octets);
+        constexpr char kPremierOctet = '\xEF'; // of the mark, and of few other characters
+        return octets.isEmpty() || octets.front() != kPremierOctet ? QString::fromUtf8(octets)
+                                                                   : DepuisUtf8AvecMarque(octets);
     }
     static QString DepuisUtf8AvecMarque(QByteArrayView octets);
     static qsizetype LongueurOctets(char const * texte, int longueur)

@@ -2,6 +2,7 @@
 #include "Captures.h"
 
 #include "FenetreGalerie.h"
+#include "Langues.h"
 #include "Pages.h"
 #include "ThemeGalerie.h"
 #include "TraductionGalerie.h"
@@ -10,8 +11,6 @@
 #include <QDir>
 #include <QPixmap>
 #include <QSaveFile>
-
-#include <utility>
 
 using namespace Qt::StringLiterals;
 
@@ -36,21 +35,22 @@ public:
         maFenetre.MontrePage(page);
         QCoreApplication::processEvents(); // layouts settle on events
         monSucces = maFenetre.grab().save(monDossier.filePath(nom)) && monSucces;
-        mesFigures += u"<figure><figcaption>%1</figcaption><img src=\"%2\" alt=\"%1\" "
-                      "width=\"%3\"></figure>\n"_s
-                          .arg(TraductionGalerie(description.titre).toHtmlEscaped(), nom)
+        mesFigures += u"<figure lang=\"%1\"><figcaption>%2</figcaption><img src=\"%3\" alt=\"%2\" "
+                      "width=\"%4\"></figure>\n"_s
+                          .arg(langue, TraductionGalerie(description.titre).toHtmlEscaped(), nom)
                           .arg(maFenetre.width());
     }
 
     bool EcrisIndex()
     {
-        QString const titre = TraductionGalerie(TexteGalerie("Galerie de libFabrelGui"));
         QSaveFile fichier(monDossier.filePath(u"index.html"_s));
         QByteArray const page =
-            u"<!DOCTYPE html>\n<html><head><meta charset=\"utf-8\"><title>%1</title>\n"
+            // The language of the page, whose only own text is a name; each figure tells its own.
+            u"<!DOCTYPE html>\n<html lang=\"en\"><head><meta charset=\"utf-8\">"
+            "<title>libFabrelGui</title>\n"
             "<style>body { font-family: sans-serif; margin: 2em } img { max-width: 100%; "
             "border: 1px solid #bbb } figure { margin: 0 0 2em }</style></head>\n"
-            "<body><h1>%1</h1>\n%2</body></html>\n"_s.arg(titre.toHtmlEscaped(), mesFigures)
+            "<body><h1>libFabrelGui</h1>\n%1</body></html>\n"_s.arg(mesFigures)
                 .toUtf8();
         monSucces = monSucces && fichier.open(QIODevice::WriteOnly) &&
                     fichier.write(page) == page.size() && fichier.commit();
@@ -68,21 +68,22 @@ private:
 
 bool EcrisCaptures(FenetreGalerie & fenetre, ThemeGalerie & theme, QString const & dossier)
 {
-    std::pair<eLangue, QString> const langues[] = {{kLangueFrancais, u"fr"_s},
-                                                   {kLangueAnglais, u"en"_s}};
     Album album(fenetre, dossier);
-    for (auto const & [langue, suffixe] : langues) {
-        fenetre.MetsLangue(langue);
+    bool applique = true;
+    for (DescriptionLangue const & langue : DonneLangues()) {
+        if (langue.langue == kLangueAnglaisCanada)
+            continue; // its pictures would be those of English
+        fenetre.MetsLangue(langue.langue);
         for (int page = 0; page < DonnePages().size(); ++page)
-            album.Photographie(page, QString(), suffixe);
+            album.Photographie(page, QString(), langue.code);
 
         theme.Assombris();
-        theme.Applique();
+        applique = theme.Applique() && applique;
         fenetre.RefaisPages();
         for (int page = 0; page < DonnePages().size(); ++page)
-            album.Photographie(page, u"-sombre"_s, suffixe);
+            album.Photographie(page, u"-sombre"_s, langue.code);
         theme.Reinitialise();
-        theme.Applique();
+        applique = theme.Applique() && applique;
     }
-    return album.EcrisIndex();
+    return album.EcrisIndex() && applique;
 }

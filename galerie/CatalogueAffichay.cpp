@@ -4,6 +4,8 @@
 #include <QFile>
 #include <QtEndian>
 
+#include <algorithm>
+
 namespace {
 
 // Layout of a .mo file, from the gettext manual; the library's files are little-endian.
@@ -20,6 +22,7 @@ public:
     {
     }
 
+    qsizetype DonneTaille() const { return mesOctets.size(); }
     // 0 outside of the file, which ends in an empty text.
     quint32 Mot(qsizetype place) const
     {
@@ -44,7 +47,10 @@ QList<CleCatalogue> LisClesCatalogue(QString const & fichier)
     if (image.Mot(0) != kMagie)
         return {};
     QList<CleCatalogue> cles;
-    for (quint32 i = 0; i < image.Mot(kPlaceNombre); ++i) {
+    // A damaged file may promise more than it has room for.
+    qsizetype const nombre =
+        std::min<qsizetype>(image.Mot(kPlaceNombre), image.DonneTaille() / kTailleEntree);
+    for (qsizetype i = 0; i < nombre; ++i) {
         QByteArray texte = image.Texte(image.Mot(kPlaceCles) + i * kTailleEntree);
         if (texte.isEmpty())
             continue;

@@ -1,6 +1,7 @@
 // galerie/FenetreGalerie.cpp
 #include "FenetreGalerie.h"
 
+#include "Langues.h"
 #include "Pages.h"
 #include "TraductionGalerie.h"
 
@@ -13,6 +14,7 @@
 #include <QLabel>
 #include <QLibraryInfo>
 #include <QListWidget>
+#include <QMetaProperty>
 #include <QStackedWidget>
 #include <QVBoxLayout>
 
@@ -24,6 +26,53 @@ constexpr QSize kTailleFenetre(1100, 760);
 constexpr int kLargeurPanneau = 190;
 constexpr int kMargePanneau = 10;
 constexpr int kHauteurLigne = 40;
+
+// The style would tint the icon of the selected line: there it is drawn as it is.
+QIcon CreeIcone(QString const & chemin)
+{
+    QIcon icone(chemin);
+    icone.addFile(chemin, QSize(), QIcon::Selected);
+    return icone;
+}
+
+// What the user gives `widget`: its text, its number, its check mark.
+QMetaProperty DonneSaisie(QWidget const & widget)
+{
+    QMetaObject const & classe = *widget.metaObject();
+    // Not the text of a choice, which is of one language.
+    return qobject_cast<QComboBox const *>(&widget)
+               ? classe.property(classe.indexOfProperty("currentIndex"))
+               : classe.userProperty();
+}
+
+// Those of the page that have a name, but for the inner ones of Qt's widgets.
+QList<QWidget *> DonneNommes(QWidget const & page)
+{
+    QList<QWidget *> nommes;
+    for (QWidget * const widget : page.findChildren<QWidget *>())
+        if (!widget->objectName().isEmpty() && !widget->objectName().startsWith(u"qt_") &&
+            DonneSaisie(*widget).isWritable())
+            nommes.append(widget);
+    return nommes;
+}
+
+using Saisies = QHash<QString, QVariant>;
+
+Saisies DonneSaisies(QWidget const & page)
+{
+    Saisies saisies;
+    for (QWidget const * const widget : DonneNommes(page))
+        saisies.insert(widget->objectName(), DonneSaisie(*widget).read(widget));
+    return saisies;
+}
+
+void RemetsSaisies(QWidget const & page, Saisies const & saisies)
+{
+    for (QWidget * const widget : DonneNommes(page))
+        if (auto const saisie = saisies.find(widget->objectName()); saisie != saisies.end())
+            DonneSaisie(*widget).write(widget, *saisie);
+}
+
 } // namespace
 
 FenetreGalerie::FenetreGalerie(ThemeGalerie & theme)
@@ -56,16 +105,15 @@ QWidget * FenetreGalerie::CreePanneau()
     maListe->setObjectName(u"listePages"_s);
     for (DescriptionPage const & page : DonnePages()) {
         auto * const element =
-            new QListWidgetItem(QIcon(u":/images/"_s + page.nom + u".svg"_s), QString());
+            new QListWidgetItem(CreeIcone(u":/images/"_s + page.nom + u".svg"_s), QString());
         element->setSizeHint(QSize(0, kHauteurLigne));
         maListe->addItem(element);
     }
 
     monChoixLangue = new QComboBox;
-    // Each language under its own name, which the reader of another one need not know.
-    monChoixLangue->addItem(u"Français"_s, kLangueFrancais);
-    monChoixLangue->addItem(u"English"_s, kLangueAnglais);
-    monChoixLangue->addItem(u"English (Canada)"_s, kLangueAnglaisCanada);
+    monChoixLangue->setObjectName(u"choixLangue"_s);
+    for (DescriptionLangue const & langue : DonneLangues())
+        monChoixLangue->addItem(langue.nom, langue.langue);
     monEtiquetteLangue = new QLabel;
     monEtiquetteLangue->setBuddy(monChoixLangue);
 
@@ -110,10 +158,15 @@ void FenetreGalerie::MontrePage(int indice)
 void FenetreGalerie::RefaisPages()
 {
     int const courante = maPile->currentIndex();
-    while (QWidget * const page = maPile->widget(0))
+    QList<Saisies> saisies;
+    while (QWidget * const page = maPile->widget(0)) {
+        saisies.append(DonneSaisies(*page));
         delete page;
+    }
     for (DescriptionPage const & page : DonnePages())
         maPile->addWidget(page.cree(monTheme));
+    for (int i = 0; i < saisies.size(); ++i)
+        RemetsSaisies(*maPile->widget(i), saisies.at(i));
     maPile->setCurrentIndex(courante);
 }
 

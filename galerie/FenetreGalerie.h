@@ -14,7 +14,9 @@ class ThemeGalerie;
 
 /// The window of the gallery: the list of pages at the left, the page at the right.
 ///
-/// Texts are looked up when a widget is built, so another language means other pages.
+/// Texts are looked up when a widget is built, so another language means other pages. What was
+/// typed and chosen in the old ones goes over to the new ones, widget by widget, by their object
+/// names.
 class FenetreGalerie : public QMainWindow
 {
     Q_OBJECT

@@ -1,6 +1,9 @@
 // galerie/LigneDeCommande.cpp
 #include "LigneDeCommande.h"
 
+#include "Affichage.h"
+#include "Langues.h"
+
 #include <QApplication>
 #include <QCommandLineParser>
 #include <QFont>
@@ -8,8 +11,8 @@
 #include <QTemporaryFile>
 #include <QTextStream>
 
+#include <algorithm>
 #include <memory>
-#include <optional>
 
 using namespace Qt::StringLiterals;
 
@@ -18,17 +21,30 @@ namespace {
 constexpr QLatin1StringView kOptionCaptures("captures");
 constexpr QLatin1StringView kOptionLangue("langue");
 
-// Two screens side by side, the right one of a low resolution, in the offscreen platform's format.
+// In the offscreen platform's format. A position is taken as it stands, but a size is divided by
+// the scale factor.
 constexpr char kEcransCaptures[] = R"({
     "synchronousWindowSystemEvents": false,
     "windowFrameMargins": false,
     "screens": [
-        { "name": "A", "x": 0, "y": 0, "width": 1920, "height": 1080,
+        { "name": "A", "x": 0, "y": 0, "width": %1, "height": %2,
           "logicalDpi": 96, "logicalBaseDpi": 96, "dpr": 1 },
-        { "name": "B", "x": 1920, "y": 312, "width": 1024, "height": 768,
+        { "name": "B", "x": 1920, "y": 312, "width": %3, "height": %4,
           "logicalDpi": 96, "logicalBaseDpi": 96, "dpr": 1 }
     ]
 })";
+
+// Two screens side by side, the right one of a low resolution: the same at every scale.
+QByteArray DonneEcransCaptures()
+{
+    bool compris = false;
+    double const variable = qEnvironmentVariable("QT_SCALE_FACTOR").toDouble(&compris);
+    double const echelle = compris && variable > 0 ? variable : 1.0;
+    QString ecrans = QString::fromLatin1(kEcransCaptures);
+    for (int const cote : {1920, 1080, 1024, 768})
+        ecrans = ecrans.arg(qRound(cote * echelle));
+    return ecrans.toLatin1();
+}
 
 std::unique_ptr<QCommandLineParser> CreeAnalyseur()
 {
@@ -38,33 +54,28 @@ std::unique_ptr<QCommandLineParser> CreeAnalyseur()
     analyseur->addOption({kOptionCaptures,
                           u"Renders every page to a picture, writes an index, and ends."_s,
                           u"directory"_s});
-    analyseur->addOption(
-        {kOptionLangue, u"Language at the start: fr, en or en_CA."_s, u"language"_s, u"fr"_s});
+    QStringList codes;
+    for (DescriptionLangue const & langue : DonneLangues())
+        codes.append(langue.code);
+    analyseur->addOption({kOptionLangue, u"Language at the start: %1."_s.arg(codes.join(u", "_s)),
+                          u"language"_s, codes.first()});
     return analyseur;
 }
 
-std::optional<eLangue> LisLangue(QString const & nom)
+// "-platform" and "-display", with one dash or two as Qt reads them, and what stands behind them.
+void OteAffichage(int & argc, char ** argv)
 {
-    if (nom == u"fr")
-        return kLangueFrancais;
-    if (nom == u"en")
-        return kLangueAnglais;
-    if (nom == u"en_CA")
-        return kLangueAnglaisCanada;
-    return std::nullopt;
-}
-
-bool ManqueEcran()
-{
-#if defined(Q_OS_UNIX) && !defined(Q_OS_DARWIN)
-    QByteArray const plateforme = qgetenv("QT_QPA_PLATFORM");
-    bool const veutServeur =
-        plateforme.isEmpty() || plateforme.startsWith("xcb") || plateforme.startsWith("wayland");
-    return veutServeur && qEnvironmentVariableIsEmpty("DISPLAY") &&
-           qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY");
-#else
-    return false;
-#endif
+    for (int i = 1; i < argc;) {
+        QByteArray argument(argv[i]);
+        if (argument.startsWith("--"))
+            argument.remove(0, 1);
+        if (i + 1 < argc && (argument == "-platform" || argument == "-display")) {
+            std::copy(argv + i + 2, argv + argc + 1, argv + i); // with the null at the end
+            argc -= 2;
+        } else {
+            ++i;
+        }
+    }
 }
 
 } // namespace
@@ -78,9 +89,9 @@ LigneDeCommande LisLigneDeCommande(int argc, char ** argv)
     // Options of Qt, as -style, are unknown here: errors are told once the application has them.
     analyseur->parse(arguments);
     LigneDeCommande commande;
-    commande.langue = LisLangue(analyseur->value(kOptionLangue)).value_or(kLangueFrancais);
+    commande.langue = DonneLangueDuCode(analyseur->value(kOptionLangue)).value_or(kLangueFrancais);
     commande.dossierCaptures = analyseur->value(kOptionCaptures);
-    if (commande.dossierCaptures.isEmpty() && ManqueEcran())
+    if (commande.dossierCaptures.isEmpty() && !PeutAfficher(arguments))
         commande.dossierCaptures = u"galerie-captures"_s;
     return commande;
 }
@@ -90,7 +101,7 @@ void VerifieLigneDeCommande(QApplication const & application)
     auto const analyseur = CreeAnalyseur();
     analyseur->process(application);
     QString erreur;
-    if (!LisLangue(analyseur->value(kOptionLangue)))
+    if (!DonneLangueDuCode(analyseur->value(kOptionLangue)))
         erreur = u"Unknown language '%1'."_s.arg(analyseur->value(kOptionLangue));
     else if (analyseur->isSet(kOptionCaptures) && analyseur->value(kOptionCaptures).isEmpty())
         erreur = u"Empty directory name."_s;
@@ -102,16 +113,17 @@ void VerifieLigneDeCommande(QApplication const & application)
     std::exit(EXIT_FAILURE);
 }
 
-void PrepareCaptures(LigneDeCommande const & commande)
+void PrepareCaptures(LigneDeCommande const & commande, int & argc, char ** argv)
 {
     if (commande.dossierCaptures.isEmpty())
         return;
+    OteAffichage(argc, argv); // a platform there would win over the variable
     QByteArray plateforme = "offscreen";
     // Kept to the end: the application object reads it later.
     static QTemporaryFile ecrans;
     // A colon would end the name in the platform's arguments.
     if (ecrans.open() && !ecrans.fileName().contains(u':')) {
-        ecrans.write(kEcransCaptures);
+        ecrans.write(DonneEcransCaptures());
         ecrans.close();
         plateforme += ":configfile=" + QFile::encodeName(ecrans.fileName());
     }

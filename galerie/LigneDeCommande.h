@@ -15,15 +15,15 @@ struct LigneDeCommande
 };
 
 /// Reads the command line before there is an application object, since pictures need a platform of
-/// their own. Without a display pictures are what is asked for.
+/// their own. Where no window can be shown pictures are what is asked for.
 LigneDeCommande LisLigneDeCommande(int argc, char ** argv);
 
 /// Ends the program with a message for an option that is not known, and answers --help.
 void VerifieLigneDeCommande(QApplication const & application);
 
 /// Before the application object: where pictures are asked for, chooses the platform without a
-/// display, with two screens.
-void PrepareCaptures(LigneDeCommande const & commande);
+/// display, with two screens, and takes any other one out of the arguments.
+void PrepareCaptures(LigneDeCommande const & commande, int & argc, char ** argv);
 
 /// Behind the application object: gives pictures a style and a font that most machines have.
 void PreparePresentationCaptures(LigneDeCommande const & commande);

@@ -15,6 +15,7 @@
 #include <QGuiApplication>
 #include <QHBoxLayout>
 #include <QLabel>
+#include <QPainter>
 #include <QScreen>
 #include <QSpinBox>
 #include <QVBoxLayout>
@@ -64,22 +65,61 @@ QList<EcranDessinay> DonneEcrans(int disposition)
     return ecrans;
 }
 
-QString EnTaille(QSize const & taille)
+UniChaine EnChiffres(int nombre)
 {
-    return u"%1 × %2"_s.arg(taille.width()).arg(taille.height());
+    return UniChaine(QLocale().toString(nombre));
 }
 
 QString EnRectangle(QRect const & rectangle)
 {
-    return u"(%1, %2)  "_s.arg(rectangle.x()).arg(rectangle.y()) + EnTaille(rectangle.size());
+    return TraductionGalerie(TexteGalerie("({1} ; {2}), {3}"),
+                             {EnChiffres(rectangle.x()), EnChiffres(rectangle.y()),
+                              UniChaine(EnTaille(rectangle.size()))});
 }
 
-// The colour of the outline that the caption speaks of.
-QLabel * CreeLegende(QString const & texte, QString const & variable)
+QString EnEcran(PlacementEcrans const & placement)
 {
-    auto * const legende = new QLabel(u"<span style=\"color:%1\">■</span> %2"_s.arg(
-        ThemesQt::Instance()->DonneCouleur(variable).name(), texte.toHtmlEscaped()));
-    legende->setTextFormat(Qt::RichText);
+    if (placement.ecran.isNull())
+        return TraductionGalerie(TexteGalerie("Aucun écran"));
+    return TraductionGalerie(
+        TexteGalerie("{1}, {2}, {3}"),
+        {UniChaine(placement.ecran), UniChaine(EnTaille(placement.resolution)),
+         UniChaine(placement.basseResolution
+                       ? TraductionGalerie(TexteGalerie("basse résolution"))
+                       : TraductionGalerie(TexteGalerie("pleine résolution")))});
+}
+
+// A square in a colour of the theme, whichever that is when it is painted.
+class Pastille : public QWidget
+{
+public:
+    explicit Pastille(QString const & variable)
+        : maVariable(variable)
+    {
+        constexpr int kCote = 10; // logical pixels
+        setFixedSize(kCote, kCote);
+    }
+
+protected:
+    void paintEvent(QPaintEvent *) override
+    {
+        QPainter(this).fillRect(rect(), ThemesQt::Instance()->DonneCouleur(maVariable));
+    }
+
+private:
+    QString maVariable;
+};
+
+// The colour of the outline that the caption speaks of.
+QWidget * CreeLegende(QString const & texte, QString const & variable)
+{
+    auto * const legende = new QWidget;
+    auto * const disposition = new QHBoxLayout(legende);
+    disposition->setContentsMargins({});
+    auto * const pastille = new Pastille(variable);
+    pastille->setObjectName(variable);
+    disposition->addWidget(pastille);
+    disposition->addWidget(new QLabel(texte));
     return legende;
 }
 
@@ -91,9 +131,10 @@ PageEcrans::PageEcrans(QWidget * parent)
     auto * const disposition = CreeMiseEnPage(
         this, TraductionGalerie(TexteGalerie("Écrans")),
         TraductionGalerie(
-            TexteGalerie("Les écrans à l'échelle. La souris ou les flèches déplacent le rectangle "
-                         "bleu ; les contours montrent où la bibliothèque le placerait.")));
+            TexteGalerie("Les écrans à l’échelle. La souris ou les flèches déplacent le rectangle "
+                         "bleu ; les contours montrent où la bibliothèque le placerait.")));
     maVue = new VueEcrans;
+    maVue->setObjectName(u"vueEcrans"_s);
     maVue->setAccessibleName(TraductionGalerie(TexteGalerie("Écrans")));
     disposition->addLayout(CreeChoixDisposition());
     auto * const bas = new QHBoxLayout;
@@ -110,6 +151,7 @@ QLayout * PageEcrans::CreeChoixDisposition()
 {
     auto * const choix = new QHBoxLayout;
     maDisposition = new QComboBox;
+    maDisposition->setObjectName(u"disposition"_s);
     maDisposition->addItem(TraductionGalerie(TexteGalerie("Les écrans de cet ordinateur")));
     for (Disposition const & invention : DonneDispositions())
         maDisposition->addItem(TraductionGalerie(invention.titre));
@@ -128,14 +170,16 @@ QWidget * PageEcrans::CreeOptions()
     struct
     {
         QSpinBox *& champ;
+        QString nom;
         ChaineLocalisable libelle;
         int valeur;
     } const champs[] = {
-        {maLargeur, TexteGalerie("L&argeur"), kTailleAuDepart.width()},
-        {maHauteur, TexteGalerie("&Hauteur"), kTailleAuDepart.height()},
+        {maLargeur, u"largeur"_s, TexteGalerie("L&argeur"), kTailleAuDepart.width()},
+        {maHauteur, u"hauteur"_s, TexteGalerie("&Hauteur"), kTailleAuDepart.height()},
     };
-    for (auto const & [champ, libelle, valeur] : champs) {
+    for (auto const & [champ, nom, libelle, valeur] : champs) {
         champ = new QSpinBox;
+        champ->setObjectName(nom);
         champ->setRange(10, 9999);
         champ->setSingleStep(20);
         champ->setValue(valeur);
@@ -144,15 +188,17 @@ QWidget * PageEcrans::CreeOptions()
     struct
     {
         QCheckBox *& caseACocher;
+        QString nom;
         ChaineLocalisable libelle;
     } const cases[] = {
-        {maMarge, TexteGalerie("Garder une &marge")},
-        {monForcage, TexteGalerie("&Forcer le déplacement")},
-        {monRedimensionnement, TexteGalerie("&Réduire ce qui dépasse")},
-        {maPlaceHaute, TexteGalerie("Centrer plus ha&ut")},
+        {maMarge, u"marge"_s, TexteGalerie("Garder une &marge")},
+        {monForcage, u"forcage"_s, TexteGalerie("&Forcer le déplacement")},
+        {monRedimensionnement, u"redimensionnement"_s, TexteGalerie("&Réduire ce qui dépasse")},
+        {maPlaceHaute, u"placeHaute"_s, TexteGalerie("Centrer plus ha&ut")},
     };
-    for (auto const & [caseACocher, libelle] : cases) {
+    for (auto const & [caseACocher, nom, libelle] : cases) {
         caseACocher = new QCheckBox(TraductionGalerie(libelle));
+        caseACocher->setObjectName(nom);
         formulaire->addRow(caseACocher);
     }
     monForcage->setChecked(true);
@@ -166,12 +212,13 @@ QWidget * PageEcrans::CreeResultats()
     for (QLabel ** const valeur :
          {&monEcran, &monAjustement, &monCentrage, &maHauteurMax, &maTailleOptimale})
         *valeur = new QLabel;
+    monEcran->setObjectName(u"ecranLePlusProche"_s);
     formulaire->addRow(TraductionGalerie(TexteGalerie("Écran le plus proche")), monEcran);
-    formulaire->addRow(CreeLegende(TraductionGalerie(TexteGalerie("Ajusté dans l'écran")),
+    formulaire->addRow(CreeLegende(TraductionGalerie(TexteGalerie("Ajusté dans l’écran")),
                                    u"couleurAccentGuides"_s),
                        monAjustement);
     formulaire->addRow(
-        CreeLegende(TraductionGalerie(TexteGalerie("Centré dans l'écran de la souris")),
+        CreeLegende(TraductionGalerie(TexteGalerie("Centré dans l’écran de la souris")),
                     u"couleurAccentDictionnaires"_s),
         monCentrage);
     formulaire->addRow(TraductionGalerie(TexteGalerie("Hauteur maximale")), maHauteurMax);
@@ -191,10 +238,26 @@ void PageEcrans::Branche()
                 Qt::UniqueConnection);
     connect(maVue, &VueEcrans::SignalRectangleDeplacay, this, &PageEcrans::PlaceRectangle,
             Qt::UniqueConnection);
-    connect(qGuiApp, &QGuiApplication::screenAdded, this, &PageEcrans::PriseEcransChangay,
+    connect(qGuiApp, &QGuiApplication::screenAdded, this, &PageEcrans::PriseEcranAjoutay,
             Qt::UniqueConnection);
     connect(qGuiApp, &QGuiApplication::screenRemoved, this, &PageEcrans::PriseEcransChangay,
             Qt::UniqueConnection);
+    for (QScreen * const ecran : QGuiApplication::screens())
+        BrancheEcran(ecran);
+}
+
+void PageEcrans::BrancheEcran(QScreen * ecran)
+{
+    connect(ecran, &QScreen::geometryChanged, this, &PageEcrans::PriseEcransChangay,
+            Qt::UniqueConnection);
+    connect(ecran, &QScreen::availableGeometryChanged, this, &PageEcrans::PriseEcransChangay,
+            Qt::UniqueConnection);
+}
+
+void PageEcrans::PriseEcranAjoutay(QScreen * ecran)
+{
+    BrancheEcran(ecran);
+    PriseEcransChangay();
 }
 
 void PageEcrans::PriseEcransChangay()
@@ -206,7 +269,7 @@ void PageEcrans::PriseEcransChangay()
 void PageEcrans::PriseDispositionChangay()
 {
     QList<EcranDessinay> const ecrans = DonneEcrans(maDisposition->currentIndex());
-    QRect const ecran = ecrans.first().disponible;
+    QRect const ecran = ecrans.isEmpty() ? QRect() : ecrans.first().disponible;
     // Out at the right edge, so that there is something to place.
     maVue->MetsRectangle(
         QRect(QPoint(ecran.right() - maLargeur->value() + kDebordement, ecran.center().y()),
@@ -218,7 +281,6 @@ void PageEcrans::PriseTailleChangay()
 {
     maVue->MetsRectangle(
         QRect(maVue->DonneRectangle().topLeft(), QSize(maLargeur->value(), maHauteur->value())));
-    PlaceRectangle();
 }
 
 void PageEcrans::PlaceRectangle()
@@ -231,12 +293,9 @@ void PageEcrans::PlaceRectangle()
                                           ? PlaceSurOrdinateur(rectangle, options)
                                           : PlaceSur(DonneEcrans(disposition), rectangle, options);
     maVue->MetsPlacements(placement.ajustay, placement.centray);
-    monEcran->setText(u"%1, %2, %3"_s.arg(
-        placement.ecran, EnTaille(placement.resolution),
-        placement.basseResolution ? TraductionGalerie(TexteGalerie("basse résolution"))
-                                  : TraductionGalerie(TexteGalerie("pleine résolution"))));
+    monEcran->setText(EnEcran(placement));
     monAjustement->setText(EnRectangle(placement.ajustay));
     monCentrage->setText(EnRectangle(placement.centray));
-    maHauteurMax->setText(QString::number(placement.hauteurMax));
+    maHauteurMax->setText(EnChiffres(placement.hauteurMax));
     maTailleOptimale->setText(EnTaille(placement.tailleOptimale));
 }

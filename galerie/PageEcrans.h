@@ -6,6 +6,7 @@
 class QCheckBox;
 class QComboBox;
 class QLabel;
+class QScreen;
 class QSpinBox;
 class VueEcrans;
 
@@ -22,7 +23,9 @@ private:
     QWidget * CreeOptions();
     QWidget * CreeResultats();
     void Branche();
+    void BrancheEcran(QScreen * ecran);
 
+    void PriseEcranAjoutay(QScreen * ecran);
     void PriseEcransChangay();
     void PriseDispositionChangay();
     void PriseTailleChangay();

@@ -9,9 +9,11 @@
 #include <QDoubleSpinBox>
 #include <QGridLayout>
 #include <QGroupBox>
+#include <QGuiApplication>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPushButton>
+#include <QSignalBlocker>
 #include <QVBoxLayout>
 
 using namespace Qt::StringLiterals;
@@ -20,6 +22,8 @@ using RoutinesGeneralesQt::ModulateurFont;
 namespace {
 
 constexpr int kPointsEchantillons[] = {8, 9, 10, 12, 14, 18, 24};
+constexpr int kPointsMin = 1;
+constexpr int kPointsMax = 48;
 constexpr int kPointsAuDepart = 12;
 constexpr int kHauteurTexteAjustable = 80; // logical pixels: larger sizes must not push the page
 
@@ -56,12 +60,15 @@ QWidget * PagePolices::CreeModulateur()
     auto * const groupe = new QGroupBox(TraductionGalerie(TexteGalerie("Modulateur")));
     auto * const disposition = new QHBoxLayout(groupe);
     monModulateur = new QDoubleSpinBox;
-    monModulateur->setRange(0.5, 4.0);
+    // Not named: the factor lives in the library, where it is not rounded to what is shown.
+    monModulateur->setDecimals(4);
+    monModulateur->setRange(0.1, 10.0);
     monModulateur->setSingleStep(0.25);
     monModulateur->setValue(ModulateurFont::Instance()->DonneModulateurEffectif());
     auto * const etiquette = new QLabel(TraductionGalerie(TexteGalerie("&Facteur")));
     etiquette->setBuddy(monModulateur);
-    monBoutonCalcul = new QPushButton(TraductionGalerie(TexteGalerie("&Calculer selon l'écran")));
+    monBoutonCalcul = new QPushButton(TraductionGalerie(TexteGalerie("&Calculer selon l’écran")));
+    monBoutonCalcul->setObjectName(u"boutonCalcul"_s);
     disposition->addWidget(etiquette);
     disposition->addWidget(monModulateur);
     disposition->addWidget(monBoutonCalcul);
@@ -81,7 +88,7 @@ QWidget * PagePolices::CreeEchantillons()
             TraductionGalerie(TexteGalerie("{1} points"), {UniChaine(locale().toString(points))}));
         Echantillon const echantillon{
             points, new QLabel,
-            new QLabel(TraductionGalerie(TexteGalerie("Voix ambiguë d'un cœur qui préfère")))};
+            new QLabel(TraductionGalerie(TexteGalerie("Voix ambiguë d’un cœur qui préfère")))};
         // Large texts are cut: they must not widen the window.
         echantillon.texte->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
         grille->addWidget(taille, ligne, 0);
@@ -94,16 +101,19 @@ QWidget * PagePolices::CreeEchantillons()
 
 QWidget * PagePolices::CreeWidgetAjustable()
 {
-    auto * const groupe = new QGroupBox(TraductionGalerie(TexteGalerie("Police d'un widget")));
+    auto * const groupe = new QGroupBox(TraductionGalerie(TexteGalerie("Police d’un widget")));
     auto * const disposition = new QVBoxLayout(groupe);
     auto * const commandes = new QHBoxLayout;
     monChoixTaille = new QSpinBox;
-    monChoixTaille->setRange(1, 48);
+    monChoixTaille->setObjectName(u"points"_s);
+    monChoixTaille->setRange(kPointsMin, kPointsMax);
     monChoixTaille->setValue(kPointsAuDepart);
     auto * const etiquette = new QLabel(TraductionGalerie(TexteGalerie("&Points")));
     etiquette->setBuddy(monChoixTaille);
     monBoutonMoins = new QPushButton(TraductionGalerie(TexteGalerie("Plus peti&t")));
     monBoutonPlus = new QPushButton(TraductionGalerie(TexteGalerie("Plus &grand")));
+    monBoutonMoins->setObjectName(u"boutonMoins"_s);
+    monBoutonPlus->setObjectName(u"boutonPlus"_s);
     for (QWidget * const widget :
          {static_cast<QWidget *>(etiquette), static_cast<QWidget *>(monChoixTaille),
           static_cast<QWidget *>(monBoutonMoins), static_cast<QWidget *>(monBoutonPlus)})
@@ -111,6 +121,7 @@ QWidget * PagePolices::CreeWidgetAjustable()
     commandes->addStretch();
     monWidgetAjustable = new QLabel(TraductionGalerie(TexteGalerie("Texte du widget")));
     monWidgetAjustable->setFixedHeight(kHauteurTexteAjustable);
+    monWidgetAjustable->setObjectName(u"widgetAjustable"_s);
     maTaille = new QLabel;
     disposition->addLayout(commandes);
     disposition->addWidget(monWidgetAjustable);
@@ -160,6 +171,12 @@ void PagePolices::MontreEchantillons()
 void PagePolices::AjusteTaille(int points)
 {
     RoutinesGeneralesQt::AjusteTaillePoliceWidget(monWidgetAjustable, points);
+    {
+        // The font is at that size already, and would lose what rounding to whole points takes.
+        QSignalBlocker const silence(monChoixTaille);
+        monChoixTaille->setValue(qRound(
+            ModulateurFont::Instance()->DonnePointSizeFDeFont(monWidgetAjustable->font(), true)));
+    }
     MontreTaille();
 }
 
@@ -168,23 +185,35 @@ void PagePolices::MontreTaille()
     ModulateurFont * const modulateur = ModulateurFont::Instance();
     QFont const police = monWidgetAjustable->font();
     maTaille->setText(TraductionGalerie(
-        TexteGalerie("{1} points, {2} pixels ; sans le modulateur, {3} pixels"),
+        TexteGalerie("Obtenu : {1} points, {2} pixels ; sans le modulateur, {3} pixels"),
         {UniChaine(locale().toString(modulateur->DonnePointSizeFDeFont(police, true))),
          UniChaine(locale().toString(modulateur->DonnePixelSizeDeFont(police, true))),
          UniChaine(locale().toString(modulateur->DonnePixelSizeDeFontSansMod(police)))}));
+    monBoutonMoins->setEnabled(monChoixTaille->value() > kPointsMin);
+    monBoutonPlus->setEnabled(monChoixTaille->value() < kPointsMax);
+}
+
+void PagePolices::MontreModulateur()
+{
+    // The field rounds: what it shows must not become the factor.
+    QSignalBlocker const silence(monModulateur);
+    monModulateur->setValue(ModulateurFont::Instance()->DonneModulateurEffectif());
+    MontreEchantillons();
+    PriseTailleChoisie(monChoixTaille->value());
 }
 
 void PagePolices::PriseModulateurChangay(double valeur)
 {
     ModulateurFont::Instance()->PrendsModulateur(valeur);
-    MontreEchantillons();
-    PriseTailleChoisie(monChoixTaille->value());
+    MontreModulateur();
 }
 
 void PagePolices::PriseModulateurCalculay()
 {
+    if (!QGuiApplication::primaryScreen())
+        return;                                         // nothing to compute it from
     ModulateurFont::Instance()->PrendsModulateur(-1.0); // asks the next Instance to compute it
-    monModulateur->setValue(ModulateurFont::Instance()->DonneModulateurEffectif());
+    MontreModulateur();
 }
 
 void PagePolices::PriseTailleChoisie(int points)

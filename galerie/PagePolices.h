@@ -33,6 +33,7 @@ private:
     void MontreEchantillons();
     void AjusteTaille(int points);
     void MontreTaille();
+    void MontreModulateur();
 
     void PriseModulateurChangay(double valeur);
     void PriseModulateurCalculay();

@@ -2,7 +2,9 @@
 #include "PageTextes.h"
 
 #include "CatalogueAffichay.h"
+#include "Langues.h"
 #include "Pages.h"
+#include "TexteCellule.h"
 #include "TraductionGalerie.h"
 
 #include "foundation/TraductionGui.h"
@@ -16,19 +18,25 @@
 #include <QTableWidget>
 #include <QVBoxLayout>
 
+#include <algorithm>
+
 using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr eLangue kLangues[] = {kLangueFrancais, kLangueAnglais, kLangueAnglaisCanada};
-constexpr int kPremiereLangue = 2;   // column, behind identifier and context
 constexpr int kNombreAuDepart = 0;   // a singular in French, a plural in English
 constexpr int kHauteurLigne = 24;    // logical pixels
-constexpr int kLargeurColonne = 170; // logical pixels
+constexpr int kLargeurColonne = 150; // logical pixels
+constexpr int kContexte = 1;         // column
+constexpr int kLargeurContexte = 250;
 
-QStringList DonneNomsLangues()
+// The keys of the library, those with a context first: there are few, and they show what it is for.
+QList<CleCatalogue> LisCles()
 {
-    return {u"Français"_s, u"English"_s, u"English (Canada)"_s};
+    QList<CleCatalogue> cles = LisClesCatalogue(u":/fichiers/GUIFr.mo"_s);
+    std::stable_partition(cles.begin(), cles.end(),
+                          [](CleCatalogue const & cle) { return !cle.contexte.isEmpty(); });
+    return cles;
 }
 
 // The record refers to the key's bytes: to be converted while the key lives.
@@ -60,6 +68,7 @@ PageTextes::PageTextes(QWidget * parent)
             "distingue deux messages de même texte.")));
     auto * const haut = new QHBoxLayout;
     monFiltre = new QLineEdit;
+    monFiltre->setObjectName(u"filtreMessages"_s);
     monFiltre->setPlaceholderText(TraductionGalerie(TexteGalerie("Filtrer les messages")));
     monFiltre->setAccessibleName(monFiltre->placeholderText());
     monFiltre->setClearButtonEnabled(true);
@@ -67,11 +76,13 @@ PageTextes::PageTextes(QWidget * parent)
     haut->addWidget(monFiltre, 1);
     haut->addWidget(monCompte);
     maTable = new QTableWidget;
+    maTable->setAccessibleName(TraductionGalerie(TexteGalerie("Messages")));
+    RemplisTable();
     disposition->addLayout(haut);
     disposition->addWidget(maTable, 1);
+    disposition->addWidget(new TexteCellule(maTable));
     disposition->addWidget(CreePluriel());
 
-    RemplisTable();
     PriseFiltreChangay(QString());
     PriseNombreChangay(kNombreAuDepart);
     connect(monFiltre, &QLineEdit::textChanged, this, &PageTextes::PriseFiltreChangay,
@@ -82,12 +93,14 @@ PageTextes::PageTextes(QWidget * parent)
 
 void PageTextes::RemplisTable()
 {
-    QList<CleCatalogue> const cles = LisClesCatalogue(u":/fichiers/GUIFr.mo"_s);
-    maTable->setColumnCount(kPremiereLangue + static_cast<int>(std::size(kLangues)));
+    QList<CleCatalogue> const cles = LisCles();
+    QStringList titres = {TraductionGalerie(TexteGalerie("Identifiant")),
+                          TraductionGalerie(TexteGalerie("Contexte"))};
+    for (DescriptionLangue const & langue : DonneLangues())
+        titres.append(langue.nom);
+    maTable->setColumnCount(static_cast<int>(titres.size()));
     maTable->setRowCount(static_cast<int>(cles.size()));
-    maTable->setHorizontalHeaderLabels(QStringList{TraductionGalerie(TexteGalerie("Identifiant")),
-                                                   TraductionGalerie(TexteGalerie("Contexte"))} +
-                                       DonneNomsLangues());
+    maTable->setHorizontalHeaderLabels(titres);
     maTable->setEditTriggers(QAbstractItemView::NoEditTriggers);
     maTable->setSelectionBehavior(QAbstractItemView::SelectRows);
     maTable->setAlternatingRowColors(true);
@@ -97,13 +110,13 @@ void PageTextes::RemplisTable()
     maTable->verticalHeader()->setDefaultSectionSize(kHauteurLigne);
     maTable->horizontalHeader()->setStretchLastSection(true);
     for (int colonne = 0; colonne < maTable->columnCount(); ++colonne)
-        maTable->setColumnWidth(colonne, kLargeurColonne);
+        maTable->setColumnWidth(colonne, colonne == kContexte ? kLargeurContexte : kLargeurColonne);
 
     int ligne = 0;
     for (CleCatalogue const & cle : cles) {
         QStringList textes = {QString::fromUtf8(cle.identifiant), QString::fromUtf8(cle.contexte)};
-        for (eLangue const langue : kLangues)
-            textes.append(Traduis(cle, langue));
+        for (DescriptionLangue const & langue : DonneLangues())
+            textes.append(Traduis(cle, langue.langue));
         for (int colonne = 0; colonne < textes.size(); ++colonne) {
             auto * const element = new QTableWidgetItem(textes.at(colonne));
             element->setToolTip(textes.at(colonne)); // the cell cuts long messages
@@ -119,12 +132,13 @@ QWidget * PageTextes::CreePluriel()
     auto * const formulaire = new QFormLayout(groupe);
     formulaire->setFieldGrowthPolicy(QFormLayout::FieldsStayAtSizeHint);
     monNombre = new QSpinBox;
+    monNombre->setObjectName(u"nombre"_s);
     monNombre->setRange(0, 9999);
     monNombre->setValue(kNombreAuDepart);
     formulaire->addRow(TraductionGalerie(TexteGalerie("&Nombre")), monNombre);
-    for (QString const & nom : DonneNomsLangues()) {
+    for (DescriptionLangue const & langue : DonneLangues()) {
         mesPhrases.append(new QLabel);
-        formulaire->addRow(nom, mesPhrases.last());
+        formulaire->addRow(langue.nom, mesPhrases.last());
     }
     return groupe;
 }
@@ -134,7 +148,7 @@ void PageTextes::PriseNombreChangay(int nombre)
     constexpr ChaineLocalisablePluriel kMessage =
         TextePlurielGui("{1} caractère restant", "{1} caractères restants");
     for (int i = 0; i < mesPhrases.size(); ++i) {
-        DLocale const locale(kLangues[i]);
+        DLocale const locale(DonneLangues().at(i).langue);
         // The number chooses the form, and then fills its place as text.
         LocalisateurContextuel const forme(kMessage, static_cast<quint64>(nombre),
                                            ContexteLocalisationGui(), locale);

@@ -2,6 +2,7 @@
 #include "PageTheme.h"
 
 #include "Pages.h"
+#include "TexteCellule.h"
 #include "ThemeGalerie.h"
 #include "TraductionGalerie.h"
 
@@ -74,11 +75,12 @@ PageTheme::PageTheme(ThemeGalerie & theme, QWidget * parent)
         CreeMiseEnPage(this, TraductionGalerie(TexteGalerie("Thème")),
                        TraductionGalerie(TexteGalerie(
                            "Les variables du thème. Une valeur se modifie sur place, une couleur "
-                           "se choisit par un double clic sur son aperçu ; toute la fenêtre "
-                           "suit.")));
+                           "se choisit par le bouton « Choisir la couleur… » ou par un double clic "
+                           "sur son aperçu ; toute la fenêtre suit.")));
     CreeTable();
     disposition->addLayout(CreeBarre());
     disposition->addWidget(maTable, 1);
+    disposition->addWidget(new TexteCellule(maTable));
     disposition->addLayout(CreeEssai());
     MontreVariables();
 
@@ -98,6 +100,8 @@ void PageTheme::CreeTable()
     monFiltre.setSortCaseSensitivity(Qt::CaseInsensitive);
     monFiltre.sort(kNom);
     maTable = new QTableView;
+    maTable->setObjectName(u"tableVariables"_s);
+    maTable->setAccessibleName(TraductionGalerie(TexteGalerie("Variables du thème")));
     maTable->setModel(&monFiltre);
     maTable->setIconSize(kTailleEchantillon);
     maTable->setAlternatingRowColors(true);
@@ -115,13 +119,17 @@ QLayout * PageTheme::CreeBarre()
 {
     auto * const barre = new QHBoxLayout;
     monChampFiltre = new QLineEdit;
+    monChampFiltre->setObjectName(u"filtreVariables"_s);
     monChampFiltre->setPlaceholderText(TraductionGalerie(TexteGalerie("Filtrer les variables")));
     monChampFiltre->setAccessibleName(monChampFiltre->placeholderText());
     monChampFiltre->setClearButtonEnabled(true);
     monCompte = new QLabel;
-    monBoutonCouleur = new QPushButton(TraductionGalerie(TexteGalerie("&Choisir la couleur...")));
+    monBoutonCouleur = new QPushButton(TraductionGalerie(TexteGalerie("&Choisir la couleur…")));
     monBoutonSombre = new QPushButton(TraductionGalerie(TexteGalerie("Thème &sombre")));
     monBoutonDepart = new QPushButton(TraductionGalerie(TexteGalerie("&Réinitialiser")));
+    monBoutonCouleur->setObjectName(u"boutonCouleur"_s);
+    monBoutonSombre->setObjectName(u"boutonSombre"_s);
+    monBoutonDepart->setObjectName(u"boutonReinitialiser"_s);
     barre->addWidget(monChampFiltre, 1);
     for (QWidget * const widget :
          {static_cast<QWidget *>(monCompte), static_cast<QWidget *>(monBoutonCouleur),
@@ -138,6 +146,7 @@ QLayout * PageTheme::CreeEssai()
                                    "    border-radius: @rayonBordureBouton;\n"
                                    "    padding: 6px;\n"
                                    "}\n"_s);
+    maFeuille->setObjectName(u"feuille"_s);
     maFeuille->setTabChangesFocus(true);
     maFeuille->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
     monVerdict = new QLabel;
@@ -176,7 +185,7 @@ void PageTheme::Branche()
     connect(maTable, &QTableView::doubleClicked, this, &PageTheme::PriseActivation,
             Qt::UniqueConnection);
     connect(maTable->selectionModel(), &QItemSelectionModel::currentChanged, this,
-            &PageTheme::PriseLigneCourante, Qt::UniqueConnection);
+            &PageTheme::MontreChoixPossible, Qt::UniqueConnection);
     connect(monBoutonCouleur, &QPushButton::clicked, this, &PageTheme::PriseChoixCouleur,
             Qt::UniqueConnection);
     connect(maFeuille, &QPlainTextEdit::textChanged, this, &PageTheme::PriseFeuilleChangay,
@@ -192,12 +201,13 @@ void PageTheme::Branche()
 void PageTheme::MontreVariables()
 {
     if (monModele.rowCount() == 0)
-        for (QString const & nom : monTheme.DonneNoms())
+        for (QString const & nom : ThemesQt::Instance()->DonneNoms())
             monModele.appendRow({CreeCellule(nom, false), CreeCellule(QString(), true),
                                  CreeCellule(QString(), false)});
     for (int ligne = 0; ligne < monModele.rowCount(); ++ligne)
         MontreLigne(ligne);
     MontreCompte();
+    MontreChoixPossible();
 }
 
 void PageTheme::MontreLigne(int ligne)
@@ -216,6 +226,13 @@ void PageTheme::MontreCompte()
 {
     monCompte->setText(TraductionPlurielGalerie(
         TextePlurielGalerie("{1} variable", "{1} variables"), monFiltre.rowCount()));
+}
+
+void PageTheme::MontreChoixPossible()
+{
+    // Without a current line, or on one that is no colour, there is none to choose.
+    QModelIndex const apercu = maTable->currentIndex().siblingAtColumn(kApercu);
+    monBoutonCouleur->setEnabled(!apercu.data(Qt::DecorationRole).isNull());
 }
 
 void PageTheme::AppliqueTheme()
@@ -243,7 +260,7 @@ void PageTheme::PriseValeurSaisie(QStandardItem * element)
     }
     MontreLigne(element->row());
     MontreVerdict(TraductionGalerie(
-        TexteGalerie("Valeur refusée : elle nomme une variable inconnue, ou dépend d'elle-même.")));
+        TexteGalerie("Valeur refusée : elle nomme une variable inconnue, ou dépend d’elle-même.")));
 }
 
 void PageTheme::PriseChoixCouleur()
@@ -264,12 +281,6 @@ void PageTheme::PriseActivation(QModelIndex const & index)
 {
     if (index.column() == kApercu && !index.data(Qt::DecorationRole).isNull())
         PriseChoixCouleur();
-}
-
-void PageTheme::PriseLigneCourante(QModelIndex const & index)
-{
-    monBoutonCouleur->setEnabled(index.isValid() &&
-                                 !index.siblingAtColumn(kApercu).data(Qt::DecorationRole).isNull());
 }
 
 void PageTheme::PriseThemeSombre()
@@ -293,7 +304,7 @@ void PageTheme::PriseFeuilleChangay()
         monApercu->setStyleSheet(ThemesQt::Instance()->AppliquerVariable(feuille));
     MontreVerdict(inconnues.isEmpty()
                       ? QString()
-                      : TraductionGalerie(TexteGalerie("Feuille non appliquée. Inconnues : {1}"),
+                      : TraductionGalerie(TexteGalerie("Feuille non appliquée. Inconnues : {1}"),
                                           {inconnues.join(u", "_s)}));
 }
 

@@ -30,6 +30,7 @@ private:
     void MontreVariables();
     void MontreLigne(int ligne);
     void MontreCompte();
+    void MontreChoixPossible();
     void AppliqueTheme();
     void MontreVerdict(QString const & refus);
 
@@ -37,7 +38,6 @@ private:
     void PriseValeurSaisie(QStandardItem * element);
     void PriseChoixCouleur();
     void PriseActivation(QModelIndex const & index);
-    void PriseLigneCourante(QModelIndex const & index);
     void PriseThemeSombre();
     void PriseReinitialisation();
     void PriseFeuilleChangay();

@@ -8,10 +8,28 @@
 #include <QScreen>
 #include <QStyle>
 
-PlacementEcrans PlaceSurOrdinateur(QRect const & rectangle, OptionsPlacement const & options)
+namespace {
+
+// What the library's functions come to without a screen.
+PlacementEcrans LaisseEnPlace(QRect const & rectangle)
 {
     PlacementEcrans placement;
+    placement.ajustay = rectangle;
+    placement.centray = rectangle;
+    placement.hauteurMax = rectangle.height();
+    placement.tailleOptimale = rectangle.size();
+    return placement;
+}
+
+} // namespace
+
+PlacementEcrans PlaceSurOrdinateur(QRect const & rectangle, OptionsPlacement const & options)
+{
     QScreen * const ecran = RoutinesGeneralesQt::EcranLePlusProche(rectangle.center());
+    if (!ecran)
+        return LaisseEnPlace(rectangle);
+
+    PlacementEcrans placement;
     placement.ecran = ecran->name();
     placement.resolution = RoutinesGeneralesQt::DonneResolutionEcran(ecran);
     placement.basseResolution = RoutinesFenetre::EcranEstEnBasseResolution(rectangle.center());
@@ -30,6 +48,9 @@ PlacementEcrans PlaceSurOrdinateur(QRect const & rectangle, OptionsPlacement con
 PlacementEcrans PlaceSur(QList<EcranDessinay> const & ecrans, QRect const & rectangle,
                          OptionsPlacement const & options)
 {
+    if (ecrans.isEmpty())
+        return LaisseEnPlace(rectangle);
+
     QList<QRect> geometries;
     for (EcranDessinay const & ecran : ecrans)
         geometries.append(ecran.geometrie);

@@ -20,12 +20,12 @@ struct OptionsPlacement
 /// What the library answers for one rectangle.
 struct PlacementEcrans
 {
-    QString ecran; ///< the nearest one
+    QString ecran; ///< the nearest one; null without a screen, where nothing is moved
     QSize resolution;
-    bool basseResolution;
+    bool basseResolution = false;
     QRect ajustay;
     QRect centray;
-    int hauteurMax;
+    int hauteurMax = 0;
     QSize tailleOptimale;
 };
 
@@ -33,6 +33,6 @@ struct PlacementEcrans
 PlacementEcrans PlaceSurOrdinateur(QRect const & rectangle, OptionsPlacement const & options);
 
 /// On screens that need not exist, by the arithmetic that those calls stand on; the mouse is on the
-/// first one. `ecrans` is not empty.
+/// first one.
 PlacementEcrans PlaceSur(QList<EcranDessinay> const & ecrans, QRect const & rectangle,
                          OptionsPlacement const & options);

@@ -2,7 +2,6 @@
 #include "ThemeGalerie.h"
 
 #include "foundation/ThemesQt.h"
-#include "foundation/VariablesParDefaut_p.h"
 #include "noyau/RoutinesTexte.h"
 
 #include <QApplication>
@@ -55,6 +54,21 @@ QPalette DonnePalette()
     return palette;
 }
 
+// The Fusion style draws the edges of these in a darker shade of the window's colour, which none of
+// them fills with it. Nobody sees that shade on a dark window: there it is to be the borders'
+// colour.
+void MetsBords(QPalette palette)
+{
+    constexpr int kMilieu = 128;          // of the lightness, 0 to 255
+    constexpr int kFacteurDesBords = 140; // percent: QColor::darker, as the style calls it
+    QColor const bordure = Couleur(u"couleurBordureGeneral"_s);
+    if (palette.color(QPalette::Window).lightness() < kMilieu && bordure.isValid())
+        palette.setColor(QPalette::Window, bordure.lighter(kFacteurDesBords));
+    for (char const * const classe :
+         {"QAbstractSpinBox", "QCheckBox", "QComboBox", "QLineEdit", "QPlainTextEdit"})
+        QApplication::setPalette(palette, classe);
+}
+
 } // namespace
 
 void ThemeGalerie::Reinitialise()
@@ -70,7 +84,7 @@ void ThemeGalerie::Reinitialise()
 void ThemeGalerie::Assombris()
 {
     std::pair<QString, QColor> const couleurs[] = {
-        {u"couleurBordureGeneral"_s, QColor(96, 100, 108)},
+        {u"couleurBordureGeneral"_s, QColor(130, 135, 145)},
         {u"couleurBordureGui"_s, QColor(84, 88, 96)},
         {u"couleurFondBlanc"_s, QColor(30, 32, 36)},
         {u"couleurFondBoutonHover"_s, QColor(60, 64, 72)},
@@ -87,18 +101,6 @@ void ThemeGalerie::Assombris()
     };
     for (auto const & [nom, couleur] : couleurs)
         Remplace(nom, couleur);
-}
-
-QStringList ThemeGalerie::DonneNoms() const
-{
-    QStringList noms = {u"couleurAccentSysteme"_s, u"couleurSelectionSysteme"_s,
-                        u"couleurTexteSelectionnerSysteme"_s, u"couleurTexteSysteme"_s,
-                        u"widgetListeEditableFontSize"_s};
-    // The table doesn't tell its names: an application knows those that it uses. This page shows
-    // them all, from the library's own list.
-    for (VariableParDefaut const & variable : kVariablesParDefaut)
-        noms.append(variable.nom.toString());
-    return noms;
 }
 
 QString ThemeGalerie::DonneValeur(QString const & nom) const
@@ -126,14 +128,22 @@ void ThemeGalerie::Remplace(QString const & nom, QColor const & couleur)
     ThemesQt::Instance()->AjouterVariable(nom, couleur);
 }
 
-void ThemeGalerie::Applique() const
+bool ThemeGalerie::Applique() const
 {
-    QApplication::setPalette(DonnePalette());
     QString const feuilles = RoutinesGeneralesQt::ContenuFichier(u":/Style/StyleGeneralGui.qss"_s) +
                              RoutinesGeneralesQt::ContenuFichier(u":/Style/StyleGalerie.qss"_s);
     // A name that the table lacks would keep AppliquerVariable from returning.
-    Q_ASSERT(ThemesQt::Instance()->VariablesInconnues(feuilles).isEmpty());
+    QStringList const inconnues = ThemesQt::Instance()->VariablesInconnues(feuilles);
+    if (!inconnues.isEmpty()) {
+        qWarning("The style sheets name unknown variables: %s",
+                 qPrintable(inconnues.join(u", "_s)));
+        return false;
+    }
+    QPalette const palette = DonnePalette();
+    QApplication::setPalette(palette);
+    MetsBords(palette);
     qApp->setStyleSheet(ThemesQt::Instance()->AppliquerVariable(feuilles));
+    return true;
 }
 
 bool ThemeGalerie::MeneA(QString const & nom, QString const & valeur) const

@@ -3,7 +3,6 @@
 
 #include <QColor>
 #include <QString>
-#include <QStringList>
 
 #include <map>
 
@@ -19,7 +18,6 @@ public:
     /// Overwrites the colours of surfaces, borders and texts by those of a dark theme.
     void Assombris();
 
-    QStringList DonneNoms() const;
     /// The value as it was given, so that a reference to another variable stays one.
     QString DonneValeur(QString const & nom) const;
     /// False, and nothing changes, for a value whose expansion would not end: one that names an
@@ -27,8 +25,9 @@ public:
     bool Remplace(QString const & nom, QString const & valeur);
     void Remplace(QString const & nom, QColor const & couleur);
 
-    /// Gives the application its palette and its style sheets, expanded.
-    void Applique() const;
+    /// Gives the application its palette and its style sheets, expanded. False, with a warning,
+    /// when the sheets name a variable that the theme lacks: then nothing changes.
+    bool Applique() const;
 
 private:
     bool MeneA(QString const & nom, QString const & valeur) const;

@@ -1,6 +1,8 @@
 // galerie/VueEcrans.cpp
 #include "VueEcrans.h"
 
+#include "TraductionGalerie.h"
+
 #include "foundation/ThemesQt.h"
 
 #include <QKeyEvent>
@@ -43,6 +45,14 @@ void DessineCadre(QPainter & peintre, QRectF const & rectangle, QString const & 
 
 } // namespace
 
+QString EnTaille(QSize const & taille)
+{
+    QLocale const locale; // the default one, which follows the language
+    return TraductionGalerie(
+        TexteGalerie("{1} × {2}"),
+        {UniChaine(locale.toString(taille.width())), UniChaine(locale.toString(taille.height()))});
+}
+
 VueEcrans::VueEcrans(QWidget * parent)
     : QWidget(parent)
 {
@@ -57,8 +67,11 @@ void VueEcrans::MetsEcrans(QList<EcranDessinay> const & ecrans)
 
 void VueEcrans::MetsRectangle(QRect const & rectangle)
 {
+    if (rectangle == monRectangle)
+        return;
     monRectangle = rectangle;
     update();
+    Q_EMIT SignalRectangleDeplacay();
 }
 
 void VueEcrans::MetsPlacements(QRect const & ajustay, QRect const & centray)
@@ -82,19 +95,9 @@ void VueEcrans::paintEvent(QPaintEvent *)
 {
     QTransform const echelle = DonneEchelle();
     QPainter peintre(this);
-    for (EcranDessinay const & ecran : mesEcrans) {
-        QRectF const cadre = echelle.mapRect(QRectF(ecran.geometrie));
-        // What stays visible of the first layer is taken by task bars.
-        peintre.fillRect(cadre, Couleur(u"couleurSeparateur"_s));
-        peintre.fillRect(echelle.mapRect(QRectF(ecran.disponible)), Couleur(u"couleurFondBlanc"_s));
-        DessineCadre(peintre, cadre, u"couleurBordureGeneral"_s, Qt::SolidLine);
-        peintre.setPen(Couleur(u"couleurTexteFoncee"_s));
-        peintre.drawText(cadre.adjusted(kEcartTexte, kEcartTexte, -kEcartTexte, -kEcartTexte),
-                         Qt::AlignLeft | Qt::AlignTop,
-                         u"%1\n%2 × %3"_s.arg(ecran.nom)
-                             .arg(ecran.geometrie.width())
-                             .arg(ecran.geometrie.height()));
-    }
+    for (EcranDessinay const & ecran : mesEcrans)
+        DessineEcran(peintre, echelle.mapRect(QRectF(ecran.geometrie)),
+                     echelle.mapRect(QRectF(ecran.disponible)));
     peintre.setPen(QPen(Couleur(u"couleurBordureQTreeView"_s), kEpaisseur));
     peintre.setBrush(Couleur(u"couleurFondQTreeView"_s));
     peintre.drawRect(echelle.mapRect(QRectF(monRectangle)));
@@ -102,6 +105,9 @@ void VueEcrans::paintEvent(QPaintEvent *)
                  Qt::DashLine);
     DessineCadre(peintre, echelle.mapRect(QRectF(monAjustement)), u"couleurAccentGuides"_s,
                  Qt::SolidLine);
+    // Last: an outline may pass where a name stands.
+    for (EcranDessinay const & ecran : mesEcrans)
+        DessineNom(peintre, echelle.mapRect(QRectF(ecran.geometrie)), ecran);
     if (hasFocus())
         DessineCadre(peintre, QRectF(rect()).adjusted(1, 1, -1, -1), u"couleurAccentSysteme"_s,
                      Qt::DotLine);
@@ -163,9 +169,28 @@ QTransform VueEcrans::DonneEchelle() const
                           size());
 }
 
+void VueEcrans::DessineEcran(QPainter & peintre, QRectF const & cadre,
+                             QRectF const & disponible) const
+{
+    // What stays visible of the first layer is taken by task bars.
+    peintre.fillRect(cadre, Couleur(u"couleurSeparateur"_s));
+    peintre.fillRect(disponible, Couleur(u"couleurFondBlanc"_s));
+    DessineCadre(peintre, cadre, u"couleurBordureGeneral"_s, Qt::SolidLine);
+}
+
+void VueEcrans::DessineNom(QPainter & peintre, QRectF const & cadre,
+                           EcranDessinay const & ecran) const
+{
+    QString const texte = ecran.nom + u'\n' + EnTaille(ecran.geometrie.size());
+    QRectF const place = cadre.adjusted(kEcartTexte, kEcartTexte, -kEcartTexte, -kEcartTexte);
+    constexpr int kCoin = Qt::AlignLeft | Qt::AlignTop;
+    peintre.fillRect(peintre.boundingRect(place, kCoin, texte) & place,
+                     Couleur(u"couleurFondBlanc"_s));
+    peintre.setPen(Couleur(u"couleurTexteFoncee"_s));
+    peintre.drawText(place, kCoin, texte);
+}
+
 void VueEcrans::Deplace(QPoint const & coin)
 {
-    monRectangle.moveTopLeft(coin);
-    update();
-    Q_EMIT SignalRectangleDeplacay();
+    MetsRectangle(QRect(coin, monRectangle.size()));
 }

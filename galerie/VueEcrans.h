@@ -12,11 +12,16 @@ struct EcranDessinay
     QRect disponible; ///< without the task bars
 };
 
+/// "1920 × 1080" in the words and digits of the application's language.
+QString EnTaille(QSize const & taille);
+
 /// Screens drawn to scale, a rectangle that the mouse and the arrow keys move, and outlines of
 /// where it would be placed. All rectangles are in the coordinates of the desktop.
 class VueEcrans : public QWidget
 {
     Q_OBJECT
+    Q_PROPERTY(QRect rectangle READ DonneRectangle WRITE MetsRectangle NOTIFY
+                   SignalRectangleDeplacay USER true)
 
 public:
     explicit VueEcrans(QWidget * parent = nullptr);
@@ -30,6 +35,7 @@ public:
     QSize minimumSizeHint() const override;
 
 Q_SIGNALS:
+    /// The rectangle has another place or size.
     void SignalRectangleDeplacay();
 
 protected:
@@ -41,6 +47,8 @@ protected:
 
 private:
     QTransform DonneEchelle() const;
+    void DessineEcran(QPainter & peintre, QRectF const & cadre, QRectF const & disponible) const;
+    void DessineNom(QPainter & peintre, QRectF const & cadre, EcranDessinay const & ecran) const;
     void Deplace(QPoint const & coin);
 
     QList<EcranDessinay> mesEcrans;

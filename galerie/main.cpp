@@ -41,10 +41,9 @@ int Execute(ThemeGalerie & theme, LigneDeCommande const & commande)
 int main(int argc, char ** argv)
 {
     // 1. The library is loaded, on this thread, before main begins: its resources, its texts and
-    // its
-    //    idea of the GUI thread are in place.
+    // its idea of the GUI thread are in place.
     LigneDeCommande const commande = LisLigneDeCommande(argc, argv);
-    PrepareCaptures(commande); // chooses the platform, so before the application object
+    PrepareCaptures(commande, argc, argv); // chooses the platform, so before the application object
 
     // 2. The application object.
     QApplication application(argc, argv);
@@ -54,15 +53,15 @@ int main(int argc, char ** argv)
     // 3. The language: texts looked up before this would be in the default one.
     Traductions::MetsLanguePourApplicationCourante(commande.langue);
 
-    // 4. The style is the platform's, but for pictures that shall be the same everywhere.
+    // 4. The style, before anything is built or measured with it: the platform's, so that windows
+    // look at home, but for pictures, which shall be the same everywhere.
     PreparePresentationCaptures(commande);
 
     // 5. The application's own theme variables, then the sheets that name them.
     ThemeGalerie theme;
     theme.Reinitialise();
-    theme.Applique();
 
-    int const resultat = Execute(theme, commande);
+    int const resultat = theme.Applique() ? Execute(theme, commande) : EXIT_FAILURE;
 
     // 6. What the library keeps goes before the application object does.
     ThemesQt::DetruisToi();

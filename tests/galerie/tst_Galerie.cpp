@@ -101,11 +101,15 @@ class tst_Galerie : public QObject
 
 private Q_SLOTS:
     void captures();
+    void echelleDesCaptures();
+    void sansEcranLesCapturesSeFont_data();
     void sansEcranLesCapturesSeFont();
     void refus_data();
     void refus();
     void messagesTraduits_data();
     void messagesTraduits();
+    void typographie_data();
+    void typographie();
 };
 
 void tst_Galerie::captures()
@@ -127,23 +131,97 @@ void tst_Galerie::captures()
         QVERIFY2(QImage(destination + u'/' + page + u"-fr.png"_s) !=
                      QImage(destination + u'/' + page + u"-en.png"_s),
                  qPrintable(page));
+        for (QString const & langue : {u"fr"_s, u"en"_s}) {
+            QImage const claire(destination + u"/%1-%2.png"_s.arg(page, langue));
+            QImage const sombre(destination + u"/%1-sombre-%2.png"_s.arg(page, langue));
+            QVERIFY2(!sombre.isNull(), qPrintable(page));
+            // The corner behind the explanation has the colour of the window.
+            QPoint const coin(claire.width() - 2, 2);
+            QVERIFY2(sombre.pixelColor(coin).lightness() + 100 <
+                         claire.pixelColor(coin).lightness(),
+                     qPrintable(page));
+        }
     }
+    QCOMPARE(images.size(), 16);
     for (QString const & nom : images) {
         QImage const image(destination + u'/' + nom);
         QVERIFY2(!image.isNull() && !EstUniforme(image), qPrintable(nom));
         QVERIFY2(index.contains(u"src=\"%1\""_s.arg(nom)), qPrintable(nom));
     }
     QCOMPARE(index.count(u"<img "_s), images.size());
+    QCOMPARE(index.count(u"<html lang=\""_s), 1);
+    QCOMPARE(index.count(u"<figure lang=\"fr\">"_s), images.size() / 2);
+    QCOMPARE(index.count(u"<figure lang=\"en\">"_s), images.size() / 2);
+}
+
+void tst_Galerie::echelleDesCaptures()
+{
+    // The screens of the pictures stand side by side at every scale, so the page looks the same.
+    QTemporaryDir const dossier;
+    QImage pages[2];
+    for (int const echelle : {1, 2}) {
+        QProcessEnvironment environnement = QProcessEnvironment::systemEnvironment();
+        environnement.insert(u"QT_SCALE_FACTOR"_s, QString::number(echelle));
+        QString const destination = dossier.filePath(QString::number(echelle));
+        Execution const execution =
+            Execute({u"--captures"_s, destination}, dossier.path(), environnement);
+        QVERIFY2(execution.code == 0, qPrintable(execution.erreurs));
+        pages[echelle - 1] = QImage(destination + u"/04-ecrans-fr.png"_s);
+    }
+    QCOMPARE(pages[1].size(), pages[0].size() * 2);
+    // The edges of the orange outline: far away from any text, and thicker than rounding.
+    auto const cadre = [](QImage const & image) {
+        QColor const orange(251, 169, 24);
+        QRect trouvay;
+        for (int y = 0; y < image.height() * 2 / 3; ++y)
+            for (int x = 0; x < image.width(); ++x)
+                if (image.pixelColor(x, y) == orange)
+                    trouvay |= QRect(x, y, 1, 1);
+        return trouvay;
+    };
+    QRect const simple = cadre(pages[0]);
+    QRect const doubley = cadre(pages[1]);
+    QVERIFY(!simple.isEmpty());
+    QVERIFY((doubley.center() - simple.center() * 2).manhattanLength() <= 8);
+    QVERIFY(std::abs(doubley.width() - simple.width() * 2) <= 8);
+}
+
+void tst_Galerie::sansEcranLesCapturesSeFont_data()
+{
+    QTest::addColumn<QStringList>("arguments");
+    QTest::addColumn<QString>("variable");
+    QTest::addColumn<QString>("valeur");
+    QTest::newRow("the offscreen platform")
+        << QStringList{} << u"QT_QPA_PLATFORM"_s << u"offscreen"_s;
+    QTest::newRow("the minimal platform, with parameters")
+        << QStringList{} << u"QT_QPA_PLATFORM"_s << u"minimal:enable_fonts"_s;
+    QTest::newRow("the offscreen platform as an argument")
+        << QStringList{u"-platform"_s, u"offscreen"_s} << u"LANG"_s << u"C.UTF-8"_s;
+#if defined(Q_OS_UNIX) && !defined(Q_OS_DARWIN)
+    QTest::newRow("no display") << QStringList{} << u"LANG"_s << u"C.UTF-8"_s;
+    QTest::newRow("no X server") << QStringList{} << u"DISPLAY"_s << u":59533"_s;
+    QTest::newRow("no X server for the argument")
+        << QStringList{u"-platform"_s, u"xcb"_s} << u"DISPLAY"_s << u":59533"_s;
+    QTest::newRow("no X server of that name")
+        << QStringList{u"--platform"_s, u"xcb"_s, u"-display"_s, u":59533"_s} << u"LANG"_s
+        << u"C.UTF-8"_s;
+    QTest::newRow("no Wayland server")
+        << QStringList{} << u"WAYLAND_DISPLAY"_s << u"wayland-absent"_s;
+    QTest::newRow("none of two servers")
+        << QStringList{u"-platform"_s, u"wayland;xcb"_s} << u"DISPLAY"_s << u":59533"_s;
+#endif
 }
 
 void tst_Galerie::sansEcranLesCapturesSeFont()
 {
-#if !defined(Q_OS_UNIX) || defined(Q_OS_DARWIN)
-    QSKIP("Only X11 and Wayland can lack a display");
-#endif
+    QFETCH(QStringList, arguments);
+    QFETCH(QString, variable);
+    QFETCH(QString, valeur);
     QTemporaryDir const dossier;
+    QProcessEnvironment environnement = DonneEnvironnementSansEcran();
+    environnement.insert(variable, valeur);
 
-    Execution const execution = Execute({}, dossier.path(), DonneEnvironnementSansEcran());
+    Execution const execution = Execute(arguments, dossier.path(), environnement);
 
     QVERIFY2(execution.code == 0, qPrintable(execution.erreurs));
     QVERIFY(QFile::exists(dossier.filePath(u"galerie-captures/index.html"_s)));
@@ -191,6 +269,30 @@ void tst_Galerie::messagesTraduits()
     QVERIFY(!voulus.isEmpty());
     QCOMPARE(QStringList((voulus - traduits).values()), QStringList());
     QCOMPARE(QStringList((traduits - voulus).values()), QStringList());
+}
+
+void tst_Galerie::typographie_data()
+{
+    QTest::addColumn<QString>("catalogue");
+    QTest::addColumn<QString>("faute");
+    // The identifiers of every catalogue are French.
+    for (char const * const nom : {"GalerieFr.po", "GalerieEn.po", "GalerieEn_CA.po"}) {
+        QString const catalogue = QString::fromLatin1(nom);
+        QTest::addRow("%s: straight apostrophe", nom) << catalogue << u"'"_s;
+        QTest::addRow("%s: three dots", nom) << catalogue << u"\\.\\.\\."_s;
+        QTest::addRow("%s: no narrow space before ; ! ?", nom) << catalogue << u"[^\u202F][;!?]"_s;
+        QTest::addRow("%s: no space before a colon", nom) << catalogue << u"[^\u00A0]:"_s;
+    }
+}
+
+void tst_Galerie::typographie()
+{
+    QFETCH(QString, catalogue);
+    QFETCH(QString, faute);
+    QRegularExpression const expression(faute);
+    for (QString const & message :
+         DonneMessagesDuCatalogue(QStringLiteral(SOURCES_GALERIE "/fichiers/") + catalogue))
+        QVERIFY2(!message.contains(expression), qPrintable(message));
 }
 
 QTEST_GUILESS_MAIN(tst_Galerie)

@@ -12,6 +12,7 @@ class tst_ThemeGalerie : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
+    void initTestCase();
     void init();
     void cleanup();
 
@@ -22,10 +23,18 @@ private Q_SLOTS:
     void couleurRemplaceReference();
     void reinitialisation();
     void palette();
+    void variableManquante();
+    void bordsSombres_data();
+    void bordsSombres();
 
 private:
     ThemeGalerie monTheme;
 };
+
+void tst_ThemeGalerie::initTestCase()
+{
+    QApplication::setStyle(u"Fusion"_s); // whose edges the palette is adapted to
+}
 
 void tst_ThemeGalerie::init()
 {
@@ -87,11 +96,11 @@ void tst_ThemeGalerie::couleurRemplaceReference()
 void tst_ThemeGalerie::reinitialisation()
 {
     monTheme.Assombris();
-    monTheme.Applique();
+    QVERIFY(monTheme.Applique());
     QVERIFY(ThemesQt::Instance()->DonneCouleur(u"couleurFondBlanc"_s) != QColor(Qt::white));
 
     monTheme.Reinitialise();
-    monTheme.Applique();
+    QVERIFY(monTheme.Applique());
 
     QCOMPARE(ThemesQt::Instance()->DonneCouleur(u"couleurFondBlanc"_s), QColor(Qt::white));
     QCOMPARE(QApplication::palette().color(QPalette::Base), QColor(Qt::white));
@@ -100,13 +109,61 @@ void tst_ThemeGalerie::reinitialisation()
 void tst_ThemeGalerie::palette()
 {
     QVERIFY(monTheme.Remplace(u"couleurFondBlanc"_s, u"rgba(10,20,30,255)"_s));
-    monTheme.Applique();
+    QVERIFY(monTheme.Applique());
     QCOMPARE(QApplication::palette().color(QPalette::Base), QColor(10, 20, 30));
 
     // A text that is no colour paints nothing: the palette keeps what it had.
     QVERIFY(monTheme.Remplace(u"couleurFondBlanc"_s, u"blanc"_s));
-    monTheme.Applique();
+    QVERIFY(monTheme.Applique());
     QVERIFY(QApplication::palette().color(QPalette::Base).isValid());
+}
+
+void tst_ThemeGalerie::variableManquante()
+{
+    QVERIFY(monTheme.Applique());
+    QString const feuille = qApp->styleSheet();
+    QPalette const palette = QApplication::palette();
+    // A table of defaults lacks the variable that the application adds for the general sheet.
+    ThemesQt::DetruisToi();
+    ThemesQt::Instance()->AjouterVariable(u"couleurFondBlanc"_s, QColor(1, 2, 3));
+    QTest::ignoreMessage(QtWarningMsg,
+                         QRegularExpression(u"unknown variables: widgetListeEditableFontSize"_s));
+
+    QVERIFY(!monTheme.Applique());
+
+    QCOMPARE(qApp->styleSheet(), feuille);
+    QCOMPARE(QApplication::palette(), palette);
+}
+
+void tst_ThemeGalerie::bordsSombres_data()
+{
+    QTest::addColumn<bool>("sombre");
+    QTest::newRow("light") << false;
+    QTest::newRow("dark") << true;
+}
+
+void tst_ThemeGalerie::bordsSombres()
+{
+    QFETCH(bool, sombre);
+    if (sombre)
+        monTheme.Assombris();
+    QVERIFY(monTheme.Applique());
+
+    QWidget fenetre;
+    auto * const caseACocher = new QCheckBox(&fenetre);
+    caseACocher->resize(40, 40);
+    QImage const image = fenetre.grab(caseACocher->geometry()).toImage();
+    // Across the middle: the edge is what differs most from the window around it.
+    QStyleOptionButton option;
+    option.initFrom(caseACocher);
+    QRect const boite =
+        caseACocher->style()->subElementRect(QStyle::SE_CheckBoxIndicator, &option, caseACocher);
+    int const fond = image.pixelColor(39, 39).lightness();
+    int contraste = 0;
+    for (int x = 0; x < boite.right(); ++x)
+        contraste = std::max(contraste,
+                             std::abs(image.pixelColor(x, boite.center().y()).lightness() - fond));
+    QVERIFY2(contraste >= 40, qPrintable(QString::number(contraste)));
 }
 
 QTEST_MAIN(tst_ThemeGalerie)

@@ -29,6 +29,7 @@ private Q_SLOTS:
     void presseHorsDuRectangle();
     void boutonDroit();
     void sansEcran();
+    void nomAuDessusDesContours();
 
 private:
     VueEcrans maVue;
@@ -118,6 +119,20 @@ void tst_VueEcrans::sansEcran()
     maVue.MetsEcrans({});
 
     QVERIFY(!maVue.grab().isNull());
+}
+
+void tst_VueEcrans::nomAuDessusDesContours()
+{
+    maVue.MetsPlacements({}, {});
+    maVue.MetsRectangle({});
+    QImage const seul = maVue.grab().toImage();
+    // A corner right through the first letter.
+    maVue.MetsPlacements(QRect(kEcran.topLeft() + QPoint(24, 24), kEcran.size() / 2), {});
+    QImage const traverse = maVue.grab().toImage();
+
+    QVERIFY(traverse != seul);
+    QRect const coin(58, 33, 8, 8); // in the view: where the text begins, and the edge would be
+    QCOMPARE(traverse.copy(coin), seul.copy(coin));
 }
 
 QTEST_MAIN(tst_VueEcrans)

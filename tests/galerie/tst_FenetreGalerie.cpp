@@ -1,0 +1,147 @@
+// tests/galerie/tst_FenetreGalerie.cpp
+#include "FenetreGalerie.h"
+
+#include "Langues.h"
+#include "ThemeGalerie.h"
+#include "VueEcrans.h"
+
+#include "foundation/ThemesQt.h"
+#include "noyau/Traductions.h"
+
+#include <QtTest>
+
+using namespace Qt::StringLiterals;
+
+class tst_FenetreGalerie : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init();
+    void cleanup();
+
+    void langueRefaitLesPages();
+    void saisiesGardees();
+    void themeSuivi();
+    void codes();
+    void iconeChoisie();
+
+private:
+    ThemeGalerie monTheme;
+};
+
+void tst_FenetreGalerie::init()
+{
+    Traductions::MetsLanguePourApplicationCourante(kLangueFrancais);
+    monTheme.Reinitialise();
+    QVERIFY(monTheme.Applique());
+}
+
+void tst_FenetreGalerie::cleanup()
+{
+    QVERIFY(QApplication::topLevelWidgets().isEmpty());
+    ThemesQt::DetruisToi();
+}
+
+void tst_FenetreGalerie::langueRefaitLesPages()
+{
+    FenetreGalerie fenetre(monTheme);
+    auto const * const pile = fenetre.findChild<QStackedWidget *>();
+    auto const * const liste = fenetre.findChild<QListWidget *>(u"listePages"_s);
+    auto * const choix = fenetre.findChild<QComboBox *>(u"choixLangue"_s);
+    fenetre.MontrePage(2);
+    QPointer<QWidget> const page = pile->currentWidget();
+    auto const titre = [&] {
+        return pile->currentWidget()->findChild<QLabel *>(u"titrePage"_s)->text();
+    };
+    QCOMPARE(titre(), u"Polices"_s);
+
+    choix->setCurrentIndex(choix->findData(kLangueAnglais));
+
+    QVERIFY(page.isNull());
+    QCOMPARE(pile->currentIndex(), 2);
+    QCOMPARE(pile->count(), liste->count());
+    QCOMPARE(titre(), u"Fonts"_s);
+    QCOMPARE(liste->item(2)->text(), u"Fonts"_s);
+    QCOMPARE(fenetre.locale().language(), QLocale::English);
+
+    fenetre.MetsLangue(kLangueFrancais);
+    QCOMPARE(titre(), u"Polices"_s);
+    QCOMPARE(choix->currentData().toInt(), static_cast<int>(kLangueFrancais));
+}
+
+void tst_FenetreGalerie::saisiesGardees()
+{
+    FenetreGalerie fenetre(monTheme);
+    QString const feuille = u"QLabel { color: @couleurBordure; }"_s;
+    QRect const rectangle(120, 60, 300, 200);
+    fenetre.findChild<QPlainTextEdit *>(u"feuille"_s)->setPlainText(feuille);
+    fenetre.findChild<QLineEdit *>(u"filtreVariables"_s)->setText(u"bordure"_s);
+    fenetre.findChild<QLineEdit *>(u"filtreMessages"_s)->setText(u"fermer"_s);
+    fenetre.findChild<QSpinBox *>(u"nombre"_s)->setValue(7);
+    fenetre.findChild<QComboBox *>(u"disposition"_s)->setCurrentIndex(2);
+    fenetre.findChild<QSpinBox *>(u"largeur"_s)->setValue(rectangle.width());
+    fenetre.findChild<QSpinBox *>(u"hauteur"_s)->setValue(rectangle.height());
+    fenetre.findChild<VueEcrans *>()->MetsRectangle(rectangle);
+    fenetre.findChild<QCheckBox *>(u"marge"_s)->setChecked(true);
+    fenetre.findChild<QCheckBox *>(u"forcage"_s)->setChecked(false);
+
+    fenetre.MetsLangue(kLangueAnglaisCanada);
+
+    QCOMPARE(fenetre.findChild<QPlainTextEdit *>(u"feuille"_s)->toPlainText(), feuille);
+    QCOMPARE(fenetre.findChild<QLineEdit *>(u"filtreVariables"_s)->text(), u"bordure"_s);
+    QCOMPARE(fenetre.findChild<QLineEdit *>(u"filtreMessages"_s)->text(), u"fermer"_s);
+    QCOMPARE(fenetre.findChild<QSpinBox *>(u"nombre"_s)->value(), 7);
+    auto const * const disposition = fenetre.findChild<QComboBox *>(u"disposition"_s);
+    QCOMPARE(disposition->currentIndex(), 2);
+    QCOMPARE(disposition->currentText(), u"A laptop below a large screen"_s);
+    QCOMPARE(fenetre.findChild<VueEcrans *>()->DonneRectangle(), rectangle);
+    QVERIFY(fenetre.findChild<QCheckBox *>(u"marge"_s)->isChecked());
+    QVERIFY(!fenetre.findChild<QCheckBox *>(u"forcage"_s)->isChecked());
+    // The filter does what it shows.
+    auto const * const table = fenetre.findChild<QTableView *>(u"tableVariables"_s);
+    QVERIFY(table->model()->rowCount() > 0);
+    QVERIFY(table->model()->rowCount() < ThemesQt::Instance()->DonneNoms().size());
+}
+
+void tst_FenetreGalerie::themeSuivi()
+{
+    FenetreGalerie fenetre(monTheme);
+    auto const valeur = [&] {
+        auto const * const modele = fenetre.findChild<QTableView *>(u"tableVariables"_s)->model();
+        return modele->match(modele->index(0, 0), Qt::DisplayRole, u"couleurFondBlanc"_s)
+            .value(0)
+            .siblingAtColumn(1)
+            .data()
+            .toString();
+    };
+    QCOMPARE(valeur(), u"rgba(255,255,255,255)"_s);
+
+    monTheme.Remplace(u"couleurFondBlanc"_s, QColor(1, 2, 3));
+    fenetre.RefaisPages();
+
+    QCOMPARE(valeur(), u"rgba(1,2,3,255)"_s);
+}
+
+void tst_FenetreGalerie::codes()
+{
+    for (DescriptionLangue const & langue : DonneLangues())
+        QCOMPARE(DonneLangueDuCode(langue.code), std::optional(langue.langue));
+    QVERIFY(!DonneLangueDuCode(u"de"_s));
+    QVERIFY(!DonneLangueDuCode(QString()));
+}
+
+void tst_FenetreGalerie::iconeChoisie()
+{
+    FenetreGalerie fenetre(monTheme);
+    auto const * const liste = fenetre.findChild<QListWidget *>(u"listePages"_s);
+    for (int i = 0; i < liste->count(); ++i) {
+        QIcon const icone = liste->item(i)->icon();
+        QImage const image = icone.pixmap(32, QIcon::Normal).toImage();
+        QVERIFY(!image.isNull());
+        QCOMPARE(icone.pixmap(32, QIcon::Selected).toImage(), image); // without the style's tint
+    }
+}
+
+QTEST_MAIN(tst_FenetreGalerie)
+#include "tst_FenetreGalerie.moc"

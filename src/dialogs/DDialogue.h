@@ -1,6 +1,10 @@
 // dialogs/DDialogue.h
 #pragma once
 
+#include "FabrelGuiExport.h"
+
+#include "noyau/DAlerteDeleguay.h"
+
 #include <QMetaType>
 
 /// The vocabulary of the alerts.
@@ -41,6 +45,44 @@ enum eTypStockeur
     StockeurParDefaut = 0,
     StockeurNePlusMAviser = 1 ///< the alert offers a check box
 };
+
+/// Receives the answers to alerts, for callers that prefer an object to a callback.
+///
+/// The alert holds a bare pointer: a receiver must outlive the alerts that it was given to. The
+/// routines take a pointer to const, for it is never changed by them; `TraiteReponse`, which is not
+/// const, is called on it all the same.
+class FABRELGUI_EXPORT DAlerteReceveur : public DAlerteDeleguay
+{
+public:
+    DAlerteReceveur() = default;
+    DAlerteReceveur(DAlerteReceveur const &) = default;
+    DAlerteReceveur & operator=(DAlerteReceveur const &) = default;
+    ~DAlerteReceveur() override;
+
+    /// Not called by this library; -1.
+    int TraiteDAlerte(DAlerteInfo const & info) override;
+    /// Not called by this library; -1.
+    int TraiteDAlerteRappel(DAlerteInfo const & info, UniChaine const & guid) override;
+    /// Takes the answer, a value of `eBoutons`, to the alert that was raised under `idMessage`. The
+    /// alert is still on screen if it was shown.
+    virtual void TraiteReponse(int const & idMessage, int reponse) = 0;
+
+    /// The identifier that comes with the answer; -1 until it is set. An alert takes it when it is
+    /// raised.
+    int DonneIdMessage() const { return monIdMessage; }
+    void MetsIdMessage(int const & idMessage) { monIdMessage = idMessage; }
+    /// False, like the next one: neither plays a part in the modality of an alert.
+    bool DonneModalAFenetre() const { return monModalAFenetre; }
+    bool DonneModalAApplication() const { return monModalAApplication; }
+
+private:
+    int monIdMessage = -1;
+    bool monModalAFenetre = false;
+    bool monModalAApplication = false;
+};
+
+/// True when an alert of the notification type can appear as a toast of the platform.
+FABRELGUI_EXPORT bool PeutAfficherNotificationPlateforme();
 
 } // namespace DDialogue
 

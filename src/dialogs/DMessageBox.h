@@ -1,0 +1,51 @@
+// dialogs/DMessageBox.h
+#pragma once
+
+#include "dialogs/DDialogue.h"
+
+#include <QMessageBox>
+#include <QVariant>
+
+#include <memory>
+
+class DAlerteInfo;
+class DDialogueAbs;
+
+/// The box of an alert: the library's buttons, text style, links and place.
+///
+/// The alert functions make it; an application sees it, if at all, among the top-level widgets. It
+/// never closes itself as a `QMessageBox` does: each way out gives the answer first, and only then
+/// ends the box.
+///
+/// Links do not open by themselves. One whose target is a number closes the box as Escape does, and
+/// leaves the number with `kBoutonLien` in `result()`; without an escape button the box stays. Any
+/// other valid address opens in the user's browser, and the box stays.
+class FABRELGUI_EXPORT DMessageBox : public QMessageBox
+{
+    Q_OBJECT
+
+public:
+    DMessageBox(DDialogueAbs * proprietaire, QWidget * parent, DAlerteInfo const & info);
+    ~DMessageBox() override;
+
+    /// True when the user asks not to be asked again; false here.
+    virtual bool CaseEstCochee() const;
+
+Q_SIGNALS:
+    /// The answer was known beforehand; it is given once control is back in the event loop.
+    void SignalDejaRepondu(QVariant valeur);
+    /// The answer was given; the box is about to end.
+    void SignalEnFermeture(DDialogue::eBoutons res);
+
+public Q_SLOTS:
+    void PriseHyperlien(QString cible);
+    void PriseBoutonCliquay(QAbstractButton * bouton);
+    void PriseResultat(QVariant valeur);
+    void reject() override;
+    /// Deliberate: does nothing. The box ends only once its answer was given.
+    void done(int r) override;
+
+protected:
+    void showEvent(QShowEvent * evenement) override;
+    void closeEvent(QCloseEvent * evenement) override;
+};

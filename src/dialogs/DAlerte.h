@@ -6,7 +6,6 @@
 #include "noyau/UniChaine.h"
 #include "noyau/plateforme/TypesWin32.h"
 
-#include <functional>
 #include <list>
 
 class DAlerteInfo;
@@ -36,9 +35,6 @@ class QWidget;
 // - The text of a bubble is not escaped: mark-up in it is rendered.
 // - The tick in "do not show again" together with Cancel, Close, Help or the escape button (unless
 //   that is OK) is forgotten: such an answer is never remembered.
-
-/// What receives the answer of the forms that do not block.
-using RappelAlerte = std::function<void(DDialogue::eBoutons const &)>;
 
 /// `rappel`, but called on the GUI thread: at once when it is called there, and otherwise through
 /// the event loop. An empty one stays empty. Calls that come once the application object is gone

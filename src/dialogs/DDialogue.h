@@ -7,6 +7,8 @@
 
 #include <QMetaType>
 
+#include <functional>
+
 /// The vocabulary of the alerts.
 namespace DDialogue {
 
@@ -85,5 +87,8 @@ private:
 FABRELGUI_EXPORT bool PeutAfficherNotificationPlateforme();
 
 } // namespace DDialogue
+
+/// What receives the answer to an alert that does not block.
+using RappelAlerte = std::function<void(DDialogue::eBoutons const &)>;
 
 Q_DECLARE_METATYPE(DDialogue::eBoutons)

@@ -4,6 +4,7 @@
 #include "desktop/DorvelWidgetCentrageNatif.h"
 
 #include "foundation/Layouts.h"
+#include "foundation/ThemesQt.h"
 
 #include "noyau/plateforme/PlateformeFenetres.h"
 
@@ -11,6 +12,7 @@
 #include <QFrame>
 #include <QHBoxLayout>
 #include <QLabel>
+#include <QPainter>
 #include <QProgressBar>
 #include <QTextDocumentFragment>
 #include <QTimer>
@@ -136,4 +138,15 @@ void DDialogueProgressionInfinie::showEvent(QShowEvent * evenement)
     PlateformeFenetres::Courante().SetWindowPos(fenetre, HWND_NOTOPMOST, 0, 0, 0, 0,
                                                 SWP_NOSIZE | SWP_NOMOVE | SWP_NOACTIVATE);
     maMinuterieRafraichir->start();
+}
+
+void DDialogueProgressionInfinie::paintEvent(QPaintEvent * evenement)
+{
+    QDialog::paintEvent(evenement);
+    if (!windowFlags().testFlag(Qt::FramelessWindowHint))
+        return;
+    // Without a line around it, it would melt into the window under it.
+    QPainter peintre(this);
+    peintre.setPen(ThemesQt::Instance()->DonneCouleur(u"couleurBordureGeneral"_s));
+    peintre.drawRect(rect().adjusted(0, 0, -1, -1));
 }

@@ -44,6 +44,7 @@ public Q_SLOTS:
 
 protected:
     void showEvent(QShowEvent * evenement) override;
+    void paintEvent(QPaintEvent * evenement) override;
 
 private:
     void init(QWidget * parent, QString const & texte, QString const & texteSecondaire);

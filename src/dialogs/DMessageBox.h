@@ -6,8 +6,6 @@
 #include <QMessageBox>
 #include <QVariant>
 
-#include <memory>
-
 class DAlerteInfo;
 class DDialogueAbs;
 
@@ -15,7 +13,7 @@ class DDialogueAbs;
 ///
 /// The alert functions make it; an application sees it, if at all, among the top-level widgets. It
 /// never closes itself as a `QMessageBox` does: each way out gives the answer first, and only then
-/// ends the box.
+/// ends the box, whose `result()` is the answer.
 ///
 /// Links do not open by themselves. One whose target is a number closes the box as Escape does, and
 /// leaves the number with `kBoutonLien` in `result()`; without an escape button the box stays. Any
@@ -25,11 +23,11 @@ class FABRELGUI_EXPORT DMessageBox : public QMessageBox
     Q_OBJECT
 
 public:
+    /// Owns `proprietaire`.
     DMessageBox(DDialogueAbs * proprietaire, QWidget * parent, DAlerteInfo const & info);
     ~DMessageBox() override;
 
-    /// True when the user asks not to be asked again; false here.
-    virtual bool CaseEstCochee() const;
+    void setVisible(bool visible) override;
 
 Q_SIGNALS:
     /// The answer was known beforehand; it is given once control is back in the event loop.
@@ -47,5 +45,34 @@ public Q_SLOTS:
 
 protected:
     void showEvent(QShowEvent * evenement) override;
+
+public:
+    /// True when the user asks not to be asked again; false here.
+    virtual bool CaseEstCochee() const;
+
+protected:
     void closeEvent(QCloseEvent * evenement) override;
+    void changeEvent(QEvent * evenement) override;
+
+private Q_SLOTS:
+    void PriseClicDansBarre(QAbstractButton * bouton);
+
+private:
+    void PoseIcone(DAlerteInfo const & info);
+    /// Gives the box its looks, before it first appears: a box that answers without being shown
+    /// is spared the work, which is most of what an alert costs.
+    void Habille();
+    void PoseIconeDeFenetre();
+    void PoseTextes(DAlerteInfo const & info);
+    void Branche();
+    void RegleEtiquettes();
+    /// Gives the answer and ends the box, in this order.
+    void Conclus(int reponse);
+
+    DDialogueAbs * monProprietaire;
+    QWidget * monParent;
+    int maReponse = static_cast<int>(DDialogue::kBoutonAucun); // the last one given
+    bool monRejetEstDifferay = false;                          // the window is being closed
+    bool monRejetEstDemanday = false;
+    bool monHabillageEstFait = false;
 };

@@ -14,11 +14,17 @@ public:
     DMessageBoxAvecCaseACocher(DDialogueAbs * proprietaire, QWidget * parent,
                                DAlerteInfo const & info);
 
-    bool CaseEstCochee() const override;
-
 protected:
     void showEvent(QShowEvent * evenement) override;
 
+public:
+    bool CaseEstCochee() const override;
+
+protected:
+    void changeEvent(QEvent * evenement) override;
+
 private:
-    QCheckBox * maCaseACocher;
+    void PlaceCaseACocher();
+
+    QCheckBox * maCaseACocher = nullptr;
 };

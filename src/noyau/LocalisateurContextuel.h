@@ -7,6 +7,7 @@
 
 #include <string>
 #include <string_view>
+#include <utility>
 
 class ContexteLocalisation;
 
@@ -28,6 +29,28 @@ public:
     operator UniChaine() const;
     /// UTF-8.
     operator std::string() const;
+
+    // Without these a text beside a look-up could be read as a `UniChaine` or as a `QString`.
+    friend bool operator==(UniChaine const & a, LocalisateurContextuel const & b)
+    {
+        return a == b.operator UniChaine();
+    }
+    friend bool operator<(UniChaine const & a, LocalisateurContextuel const & b)
+    {
+        return a < b.operator UniChaine();
+    }
+    friend bool operator<(LocalisateurContextuel const & a, UniChaine const & b)
+    {
+        return a.operator UniChaine() < b;
+    }
+    friend UniChaine operator+(UniChaine a, LocalisateurContextuel const & b)
+    {
+        return std::move(a) + b.operator UniChaine();
+    }
+    friend UniChaine operator+(LocalisateurContextuel const & a, UniChaine const & b)
+    {
+        return a.operator UniChaine() + b;
+    }
 
 private:
     std::string_view monTexte;

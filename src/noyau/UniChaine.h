@@ -287,7 +287,7 @@ private:
                 valeur = static_cast<qulonglong>(entier);
             else
                 valeur = static_cast<qlonglong>(entier);
-            octets = sizeof(Entier);
+            octets = std::max(sizeof(Entier), sizeof(int)); // promoted, as printf does
         }
         explicit ArgumentFormat(double nombre)
             : valeur(nombre)
@@ -302,14 +302,17 @@ private:
         {
         }
         explicit ArgumentFormat(char const * texte)
-            : valeur(QString::fromUtf8(texte))
+            : valeur(QString(UniChaine(texte)))
         {
         }
         explicit ArgumentFormat(std::string const & texte)
-            : valeur(QString::fromStdString(texte))
+            : valeur(QString(UniChaine(texte)))
         {
         }
-
+        explicit ArgumentFormat(std::nullptr_t)
+            : valeur(QString())
+        {
+        }
         explicit ArgumentFormat(wchar_t const * texte)
             : valeur(QString(UniChaine(texte)))
         {

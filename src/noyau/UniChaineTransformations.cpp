@@ -178,7 +178,8 @@ QString CaractereEchappay(QStringView texte, qsizetype position)
 // One conversion of a printf model: "%-5.2ld" has the options "-5.2" and the letter "d".
 struct Conversion
 {
-    QByteArray options; // flags, width, precision
+    QByteArray options;             // flags, width, precision
+    int octets = sizeof(qlonglong); // at most, of an integer
     char lettre = 0;
     qsizetype fin = 0; // behind the letter
 };
@@ -199,13 +200,17 @@ bool ChampEstRaisonnable(QByteArray const & options)
 std::optional<Conversion> LisConversion(QStringView modele, qsizetype position)
 {
     constexpr QStringView kOptions = u"-+ #0123456789.";
-    constexpr QStringView kTailles = u"hlLqjzt"; // arguments carry their own size
+    constexpr QStringView kTailles =
+        u"hlLqjzt"; // of which only "h" tells what an argument does not
     constexpr QStringView kLettres = u"sdiuxXocfFeEgG";
     Conversion conversion;
     while (position < modele.size() && kOptions.contains(modele.at(position)))
         conversion.options.append(modele.at(position++).toLatin1());
-    while (position < modele.size() && kTailles.contains(modele.at(position)))
-        ++position;
+    for (; position < modele.size() && kTailles.contains(modele.at(position)); ++position) {
+        if (modele.at(position) == u'h') // "h" names a short, "hh" a char
+            conversion.octets =
+                conversion.octets == int(sizeof(short)) ? sizeof(char) : sizeof(short);
+    }
     if (position >= modele.size() || !kLettres.contains(modele.at(position)) ||
         !ChampEstRaisonnable(conversion.options))
         return std::nullopt;
@@ -262,7 +267,7 @@ qlonglong SansSigne(qlonglong bits, int octets)
 struct Formateur
 {
     Conversion const & conversion;
-    int octets; // of an integer argument
+    int octets; // of an integer argument, promoted
 
     QString operator()(QString const & texte) const
     {
@@ -302,7 +307,7 @@ struct Formateur
         case 'x':
         case 'X':
         case 'o':
-            return FormateEntier(conversion, SansSigne(bits, octets));
+            return FormateEntier(conversion, SansSigne(bits, std::min(octets, conversion.octets)));
         default:
             return FormateNombre(conversion, texte.toDouble());
         }

@@ -2,6 +2,7 @@
 #include "dialogs/DDialogueProgressionInfinie.h"
 
 #include "desktop/DorvelWidgetCentrageNatif.h"
+#include "foundation/ThemesQt.h"
 #include "outils/FenetresSimulees.h"
 
 #include <QtTest>
@@ -42,6 +43,8 @@ private Q_SLOTS:
     void ordre();
     void barreOccupee();
     void largeurMinimale();
+    void bordure_data();
+    void bordure();
     void textes_data();
     void textes();
     void texteLongElargit();
@@ -88,6 +91,7 @@ void tst_DDialogueProgressionInfinie::init()
 void tst_DDialogueProgressionInfinie::cleanup()
 {
     delete monDialogue;
+    ThemesQt::DetruisToi();
     PlateformeFenetres::Installe(std::move(maPlateforme));
     QVERIFY(QApplication::topLevelWidgets().isEmpty());
 }
@@ -157,6 +161,29 @@ void tst_DDialogueProgressionInfinie::largeurMinimale()
     dialogue.resize(1, 1);
     QMargins const marges = dialogue.layout()->contentsMargins();
     QCOMPARE(dialogue.width(), 200 + marges.left() + marges.right());
+}
+
+void tst_DDialogueProgressionInfinie::bordure_data()
+{
+    QTest::addColumn<Qt::WindowFlags>("drapeaux");
+    QTest::addColumn<bool>("bordure");
+    QTest::newRow("none of the window system's") << kDrapeaux << true;
+    QTest::newRow("framed") << Qt::WindowFlags(Qt::Dialog) << false;
+}
+
+void tst_DDialogueProgressionInfinie::bordure()
+{
+    QFETCH(Qt::WindowFlags, drapeaux);
+    QFETCH(bool, bordure);
+    monDialogue =
+        new DDialogueProgressionInfinie(static_cast<QWidget *>(nullptr), u"texte"_s, {}, drapeaux);
+    QImage const image = monDialogue->grab().toImage();
+    QColor const attendue = bordure ? ThemesQt::Instance()->DonneCouleur(u"couleurBordureGeneral"_s)
+                                    : image.pixelColor(3, 3);
+    QVERIFY(!bordure || attendue != image.pixelColor(1, 1));
+    for (QPoint const point : {image.rect().topLeft(), image.rect().bottomRight(),
+                               QPoint(image.width() / 2, 0), QPoint(0, image.height() / 2)})
+        QCOMPARE(image.pixelColor(point), attendue);
 }
 
 void tst_DDialogueProgressionInfinie::textes_data()

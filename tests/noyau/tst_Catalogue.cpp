@@ -246,7 +246,7 @@ void tst_Catalogue::regles_data()
         << "nplurals=2; plural=n>>;"_ba << quint64(1) << un;
     QTest::newRow("malformed, 2") << "nplurals=2; plural=n>>;"_ba << quint64(2) << plusieurs;
     QTest::newRow("as deep as a rule may be")
-        << "plural=" + QByteArray(199, '(') + 'n' + QByteArray(199, ')') + ";" << quint64(1)
+        << "plural=" + QByteArray(299, '(') + 'n' + QByteArray(299, ')') + ";" << quint64(1)
         << plusieurs;
     QTest::newRow("no rule, 1") << QByteArray() << quint64(1) << un;
     QTest::newRow("no rule, 0") << QByteArray() << quint64(0) << plusieurs;
@@ -403,7 +403,7 @@ void tst_Catalogue::regleProfonde_data()
                                         QByteArray(kProfondeur, ')') + ';';
     QTest::newRow("negations, no semicolon")
         << "nplurals=2; plural=" + QByteArray(kProfondeur, '!') + 'n';
-    QTest::newRow("just too long") << "plural=" + QByteArray(400, ' ') + "n;";
+    QTest::newRow("just too long") << "plural=" + QByteArray(600, ' ') + "n;";
 }
 
 void tst_Catalogue::regleProfonde()

@@ -40,6 +40,7 @@ class tst_LocalisateurContextuel : public QObject
 private Q_SLOTS:
     void initTestCase();
     void conversions();
+    void acoteDUneChaine();
     void contexte_data();
     void contexte();
     void identifiantSansTraduction();
@@ -75,6 +76,18 @@ void tst_LocalisateurContextuel::conversions()
     QCOMPARE(QString(chaine), u"été en"_s);
     std::string const utf8 = LocalisateurContextuel(kEte, monContexte, anglais);
     QCOMPARE(utf8, std::string("\xC3\xA9t\xC3\xA9 en"));
+}
+
+void tst_LocalisateurContextuel::acoteDUneChaine()
+{
+    LocalisateurContextuel const texte(kEte, monContexte, DLocale(kLangueAnglais));
+    QVERIFY(UniChaine("été en") == texte);
+    QVERIFY(texte == UniChaine("été en"));
+    QVERIFY(texte != UniChaine("été"));
+    QVERIFY(UniChaine("été") < texte);
+    QVERIFY(texte < UniChaine("été fr"));
+    QCOMPARE(QString(UniChaine("un ") + texte), u"un été en"_s);
+    QCOMPARE(QString(texte + UniChaine(".")), u"été en."_s);
 }
 
 void tst_LocalisateurContextuel::contexte_data()

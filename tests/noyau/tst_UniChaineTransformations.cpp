@@ -173,6 +173,11 @@ void tst_UniChaineTransformations::formatTexte()
     chaine = UniChaine("%s!");
     chaine.Format(chaine, chaine);
     QCOMPARE(QString(chaine), u"%s!!"_s);
+    chaine.Format(UniChaine("<%s>"), nullptr);
+    QCOMPARE(QString(chaine), u"<>"_s);
+    chaine.Format(UniChaine("%s"), "\xEF\xBB\xBF"
+                                   "a"); // the mark is text like any other
+    QCOMPARE(chaine.Longueur(), 2U);
 }
 
 void tst_UniChaineTransformations::formatEntier()
@@ -184,6 +189,8 @@ void tst_UniChaineTransformations::formatEntier()
     QCOMPARE(QString(chaine), u"ff FF 10"_s);
     chaine.Format(UniChaine("%x %u %hx %llx"), -1, -2, short(-1), -1LL);
     QCOMPARE(QString(chaine), u"ffffffff 4294967294 ffff ffffffffffffffff"_s);
+    chaine.Format(UniChaine("%x %u %hhx %hx"), short(-1), short(-2), -1, 0x12345);
+    QCOMPARE(QString(chaine), u"ffffffff 4294967294 ff 2345"_s); // a short is promoted
     chaine.Format(UniChaine("%s"), L"é");
     QCOMPARE(QString(chaine), u"é"_s);
     chaine.Format(UniChaine("%05d|%-5d|%+d|%5d"), 42, 42, 42, 42);

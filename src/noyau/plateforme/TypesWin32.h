@@ -36,11 +36,13 @@ using DWORD = std::uint32_t;
 using UINT = std::uint32_t;
 using LONG = std::int32_t;
 using LONG_PTR = std::intptr_t;
+using ULONG = std::uint32_t;
 using ULONG_PTR = std::uintptr_t;
 using DWORD_PTR = std::uintptr_t;
 using WPARAM = std::uintptr_t;
 using LPARAM = std::intptr_t;
 using LRESULT = std::intptr_t;
+using HRESULT = std::int32_t;
 
 struct RECT
 {
@@ -124,5 +126,23 @@ constexpr int COLOR_HIGHLIGHTTEXT = 14;
 constexpr DWORD MONITOR_DEFAULTTONULL = 0;
 constexpr DWORD MONITOR_DEFAULTTOPRIMARY = 1;
 constexpr DWORD MONITOR_DEFAULTTONEAREST = 2;
+
+// Results of the Windows Runtime; negative ones are failures.
+constexpr HRESULT S_OK = 0;
+constexpr HRESULT S_FALSE = 1;
+constexpr HRESULT E_NOTIMPL = static_cast<HRESULT>(0x80004001);
+constexpr HRESULT E_NOINTERFACE = static_cast<HRESULT>(0x80004002);
+constexpr HRESULT E_POINTER = static_cast<HRESULT>(0x80004003);
+constexpr HRESULT E_FAIL = static_cast<HRESULT>(0x80004005);
+
+constexpr bool SUCCEEDED(HRESULT resultat)
+{
+    return resultat >= 0;
+}
+
+constexpr bool FAILED(HRESULT resultat)
+{
+    return resultat < 0;
+}
 
 #endif

@@ -1,6 +1,6 @@
+#include "desktop/DorvelWidgetCentrageNatif.h"
 #include "desktop/QWinWidget.h"
 #include "desktop/RoutinesFenetre.h"
-#include "dialogs/DDialogueProgressionInfinie.h"
 #include "noyau/RoutinesBureau.h"
 QWinWidget::QWinWidget(HWND f)
     : maFenetreNative(f)
@@ -8,9 +8,12 @@ QWinWidget::QWinWidget(HWND f)
 }
 QWinWidget::~QWinWidget() = default;
 void RoutinesFenetre::MetsFenetreEnAvantPlanEtActive(QWidget *, bool) {}
-DDialogueProgressionInfinie::DDialogueProgressionInfinie(QWidget * p, QString, QString,
-                                                         QFlags<Qt::WindowType> f)
-    : QDialog(p, f)
+DorvelWidgetCentrageNatif::DorvelWidgetCentrageNatif(HWND)
 {
+    (new QWidget(this))->setObjectName(QStringLiteral("centrage"));
 }
-DDialogueProgressionInfinie::~DDialogueProgressionInfinie() = default;
+DorvelWidgetCentrageNatif::~DorvelWidgetCentrageNatif() = default;
+QWidget * DorvelWidgetCentrageNatif::PreteFenetreCentrage() const
+{
+    return findChild<QWidget *>(QStringLiteral("centrage"));
+}

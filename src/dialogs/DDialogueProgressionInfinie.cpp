@@ -2,7 +2,7 @@
 #include "dialogs/DDialogueProgressionInfinie.h"
 
 #include "desktop/DorvelWidgetCentrageNatif.h"
-
+#include "dialogs/TextesAlerte_p.h"
 #include "foundation/Layouts.h"
 #include "foundation/ThemesQt.h"
 
@@ -14,7 +14,6 @@
 #include <QLabel>
 #include <QPainter>
 #include <QProgressBar>
-#include <QTextDocumentFragment>
 #include <QTimer>
 #include <QVBoxLayout>
 
@@ -24,13 +23,6 @@ namespace {
 
 constexpr int kLargeurMin = 200;      // logical pixels, between the margins
 constexpr int kRafraichissement = 25; // ms
-
-// What a screen reader says of a label.
-QString EnTexteBrut(QString const & texte)
-{
-    return Qt::mightBeRichText(texte) ? QTextDocumentFragment::fromHtml(texte).toPlainText()
-                                      : texte;
-}
 
 } // namespace
 
@@ -109,14 +101,14 @@ void DDialogueProgressionInfinie::AjouterBouton(QAbstractButton * bouton)
 void DDialogueProgressionInfinie::PrendsTexte(QString const & texte)
 {
     monTexte->setText(texte);
-    setAccessibleName(EnTexteBrut(texte));
+    setAccessibleName(DonneTexteLu(texte));
     maBarre->setAccessibleName(accessibleName());
 }
 
 void DDialogueProgressionInfinie::PrendsTexteSecondaire(QString const & texte)
 {
     monTexteSecondaire->setText(texte);
-    setAccessibleDescription(EnTexteBrut(texte));
+    setAccessibleDescription(DonneTexteLu(texte));
 }
 
 void DDialogueProgressionInfinie::PriseRafraichir()

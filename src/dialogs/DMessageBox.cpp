@@ -4,7 +4,7 @@
 #include "desktop/RoutinesFenetre.h"
 #include "dialogs/DAlerteInfoMaison.h"
 #include "dialogs/DDialogueAbs.h"
-#include "dialogs/ExplicationAlerte_p.h"
+#include "dialogs/TextesAlerte_p.h"
 #include "foundation/GeometrieEcran.h"
 #include "foundation/TraductionGui.h"
 
@@ -16,7 +16,6 @@
 #include <QDialogButtonBox>
 #include <QLabel>
 #include <QPointer>
-#include <QTextDocumentFragment>
 #include <QUrl>
 
 using namespace DDialogue;
@@ -41,14 +40,6 @@ QMessageBox::Icon DonneIconeDuType(DAlerteInfo::eTypeDialogue type)
     default:
         return QMessageBox::NoIcon;
     }
-}
-
-/// What a screen reader says of a text that may hold mark-up.
-QString DonneTexteLu(QString const & texte, bool estRiche)
-{
-    return estRiche || Qt::mightBeRichText(texte)
-               ? QTextDocumentFragment::fromHtml(texte).toPlainText()
-               : texte;
 }
 
 } // namespace

@@ -1,7 +1,7 @@
 // dialogs/DMessageBoxAvecCaseACocher.cpp
 #include "dialogs/DMessageBoxAvecCaseACocher.h"
 
-#include "dialogs/ExplicationAlerte_p.h"
+#include "dialogs/TextesAlerte_p.h"
 #include "foundation/TraductionGui.h"
 #include "style/ProprietesStyle_p.h"
 

@@ -4,8 +4,8 @@
 #include "dialogs/DAlerteEphemere_p.h"
 #include "dialogs/DDialogueNotification.h"
 #include "dialogs/DDialogueProgressionInfinie.h"
-#include "dialogs/ExplicationAlerte_p.h"
 #include "dialogs/StockageReponse.h"
+#include "dialogs/TextesAlerte_p.h"
 #include "foundation/Demarrage.h"
 #include "foundation/GeometrieEcran.h"
 

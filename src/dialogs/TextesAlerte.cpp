@@ -1,7 +1,9 @@
-// dialogs/ExplicationAlerte.cpp
-#include "dialogs/ExplicationAlerte_p.h"
+// dialogs/TextesAlerte.cpp
+#include "dialogs/TextesAlerte_p.h"
 
 #include "noyau/DAlerteInfo.h"
+
+#include <QTextDocumentFragment>
 
 QString DonneExplicationAvecNote(DAlerteInfo const & info)
 {
@@ -10,4 +12,11 @@ QString DonneExplicationAvecNote(DAlerteInfo const & info)
     if (UniChaine const note = info.DonneNote(); !note.EstVide())
         texte += QChar(u' ') + QString(note);
     return texte;
+}
+
+QString DonneTexteLu(QString const & texte, bool estRiche)
+{
+    return estRiche || Qt::mightBeRichText(texte)
+               ? QTextDocumentFragment::fromHtml(texte).toPlainText()
+               : texte;
 }

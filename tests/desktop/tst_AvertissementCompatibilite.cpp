@@ -78,13 +78,15 @@ private:
     QTimer monMinuteur;
 };
 
-// The child: warns of one program, and ends with another code when it comes back.
-int Avertis(QString const & bouton, QString const & repertoire)
+// The child: warns, answers with a tick, and ends with another code when it comes back.
+int Avertis(QString const & bouton, QString const & repertoire, QString const & reponses)
 {
+    StockageReponse::Initialise(DDialogue::StockeurNePlusMAviser, UniChaine(reponses),
+                                QSettings::IniFormat);
     auto bureau = std::make_unique<BureauBavard>();
     bureau->executablesAvecCompat << repertoire + u"/vieux.exe"_s << repertoire + u"/vieux2.exe"_s;
     auto const avant = PlateformeBureau::Installe(std::move(bureau));
-    Utilisateur const utilisateur(bouton);
+    Utilisateur const utilisateur(bouton, true);
     InformerUtilisationAppCompatFlags({UniChaine(repertoire)}, Guid());
     std::printf("%d\n", static_cast<int>(utilisateur.messages.size()));
     return kCodeSuite;
@@ -105,6 +107,7 @@ private Q_SLOTS:
     void nomEchappay();
     void memoirePourToujours();
     void guidDejaCochay();
+    void guidVide();
     void finDuProcessus_data();
     void finDuProcessus();
 
@@ -112,6 +115,7 @@ private:
     /// Makes the file, and says whether it runs in a compatibility mode.
     void Cree(QString const & nom, bool compatible = true);
     UniChaine DonneRepertoire() const { return UniChaine(monDossier->path()); }
+    QString DonneFichierReponses() const { return mesReponses->filePath(u"reponses.ini"_s); }
     /// How many alerts came, all answered by their default button.
     static qsizetype CompteSilencieux(std::list<UniChaine> const & repertoires);
 
@@ -125,8 +129,7 @@ void tst_AvertissementCompatibilite::init()
 {
     monDossier = std::make_unique<QTemporaryDir>();
     mesReponses = std::make_unique<QTemporaryDir>();
-    StockageReponse::Initialise(DDialogue::StockeurNePlusMAviser,
-                                UniChaine(mesReponses->filePath(u"reponses.ini"_s)),
+    StockageReponse::Initialise(DDialogue::StockeurNePlusMAviser, UniChaine(DonneFichierReponses()),
                                 QSettings::IniFormat);
     auto bureau = std::make_unique<BureauSimulay>();
     monBureau = bureau.get();
@@ -258,6 +261,16 @@ void tst_AvertissementCompatibilite::guidDejaCochay()
     QCOMPARE(CompteSilencieux({DonneRepertoire()}), 1);
 }
 
+void tst_AvertissementCompatibilite::guidVide()
+{
+    Cree(u"a.exe"_s);
+    for (int fois = 0; fois < 2; ++fois) {
+        Utilisateur const utilisateur(u"Ignorer"_s, true);
+        InformerUtilisationAppCompatFlags({DonneRepertoire()}, {});
+        QCOMPARE(utilisateur.messages.size(), 1);
+    }
+}
+
 void tst_AvertissementCompatibilite::finDuProcessus_data()
 {
     QTest::addColumn<QString>("bouton");
@@ -265,7 +278,7 @@ void tst_AvertissementCompatibilite::finDuProcessus_data()
     QTest::addColumn<QString>("sortie"); // %1 for the directory
     QTest::newRow("quit") << u"Quitter"_s << 0 << QString();
     QTest::newRow("browse, and quit") << u"Parcourir..."_s << 0 << u"%1\n"_s;
-    QTest::newRow("ignore both and go on") << u"Ignorer"_s << kCodeSuite << u"2\n"_s;
+    QTest::newRow("ignore and go on") << u"Ignorer"_s << kCodeSuite << u"1\n"_s;
 }
 
 void tst_AvertissementCompatibilite::finDuProcessus()
@@ -275,24 +288,28 @@ void tst_AvertissementCompatibilite::finDuProcessus()
     QFETCH(QString, sortie);
     Cree(u"vieux.exe"_s);
     Cree(u"vieux2.exe"_s);
+    QCOMPARE(CompteSilencieux({DonneRepertoire()}), 2);
+    StockageReponse::LibereSingletons();
 
     QProcess enfant;
     enfant.start(QCoreApplication::applicationFilePath(),
-                 {u"avertis"_s, bouton, monDossier->path()});
+                 {u"avertis"_s, bouton, monDossier->path(), DonneFichierReponses()});
     QVERIFY(enfant.waitForFinished());
 
     QCOMPARE(enfant.exitStatus(), QProcess::NormalExit);
     QCOMPARE(enfant.exitCode(), code);
     QString const attendue = sortie.contains(u'%') ? sortie.arg(monDossier->path()) : sortie;
     QCOMPARE(QString::fromLocal8Bit(enfant.readAllStandardOutput()), attendue);
+    // The tick reached the file, however the process ended.
+    QCOMPARE(CompteSilencieux({DonneRepertoire()}), 0);
 }
 
 int main(int nombre, char ** arguments)
 {
     QApplication application(nombre, arguments);
     QStringList const options = QCoreApplication::arguments();
-    if (options.size() == 4 && options[1] == "avertis"_L1)
-        return Avertis(options[2], options[3]);
+    if (options.size() == 5 && options[1] == "avertis"_L1)
+        return Avertis(options[2], options[3], options[4]);
     tst_AvertissementCompatibilite test;
     return QTest::qExec(&test, nombre, arguments);
 }

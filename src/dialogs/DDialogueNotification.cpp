@@ -11,7 +11,8 @@
 #include "noyau/plateforme/PlateformeToasts.h"
 #include "noyau/plateforme/ReferenceComptay.h"
 
-#include <QAbstractButton>
+#include <QMessageBox>
+#include <QPushButton>
 
 #include <memory>
 #include <utility>

@@ -77,7 +77,8 @@ void tst_DDialogueNotification::sansCoucheLAfficheEchoue()
 #ifdef Q_OS_WIN
     QSKIP("This system has toasts.");
 #endif
-    auto const retires = PlateformeToasts::Installe(nullptr);
+    auto retires = PlateformeToasts::Installe(nullptr);
+    auto const remise = qScopeGuard([&] { PlateformeToasts::Installe(std::move(retires)); });
     // The version alone decides.
     QVERIFY(DDialogueNotification::PeutUtiliserAPIToastNotification());
     QVERIFY(!monBanc->Affiche(kBoutonOk));

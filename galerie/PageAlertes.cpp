@@ -97,7 +97,7 @@ QWidget * PageAlertes::CreeContenu()
     monType->setObjectName(u"typeAlerte"_s);
     for (ChaineLocalisable const & type : kTypes)
         monType->addItem(TraductionGalerie(type));
-    formulaire->addRow(TraductionGalerie(TexteGalerie("&Type")), monType);
+    formulaire->addRow(TraductionGalerie(TexteGalerie("Typ&e")), monType);
     struct
     {
         ChampAvecDefaut *& champ;
@@ -105,7 +105,7 @@ QWidget * PageAlertes::CreeContenu()
         ChaineLocalisable libelle;
         QString texte;
     } const champs[] = {
-        {monTitre, u"titre"_s, TexteGalerie("Titr&e"), {}},
+        {monTitre, u"titre"_s, TexteGalerie("&Titre"), {}},
         {monMessage, u"message"_s, TexteGalerie("&Message"),
          TraductionGalerie(TexteGalerie("Enregistrer les modifications ?"))},
         {maNote, u"note"_s, TexteGalerie("&Note"),
@@ -269,7 +269,10 @@ SaisieAlerte PageAlertes::DonneSaisie() const
 void PageAlertes::PriseLancer()
 {
     SaisieAlerte const saisie = DonneSaisie();
-    maReponse->setText(TraductionGalerie(TexteGalerie("Réponse : en attente")));
+    setWindowTitle(window()->windowTitle()); // an alert without a title takes that of its parent
+    maReponse->setText(EstSansReponse(saisie)
+                           ? TraductionGalerie(TexteGalerie("Réponse : ce type n’en donne pas"))
+                           : TraductionGalerie(TexteGalerie("Réponse : en attente")));
     QPointer<PageAlertes> const moi(this); // the alert may outlive the page
     auto const rappel = [moi](DDialogue::eBoutons const & reponse) {
         if (moi)

@@ -91,11 +91,15 @@ void LanceReceveur(SaisieAlerte const & s, QWidget * parent, DAlerteInfo const &
 
 } // namespace
 
+bool EstSansReponse(SaisieAlerte const & saisie)
+{
+    return saisie.type == DAlerteInfo::kEphemere || saisie.type == DAlerteInfo::kProgressionInfinie;
+}
+
 bool EstRefusee(SaisieAlerte const & saisie)
 {
-    bool const estSansReponse =
-        saisie.type == DAlerteInfo::kEphemere || saisie.type == DAlerteInfo::kProgressionInfinie;
-    return saisie.forme == SaisieAlerte::kRetour && estSansReponse && !saisie.message.EstVide();
+    return saisie.forme == SaisieAlerte::kRetour && EstSansReponse(saisie) &&
+           !saisie.message.EstVide();
 }
 
 std::optional<DDialogue::eBoutons> Lance(SaisieAlerte const & saisie, QWidget * parent,

@@ -56,6 +56,7 @@ private Q_SLOTS:
     void silenceRepondParLeDefaut();
     void silenceFiniAvecLaPage();
     void boiteMontree();
+    void titreDeLaFenetre();
     void reponseRetenueEtOubliee();
     void typesSansReponseRefuses_data();
     void typesSansReponseRefuses();
@@ -277,6 +278,21 @@ void tst_PageAlertes::boiteMontree()
     QTRY_VERIFY(!Boite());
 }
 
+void tst_PageAlertes::titreDeLaFenetre()
+{
+    QMainWindow fenetre;
+    fenetre.setWindowTitle(u"La fenêtre"_s);
+    fenetre.setCentralWidget(maPage.release());
+    maPage.reset(qobject_cast<PageAlertes *>(fenetre.centralWidget()));
+    Choisis(u"forme"_s, SaisieAlerte::kRappel);
+    Clique(u"boutonLancer"_s);
+    QVERIFY(Boite());
+    QCOMPARE(Boite()->windowTitle(), u"La fenêtre"_s);
+    Boite()->button(QMessageBox::No)->click();
+    QTRY_VERIFY(!Boite());
+    maPage.reset();
+}
+
 void tst_PageAlertes::reponseRetenueEtOubliee()
 {
     Choisis(u"forme"_s, SaisieAlerte::kRappel);
@@ -325,7 +341,9 @@ void tst_PageAlertes::attenteFermee()
     QVERIFY(!bouton->isEnabled());
     ChoisisType(DAlerteInfo::kProgressionInfinie);
     Choisis(u"forme"_s, SaisieAlerte::kReceveur);
+    QString const avant = Reponse();
     Clique(u"boutonLancer"_s);
+    QVERIFY(Reponse() != avant);
     QPointer<DDialogueProgressionInfinie> const attente =
         maPage->findChild<DDialogueProgressionInfinie *>();
     QVERIFY(attente);

@@ -1,6 +1,7 @@
 // foundation/GeometrieEcran.cpp
 #include "foundation/GeometrieEcran.h"
 
+#include "foundation/FenetreNative_p.h"
 #include "foundation/GeometrieEcranCalculs_p.h"
 
 #include "noyau/plateforme/PlateformeFenetres.h"
@@ -72,41 +73,13 @@ HWND DonneParentNatif(QWidget const & widget)
     return poignee && plateforme.IsWindow(poignee) ? poignee : nullptr;
 }
 
-// The inside of a native window on the desktop; none when the window can't be asked.
-std::optional<QRect> DonneInterieur(HWND fenetre)
-{
-    RECT client = {0, 0, 0, 0};
-    POINT origine = {0, 0};
-    PlateformeFenetres & plateforme = PlateformeFenetres::Courante();
-    if (!plateforme.GetClientRect(fenetre, &client) ||
-        !plateforme.ClientToScreen(fenetre, &origine))
-        return std::nullopt;
-    return QRect(static_cast<int>(origine.x), static_cast<int>(origine.y),
-                 static_cast<int>(client.right - client.left),
-                 static_cast<int>(client.bottom - client.top));
-}
-
-QScreen const * DonneEcranDe(HWND fenetre)
-{
-    PlateformeFenetres & plateforme = PlateformeFenetres::Courante();
-    PlateformeFenetres::InfosMoniteur infos;
-    if (!plateforme.GetMonitorInfoW(plateforme.MonitorFromWindow(fenetre, MONITOR_DEFAULTTONEAREST),
-                                    &infos))
-        return nullptr;
-    for (QScreen const * const ecran : QGuiApplication::screens()) {
-        if (ecran->name() == infos.nom)
-            return ecran;
-    }
-    return nullptr;
-}
-
 bool CentreDansParentNatif(QWidget & widget)
 {
     HWND const parent = DonneParentNatif(widget);
-    auto const interieur = parent ? DonneInterieur(parent) : std::nullopt;
+    auto const interieur = parent ? RoutinesGeometrie::DonneInterieurNatif(parent) : std::nullopt;
     if (!interieur)
         return false;
-    QScreen const * const ecran = DonneEcranDe(parent);
+    QScreen const * const ecran = RoutinesGeometrie::DonneEcranDe(parent);
     double const ratio = ecran ? ecran->devicePixelRatio() / widget.devicePixelRatioF() : 1.0;
     widget.move(RoutinesGeometrie::DonneCoinDansParentNatif(*interieur,
                                                             QSizeF(widget.frameSize()) * ratio));

@@ -51,12 +51,6 @@ QAccessibleInterface * CreeInterfaceAccessible(QString const & classe, QObject *
     return bulle ? new QAccessibleWidget(bulle, QAccessible::AlertMessage) : nullptr;
 }
 
-void InstalleInterfaceAccessible()
-{
-    static bool const installee = (QAccessible::installFactory(&CreeInterfaceAccessible), true);
-    Q_UNUSED(installee);
-}
-
 } // namespace
 
 int RoutinesBulle::DonneDureeAffichage(float secondes)
@@ -94,7 +88,9 @@ DAlerteEphemere::DAlerteEphemere(QWidget * parent, QString const & message,
                                  QString const & explication, QPixmap const & pixmap, int duree)
     : QWidget(parent, Qt::ToolTip | Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint)
 {
-    InstalleInterfaceAccessible(); // Qt keeps the first interface that it makes for a widget
+    // First, for Qt keeps the interface that it makes for a widget; and only while there is a
+    // bubble, so that nothing of ours is left behind when the library is unloaded.
+    QAccessible::installFactory(&CreeInterfaceAccessible);
     setAttribute(Qt::WA_ShowWithoutActivating, true);
     setAttribute(Qt::WA_TranslucentBackground, true);
     CreeContenu(ComposeTexte(message, explication), pixmap);
@@ -108,6 +104,7 @@ DAlerteEphemere::DAlerteEphemere(QWidget * parent, QString const & message,
 
 DAlerteEphemere::~DAlerteEphemere()
 {
+    QAccessible::removeFactory(&CreeInterfaceAccessible);
     alerteCourante = nullptr;
 }
 

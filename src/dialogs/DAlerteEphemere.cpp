@@ -33,7 +33,6 @@ constexpr double kRayon = 6.0; // logical pixels
 // The colours of the bubble are its own: it looks the same in every theme, so its text must not
 // follow a dark one.
 constexpr QColor kCouleurFond(235, 235, 235);
-constexpr QColor kCouleurLien(0, 71, 171);
 constexpr char16_t kFeuille[] = u"color: rgb(32, 32, 32); background: transparent";
 
 // Deliberate: nothing is escaped, mark-up in an alert is rendered.
@@ -119,9 +118,6 @@ void DAlerteEphemere::CreeContenu(QString const & texte, QPixmap const & pixmap)
     // A sheet, for that of an application may colour every label.
     for (QLabel * const etiquette : {image, monTexte})
         etiquette->setStyleSheet(QString::fromUtf16(kFeuille));
-    QPalette couleurs = monTexte->palette();
-    couleurs.setColor(QPalette::Link, kCouleurLien);
-    monTexte->setPalette(couleurs);
     if (!pixmap.isNull())
         maDisposition->addWidget(image, 0, 0, Qt::AlignCenter);
     maDisposition->addWidget(monTexte, 0, 1, Qt::AlignCenter);

@@ -109,7 +109,7 @@ QLayout * ChoixBoutons::CreeChoix()
         ChaineLocalisable libelle;
         eBoutons auDepart;
     } const descriptions[] = {
-        {monDefaut, u"boutonDefaut"_s, TexteGalerie("Pour &Entrée"), kBoutonOui},
+        {monDefaut, u"boutonDefaut"_s, TexteGalerie("Pou&r Entrée"), kBoutonOui},
         {monEchap, u"boutonEchap"_s, TexteGalerie("Pour Éc&happement"), kBoutonAnnuler},
     };
     for (auto const & [choix, nom, libelle, auDepart] : descriptions) {
@@ -132,7 +132,7 @@ QLayout * ChoixBoutons::CreeChoix()
 QLayout * ChoixBoutons::CreeLabels()
 {
     auto * const ligne = new QHBoxLayout;
-    auto * const etiquette = new QLabel(TraductionGalerie(TexteGalerie("Textes m&aison")));
+    auto * const etiquette = new QLabel(TraductionGalerie(TexteGalerie("Textes maison")));
     ligne->addWidget(etiquette);
     for (std::size_t i = 0; i < mesLabels.size(); ++i) {
         UniChaine const numero(QString::number(i + 1));

@@ -97,7 +97,7 @@ QWidget * PageAlertes::CreeContenu()
     monType->setObjectName(u"typeAlerte"_s);
     for (ChaineLocalisable const & type : kTypes)
         monType->addItem(TraductionGalerie(type));
-    formulaire->addRow(TraductionGalerie(TexteGalerie("T&ype")), monType);
+    formulaire->addRow(TraductionGalerie(TexteGalerie("Typ&e")), monType);
     struct
     {
         ChampAvecDefaut *& champ;
@@ -166,8 +166,8 @@ QWidget * PageAlertes::CreeAppel()
     monSilence = new QCheckBox(TraductionGalerie(TexteGalerie("Exécution &silencieuse")));
     monSilence->setObjectName(u"silence"_s);
 
-    formulaire->addRow(TraductionGalerie(TexteGalerie("F&orme")), maForme);
-    formulaire->addRow(TraductionGalerie(TexteGalerie("Mémoi&re")), monStockeur);
+    formulaire->addRow(TraductionGalerie(TexteGalerie("&Forme")), maForme);
+    formulaire->addRow(TraductionGalerie(TexteGalerie("Mém&oire")), monStockeur);
     formulaire->addRow(TraductionGalerie(TexteGalerie("&GUID")), monGuid);
     formulaire->addRow(TraductionGalerie(TexteGalerie("&Case à cocher")), monLibelleCase);
     formulaire->addRow(QString(), monCentrageNatif);
@@ -180,7 +180,7 @@ QLayout * PageAlertes::CreeLancement()
     auto * const ligne = new QHBoxLayout;
     monBoutonLancer = new QPushButton(TraductionGalerie(TexteGalerie("&Présenter l’alerte")));
     monBoutonLancer->setObjectName(u"boutonLancer"_s);
-    monBoutonFermerAttente = new QPushButton(TraductionGalerie(TexteGalerie("&Fermer l’attente")));
+    monBoutonFermerAttente = new QPushButton(TraductionGalerie(TexteGalerie("Fermer l’&attente")));
     monBoutonFermerAttente->setObjectName(u"boutonFermerAttente"_s);
     monBoutonFermerAttente->setEnabled(false);
     maReponse = new QLabel(TraductionGalerie(TexteGalerie("Réponse : aucune encore")));
@@ -269,7 +269,10 @@ SaisieAlerte PageAlertes::DonneSaisie() const
 void PageAlertes::PriseLancer()
 {
     SaisieAlerte const saisie = DonneSaisie();
-    maReponse->setText(TraductionGalerie(TexteGalerie("Réponse : en attente")));
+    setWindowTitle(window()->windowTitle()); // an alert without a title takes that of its parent
+    maReponse->setText(EstSansReponse(saisie)
+                           ? TraductionGalerie(TexteGalerie("Réponse : ce type n’en donne pas"))
+                           : TraductionGalerie(TexteGalerie("Réponse : en attente")));
     QPointer<PageAlertes> const moi(this); // the alert may outlive the page
     auto const rappel = [moi](DDialogue::eBoutons const & reponse) {
         if (moi)

@@ -3,7 +3,7 @@
 
 #include "dialogs/DAlerteInfoMaison.h"
 
-#include <QPixmap>
+#include <QIcon>
 #include <QWidget>
 
 #include <memory>
@@ -11,6 +11,8 @@
 using namespace Qt::StringLiterals;
 
 namespace {
+
+constexpr int kCoteImage = 64; // logical pixels, enough for the box to make it smaller
 
 // An alert whose explanation is known beforehand: the library leaves it to the application.
 template <class Alerte>
@@ -40,8 +42,8 @@ std::unique_ptr<DAlerteInfo> Complete(Alerte alerte, SaisieAlerte const & saisie
 std::unique_ptr<DAlerteInfo> CreeInfo(SaisieAlerte const & saisie)
 {
     if (saisie.type == DAlerteInfo::kMaison)
-        return Complete(DAlerteInfoMaison(QPixmap(u":/images/alertes.svg"_s), saisie.message,
-                                          saisie.note, saisie.titre),
+        return Complete(DAlerteInfoMaison(QIcon(u":/images/alertes.svg"_s).pixmap(kCoteImage),
+                                          saisie.message, saisie.note, saisie.titre),
                         saisie);
     return Complete(DAlerteInfo(saisie.type, saisie.message, saisie.note, saisie.titre), saisie);
 }
@@ -91,11 +93,15 @@ void LanceReceveur(SaisieAlerte const & s, QWidget * parent, DAlerteInfo const &
 
 } // namespace
 
+bool EstSansReponse(SaisieAlerte const & saisie)
+{
+    return saisie.type == DAlerteInfo::kEphemere || saisie.type == DAlerteInfo::kProgressionInfinie;
+}
+
 bool EstRefusee(SaisieAlerte const & saisie)
 {
-    bool const estSansReponse =
-        saisie.type == DAlerteInfo::kEphemere || saisie.type == DAlerteInfo::kProgressionInfinie;
-    return saisie.forme == SaisieAlerte::kRetour && estSansReponse && !saisie.message.EstVide();
+    return saisie.forme == SaisieAlerte::kRetour && EstSansReponse(saisie) &&
+           !saisie.message.EstVide();
 }
 
 std::optional<DDialogue::eBoutons> Lance(SaisieAlerte const & saisie, QWidget * parent,

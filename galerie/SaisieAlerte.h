@@ -37,6 +37,8 @@ struct SaisieAlerte
     bool centrageNatif = false; ///< on the native window of the parent; without a store only
 };
 
+/// True for an alert that has no answer, whatever the form.
+bool EstSansReponse(SaisieAlerte const & saisie);
 /// True for an alert that the forms that block refuse, since it has no answer.
 bool EstRefusee(SaisieAlerte const & saisie);
 

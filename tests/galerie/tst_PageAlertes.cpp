@@ -8,6 +8,7 @@
 #include "dialogs/StockageReponse.h"
 #include "noyau/ExecutionSilencieuse.h"
 #include "noyau/JournalSimulay.h"
+#include "noyau/Traductions.h"
 
 #include <QtTest>
 
@@ -55,6 +56,7 @@ private Q_SLOTS:
     void silenceRepondParLeDefaut();
     void silenceFiniAvecLaPage();
     void boiteMontree();
+    void titreDeLaFenetre();
     void reponseRetenueEtOubliee();
     void typesSansReponseRefuses_data();
     void typesSansReponseRefuses();
@@ -63,6 +65,8 @@ private Q_SLOTS:
     void journalRendu();
     void saisieGardee();
     void nomsPourLecteursDEcran();
+    void touchesDAccesUniques_data();
+    void touchesDAccesUniques();
 
 private:
     template <class T>
@@ -274,6 +278,21 @@ void tst_PageAlertes::boiteMontree()
     QTRY_VERIFY(!Boite());
 }
 
+void tst_PageAlertes::titreDeLaFenetre()
+{
+    QMainWindow fenetre;
+    fenetre.setWindowTitle(u"La fenêtre"_s);
+    fenetre.setCentralWidget(maPage.release());
+    maPage.reset(qobject_cast<PageAlertes *>(fenetre.centralWidget()));
+    Choisis(u"forme"_s, SaisieAlerte::kRappel);
+    Clique(u"boutonLancer"_s);
+    QVERIFY(Boite());
+    QCOMPARE(Boite()->windowTitle(), u"La fenêtre"_s);
+    Boite()->button(QMessageBox::No)->click();
+    QTRY_VERIFY(!Boite());
+    maPage.reset();
+}
+
 void tst_PageAlertes::reponseRetenueEtOubliee()
 {
     Choisis(u"forme"_s, SaisieAlerte::kRappel);
@@ -322,7 +341,9 @@ void tst_PageAlertes::attenteFermee()
     QVERIFY(!bouton->isEnabled());
     ChoisisType(DAlerteInfo::kProgressionInfinie);
     Choisis(u"forme"_s, SaisieAlerte::kReceveur);
+    QString const avant = Reponse();
     Clique(u"boutonLancer"_s);
+    QVERIFY(Reponse() != avant);
     QPointer<DDialogueProgressionInfinie> const attente =
         maPage->findChild<DDialogueProgressionInfinie *>();
     QVERIFY(attente);
@@ -407,6 +428,37 @@ void tst_PageAlertes::nomsPourLecteursDEcran()
     champs.append(Trouve<QDoubleSpinBox>(u"dureeAffichage"_s));
     for (QWidget * const champ : std::as_const(champs))
         QVERIFY2(!nom(champ).isEmpty(), qPrintable(champ->objectName()));
+}
+
+void tst_PageAlertes::touchesDAccesUniques_data()
+{
+    QTest::addColumn<int>("langue");
+    QTest::newRow("French") << static_cast<int>(kLangueFrancais);
+    QTest::newRow("English") << static_cast<int>(kLangueAnglais);
+    QTest::newRow("Canadian English") << static_cast<int>(kLangueAnglaisCanada);
+}
+
+void tst_PageAlertes::touchesDAccesUniques()
+{
+    QFETCH(int, langue);
+    maPage.reset();
+    Traductions::MetsLanguePourApplicationCourante(static_cast<eLangue>(langue));
+    PageAlertes const page;
+    Traductions::MetsLanguePourApplicationCourante(kLangueFrancais);
+
+    QStringList textes;
+    for (auto const * const etiquette : page.findChildren<QLabel *>())
+        if (etiquette->buddy())
+            textes.append(etiquette->text());
+    for (auto const * const bouton : page.findChildren<QAbstractButton *>())
+        textes.append(bouton->text());
+    QSet<QString> touches = {u"ALT+L"_s}; // of the choice of the language beside the page
+    for (QString const & texte : std::as_const(textes)) {
+        QString const touche = QKeySequence::mnemonic(texte).toString().toUpper();
+        QVERIFY2(touche.isEmpty() || !touches.contains(touche), qPrintable(texte));
+        touches.insert(touche);
+    }
+    QVERIFY(touches.size() > 15);
 }
 
 QTEST_MAIN(tst_PageAlertes)

@@ -15,7 +15,9 @@ public:
     /// Runs the operation that many times.
     using Boucle = std::function<void(int repetitions)>;
 
-    Comparaison()
+    /// `repetitions` of the operation make one measurement: enough for the clock to see.
+    explicit Comparaison(int repetitions = 20'000)
+        : mesRepetitions(repetitions)
     {
         std::printf("%-38s %10s %10s %7s\n", "operation", "ours ns", "peer ns", "ratio");
     }
@@ -48,16 +50,15 @@ public:
 
 private:
     static constexpr int kTours = 51;
-    static constexpr int kRepetitions = 20'000;
 
     // Nanoseconds of one operation.
-    static double Duree(Boucle const & boucle)
+    double Duree(Boucle const & boucle) const
     {
         auto const debut = std::chrono::steady_clock::now();
-        boucle(kRepetitions);
+        boucle(mesRepetitions);
         std::chrono::duration<double, std::nano> const duree =
             std::chrono::steady_clock::now() - debut;
-        return duree.count() / kRepetitions;
+        return duree.count() / mesRepetitions;
     }
 
     static double Mediane(std::vector<double> mesures)
@@ -66,6 +67,7 @@ private:
         return mesures[kTours / 2];
     }
 
+    int mesRepetitions;
     bool monDepassement = false;
 };
 

@@ -1,6 +1,7 @@
 // galerie/Pages.cpp
 #include "Pages.h"
 
+#include "PageAlertes.h"
 #include "PageEcrans.h"
 #include "PagePolices.h"
 #include "PageTextes.h"
@@ -23,6 +24,8 @@ QList<DescriptionPage> const & DonnePages()
          [](ThemeGalerie &) -> QWidget * { return new PagePolices; }},
         {TexteGalerie("Écrans"), u"ecrans"_s,
          [](ThemeGalerie &) -> QWidget * { return new PageEcrans; }},
+        {TexteGalerie("Alertes"), u"alertes"_s,
+         [](ThemeGalerie &) -> QWidget * { return new PageAlertes; }},
     };
     return pages;
 }

@@ -13,12 +13,28 @@
 #include <QApplication>
 #include <QCursor>
 #include <QDir>
+#include <QStandardPaths>
 #include <QTextStream>
 
 namespace {
 
+// Before the first alert whose answer may be remembered. Not for pictures, which shall be the same
+// whatever was answered before.
+void NommeFichiersDesReponses()
+{
+    QDir const dossier(QStandardPaths::writableLocation(QStandardPaths::AppConfigLocation));
+    StockageReponse::Initialise(DDialogue::StockeurParDefaut,
+                                UniChaine(dossier.filePath(QStringLiteral("reponses.ini"))),
+                                QSettings::IniFormat);
+    StockageReponse::Initialise(DDialogue::StockeurNePlusMAviser,
+                                UniChaine(dossier.filePath(QStringLiteral("ne-plus-m-aviser.ini"))),
+                                QSettings::IniFormat);
+}
+
 int Execute(ThemeGalerie & theme, LigneDeCommande const & commande)
 {
+    if (commande.dossierCaptures.isEmpty())
+        NommeFichiersDesReponses();
     FenetreGalerie fenetre(theme);
     if (commande.dossierCaptures.isEmpty()) {
         fenetre.resize(

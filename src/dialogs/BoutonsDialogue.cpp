@@ -38,12 +38,22 @@ constexpr Description kDescriptions[] = {
     {kBoutonLien, "kBoutonLien", QMessageBox::NoButton},
     {kBoutonMaisonElevee1, "kBoutonMaisonElevee1", QMessageBox::NoButton},
 };
+
+// No algorithm of std::ranges: its function object is a symbol of which there is one in a process,
+// and the library that brings it can't be unloaded any more.
+Description const * Cherche(eBoutons bouton)
+{
+    auto const * const trouvee =
+        std::find_if(std::begin(kDescriptions), std::end(kDescriptions),
+                     [bouton](Description const & d) { return d.bouton == bouton; });
+    return trouvee == std::end(kDescriptions) ? nullptr : trouvee;
+}
 } // namespace
 
 QString BoutonsDialogue::DonneNom(eBoutons bouton)
 {
-    auto const trouvee = std::ranges::find(kDescriptions, bouton, &Description::bouton);
-    return trouvee == std::end(kDescriptions) ? QString() : QString::fromLatin1(trouvee->nom);
+    Description const * const description = Cherche(bouton);
+    return description ? QString::fromLatin1(description->nom) : QString();
 }
 
 eBoutons BoutonsDialogue::DonneBouton(QString const & nom)
@@ -51,12 +61,13 @@ eBoutons BoutonsDialogue::DonneBouton(QString const & nom)
     auto const estNommay = [&nom](Description const & description) {
         return nom == QLatin1StringView(description.nom);
     };
-    auto const trouvee = std::ranges::find_if(kDescriptions, estNommay);
+    auto const * const trouvee =
+        std::find_if(std::begin(kDescriptions), std::end(kDescriptions), estNommay);
     return trouvee == std::end(kDescriptions) ? kBoutonAucun : trouvee->bouton;
 }
 
 QMessageBox::StandardButton BoutonsDialogue::DonneBoutonStandard(eBoutons bouton)
 {
-    auto const trouvee = std::ranges::find(kDescriptions, bouton, &Description::bouton);
-    return trouvee == std::end(kDescriptions) ? QMessageBox::NoButton : trouvee->standard;
+    Description const * const description = Cherche(bouton);
+    return description ? description->standard : QMessageBox::NoButton;
 }

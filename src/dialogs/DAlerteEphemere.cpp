@@ -33,7 +33,6 @@ constexpr double kRayon = 6.0; // logical pixels
 // The colours of the bubble are its own: it looks the same in every theme, so its text must not
 // follow a dark one.
 constexpr QColor kCouleurFond(235, 235, 235);
-constexpr QColor kCouleurLien(0, 71, 171);
 constexpr char16_t kFeuille[] = u"color: rgb(32, 32, 32); background: transparent";
 
 // Deliberate: nothing is escaped, mark-up in an alert is rendered.
@@ -49,12 +48,6 @@ QAccessibleInterface * CreeInterfaceAccessible(QString const & classe, QObject *
 {
     auto * const bulle = classe == "DAlerteEphemere"_L1 ? qobject_cast<QWidget *>(objet) : nullptr;
     return bulle ? new QAccessibleWidget(bulle, QAccessible::AlertMessage) : nullptr;
-}
-
-void InstalleInterfaceAccessible()
-{
-    static bool const installee = (QAccessible::installFactory(&CreeInterfaceAccessible), true);
-    Q_UNUSED(installee);
 }
 
 } // namespace
@@ -94,7 +87,9 @@ DAlerteEphemere::DAlerteEphemere(QWidget * parent, QString const & message,
                                  QString const & explication, QPixmap const & pixmap, int duree)
     : QWidget(parent, Qt::ToolTip | Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint)
 {
-    InstalleInterfaceAccessible(); // Qt keeps the first interface that it makes for a widget
+    // First, for Qt keeps the interface that it makes for a widget; and only while there is a
+    // bubble, so that nothing of ours is left behind when the library is unloaded.
+    QAccessible::installFactory(&CreeInterfaceAccessible);
     setAttribute(Qt::WA_ShowWithoutActivating, true);
     setAttribute(Qt::WA_TranslucentBackground, true);
     CreeContenu(ComposeTexte(message, explication), pixmap);
@@ -108,6 +103,7 @@ DAlerteEphemere::DAlerteEphemere(QWidget * parent, QString const & message,
 
 DAlerteEphemere::~DAlerteEphemere()
 {
+    QAccessible::removeFactory(&CreeInterfaceAccessible);
     alerteCourante = nullptr;
 }
 
@@ -122,9 +118,6 @@ void DAlerteEphemere::CreeContenu(QString const & texte, QPixmap const & pixmap)
     // A sheet, for that of an application may colour every label.
     for (QLabel * const etiquette : {image, monTexte})
         etiquette->setStyleSheet(QString::fromUtf16(kFeuille));
-    QPalette couleurs = monTexte->palette();
-    couleurs.setColor(QPalette::Link, kCouleurLien);
-    monTexte->setPalette(couleurs);
     if (!pixmap.isNull())
         maDisposition->addWidget(image, 0, 0, Qt::AlignCenter);
     maDisposition->addWidget(monTexte, 0, 1, Qt::AlignCenter);

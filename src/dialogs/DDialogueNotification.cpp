@@ -11,7 +11,8 @@
 #include "noyau/plateforme/PlateformeToasts.h"
 #include "noyau/plateforme/ReferenceComptay.h"
 
-#include <QAbstractButton>
+#include <QMessageBox>
+#include <QPushButton>
 
 #include <memory>
 #include <utility>
@@ -170,9 +171,11 @@ bool DDialogueNotification::PeutUtiliserAPIToastNotification()
     return WindowsEstAuMoins(kWindows10);
 }
 
+// NOLINTBEGIN(performance-unnecessary-value-param): callers hand their list over
 bool DDialogueNotification::Affiche(DAlerteInfo const & info, int boutons, eBoutons, eBoutons,
                                     std::list<UniChaine> labels,
                                     std::function<void(eBoutons const &)> rappel)
+// NOLINTEND(performance-unnecessary-value-param)
 {
     auto const * alerte = dynamic_cast<DAlerteNotification const *>(&info);
     std::unique_ptr<DAlerteNotification> temporaire;

@@ -173,7 +173,7 @@ void DMessageBox::PoseIconeDeFenetre()
     if (!windowIcon().isNull())
         return;
     QIcon icone(u":/Images/IconeBarreTitre.png"_s); // the application's, if it has one
-    if (icone.isNull())
+    if (icone.availableSizes().isEmpty()) // an icon of a file that is not there is not null
         icone = QIcon(u":/Images/IconeBarreTitreDefautLibFabrelGui.png"_s);
     setWindowIcon(icone);
 }

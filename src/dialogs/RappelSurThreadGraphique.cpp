@@ -47,6 +47,7 @@ RappelAlerte RappelSurThreadGraphique(RappelAlerte rappel)
     std::shared_ptr<Relais> const partagay(new Relais(std::move(rappel)), Congedie);
     return [partagay](DDialogue::eBoutons const & reponse) {
         // A copy of its own: the call may well destroy the function that it came through.
+        // NOLINTNEXTLINE(performance-unnecessary-copy-initialization)
         std::shared_ptr<Relais> const relais = partagay;
         if (!QCoreApplication::instance())
             return;

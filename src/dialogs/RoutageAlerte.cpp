@@ -39,6 +39,7 @@ void AfficheProgression(QWidget * parent, DAlerteInfo const & info)
     auto * const dialogue =
         new DDialogueProgressionInfinie(parent, info.DonneMessage(), DonneExplicationAvecNote(info),
                                         Qt::ToolTip | Qt::FramelessWindowHint);
+    dialogue->adjustSize(); // a window has the size of its content once it is shown, too late here
     RoutinesFenetre::CentrageWidgetDansParentOuEcran(dialogue, false);
     dialogue->show();
 }

@@ -2,7 +2,9 @@
 #include "dialogs/DDialogueProgressionInfinie.h"
 
 #include "desktop/DorvelWidgetCentrageNatif.h"
+#include "dialogs/DAlerte.h"
 #include "foundation/ThemesQt.h"
+#include "noyau/DAlerteInfo.h"
 #include "outils/FenetresSimulees.h"
 
 #include <QtTest>
@@ -12,6 +14,7 @@
 #include <memory>
 
 using namespace Qt::StringLiterals;
+using DDialogue::kBoutonOk;
 
 namespace {
 
@@ -68,6 +71,7 @@ private Q_SLOTS:
     void parentNatifQuiFerme_data();
     void parentNatifQuiFerme();
     void lecteursDEcran();
+    void centreParLAlerte();
 
 private:
     // Owned by the test until it closes.
@@ -411,6 +415,25 @@ void tst_DDialogueProgressionInfinie::lecteursDEcran()
     QCOMPARE(nom(&dialogue), u"Presque fini"_s);
     QCOMPARE(nom(dialogue.findChild<QProgressBar *>()), u"Presque fini"_s);
     QCOMPARE(dialogue.accessibleDescription(), QString());
+}
+
+void tst_DDialogueProgressionInfinie::centreParLAlerte()
+{
+    QWidget parent(nullptr, Qt::FramelessWindowHint);
+    parent.setGeometry(150, 120, 500, 400);
+    parent.show();
+    DAlerteInfo const info(DAlerteInfo::kProgressionInfinie, UniChaine("Envoi"), UniChaine("note"));
+
+    DAlerte(&parent, info, kBoutonOk, kBoutonOk, kBoutonOk, RappelAlerte());
+
+    monDialogue = parent.findChild<DDialogueProgressionInfinie *>();
+    QVERIFY(monDialogue);
+    QVERIFY(monDialogue->isVisible());
+    QCOMPARE(monDialogue->windowFlags() & kDrapeaux, kDrapeaux);
+    QCOMPARE(Etiquette(0)->text(), u"Envoi"_s);
+    QCOMPARE(Etiquette(2)->text().trimmed(), u"note"_s);
+    QPoint const ecart = monDialogue->geometry().center() - parent.geometry().center();
+    QVERIFY(ecart.manhattanLength() <= 2);
 }
 
 QTEST_MAIN(tst_DDialogueProgressionInfinie)

@@ -43,8 +43,8 @@ struct Colonne
 };
 
 constexpr Colonne kColonnes[] = {
-    {TexteGalerie("Titre"), 210}, {TexteGalerie("Classe"), 130}, {TexteGalerie("Programme"), 160},
-    {TexteGalerie("État"), 190},  {TexteGalerie("Rôle"), 0},
+    {TexteGalerie("Titre"), 210}, {TexteGalerie("Classe"), 110}, {TexteGalerie("Programme"), 160},
+    {TexteGalerie("État"), 170},  {TexteGalerie("Rôle"), 0},
 };
 
 QString DonneNom(FenetreDuBureau const & fenetre)

@@ -26,18 +26,21 @@ class QWidget;
 /// - The type of the alert decides on its form. A bubble and a progress window (`kEphemere`,
 ///   `kProgressionInfinie`) have no buttons and give no answer. A notification (`kNotification`)
 ///   never blocks; where the platform has none, a message box appears in its place.
-/// - Under silent execution nothing is shown and the default button answers.
+/// - Under silent execution nothing is shown and the default button of the message box answers. A
+///   toast is shown all the same.
 /// - GUI thread only. A call from another thread, without an application object, or against the
 ///   rules below is refused: nothing is shown or journalled, the callback is dropped uncalled, and
 ///   the answer is `kBoutonAucun`. An alert with an empty message is not checked.
-/// - A parent that is destroyed takes the alert with it: a blocking form returns `kBoutonAucun`, a
-///   callback is dropped uncalled.
+/// - A parent that is destroyed takes the box with it: a blocking form returns `kBoutonAucun`, a
+///   callback is dropped uncalled. A toast has no parent.
 ///
 /// CAUTION, what surprises:
 ///
 /// - The callback of a notification that became a toast is called on a thread of the platform, not
-///   on the GUI thread: wrap it with `RappelSurThreadGraphique` unless it is safe there. A receiver
-///   never hears of a toast.
+///   on the GUI thread: wrap it with `RappelSurThreadGraphique` unless it is safe there. It may
+///   be called more than once; a toast that goes away, or is pressed beside its buttons, answers
+///   `kBoutonAucun`, and one that could not be shown after all `kBoutonReessayer`. A toast never
+///   answers a receiver, nor does it read or write a store.
 /// - The text of a bubble is not escaped: mark-up in it is rendered.
 /// - The tick in "do not show again" together with Cancel, Close, Help or the escape button (unless
 ///   that is OK) is forgotten: such an answer is never remembered.

@@ -103,6 +103,7 @@ void tst_PlateformeFenetresX11::trouveParClasseEtTitre()
     QVERIFY(fenetre);
 
     QCOMPARE(maPlateforme.DonneNomClasse(fenetre), u"EditeurEtranger"_s);
+    QCOMPARE(maPlateforme.GetWindowTextW(fenetre), u"Brouillon"_s);
     QCOMPARE(maPlateforme.FindWindowW(u"EditeurEtranger"_s, {}), fenetre);
     QCOMPARE(maPlateforme.FindWindowW(u"editeurETRANGER"_s, u"brouillon"_s), fenetre);
     QCOMPARE(maPlateforme.FindWindowW({}, u"Brouillon"_s), fenetre);
@@ -595,6 +596,7 @@ void tst_PlateformeFenetresX11::poigneesMortes()
     QCOMPARE(maPlateforme.SendMessageTimeoutW(fenetre, WM_NULL, 0, 0, 0, 100, nullptr), LRESULT(0));
     QVERIFY(!maPlateforme.DestroyWindow(fenetre));
     QCOMPARE(maPlateforme.DonneNomClasse(fenetre), QString());
+    QCOMPARE(maPlateforme.GetWindowTextW(fenetre), QString());
     QCOMPARE(maPlateforme.DonneExecutable(fenetre), QString());
     QCOMPARE(maPlateforme.DonneEnfantDeClasse(fenetre, u"EditeurEtranger"_s), nullptr);
 }

@@ -39,6 +39,9 @@ private Q_SLOTS:
     void reponseQuiDetruitLeParent();
     void receveurQuiDetruitLeParent();
     void receveurQuiSeDetruit();
+    void receveurQuiLitSonIdentifiantApres();
+    void uneSeuleReponse();
+    void receveurAvecFenetreNative();
     void identifiantPrisQuandLAlerteEstLancee();
     void rappelQuiOuvreUneAlerte();
     void alertePendantUneAlerteModale();
@@ -119,6 +122,59 @@ void tst_DAlerteVies::receveurQuiSeDetruit()
     QVERIFY(DonneBoiteVisible());
     DonneBoiteVisible()->button(QMessageBox::Ok)->click();
     QVERIFY(detruit);
+}
+
+void tst_DAlerteVies::receveurQuiLitSonIdentifiantApres()
+{
+    struct Receveur : DAlerteReceveur
+    {
+        void TraiteReponse(int const & idMessage, int) override
+        {
+            delete parent;
+            lu = idMessage; // the alert is gone
+        }
+        QWidget * parent = new QWidget;
+        int lu = 0;
+    } receveur;
+    receveur.MetsIdMessage(4711);
+    DAlerte(receveur.parent, &receveur, Question());
+    DonneBoiteVisible()->button(QMessageBox::Ok)->click();
+    QCOMPARE(receveur.lu, 4711);
+}
+
+void tst_DAlerteVies::uneSeuleReponse()
+{
+    ReceveurNotant receveur;
+    receveur.action = [] {
+        DMessageBox * const boite = DonneBoiteVisible();
+        QVERIFY(boite); // still there, and a second click reaches it
+        boite->button(QMessageBox::No)->click();
+        QTest::keyClick(boite, Qt::Key_Escape);
+        boite->reject();
+    };
+    DAlerte(nullptr, &receveur, Question(), kOuiNon, kBoutonOui, kBoutonNon);
+    QPointer<DMessageBox> const boite = DonneBoiteVisible();
+    QSignalSpy fini(boite, &QDialog::finished);
+    boite->button(QMessageBox::Yes)->click();
+    QCOMPARE(receveur.reponses, (QList<QPair<int, int>>{{-1, kBoutonOui}}));
+    QCOMPARE(boite->result(), static_cast<int>(kBoutonOui));
+    QCOMPARE(fini.count(), 1);
+}
+
+// The widget that stands for the window goes when the call returns, and the box with it.
+void tst_DAlerteVies::receveurAvecFenetreNative()
+{
+    auto const fenetre = reinterpret_cast<HWND>(quintptr(0x1234));
+    ReceveurNotant receveur;
+    DAlerteCentrageNatif(fenetre, &receveur, Question());
+    QVERIFY(QApplication::topLevelWidgets().isEmpty());
+    ExecutionSilencieuse::Demarre();
+    DAlerteCentrageNatif(fenetre, &receveur, Question());
+    QVERIFY(QApplication::topLevelWidgets().isEmpty());
+    QCoreApplication::processEvents();
+    QVERIFY(receveur.reponses.isEmpty());
+    DAlerteCentrageNatif(HWND(nullptr), &receveur, Question());
+    QTRY_COMPARE(receveur.reponses, (QList<QPair<int, int>>{{-1, kBoutonOk}}));
 }
 
 void tst_DAlerteVies::identifiantPrisQuandLAlerteEstLancee()

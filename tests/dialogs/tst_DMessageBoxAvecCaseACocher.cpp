@@ -163,13 +163,19 @@ void tst_DMessageBoxAvecCaseACocher::ligneSousLExplication_data()
     QTest::addColumn<QString>("attendu");
     QTest::newRow("a line below the note") << u"Note"_s << u" Note<br>"_s;
     QTest::newRow("no line below nothing") << QString() << QString();
+    QTest::newRow("mark-up") << u"<b>Note</b>"_s << u" <b>Note</b><br>"_s;
+    QTest::newRow("a line feed, which hides the tag from Qt")
+        << u"Un\nDeux & trois"_s << u" Un<br>Deux &amp; trois<br>"_s;
+    QTest::newRow("a sign that is no tag, likewise") << u"a < b"_s << u" a &lt; b<br>"_s;
 }
 
 void tst_DMessageBoxAvecCaseACocher::ligneSousLExplication()
 {
     QFETCH(QString, note);
     QFETCH(QString, attendu);
-    QCOMPARE(Montre(Question(note))->informativeText(), attendu);
+    DMessageBox const * const boite = Montre(Question(note));
+    QCOMPARE(boite->informativeText(), attendu);
+    QVERIFY(attendu.isEmpty() || Qt::mightBeRichText(attendu)); // never a tag to be seen
 }
 
 void tst_DMessageBoxAvecCaseACocher::caseEstCochee()

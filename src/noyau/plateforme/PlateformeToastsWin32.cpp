@@ -77,6 +77,12 @@ void GardeModule(Objet const * objet)
                          static_cast<LPCWSTR>(fonctions), &module);
 }
 
+// As for the interface that it is made on.
+#ifdef __GNUC__
+#pragma GCC diagnostic push
+#pragma GCC diagnostic ignored "-Wnon-virtual-dtor"
+#endif
+
 /// What the platform calls for one event: hands it to our handler, which it keeps alive.
 ///
 /// Agile, so that the call comes on the thread of the event and not through the message loop of
@@ -130,6 +136,10 @@ private:
     ReferenceComptay<::IUnknown> monMarshaler;
     std::atomic<ULONG> monCompte = 1;
 };
+
+#ifdef __GNUC__
+#pragma GCC diagnostic pop
+#endif
 
 class Notification6WinRT final
     : public Enveloppe<Toasts::IToastNotification6, AbiWinRT::IToastNotification6>

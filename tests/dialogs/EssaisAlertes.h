@@ -12,7 +12,9 @@
 
 #include <QApplication>
 #include <QCheckBox>
+#include <QDialogButtonBox>
 #include <QPointer>
+#include <QPushButton>
 #include <QTemporaryDir>
 #include <QTest>
 #include <QTimer>
@@ -74,6 +76,15 @@ inline QAbstractButton * Bouton(QMessageBox const & boite, QString const & texte
         if (bouton->text().remove(QLatin1Char('&')) == texte)
             return bouton;
     return nullptr;
+}
+
+/// The buttons in the order in which they were made.
+inline QList<QPushButton *> BoutonsDansLOrdre(QMessageBox const & boite)
+{
+    QList<QPushButton *> boutons;
+    for (QDialogButtonBox const * const barre : boite.findChildren<QDialogButtonBox *>())
+        boutons += barre->findChildren<QPushButton *>(Qt::FindDirectChildrenOnly);
+    return boutons;
 }
 
 inline void Clique(QAbstractButton * bouton)

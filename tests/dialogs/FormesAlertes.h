@@ -118,12 +118,28 @@ inline Forme const & PreteForme(QString const & nom)
     qFatal("unknown form: %s", qPrintable(nom));
 }
 
-/// One row for each form, with its name in the column "forme".
-inline void AjouteFormes()
+/// One row for each form that is wanted, with its name in the column "forme".
+inline void AjouteFormes(bool (*estVoulue)(Forme const &) = [](Forme const &) { return true; })
 {
     QTest::addColumn<QString>("forme");
     for (Forme const & forme : kFormes)
-        QTest::newRow(forme.nom) << QString::fromLatin1(forme.nom);
+        if (estVoulue(forme))
+            QTest::newRow(forme.nom) << QString::fromLatin1(forme.nom);
+}
+
+inline bool AvecBoutons(Forme const & forme)
+{
+    return forme.aBoutons;
+}
+
+inline bool SansBoutons(Forme const & forme)
+{
+    return !forme.aBoutons;
+}
+
+inline bool AvecReceveur(Forme const & forme)
+{
+    return forme.destination == eDestination::kReceveur;
 }
 
 } // namespace EssaisAlertes

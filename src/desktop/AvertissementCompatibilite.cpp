@@ -85,6 +85,7 @@ void Traite(UniChaine const & repertoire, UniChaine const & fichier, UniChaine c
 }
 } // namespace
 
+// NOLINTNEXTLINE(performance-unnecessary-value-param): by value is the interface
 void RoutinesGeneralesQt::InformerUtilisationAppCompatFlags(std::list<UniChaine> repertoires,
                                                             UniChaine const & guid)
 {

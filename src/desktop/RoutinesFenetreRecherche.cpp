@@ -10,6 +10,7 @@
 
 #include <algorithm>
 #include <array>
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
@@ -144,6 +145,7 @@ bool RoutinesFenetre::TrouveSecondeFenActive(HWND * fenetre, QSet<HWND> exclues,
     return true;
 }
 
+// NOLINTNEXTLINE(performance-unnecessary-value-param): by value is the interface
 void RoutinesFenetre::DonneFenetreAvantPlan(HWND & fenetre, QSet<QString> classesExclues)
 {
     QSet<HWND> const propres = DonneFenetresPropres(classesExclues);
@@ -171,7 +173,7 @@ void RoutinesFenetre::DonneTexteurCourant(HWND & fenetre, QSet<QString> classesE
             return;
         }
     }
-    DonneFenetreAvantPlan(fenetre, classesExclues);
+    DonneFenetreAvantPlan(fenetre, std::move(classesExclues));
     if (!Plateforme().IsWindow(fenetre)) // a handle that has gone would come through as it is
         fenetre = nullptr;
 }

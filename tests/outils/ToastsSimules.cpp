@@ -312,6 +312,11 @@ void ToastsSimules::RendsRien(QString const & operation)
     monEtat->sansObjet.insert(operation);
 }
 
+void ToastsSimules::RendsRienAppel(int rang)
+{
+    monEtat->sansObjetParRang.insert(rang);
+}
+
 QStringList ToastsSimules::DonneAppels() const
 {
     QMutexLocker const verrou(&monEtat->mutex);

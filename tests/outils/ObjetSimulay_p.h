@@ -1,4 +1,4 @@
-// outils/ObjetSimulay_p.h
+// tests/outils/ObjetSimulay_p.h
 #pragma once
 
 #include "outils/ToastsSimules.h"

@@ -1,4 +1,4 @@
-// outils/ToastsSimules.cpp
+// tests/outils/ToastsSimules.cpp
 #include "outils/ToastsSimules.h"
 
 #include "outils/DocumentSimulay_p.h"

@@ -1,4 +1,4 @@
-// outils/ToastsSimules.h
+// tests/outils/ToastsSimules.h
 #pragma once
 
 #include "noyau/plateforme/PlateformeToasts.h"

@@ -3,6 +3,7 @@
 
 #include "PageAlertes.h"
 #include "PageEcrans.h"
+#include "PageFenetres.h"
 #include "PagePolices.h"
 #include "PageTextes.h"
 #include "PageTheme.h"
@@ -26,6 +27,8 @@ QList<DescriptionPage> const & DonnePages()
          [](ThemeGalerie &) -> QWidget * { return new PageEcrans; }},
         {TexteGalerie("Alertes"), u"alertes"_s,
          [](ThemeGalerie &) -> QWidget * { return new PageAlertes; }},
+        {TexteGalerie("Fenêtres"), u"fenetres"_s,
+         [](ThemeGalerie &) -> QWidget * { return new PageFenetres; }},
     };
     return pages;
 }

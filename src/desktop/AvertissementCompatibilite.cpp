@@ -2,17 +2,49 @@
 #include "desktop/AvertissementCompatibilite.h"
 
 #include "dialogs/DAlerte.h"
+#include "dialogs/DMessageBoxAvecCaseACocher.h"
+#include "dialogs/StockageReponse.h"
 #include "foundation/TraductionGui.h"
 
 #include "noyau/DAlerteInfo.h"
 #include "noyau/RoutinesBureau.h"
 #include "noyau/RoutinesFichier.h"
 
+#include <QApplication>
+#include <QEvent>
+
 #include <cstdlib>
 
 using namespace Qt::StringLiterals;
 
 namespace {
+using DDialogue::StockeurNePlusMAviser;
+
+// Sees whether the box that was shown last was left with its tick.
+class TemoinCoche final : public QObject
+{
+public:
+    TemoinCoche()
+    {
+        if (qApp) // without, no box is shown
+            qApp->installEventFilter(this);
+    }
+
+    bool EstCoche() const { return monCoche; }
+
+    bool eventFilter(QObject * objet, QEvent * evenement) override
+    {
+        if (evenement->type() == QEvent::Hide) {
+            if (auto const * const boite = qobject_cast<DMessageBoxAvecCaseACocher *>(objet))
+                monCoche = boite->CaseEstCochee();
+        }
+        return false;
+    }
+
+private:
+    bool monCoche = false;
+};
+
 DDialogue::eBoutons Avertis(UniChemin const & executable, UniChaine const & guid)
 {
     QString const nom = executable.DonneDernierComposantCheminSaufExtension();
@@ -26,10 +58,16 @@ DDialogue::eBoutons Avertis(UniChemin const & executable, UniChaine const & guid
     info.texteRiche = true;
     constexpr int kBoutons =
         DDialogue::kBoutonIgnorer | DDialogue::kBoutonMaison1 | DDialogue::kBoutonMaison2;
-    return DAlerteRappel(nullptr, info, DDialogue::StockeurNePlusMAviser, guid, kBoutons,
-                         DDialogue::kBoutonIgnorer, DDialogue::kBoutonIgnorer,
-                         TraductionGui(TexteGui("Quitter")),
-                         TraductionGui(TexteGui("Parcourir...")));
+    TemoinCoche const temoin;
+    DDialogue::eBoutons const reponse =
+        DAlerteRappel(nullptr, info, StockeurNePlusMAviser, guid, kBoutons,
+                      DDialogue::kBoutonIgnorer, DDialogue::kBoutonIgnorer,
+                      TraductionGui(TexteGui("Quitter")), TraductionGui(TexteGui("Parcourir...")));
+    // Alerts never remember an answer on their escape button. Here that is the one answer with
+    // which the program goes on, and whoever ticks the box with it wants to be left alone too.
+    if (reponse == DDialogue::kBoutonIgnorer && temoin.EstCoche() && !guid.EstVide())
+        StockageReponse::Instance(StockeurNePlusMAviser, guid)->ActualiseReponse(reponse);
+    return reponse;
 }
 
 void Traite(UniChaine const & repertoire, UniChaine const & fichier, UniChaine const & guid)
@@ -47,10 +85,11 @@ void Traite(UniChaine const & repertoire, UniChaine const & fichier, UniChaine c
 }
 } // namespace
 
+// NOLINTNEXTLINE(performance-unnecessary-value-param): by value is the interface
 void RoutinesGeneralesQt::InformerUtilisationAppCompatFlags(std::list<UniChaine> repertoires,
                                                             UniChaine const & guid)
 {
-    if (DAlerteRappelDejaCochay(DDialogue::StockeurNePlusMAviser, guid))
+    if (DAlerteRappelDejaCochay(StockeurNePlusMAviser, guid))
         return;
     for (UniChaine const & repertoire : repertoires) {
         if (repertoire.EstVide())

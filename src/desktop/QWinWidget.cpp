@@ -9,7 +9,8 @@
 #include <QWindow>
 
 QWinWidget::QWinWidget(HWND fenetre)
-    : maFenetreNative(fenetre)
+    : QWidget(nullptr, Qt::Window | Qt::FramelessWindowHint) // its inside is its frame
+    , maFenetreNative(fenetre)
 {
     setAttribute(Qt::WA_QuitOnClose, false);
     SuisFenetreNative();
@@ -50,11 +51,13 @@ void QWinWidget::SuisFenetreNative()
 
 void QWinWidget::Rattache(QWidget & enfant)
 {
-    if (!enfant.windowHandle() || !PlateformeFenetres::Courante().IsWindow(maFenetreNative))
+    if (!enfant.windowHandle())
         return;
-    if (!monProprietaire)
+    if (!PlateformeFenetres::Courante().IsWindow(maFenetreNative))
+        monProprietaire.reset();
+    else if (!monProprietaire)
         monProprietaire.reset(QWindow::fromWinId(reinterpret_cast<WId>(maFenetreNative)));
-    // Read by the platform when the window comes onto the screen, right after this.
-    if (monProprietaire)
-        enfant.windowHandle()->setTransientParent(monProprietaire.get());
+    // In the place of our own hidden window, which Qt gave to the child. The platform reads it when
+    // the child comes onto the screen, right after this.
+    enfant.windowHandle()->setTransientParent(monProprietaire.get());
 }

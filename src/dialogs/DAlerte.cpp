@@ -5,6 +5,8 @@
 #include "dialogs/RoutageAlerte_p.h"
 #include "dialogs/StockageReponse.h"
 
+#include <memory>
+
 using namespace DDialogue;
 
 namespace {

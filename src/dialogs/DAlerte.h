@@ -11,30 +11,41 @@
 class DAlerteInfo;
 class QWidget;
 
-// Asking the user. An application describes the alert with a `DAlerteInfo` and calls one of these
-// functions; they differ in who gets the answer (the return value, a callback, a receiver), in
-// whether they block, in the modality of the window and in whether the answer may be remembered.
-//
-// Common to all:
-// - `boutons` is a mask of `DDialogue::eBoutons`, `defaut` the button of Return and `echap` that of
-//   Escape. The forms without a mask offer OK alone, which is then both.
-// - The labels are those of `kBoutonMaison1` to `kBoutonMaison5`, in this order; a button with an
-//   empty label is left out. `kBoutonMaisonElevee1` has the first label too.
-// - The type of the alert decides on its form. A bubble and a progress window (`kEphemere`,
-//   `kProgressionInfinie`) have no buttons and give no answer. A notification (`kNotification`)
-//   never blocks; where the platform has none, a message box appears in its place.
-// - Under silent execution nothing is shown and the default button answers.
-// - GUI thread only. A call from another thread, without an application object, or against the
-//   rules below is refused: nothing is shown or journalled, the callback is dropped uncalled, and
-//   the answer is `kBoutonAucun`. An alert with an empty message is not checked.
-// - Links do not open by themselves while they are numbers; see `DMessageBox`.
-//
-// What surprises:
-// - The callback of a notification that became a toast is called on a thread of the platform, not
-//   on the GUI thread: wrap it with `RappelSurThreadGraphique` unless it is safe there.
-// - The text of a bubble is not escaped: mark-up in it is rendered.
-// - The tick in "do not show again" together with Cancel, Close, Help or the escape button (unless
-//   that is OK) is forgotten: such an answer is never remembered.
+/// \file
+/// Asking the user.
+///
+/// An application describes the alert with a `DAlerteInfo` and calls one of these functions; they
+/// differ in who gets the answer (the return value, a callback, a receiver), in whether they block,
+/// in the modality of the window and in whether the answer may be remembered. Common to all:
+///
+/// - `boutons` is a mask of `DDialogue::eBoutons`, `defaut` the button of Return and `echap` that
+///   of Escape. The forms without a mask offer OK alone, which is then both.
+/// - The labels are those of `kBoutonMaison1` to `kBoutonMaison5`, in this order; a button with an
+///   empty label is left out. `kBoutonMaisonElevee1` has the first label too. A mask of which no
+///   button is left gives an OK that answers `kBoutonAucun`.
+/// - The type of the alert decides on its form. A bubble and a progress window (`kEphemere`,
+///   `kProgressionInfinie`) have no buttons and give no answer. A notification (`kNotification`)
+///   never blocks; where the platform has none, a message box appears in its place.
+/// - Under silent execution nothing is shown and the default button of the message box answers. A
+///   toast is shown all the same.
+/// - GUI thread only. A call from another thread, without an application object, or against the
+///   rules below is refused: nothing is shown or journalled, the callback is dropped uncalled, and
+///   the answer is `kBoutonAucun`. An alert with an empty message is not checked.
+/// - A parent that is destroyed takes the box with it: a blocking form returns `kBoutonAucun`, a
+///   callback is dropped uncalled. A toast has no parent.
+///
+/// CAUTION, what surprises:
+///
+/// - The callback of a notification that became a toast is called on a thread of the platform, not
+///   on the GUI thread: wrap it with `RappelSurThreadGraphique` unless it is safe there. It may
+///   be called more than once; a toast that goes away, or is pressed beside its buttons, answers
+///   `kBoutonAucun`, and one that could not be shown after all `kBoutonReessayer`. A toast never
+///   answers a receiver, nor does it read or write a store.
+/// - The text of a bubble is not escaped: mark-up in it is rendered.
+/// - The tick in "do not show again" together with Cancel, Close, Help or the escape button (unless
+///   that is OK) is forgotten: such an answer is never remembered.
+/// - Links never open by themselves: a click on a number closes the box as Escape does, a click on
+///   an address opens the browser and the box stays.
 
 /// `rappel`, but called on the GUI thread: at once when it is called there, and otherwise through
 /// the event loop. An empty one stays empty. Calls that come once the application object is gone
@@ -90,7 +101,8 @@ FABRELGUI_EXPORT DDialogue::eBoutons DAlerteCentrageNatif(
     UniChaine const & label1 = kUniChaineNulle, UniChaine const & label2 = kUniChaineNulle,
     UniChaine const & label3 = kUniChaineNulle, UniChaine const & label4 = kUniChaineNulle,
     UniChaine const & label5 = kUniChaineNulle);
-/// The same centred on a native window and on top of others; null for none.
+/// The same centred on a native window and on top of others; null for none. A notification that
+/// becomes a box ends with the call.
 FABRELGUI_EXPORT DDialogue::eBoutons DAlerteCentrageNatif(HWND fenetre, DAlerteInfo const & info);
 FABRELGUI_EXPORT DDialogue::eBoutons DAlerteCentrageNatif(
     HWND fenetre, DAlerteInfo const & info, int boutons, DDialogue::eBoutons defaut,
@@ -100,9 +112,9 @@ FABRELGUI_EXPORT DDialogue::eBoutons DAlerteCentrageNatif(
 /// OK alone, and no escape button of the caller's. An empty message does nothing.
 FABRELGUI_EXPORT void DAlerteCentrageNatif(DDialogue::DAlerteReceveur const * receveur,
                                            DAlerteInfo const & info);
-/// Deliberate: with a window, the alert ends with the call, for the widget that stands for the
-/// window goes then; only an answer that needs no window, remembered or silent, is delivered. Use
-/// the form without a window, or a blocking one, to ask the user.
+/// Deliberate: with a window, a message box ends with the call and never answers, remembered or
+/// silent answers included, for the widget that stands for the window goes then. Use the form
+/// without a window, or a blocking one.
 FABRELGUI_EXPORT void DAlerteCentrageNatif(HWND fenetre,
                                            DDialogue::DAlerteReceveur const * receveur,
                                            DAlerteInfo const & info);

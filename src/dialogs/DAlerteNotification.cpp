@@ -3,6 +3,11 @@
 
 #include "noyau/RoutinesFichier.h"
 
+#include <QFileInfo>
+#include <QSaveFile>
+
+#include <utility>
+
 DAlerteNotification::DAlerteNotification(DAlerteInfo const & info)
     : DAlerteInfo(info)
     , monIcone(QPixmap::fromImage(iconeGenerale))
@@ -13,12 +18,12 @@ DAlerteNotification::DAlerteNotification(DAlerteInfo const & info)
 }
 
 DAlerteNotification::DAlerteNotification(QPixmap const & icone, UniChemin const & nomFichier,
-                                         Raccourci::InfosPourRaccourci const & raccourci,
+                                         Raccourci::InfosPourRaccourci raccourci,
                                          UniChaine const & message, UniChaine const & note)
     : DAlerteInfo(kNotification, message, note, kUniChaineNulle)
     , monIcone(icone)
     , monNomFichierImage(nomFichier)
-    , monRaccourci(raccourci)
+    , monRaccourci(std::move(raccourci))
 {
     EcrisImage();
 }
@@ -42,6 +47,13 @@ void DAlerteNotification::MetsRaccourci(Raccourci::InfosPourRaccourci const & ra
 
 void DAlerteNotification::EcrisImage() const
 {
-    if (!monNomFichierImage.EstVide() && !RoutinesFichier::FichierExiste(monNomFichierImage))
-        monIcone.save(monNomFichierImage);
+    if (monIcone.isNull() || monNomFichierImage.EstVide() ||
+        RoutinesFichier::FichierExiste(monNomFichierImage))
+        return;
+    QString const nom = monNomFichierImage;
+    // All or nothing: half an image would be reused for ever.
+    QSaveFile fichier(nom);
+    if (fichier.open(QIODevice::WriteOnly) &&
+        monIcone.save(&fichier, QFileInfo(nom).suffix().toLatin1().constData()))
+        fichier.commit();
 }

@@ -18,6 +18,8 @@
 #include <QPushButton>
 #include <QStyle>
 
+#include <algorithm>
+
 using namespace DDialogue;
 using namespace Qt::StringLiterals;
 
@@ -137,8 +139,10 @@ int DDialogueAbs::TransmetsReponse(int reponse)
     if (monStockage && maBoite->CaseEstCochee() && !(reponse & DonneMasqueRefusay()))
         monStockage->ActualiseReponse(reponse);
     if (monReceveur) {
+        // By reference, and the receiver may destroy this object while it reads it.
+        int const idMessage = monIdMessage;
         // The receiver is passed around as const and answered all the same.
-        const_cast<DAlerteReceveur *>(monReceveur)->TraiteReponse(monIdMessage, reponse);
+        const_cast<DAlerteReceveur *>(monReceveur)->TraiteReponse(idMessage, reponse);
     } else if (RappelAlerte const rappel = monRappel) // a copy: the call may destroy this object
     {
         rappel(static_cast<eBoutons>(reponse));
@@ -243,15 +247,23 @@ void DDialogueAbs::DesigneBoutons(eBoutons defaut, eBoutons echap)
     }
 }
 
+bool DDialogueAbs::SeraMontree() const
+{
+    return DonneReponseEnregistree() == kBoutonAucun && !ExecutionEstSilencieuse();
+}
+
 DDialogueAbs::Issue DDialogueAbs::DonneIssue() const
 {
-    if (monStockage) {
-        if (auto const reponse = static_cast<int>(monStockage->DonneReponseEnregistree()))
-            return {eIssue::kDejaRepondue, reponse};
-    }
+    if (eBoutons const reponse = DonneReponseEnregistree(); reponse != kBoutonAucun)
+        return {eIssue::kDejaRepondue, static_cast<int>(reponse)};
     if (ExecutionEstSilencieuse())
         return {eIssue::kSilencieuse, DonneIdentifiant(maBoite->defaultButton())};
     return {eIssue::kMontree, static_cast<int>(kBoutonAucun)};
+}
+
+eBoutons DDialogueAbs::DonneReponseEnregistree() const
+{
+    return monStockage ? monStockage->DonneReponseEnregistree() : kBoutonAucun;
 }
 
 UniChaine DDialogueAbs::DonneTexteDuStockage() const

@@ -49,6 +49,8 @@ public:
     /// Remembers the answer if it is to be, gives it to the receiver or the callback, and returns
     /// it unchanged. Either of them may destroy the box, and this object with it.
     int TransmetsReponse(int reponse);
+    /// False when the answer is known beforehand, remembered or silent.
+    bool SeraMontree() const;
     /// The identifier of a button of the box, 0 for any other.
     int DonneIdentifiant(QAbstractButton const * bouton) const;
 
@@ -76,6 +78,8 @@ private:
 
     /// How the alert is answered, and the answer if it is known beforehand.
     Issue DonneIssue() const;
+    /// `kBoutonAucun` without one.
+    DDialogue::eBoutons DonneReponseEnregistree() const;
     UniChaine DonneTexteDuStockage() const;
     /// The answers that are not to be remembered.
     int DonneMasqueRefusay() const;

@@ -135,7 +135,8 @@ void DDialogueProgressionInfinie::showEvent(QShowEvent * evenement)
 void DDialogueProgressionInfinie::paintEvent(QPaintEvent * evenement)
 {
     QDialog::paintEvent(evenement);
-    if (!windowFlags().testFlag(Qt::FramelessWindowHint))
+    bool const estHabillay = testAttribute(Qt::WA_StyleSheetTarget); // by an application's sheet
+    if (estHabillay || !windowFlags().testFlag(Qt::FramelessWindowHint))
         return;
     // Without a line around it, it would melt into the window under it.
     QPainter peintre(this);

@@ -16,6 +16,7 @@
 #include <QDialogButtonBox>
 #include <QLabel>
 #include <QPointer>
+#include <QRegularExpression>
 #include <QUrl>
 
 using namespace DDialogue;
@@ -55,6 +56,9 @@ DMessageBox::DMessageBox(DDialogueAbs * proprietaire, QWidget * parent, DAlerteI
     PoseIcone(info);
     Branche();
     PoseTextes(info);
+    // A box that answers without being shown is spared its looks, most of what an alert costs.
+    if (proprietaire->SeraMontree())
+        Habille();
 }
 
 DMessageBox::~DMessageBox()
@@ -97,7 +101,7 @@ void DMessageBox::PriseResultat(QVariant valeur)
 
 void DMessageBox::setVisible(bool visible)
 {
-    if (visible && !std::exchange(monHabillageEstFait, true))
+    if (visible && !monHabillageEstFait) // silent execution has ended in between
         Habille();
     QMessageBox::setVisible(visible);
 }
@@ -147,11 +151,6 @@ void DMessageBox::changeEvent(QEvent * evenement)
         RegleEtiquettes(); // the base has just given its labels the flags of the style
 }
 
-void DMessageBox::PriseClicDansBarre(QAbstractButton * bouton)
-{
-    Q_EMIT buttonClicked(bouton);
-}
-
 void DMessageBox::PoseIcone(DAlerteInfo const & info)
 {
     if (info.DonneTypeDialogue() != DAlerteInfo::kMaison)
@@ -162,6 +161,7 @@ void DMessageBox::PoseIcone(DAlerteInfo const & info)
 
 void DMessageBox::Habille()
 {
+    monHabillageEstFait = true;
     PoseIconeDeFenetre();
     setFont(QApplication::font());
     setStyleSheet(DDialogueAbs::DonneStyleSheet(font()));
@@ -173,7 +173,7 @@ void DMessageBox::PoseIconeDeFenetre()
     if (!windowIcon().isNull())
         return;
     QIcon icone(u":/Images/IconeBarreTitre.png"_s); // the application's, if it has one
-    if (icone.isNull())
+    if (icone.availableSizes().isEmpty()) // an icon of a file that is not there is not null
         icone = QIcon(u":/Images/IconeBarreTitreDefautLibFabrelGui.png"_s);
     setWindowIcon(icone);
 }
@@ -198,7 +198,7 @@ void DMessageBox::Branche()
     // itself when the answer has destroyed it. So the clicks come here instead.
     auto * const barre = findChild<QDialogButtonBox *>();
     disconnect(barre, &QDialogButtonBox::clicked, this, nullptr);
-    connect(barre, &QDialogButtonBox::clicked, this, &DMessageBox::PriseClicDansBarre,
+    connect(barre, &QDialogButtonBox::clicked, this, &QMessageBox::buttonClicked,
             Qt::UniqueConnection);
     connect(this, &QMessageBox::buttonClicked, this, &DMessageBox::PriseBoutonCliquay,
             Qt::UniqueConnection);
@@ -209,13 +209,14 @@ void DMessageBox::Branche()
 
 void DMessageBox::RegleEtiquettes()
 {
+    static QRegularExpression const lien(u"<a\\s"_s, QRegularExpression::CaseInsensitiveOption);
     auto const etiquettes = findChildren<QLabel *>();
     for (QLabel * const etiquette : etiquettes) {
         etiquette->setOpenExternalLinks(false);
         etiquette->setTextInteractionFlags(Qt::LinksAccessibleByMouse |
                                            Qt::LinksAccessibleByKeyboard);
         // The flags make a stop of the Tab key out of every label; only those with links are one.
-        if (!etiquette->text().contains("<a "_L1, Qt::CaseInsensitive))
+        if (!etiquette->text().contains(lien))
             etiquette->setFocusPolicy(Qt::NoFocus);
         connect(etiquette, &QLabel::linkActivated, this, &DMessageBox::PriseHyperlien,
                 Qt::UniqueConnection);
@@ -224,7 +225,10 @@ void DMessageBox::RegleEtiquettes()
 
 void DMessageBox::Conclus(int reponse)
 {
-    QPointer<DMessageBox> const garde = this; // whoever hears the answer may destroy the box
+    // Once: whoever hears the answer may bring the event loop back, and the box is still there.
+    if (std::exchange(monEstConclue, true))
+        return;
+    QPointer<DMessageBox> const garde = this; // nor need it survive that
     int const transmise = monProprietaire->TransmetsReponse(reponse);
     if (!garde)
         return;

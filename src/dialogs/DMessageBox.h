@@ -13,17 +13,19 @@ class DDialogueAbs;
 ///
 /// The alert functions make it; an application sees it, if at all, among the top-level widgets. It
 /// never closes itself as a `QMessageBox` does: each way out gives the answer first, and only then
-/// ends the box, whose `result()` is the answer.
+/// ends the box, whose `result()` is the answer. It answers once. `clickedButton()` stays null. A
+/// box that is to answer without being shown has no icon, font or style sheet.
 ///
-/// Links do not open by themselves. One whose target is a number closes the box as Escape does, and
-/// leaves the number with `kBoutonLien` in `result()`; without an escape button the box stays. Any
-/// other valid address opens in the user's browser, and the box stays.
+/// Links never open by themselves. One whose target is a number closes the box as Escape does, and
+/// leaves the number with `kBoutonLien` in `result()`, which is gone with the box when the alert
+/// blocks; without an escape button the box stays. Any other valid address opens in the user's
+/// browser, and the box stays.
 class FABRELGUI_EXPORT DMessageBox : public QMessageBox
 {
     Q_OBJECT
 
 public:
-    /// Owns `proprietaire`.
+    /// Owns `proprietaire`, which is not null.
     DMessageBox(DDialogueAbs * proprietaire, QWidget * parent, DAlerteInfo const & info);
     ~DMessageBox() override;
 
@@ -54,19 +56,15 @@ protected:
     void closeEvent(QCloseEvent * evenement) override;
     void changeEvent(QEvent * evenement) override;
 
-private Q_SLOTS:
-    void PriseClicDansBarre(QAbstractButton * bouton);
-
 private:
     void PoseIcone(DAlerteInfo const & info);
-    /// Gives the box its looks, before it first appears: a box that answers without being shown
-    /// is spared the work, which is most of what an alert costs.
+    /// Gives the box its looks.
     void Habille();
     void PoseIconeDeFenetre();
     void PoseTextes(DAlerteInfo const & info);
     void Branche();
     void RegleEtiquettes();
-    /// Gives the answer and ends the box, in this order.
+    /// Gives the answer and ends the box, in this order; only the first time.
     void Conclus(int reponse);
 
     DDialogueAbs * monProprietaire;
@@ -75,4 +73,5 @@ private:
     bool monRejetEstDifferay = false;                          // the window is being closed
     bool monRejetEstDemanday = false;
     bool monHabillageEstFait = false;
+    bool monEstConclue = false;
 };

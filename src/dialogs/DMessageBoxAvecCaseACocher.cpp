@@ -12,6 +12,20 @@
 
 using namespace Qt::StringLiterals;
 
+namespace {
+
+/// A blank line below makes room for the check box: beside an icon both share a cell.
+QString AvecLigneVide(QString const & explication, bool estRiche)
+{
+    QString const texte = explication + "<br>"_L1;
+    if (estRiche || Qt::mightBeRichText(texte))
+        return texte;
+    // Qt takes it for plain text, because of a line feed or a "<": it would show the tag.
+    return explication.toHtmlEscaped().replace(u'\n', "<br>"_L1) + "<br>"_L1;
+}
+
+} // namespace
+
 DMessageBoxAvecCaseACocher::DMessageBoxAvecCaseACocher(DDialogueAbs * proprietaire,
                                                        QWidget * parent, DAlerteInfo const & info)
     : DMessageBox(proprietaire, parent, info)
@@ -23,9 +37,8 @@ DMessageBoxAvecCaseACocher::DMessageBoxAvecCaseACocher(DDialogueAbs * proprietai
         this);
     maCaseACocher->setObjectName(u"NePlusMAviser"_s); // style sheets know it by this name
     maCaseACocher->setProperty(ProprietesStyle::kPourStyle, true);
-    // The blank line makes room for the check box, which shares the cell of the explanation.
     if (QString const explication = DonneExplicationAvecNote(info); !explication.isEmpty())
-        setInformativeText(explication + "<br>"_L1);
+        setInformativeText(AvecLigneVide(explication, info.texteRiche));
 }
 
 bool DMessageBoxAvecCaseACocher::CaseEstCochee() const

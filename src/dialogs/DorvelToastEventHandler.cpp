@@ -3,8 +3,6 @@
 
 #include "dialogs/BoutonsDialogue_p.h"
 
-#include "noyau/plateforme/ReferenceComptay.h"
-
 #include <utility>
 
 using namespace Toasts;
@@ -40,6 +38,7 @@ ULONG DorvelToastEventHandler::Release()
 HRESULT DorvelToastEventHandler::Invoke(IToastNotification * emetteur,
                                         Toasts::IInspectable * arguments)
 {
+    auto const moi = TiensToi();
     // First, and whatever becomes of the answer: the toast was dealt with.
     Congedie(emetteur);
     if (!arguments || !monRappel)
@@ -57,6 +56,7 @@ HRESULT DorvelToastEventHandler::Invoke(IToastNotification * emetteur,
 HRESULT DorvelToastEventHandler::Invoke(IToastNotification * emetteur,
                                         IToastDismissedEventArgs * arguments)
 {
+    auto const moi = TiensToi();
     // Deliberate: read and not used. Every reason is the same answer, that there is none.
     ToastDismissalReason raison = ToastDismissalReason_UserCanceled;
     if (arguments)
@@ -70,10 +70,16 @@ HRESULT DorvelToastEventHandler::Invoke(IToastNotification * emetteur,
 
 HRESULT DorvelToastEventHandler::Invoke(IToastNotification * emetteur, IToastFailedEventArgs *)
 {
+    auto const moi = TiensToi();
     Congedie(emetteur);
     if (monRappel)
         monRappel(DDialogue::kBoutonReessayer);
     return S_OK;
+}
+
+ReferenceComptay<DorvelToastEventHandler> DorvelToastEventHandler::TiensToi()
+{
+    return ReferenceComptay<DorvelToastEventHandler>::Partage(this);
 }
 
 void DorvelToastEventHandler::Congedie(IToastNotification * toast)

@@ -4,6 +4,7 @@
 #include "dialogs/DDialogue.h"
 
 #include "noyau/plateforme/InterfacesToasts.h"
+#include "noyau/plateforme/ReferenceComptay.h"
 
 #include <atomic>
 #include <functional>
@@ -41,6 +42,9 @@ public:
 private:
     ~DorvelToastEventHandler() override;
 
+    // For the length of an event: the callback may end the registration, and nobody else need hold
+    // this object.
+    ReferenceComptay<DorvelToastEventHandler> TiensToi();
     void Congedie(Toasts::IToastNotification * toast);
 
     std::function<void(DDialogue::eBoutons const &)> monRappel;

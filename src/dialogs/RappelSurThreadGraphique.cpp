@@ -15,20 +15,28 @@ namespace {
 /// made for other threads as the call.
 ///
 /// Calls are posted to this object and not to the application, which may be going at that moment.
+/// The callback outlives this object for as long as it runs: an event loop inside it may deliver
+/// the dismissal. Once no application object is left, it dies on the thread that drops the last
+/// copy. Made before there is one, this object stays on its own thread.
 class Relais : public QObject
 {
 public:
     explicit Relais(RappelAlerte rappel)
-        : monRappel(std::move(rappel))
+        : monRappel(std::make_shared<RappelAlerte const>(std::move(rappel)))
     {
         if (QCoreApplication const * const application = QCoreApplication::instance())
             moveToThread(application->thread());
     }
 
-    void Appelle(DDialogue::eBoutons reponse) const { monRappel(reponse); }
+    void Appelle(DDialogue::eBoutons reponse) const
+    {
+        // NOLINTNEXTLINE(performance-unnecessary-copy-initialization): a share of its own
+        auto const rappel = monRappel;
+        (*rappel)(reponse);
+    }
 
 private:
-    RappelAlerte monRappel;
+    std::shared_ptr<RappelAlerte const> monRappel;
 };
 
 void Congedie(Relais * relais)

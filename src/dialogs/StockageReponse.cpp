@@ -105,6 +105,7 @@ UniChaine StockageReponse::DonneMessagePourJournalisation() const
 
 void StockageReponse::Reinitialise(UniChaine const & cle)
 {
+    mesReglages->sync(); // what another process has written is forgotten, too
     mesReglages->beginGroup(kGroupe);
     mesReglages->remove(QString(cle));
     mesReglages->endGroup();

@@ -31,11 +31,13 @@ ImageCommune::ImageCommune(QImage const & image)
 
 QPixmap ImageCommune::Prete(int largeur, int hauteur) const
 {
+    if (EstNulle() || !qGuiApp)
+        return {};
     double const ratio = qGuiApp->devicePixelRatio();
     double const largeurEnPixels = std::round(largeur * ratio);
     double const hauteurEnPixels = std::round(hauteur * ratio);
-    if (EstNulle() || largeurEnPixels < 1.0 || hauteurEnPixels < 1.0 ||
-        largeurEnPixels > kCoteMax || hauteurEnPixels > kCoteMax)
+    if (largeurEnPixels < 1.0 || hauteurEnPixels < 1.0 || largeurEnPixels > kCoteMax ||
+        hauteurEnPixels > kCoteMax)
         return {};
 
     QSize const taille(static_cast<int>(largeurEnPixels), static_cast<int>(hauteurEnPixels));

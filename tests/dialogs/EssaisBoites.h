@@ -1,69 +1,64 @@
-// dialogs/EssaisBoites.h
+// tests/dialogs/EssaisBoites.h
 #pragma once
 
-#include "dialogs/FormesAlertes.h"
+#include "dialogs/DAlerte.h"
+#include "dialogs/DMessageBox.h"
 
-// One message box at a time, asked of the user without blocking.
-namespace EssaisAlertes {
+#include "noyau/DAlerteInfo.h"
 
-/// A box on screen and its answers; gone with this object.
-class BoiteMontree
+#include <QApplication>
+#include <QPushButton>
+#include <QTimer>
+
+#include <functional>
+
+// Driving the boxes that alerts bring up.
+
+/// The box that is on the screen, or null.
+inline DMessageBox * DonneBoiteVisible()
 {
-public:
-    /// Without a check box if the type of the store is the default one.
-    explicit BoiteMontree(DAlerteInfo const & info, int boutons = DDialogue::kBoutonOk,
-                          quint32 defaut = DDialogue::kBoutonOk,
-                          quint32 echap = DDialogue::kBoutonOk, QWidget * parent = nullptr,
-                          DDialogue::eTypStockeur type = DDialogue::StockeurParDefaut,
-                          std::array<UniChaine, 5> const & labels = {})
-    {
-        DAlerteRappel(parent, &receveur, info, type, QStringLiteral("guid"), boutons,
-                      static_cast<DDialogue::eBoutons>(defaut),
-                      static_cast<DDialogue::eBoutons>(echap), labels[0], labels[1], labels[2],
-                      labels[3], labels[4]);
-        boite = BoiteDevant();
-        if (!boite)
-            qFatal("no message box is shown");
+    for (QWidget * const widget : QApplication::topLevelWidgets()) {
+        auto * const boite = qobject_cast<DMessageBox *>(widget);
+        if (boite && boite->isVisible())
+            return boite;
     }
-    BoiteMontree(BoiteMontree const &) = delete;
-    BoiteMontree & operator=(BoiteMontree const &) = delete;
-    ~BoiteMontree() { delete boite; }
-
-    DMessageBox * operator->() const { return boite; }
-    DMessageBox & operator*() const { return *boite; }
-
-    /// The label with the message or the informative text; null when there is none.
-    QLabel * DonneEtiquette(char const * nom) const
-    {
-        return boite->findChild<QLabel *>(QString::fromLatin1(nom));
-    }
-    QLabel * DonneMessage() const { return DonneEtiquette("qt_msgbox_label"); }
-    QLabel * DonneTexte() const { return DonneEtiquette("qt_msgbox_informativelabel"); }
-
-    QPointer<DMessageBox> boite;
-    ReceveurSimulay receveur;
-};
-
-inline DAlerteInfo Alerte(DAlerteInfo::eTypeDialogue type = DAlerteInfo::kQuestion,
-                          QString const & message = QStringLiteral("Message"),
-                          QString const & note = {}, QString const & titre = {})
-{
-    return {type, UniChaine(message), UniChaine(note), UniChaine(titre)};
+    return nullptr;
 }
 
-/// An alert with an explanation; a class of the application's.
-class AlerteExpliquee : public DAlerteInfo
+/// Does `action` with the next box, once it is on the screen, from inside the event loop: before a
+/// blocking call.
+inline void QuandLaBoiteEstLa(std::function<void(DMessageBox &)> action)
+{
+    auto * const minuterie = new QTimer(qApp);
+    minuterie->setInterval(0);
+    QObject::connect(minuterie, &QTimer::timeout, minuterie, [minuterie, action] {
+        DMessageBox * const boite = DonneBoiteVisible();
+        if (!boite)
+            return;
+        minuterie->stop();
+        minuterie->deleteLater();
+        action(*boite);
+    });
+    minuterie->start();
+}
+
+/// Clicks the standard button of the next box.
+inline void ClicQuandLaBoiteEstLa(QMessageBox::StandardButton bouton)
+{
+    QuandLaBoiteEstLa([bouton](DMessageBox & boite) { boite.button(bouton)->click(); });
+}
+
+/// A receiver that notes its answers and then does something.
+class ReceveurNotant : public DDialogue::DAlerteReceveur
 {
 public:
-    AlerteExpliquee(QString const & explication, QString const & note)
-        : DAlerteInfo(kInformation, UniChaine("Message"), UniChaine(note))
-        , monExplication(explication)
+    void TraiteReponse(int const & idMessage, int reponse) override
     {
+        reponses.append({idMessage, reponse});
+        if (action)
+            action();
     }
-    UniChaine DonneExplication() const override { return UniChaine(monExplication); }
 
-private:
-    QString monExplication;
+    QList<QPair<int, int>> reponses;
+    std::function<void()> action;
 };
-
-} // namespace EssaisAlertes

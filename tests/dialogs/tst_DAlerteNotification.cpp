@@ -27,8 +27,13 @@ private Q_SLOTS:
     void defautsDeLApplication();
     void champsDonnes();
     void imageEcriteUneFois();
+    void formatSelonLeSuffixe();
+    void imageQuiNePeutEtreEcrite_data();
+    void imageQuiNePeutEtreEcrite();
     void sansNomDeFichierRienNEstEcrit();
+    void depuisUneAlerteSimple();
     void copie();
+    void copieIndependanteDesDefauts();
 
 private:
     std::unique_ptr<QTemporaryDir> monDossier;
@@ -97,11 +102,50 @@ void tst_DAlerteNotification::imageEcriteUneFois()
     QCOMPARE(QImage(fichier).pixelColor(4, 4), QColor(Qt::red));
 }
 
+void tst_DAlerteNotification::formatSelonLeSuffixe()
+{
+    QString const fichier = monDossier->filePath(u"icone.bmp"_s);
+    DAlerteNotification const notification(Carre(Qt::red), UniChemin(fichier), {}, {}, {});
+    QCOMPARE(QImageReader::imageFormat(fichier), QByteArray("bmp"));
+    QCOMPARE(QDir(monDossier->path()).entryList(QDir::Files), QStringList{u"icone.bmp"_s});
+}
+
+void tst_DAlerteNotification::imageQuiNePeutEtreEcrite_data()
+{
+    QTest::addColumn<QString>("nom");
+    QTest::addColumn<bool>("avecImage");
+    QTest::newRow("folder that does not exist") << u"absent/icone.png"_s << true;
+    QTest::newRow("format that does not exist") << u"icone.inconnu"_s << true;
+    QTest::newRow("no image") << u"icone.png"_s << false;
+}
+
+// Nothing is left behind that a later notification would take for the image.
+void tst_DAlerteNotification::imageQuiNePeutEtreEcrite()
+{
+    QFETCH(QString, nom);
+    QFETCH(bool, avecImage);
+    QTest::failOnWarning(QRegularExpression(u".*"_s));
+    DAlerteNotification const notification(avecImage ? Carre(Qt::red) : QPixmap(),
+                                           UniChemin(monDossier->filePath(nom)), {},
+                                           UniChaine("message"), {});
+    QCOMPARE(QString(notification.DonneNomFichierImage()), monDossier->filePath(nom));
+    QVERIFY(QDir(monDossier->path()).isEmpty());
+}
+
 void tst_DAlerteNotification::sansNomDeFichierRienNEstEcrit()
 {
     QTest::failOnWarning(QRegularExpression(u".*"_s));
     DAlerteNotification const notification(Carre(Qt::red), {}, {}, UniChaine("message"), {});
     QVERIFY(notification.DonneNomFichierImage().EstVide());
+}
+
+void tst_DAlerteNotification::depuisUneAlerteSimple()
+{
+    DAlerteNotification::MetsRaccourci({UniChaine("org.essai"), {}, {}, {}, {}});
+    DAlerteNotification const notification = DAlerteInfo(DAlerteInfo::kErreur, UniChaine("un"));
+    QCOMPARE(QString(notification.DonneMessage()), u"un"_s);
+    QCOMPARE(QString(notification.DonneInfosPourRaccourcis().identifiantApplication),
+             u"org.essai"_s);
 }
 
 void tst_DAlerteNotification::copie()
@@ -113,6 +157,29 @@ void tst_DAlerteNotification::copie()
     QCOMPARE(QString(copie.DonneMessage()), u"un"_s);
     QCOMPARE(copie.DonneTypeDialogue(), DAlerteInfo::kNotification);
     QCOMPARE(QString(copie.DonneInfosPourRaccourcis().identifiantApplication), u"id"_s);
+    QCOMPARE(copie.DonneIcone().toImage().pixelColor(4, 4), QColor(Qt::red));
+}
+
+// Each notification keeps what it was made with, whatever the application sets afterwards.
+void tst_DAlerteNotification::copieIndependanteDesDefauts()
+{
+    QString const fichier = monDossier->filePath(u"icone.png"_s);
+    DAlerteNotification::MetsIconeGenerale(Carre(Qt::red));
+    DAlerteNotification::MetsNomFichierSurDisque(UniChemin(fichier));
+    DAlerteNotification::MetsRaccourci({UniChaine("avant"), {}, {}, {}, {}});
+    DAlerteNotification const originale(DAlerteInfo(DAlerteInfo::kNotification, UniChaine("un")));
+    DAlerteNotification::MetsIconeGenerale(Carre(Qt::blue));
+    DAlerteNotification::MetsNomFichierSurDisque({});
+    DAlerteNotification::MetsRaccourci({UniChaine("apres"), {}, {}, {}, {}});
+
+    DAlerteNotification const copie(originale);
+
+    for (DAlerteNotification const * const notification : {&originale, &copie}) {
+        QCOMPARE(notification->DonneIcone().toImage().pixelColor(4, 4), QColor(Qt::red));
+        QCOMPARE(QString(notification->DonneNomFichierImage()), fichier);
+        QCOMPARE(QString(notification->DonneInfosPourRaccourcis().identifiantApplication),
+                 u"avant"_s);
+    }
 }
 
 QTEST_MAIN(tst_DAlerteNotification)

@@ -1,65 +1,64 @@
-// dialogs/tst_DDialogueAbs.cpp
+// tests/dialogs/tst_DDialogueAbs.cpp
 //
-// The way of an answer: to the store, to the journal, to whoever waits for it.
-#include "dialogs/DDialogueAbs.h"
+// What becomes of an answer: remembered or refused, given to whom, written to the journal.
+#include "EssaisBoites.h"
+#include "EssaisStockage.h"
 
-#include "dialogs/DMessageBoxAvecCaseACocher.h"
-#include "dialogs/FormesAlertes.h"
+#include "noyau/JournalSimulay.h"
 
+#include "noyau/ExecutionSilencieuse.h"
+
+#include <QCheckBox>
 #include <QtTest>
 
 using namespace DDialogue;
-using namespace EssaisAlertes;
 using namespace Qt::StringLiterals;
 
 namespace {
 
-// In the order in which a box makes them.
-constexpr quint32 kTousBoutons[] = {
-    kBoutonOk,      kBoutonAnnuler,       kBoutonAppliquer,
-    kBoutonFermer,  kBoutonSauvegarder,   kBoutonSauvegarderTout,
-    kBoutonAide,    kBoutonOui,           kBoutonOuiTout,
-    kBoutonNon,     kBoutonNonTout,       kBoutonReessayer,
-    kBoutonIgnorer, kBoutonContinuer,     kBoutonEssayer,
-    kBoutonMaison1, kBoutonMaisonElevee1, kBoutonMaison2,
-    kBoutonMaison3, kBoutonMaison4,       kBoutonMaison5,
+QString Guid()
+{
+    return u"{1234-abcd}"_s;
+}
+
+struct Bouton
+{
+    char const * nom;
+    eBoutons identifiant;
 };
-constexpr qsizetype kNombreBoutons = std::size(kTousBoutons);
+constexpr Bouton kBoutons[] = {
+    {"OK", kBoutonOk},
+    {"Cancel", kBoutonAnnuler},
+    {"Apply", kBoutonAppliquer},
+    {"Close", kBoutonFermer},
+    {"Save", kBoutonSauvegarder},
+    {"Save all", kBoutonSauvegarderTout},
+    {"Help", kBoutonAide},
+    {"Yes", kBoutonOui},
+    {"Yes to all", kBoutonOuiTout},
+    {"No", kBoutonNon},
+    {"No to all", kBoutonNonTout},
+    {"Retry", kBoutonReessayer},
+    {"Ignore", kBoutonIgnorer},
+    {"Continue", kBoutonContinuer},
+    {"Try", kBoutonEssayer},
+    {"own 1", kBoutonMaison1},
+    {"own 2", kBoutonMaison2},
+    {"own 3", kBoutonMaison3},
+    {"own 4", kBoutonMaison4},
+    {"own 5", kBoutonMaison5},
+    {"own 1, elevated", kBoutonMaisonElevee1},
+};
+constexpr int kTous = static_cast<int>(0xFFFFFFFFU);
 
-int TousLesBoutons()
+DAlerteInfo Question(QString const & message = u"Continuer ?"_s)
 {
-    quint32 masque = 0;
-    for (quint32 const bouton : kTousBoutons)
-        masque |= bouton;
-    return static_cast<int>(masque);
+    return {DAlerteInfo::kQuestion, message, u"Note"_s, u"Essai"_s};
 }
 
-Appel AppelComplet(quint32 echap = kBoutonAucun)
+std::list<UniChaine> Labels()
 {
-    Appel appel{DAlerteInfo(DAlerteInfo::kQuestion, UniChaine("Message"))};
-    appel.boutons = TousLesBoutons();
-    appel.defaut = kBoutonAucun;
-    appel.echap = static_cast<eBoutons>(echap);
-    appel.labels = {u"un"_s, u"deux"_s, u"trois"_s, u"quatre"_s, u"cinq"_s};
-    appel.guid = u"guid"_s;
-    return appel;
-}
-
-// Asks and answers with the button of that rank; what the call returned.
-quint32 Repond(Appel const & appel, qsizetype rang, bool coche)
-{
-    Repondant const utilisateur([rang, coche](DMessageBox & boite) {
-        if (coche)
-            Coche(boite);
-        Clique(BoutonsDansLOrdre(boite).value(rang));
-    });
-    return PreteForme(u"DAlerteRappel"_s).lance(appel);
-}
-
-bool EstRefusee(quint32 reponse, quint32 echap)
-{
-    quint32 const quitte = kBoutonAnnuler | kBoutonFermer | kBoutonAide;
-    return (reponse & (quitte | (echap == kBoutonOk ? quint32(kBoutonAnnuler) : echap))) != 0;
+    return {u"Un"_s, u"Deux"_s, u"Trois"_s, u"Quatre"_s, u"Cinq"_s};
 }
 
 } // namespace
@@ -71,255 +70,318 @@ class tst_DDialogueAbs : public QObject
 private Q_SLOTS:
     void init();
     void cleanup();
-
-    void reponseRetenue_data();
-    void reponseRetenue();
-    void reponseNonCochee();
-    void okSeulRetenu();
-    void sansCaseRienNEstEcrit();
+    void masqueRefusay_data();
+    void masqueRefusay();
+    void masqueRefusaySansEchap_data();
+    void masqueRefusaySansEchap();
+    void sansCocheRienNEstEcrit();
+    void stockeurParDefautNEcritJamais();
     void sansGuid();
-
-    void texteDuJournal_data();
-    void texteDuJournal();
-    void tabulations();
+    void okSeulEstRetenu();
+    void journalDesReponses_data();
+    void journalDesReponses();
+    void journalDUneAlerteSurPlusieursLignes();
+    void journalDUneAlerteMontree();
+    void journalSansStockage();
     void journalEteint();
-
+    void reponseRetenueApresLeRetour();
+    void reponseRetenueEnBloquant();
     void reponseRetenueQuelconque_data();
     void reponseRetenueQuelconque();
     void reponseRetenueAvantLeSilence();
-    void stockeurParDefautRepond();
-    void silenceSansDefaut_data();
-    void silenceSansDefaut();
-    void modeNonSilencieux();
+    void silencieuxPrendLeDefaut();
+    void silencieuxSansDefaut();
+    void receveurRecoitIdentifiantEtReponse();
 
 private:
-    std::unique_ptr<Banc> monBanc;
+    /// Raises the alert, ticks, answers with that button.
+    void RepondsCoche(int boutons, eBoutons echap, eBoutons reponse, bool coche = true,
+                      eTypStockeur type = StockeurNePlusMAviser, QString const & guid = Guid());
+
+    std::unique_ptr<EssaisStockage> monStockage;
+    std::unique_ptr<JournalSimulay> monJournal;
+    QList<eBoutons> mesReponses;
 };
 
 void tst_DDialogueAbs::init()
 {
-    monBanc = std::make_unique<Banc>();
-    monBanc->bureau->peutExecuterElevay = true;
+    monStockage = std::make_unique<EssaisStockage>();
+    monJournal = std::make_unique<JournalSimulay>();
+    mesReponses.clear();
 }
 
 void tst_DDialogueAbs::cleanup()
 {
-    RetireRestes();
+    ExecutionSilencieuse::Arrete();
+    ExecutionSilencieuse::OublieDialoguesJournalises();
+    if (DMessageBox * const boite = DonneBoiteVisible())
+        boite->PriseResultat(QVariant::fromValue(kBoutonAucun));
     QTRY_VERIFY(QApplication::topLevelWidgets().isEmpty());
-    monBanc.reset();
+    monJournal.reset();
+    monStockage.reset();
 }
 
-void tst_DDialogueAbs::reponseRetenue_data()
+void tst_DDialogueAbs::RepondsCoche(int boutons, eBoutons echap, eBoutons reponse, bool coche,
+                                    eTypStockeur type, QString const & guid)
 {
-    QTest::addColumn<quint32>("echap");
-    QTest::newRow("no escape button") << quint32(kBoutonAucun);
-    QTest::newRow("escape button that the box lacks") << quint32(kBoutonLien);
-    for (quint32 const echap : kTousBoutons)
-        QTest::addRow("escape button 0x%x", echap) << echap;
+    DAlerteRappel(nullptr, Question(), type, guid, boutons, kBoutonAucun, echap, Labels(),
+                  [this](eBoutons const & r) { mesReponses.append(r); });
+    DMessageBox * const boite = DonneBoiteVisible();
+    QVERIFY(boite);
+    if (auto * const laCase = boite->findChild<QCheckBox *>())
+        laCase->setChecked(coche);
+    // The answer is the same one that the click on that button gives.
+    boite->PriseResultat(QVariant::fromValue(reponse));
+    QTRY_VERIFY(QApplication::topLevelWidgets().isEmpty());
 }
 
-// Each button as the answer: what the file then holds.
-void tst_DDialogueAbs::reponseRetenue()
+// Every button as the escape button, every button as the answer.
+void tst_DDialogueAbs::masqueRefusay_data()
 {
-    QFETCH(quint32, echap);
-    for (qsizetype rang = 0; rang < kNombreBoutons; ++rang) {
-        quint32 const reponse = kTousBoutons[rang];
-        QCOMPARE(Repond(AppelComplet(echap), rang, true), reponse);
-        QStringList attendu;
-        if (!EstRefusee(reponse, echap == kBoutonLien ? quint32(kBoutonAucun) : echap))
-            attendu << u"guid=%1"_s.arg(static_cast<qint32>(reponse));
-        QCOMPARE(monBanc->DonneReponses(), attendu);
-        DAlerteOublieToutesLesReponses(StockeurNePlusMAviser);
-        StockageReponse::LibereSingletons(); // the file is written now
+    QTest::addColumn<eBoutons>("echap");
+    for (Bouton const & bouton : kBoutons)
+        QTest::newRow(bouton.nom) << bouton.identifiant;
+}
+
+void tst_DDialogueAbs::masqueRefusay()
+{
+    QFETCH(eBoutons, echap);
+    for (Bouton const & bouton : kBoutons) {
+        QString const guid = QString::number(bouton.identifiant);
+        RepondsCoche(kTous, echap, bouton.identifiant, true, StockeurNePlusMAviser, guid);
+        bool const quitte = bouton.identifiant == kBoutonAnnuler ||
+                            bouton.identifiant == kBoutonFermer ||
+                            bouton.identifiant == kBoutonAide;
+        bool const estEchap = bouton.identifiant == echap && echap != kBoutonOk;
+        QCOMPARE(monStockage->DonneContenu().contains(guid), !quitte && !estEchap);
+        if (!quitte && !estEchap)
+            QCOMPARE(monStockage->DonneContenu().value(guid).toInt(), int(bouton.identifiant));
     }
+    QCOMPARE(mesReponses.size(), qsizetype(std::size(kBoutons))); // given, remembered or not
 }
 
-void tst_DDialogueAbs::reponseNonCochee()
+void tst_DDialogueAbs::masqueRefusaySansEchap_data()
 {
-    for (qsizetype rang = 0; rang < kNombreBoutons; ++rang)
-        QCOMPARE(Repond(AppelComplet(), rang, false), kTousBoutons[rang]);
-    QCOMPARE(monBanc->DonneReponses(), QStringList());
+    QTest::addColumn<int>("reponse");
+    QTest::addColumn<bool>("retenue");
+    QTest::newRow("Yes") << int(kBoutonOui) << true;
+    QTest::newRow("Cancel") << int(kBoutonAnnuler) << false;
+    QTest::newRow("Close") << int(kBoutonFermer) << false;
+    QTest::newRow("Help") << int(kBoutonAide) << false;
+    QTest::newRow("a link with a refused bit") << int(kBoutonLien | 2) << false;
+    QTest::newRow("a link without one") << int(kBoutonLien | 5) << true;
+    QTest::newRow("the highest bit") << int(kBoutonMaisonElevee1) << true;
 }
 
-// OK as the escape button does not mean leaving.
-void tst_DDialogueAbs::okSeulRetenu()
+void tst_DDialogueAbs::masqueRefusaySansEchap()
 {
-    Appel appel = AppelComplet(kBoutonOk);
-    appel.boutons = kBoutonOk;
-    QCOMPARE(Repond(appel, 0, true), quint32(kBoutonOk));
-    QCOMPARE(monBanc->DonneReponses(), QStringList{u"guid=1"_s});
+    QFETCH(int, reponse);
+    QFETCH(bool, retenue);
+    RepondsCoche(kBoutonOui | kBoutonNon, kBoutonAucun, static_cast<eBoutons>(reponse));
+    QVariantMap const attendu = retenue ? QVariantMap{{Guid(), reponse}} : QVariantMap();
+    QCOMPARE(monStockage->DonneContenu(), attendu);
 }
 
-void tst_DDialogueAbs::sansCaseRienNEstEcrit()
+void tst_DDialogueAbs::sansCocheRienNEstEcrit()
 {
-    Appel appel = AppelComplet();
-    appel.type = StockeurParDefaut;
-    bool aCase = true;
-    Repondant const utilisateur([&aCase](DMessageBox & boite) {
-        aCase = Case(boite) || qobject_cast<DMessageBoxAvecCaseACocher *>(&boite);
-        Clique(boite.button(QMessageBox::Yes));
-    });
-    QCOMPARE(PreteForme(u"DAlerteRappel"_s).lance(appel), kBoutonOui);
-    QVERIFY(!aCase);
-    QCOMPARE(monBanc->DonneReponses(StockeurParDefaut), QStringList());
-    QCOMPARE(monBanc->DonneReponses(), QStringList());
+    RepondsCoche(kBoutonOui | kBoutonNon, kBoutonNon, kBoutonOui, false);
+    QVERIFY(monStockage->DonneContenu().isEmpty());
 }
 
-// Nothing can be remembered for an alert without a name; it is asked each time.
+void tst_DDialogueAbs::stockeurParDefautNEcritJamais()
+{
+    RepondsCoche(kBoutonOui | kBoutonNon, kBoutonNon, kBoutonOui, true, StockeurParDefaut);
+    QVERIFY(monStockage->DonneContenu().isEmpty());
+    QVERIFY(monStockage->DonneContenu(StockeurParDefaut).isEmpty());
+}
+
 void tst_DDialogueAbs::sansGuid()
 {
-    Appel appel = AppelComplet();
-    appel.guid = UniChaine();
-    for (int fois = 0; fois < 2; ++fois)
-        QCOMPARE(Repond(appel, 7, true), quint32(kBoutonOui));
+    RepondsCoche(kBoutonOui | kBoutonNon, kBoutonNon, kBoutonOui, true, StockeurNePlusMAviser, {});
+    RepondsCoche(kBoutonOui | kBoutonNon, kBoutonNon, kBoutonOui, true, StockeurNePlusMAviser, {});
+    QCOMPARE(mesReponses.size(), 2); // asked both times
 }
 
-void tst_DDialogueAbs::texteDuJournal_data()
+void tst_DDialogueAbs::okSeulEstRetenu()
 {
-    QTest::addColumn<int>("rang");
+    QuandLaBoiteEstLa([](DMessageBox & boite) {
+        boite.findChild<QCheckBox *>()->click();
+        QTest::keyClick(&boite, Qt::Key_Escape);
+    });
+    QCOMPARE(DAlerteRappel(nullptr, Question(), StockeurNePlusMAviser, Guid(), kBoutonOk, kBoutonOk,
+                           kBoutonOk),
+             kBoutonOk);
+    QCOMPARE(monStockage->DonneContenu(), (QVariantMap{{Guid(), 1}}));
+    QVERIFY(DAlerteRappelDejaCochay(StockeurNePlusMAviser, Guid()));
+}
+
+void tst_DDialogueAbs::journalDesReponses_data()
+{
+    QTest::addColumn<eBoutons>("reponse");
     QTest::addColumn<QString>("nom");
-    QHash<quint32, QString> const noms{{kBoutonOk, u"OK"_s},
-                                       {kBoutonOui, u"Oui"_s},
-                                       {kBoutonNon, u"Non"_s},
-                                       {kBoutonAnnuler, u"Annuler"_s},
-                                       {kBoutonReessayer, u"Réessayer"_s}};
-    for (qsizetype rang = 0; rang < kNombreBoutons; ++rang) {
-        quint32 const bouton = kTousBoutons[rang];
-        QTest::addRow("answer 0x%x", bouton)
-            << int(rang) << noms.value(bouton, QString::number(bouton));
+    for (Bouton const & bouton : kBoutons) {
+        QString const nom = bouton.identifiant == kBoutonOk        ? u"OK"_s
+                            : bouton.identifiant == kBoutonOui     ? u"Oui"_s
+                            : bouton.identifiant == kBoutonNon     ? u"Non"_s
+                            : bouton.identifiant == kBoutonAnnuler ? u"Annuler"_s
+                            : bouton.identifiant == kBoutonReessayer
+                                ? u"Réessayer"_s
+                                : QString::number(bouton.identifiant);
+        QTest::newRow(bouton.nom) << bouton.identifiant << nom;
     }
 }
 
-void tst_DDialogueAbs::texteDuJournal()
+void tst_DDialogueAbs::journalDesReponses()
 {
-    QFETCH(int, rang);
+    QFETCH(eBoutons, reponse);
     QFETCH(QString, nom);
-    Repond(AppelComplet(), rang, false);
-    QCOMPARE(monBanc->journal.DonneLignes(),
-             QStringList{u"Dialogue modal.Réponse=%1\tMessage\tGUID: guid\t"_s.arg(nom)});
+    ExecutionSilencieuse::Demarre();
+    QCOMPARE(DAlerteRappel(nullptr, Question(), StockeurNePlusMAviser, Guid(), int(reponse),
+                           reponse, kBoutonAucun, u"Un"_s, u"Deux"_s, u"Trois"_s, u"Quatre"_s,
+                           u"Cinq"_s),
+             reponse);
+    QString const texte = u"Réponse="_s + nom + u"\tContinuer ?\tGUID: "_s + Guid() + u'\t';
+    QCOMPARE(monJournal->DonneLignes(), QStringList{u"Dialogue silencieux."_s + texte});
+    QVERIFY(monJournal->AppelsSontComplets());
+    QCOMPARE(ExecutionSilencieuse::DonneDialoguesJournalises(), QList{UniChaine(texte)});
 }
 
-void tst_DDialogueAbs::tabulations()
+void tst_DDialogueAbs::journalDUneAlerteSurPlusieursLignes()
 {
     ExecutionSilencieuse::Demarre();
-    Appel appel{DAlerteInfo(DAlerteInfo::kQuestion, UniChaine("a\nb\r\nc\rd"), UniChaine("note"),
-                            UniChaine("titre"))};
-    appel.guid = u"g\nh"_s;
-    PreteForme(u"DAlerteRappel"_s).lance(appel);
-    QString const texte = u"Réponse=OK\ta\tb\t\tc\td\tGUID: g\th\t"_s;
-    QCOMPARE(monBanc->journal.DonneLignes(), QStringList{u"Dialogue silencieux."_s + texte});
-    QCOMPARE(ExecutionSilencieuse::DonneDialoguesJournalises(), QList<UniChaine>{texte});
+    DAlerte(nullptr, Question(u"Un\nDeux\r\nTrois\tQuatre"_s));
+    QCOMPARE(monJournal->DonneLignes(),
+             QStringList{u"Dialogue silencieux.Réponse=OK\tUn\tDeux\t\tTrois\tQuatre\tGUID: \t"_s});
+}
+
+void tst_DDialogueAbs::journalDUneAlerteMontree()
+{
+    ClicQuandLaBoiteEstLa(QMessageBox::No);
+    DAlerteRappel(nullptr, Question(), StockeurNePlusMAviser, Guid(), kBoutonOui | kBoutonNon,
+                  kBoutonOui, kBoutonOui);
+    QString const suite = u"\tContinuer ?\tGUID: "_s + Guid() + u'\t';
+    QCOMPARE(monJournal->DonneLignes(), QStringList{u"Dialogue modal.Réponse=Non"_s + suite});
+    DAlerteRappel(nullptr, Question(), StockeurNePlusMAviser, Guid(), kBoutonOui, kBoutonOui,
+                  kBoutonOui, [](eBoutons const &) {});
+    // Written while nobody has answered yet.
+    QCOMPARE(monJournal->DonneLignes().last(),
+             u"Dialogue asynchrone non réponduRéponse=0"_s + suite);
+    QVERIFY(ExecutionSilencieuse::DonneDialoguesJournalises().isEmpty());
+    DonneBoiteVisible()->button(QMessageBox::Yes)->click();
+    QCOMPARE(monJournal->DonneLignes().size(), 2);
+}
+
+void tst_DDialogueAbs::journalSansStockage()
+{
+    ExecutionSilencieuse::Demarre();
+    DAlerte(nullptr, Question());
+    QCOMPARE(monJournal->DonneLignes(),
+             QStringList{u"Dialogue silencieux.Réponse=OK\tContinuer ?\tGUID: \t"_s});
 }
 
 void tst_DDialogueAbs::journalEteint()
 {
+    monJournal->estActif = false;
     ExecutionSilencieuse::Demarre();
-    monBanc->journal.estActif = false;
-    for (Forme const & forme : kFormes)
-        if (forme.destination != eDestination::kReceveur)
-            forme.lance(AppelComplet());
-    QCOMPARE(monBanc->journal.DonneLignes(), QStringList());
-    MetsBoiteNoire(nullptr);
-    QCOMPARE(PreteForme(u"DAlerte"_s).lance(AppelComplet()), kBoutonOk);
+    QCOMPARE(DAlerte(nullptr, Question()), kBoutonOk);
+    QVERIFY(monJournal->DonneLignes().isEmpty());
+    QCOMPARE(ExecutionSilencieuse::DonneDialoguesJournalises().size(), 1);
+    monJournal.reset(); // no journal at all
+    QCOMPARE(DAlerte(nullptr, Question()), kBoutonOk);
+}
+
+void tst_DDialogueAbs::reponseRetenueApresLeRetour()
+{
+    monStockage->Ecris(Guid(), kBoutonNon);
+    DAlerteRappel(nullptr, Question(), StockeurNePlusMAviser, Guid(), kBoutonOui | kBoutonNon,
+                  kBoutonOui, kBoutonNon, [this](eBoutons const & r) { mesReponses.append(r); });
+    QVERIFY(mesReponses.isEmpty());
+    QVERIFY(!DonneBoiteVisible());
+    QString const texte = u"Réponse=Non\tContinuer ?\tTypeDeStockeur: StockeurNePlusMAviser\t"
+                          u"GUID: "_s +
+                          Guid() + u'\t';
+    QCOMPARE(monJournal->DonneLignes(),
+             QStringList{u"Dialogue asynchrone déjà répondu."_s + texte});
+    QCOMPARE(ExecutionSilencieuse::DonneDialoguesJournalises(), QList{UniChaine(texte)});
+    QTRY_COMPARE(mesReponses, QList{kBoutonNon});
+}
+
+void tst_DDialogueAbs::reponseRetenueEnBloquant()
+{
+    monStockage->Ecris(Guid(), kBoutonOuiTout, StockeurParDefaut);
+    QCOMPARE(DAlerteRappel(nullptr, Question(), StockeurParDefaut, Guid(), kBoutonOui, kBoutonOui,
+                           kBoutonOui),
+             kBoutonOuiTout);
+    QCOMPARE(monJournal->DonneLignes(),
+             QStringList{u"Dialogue déjà répondu.Réponse=256\tContinuer ?\t"
+                         u"TypeDeStockeur: StockeurParDefaut\tGUID: "_s +
+                         Guid() + u'\t'});
 }
 
 void tst_DDialogueAbs::reponseRetenueQuelconque_data()
 {
-    QTest::addColumn<quint32>("valeur");
-    QTest::addColumn<QString>("nom");
-    QTest::newRow("a button that the box has") << quint32(kBoutonOui) << u"Oui"_s;
-    QTest::newRow("a button that the box lacks") << quint32(kBoutonReessayer) << u"Réessayer"_s;
-    QTest::newRow("an answer that is never stored") << quint32(kBoutonAnnuler) << u"Annuler"_s;
-    QTest::newRow("a link") << quint32(kBoutonLien | 5) << u"4194309"_s;
-    QTest::newRow("several buttons") << quint32(3) << u"3"_s;
-    QTest::newRow("a bit that no button has") << quint32(8192) << u"8192"_s;
-    QTest::newRow("the highest bit") << quint32(kBoutonMaisonElevee1) << u"2147483648"_s;
-    QTest::newRow("all bits") << quint32(0xFFFFFFFF) << u"4294967295"_s;
+    QTest::addColumn<int>("valeur");
+    QTest::newRow("a link and a number") << int(kBoutonLien | 5);
+    QTest::newRow("the highest bit") << int(kBoutonMaisonElevee1);
+    QTest::newRow("a button that the box has not") << int(kBoutonIgnorer);
+    QTest::newRow("several bits") << 7;
 }
 
-// Nothing filters what the file holds.
 void tst_DDialogueAbs::reponseRetenueQuelconque()
 {
-    QFETCH(quint32, valeur);
-    QFETCH(QString, nom);
-    monBanc->Retiens(u"guid"_s, valeur);
-    Appel appel = AppelComplet();
-    appel.boutons = kBoutonOui | kBoutonAnnuler;
-    QCOMPARE(PreteForme(u"DAlerteRappel"_s).lance(appel), static_cast<eBoutons>(valeur));
-    QVERIFY(DAlerteRappelDejaCochay(StockeurNePlusMAviser, u"guid"_s));
-
-    ReceveurSimulay receveur;
-    appel.receveur = &receveur;
-    PreteForme(u"DAlerteRappel, receiver"_s).lance(appel);
-    QCOMPARE(receveur.reponses, QList<int>());
-    QTRY_COMPARE(receveur.reponses, QList<int>{static_cast<int>(valeur)});
-
-    QString const texte =
-        u"Réponse=%1\tMessage\tTypeDeStockeur: StockeurNePlusMAviser\tGUID: guid\t"_s.arg(nom);
-    QCOMPARE(monBanc->journal.DonneLignes(),
-             (QStringList{u"Dialogue déjà répondu."_s + texte,
-                          u"Dialogue asynchrone déjà répondu."_s + texte}));
-    QTRY_VERIFY(QApplication::topLevelWidgets().isEmpty());
-    QCOMPARE(monBanc->DonneReponses().size(), 1);
+    QFETCH(int, valeur);
+    monStockage->Ecris(Guid(), valeur);
+    QCOMPARE(int(DAlerteRappel(nullptr, Question(), StockeurNePlusMAviser, Guid(), kBoutonOui,
+                               kBoutonOui, kBoutonOui)),
+             valeur);
 }
 
 void tst_DDialogueAbs::reponseRetenueAvantLeSilence()
 {
+    monStockage->Ecris(Guid(), kBoutonNon);
     ExecutionSilencieuse::Demarre();
-    monBanc->Retiens(u"guid"_s, kBoutonNon);
-    Appel appel = AppelComplet();
-    appel.defaut = kBoutonOui;
-    QCOMPARE(PreteForme(u"DAlerteRappel"_s).lance(appel), kBoutonNon);
-    QVERIFY(monBanc->journal.DonneLignes().value(0).startsWith(u"Dialogue déjà répondu."_s));
+    QCOMPARE(DAlerteRappel(nullptr, Question(), StockeurNePlusMAviser, Guid(), kBoutonOui,
+                           kBoutonOui, kBoutonOui),
+             kBoutonNon);
+    QVERIFY(monJournal->DonneLignes().constFirst().startsWith(u"Dialogue déjà répondu."_s));
 }
 
-// Without a check box of its own, this store still answers from its file.
-void tst_DDialogueAbs::stockeurParDefautRepond()
+void tst_DDialogueAbs::silencieuxPrendLeDefaut()
 {
-    monBanc->Retiens(u"guid"_s, kBoutonNon, StockeurParDefaut);
-    Appel appel = AppelComplet();
-    appel.type = StockeurParDefaut;
-    QCOMPARE(PreteForme(u"DAlerteRappel"_s).lance(appel), kBoutonNon);
-    QCOMPARE(monBanc->journal.DonneLignes(),
-             QStringList{u"Dialogue déjà répondu.Réponse=Non\tMessage\t"
-                         "TypeDeStockeur: StockeurParDefaut\tGUID: guid\t"_s});
-}
-
-void tst_DDialogueAbs::silenceSansDefaut_data()
-{
-    QTest::addColumn<quint32>("defaut");
-    QTest::addColumn<QString>("label");
-    QTest::newRow("no default button") << quint32(kBoutonAucun) << u"un"_s;
-    QTest::newRow("default button that is not in the mask") << quint32(kBoutonNon) << u"un"_s;
-    QTest::newRow("default button without a label") << quint32(kBoutonMaison1) << QString();
-}
-
-void tst_DDialogueAbs::silenceSansDefaut()
-{
-    QFETCH(quint32, defaut);
-    QFETCH(QString, label);
     ExecutionSilencieuse::Demarre();
-    ReceveurSimulay receveur;
-    Appel appel{DAlerteInfo(DAlerteInfo::kQuestion, UniChaine("Message"))};
-    appel.boutons = kBoutonOui | kBoutonAnnuler | kBoutonMaison1;
-    appel.defaut = static_cast<eBoutons>(defaut);
-    appel.echap = kBoutonAnnuler;
-    appel.labels[0] = label;
-    appel.receveur = &receveur;
-    QCOMPARE(PreteForme(u"DAlerte, buttons"_s).lance(appel), kBoutonAucun);
-    PreteForme(u"DAlerte, receiver, buttons"_s).lance(appel);
-    QTRY_COMPARE(receveur.reponses, QList<int>{kBoutonAucun});
-    QCOMPARE(monBanc->journal.DonneLignes(),
-             (QStringList{u"Dialogue silencieux.Réponse=0\tMessage\tGUID: \t"_s,
-                          u"Dialogue asynchrone silencieux.Réponse=0\tMessage\tGUID: \t"_s}));
+    QCOMPARE(DAlerte(nullptr, Question(), kBoutonOui | kBoutonMaison2, kBoutonMaison2, kBoutonOui,
+                     u"Un"_s, u"Deux"_s),
+             kBoutonMaison2);
+    DAlerte(nullptr, Question(), kBoutonOui | kBoutonNon, kBoutonNon, kBoutonOui,
+            [this](eBoutons const & r) { mesReponses.append(r); });
+    QVERIFY(mesReponses.isEmpty());
+    QVERIFY(monJournal->DonneLignes().last().startsWith(
+        u"Dialogue asynchrone silencieux.Réponse=Non\t"_s));
+    QTRY_COMPARE(mesReponses, QList{kBoutonNon});
+    ExecutionSilencieuse::Demarre(false); // in use, but not silent: the user is asked
+    ClicQuandLaBoiteEstLa(QMessageBox::Ok);
+    QCOMPARE(DAlerte(nullptr, Question()), kBoutonOk);
+    QVERIFY(monJournal->DonneLignes().last().startsWith(u"Dialogue modal."_s));
 }
 
-// The object is there, but the mode is off: the user is asked.
-void tst_DDialogueAbs::modeNonSilencieux()
+void tst_DDialogueAbs::silencieuxSansDefaut()
 {
-    ExecutionSilencieuse::Demarre(false);
-    QCOMPARE(Repond(AppelComplet(), 7, false), quint32(kBoutonOui));
-    QVERIFY(ExecutionSilencieuse::DonneDialoguesJournalises().isEmpty());
+    ExecutionSilencieuse::Demarre();
+    QCOMPARE(DAlerte(nullptr, Question(), kBoutonOui | kBoutonNon, kBoutonAucun, kBoutonNon),
+             kBoutonAucun);
+    QVERIFY(monJournal->DonneLignes().last().startsWith(u"Dialogue silencieux.Réponse=0\t"_s));
+}
+
+void tst_DDialogueAbs::receveurRecoitIdentifiantEtReponse()
+{
+    ReceveurNotant receveur;
+    receveur.MetsIdMessage(42);
+    bool boiteEtaitLa = false;
+    receveur.action = [&boiteEtaitLa] { boiteEtaitLa = DonneBoiteVisible() != nullptr; };
+    DAlerte(nullptr, &receveur, Question(), kBoutonOui | kBoutonNon, kBoutonOui, kBoutonNon);
+    DonneBoiteVisible()->button(QMessageBox::No)->click();
+    QCOMPARE(receveur.reponses, (QList<QPair<int, int>>{{42, kBoutonNon}}));
+    QVERIFY(boiteEtaitLa);
 }
 
 QTEST_MAIN(tst_DDialogueAbs)

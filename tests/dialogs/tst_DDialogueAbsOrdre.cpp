@@ -143,7 +143,7 @@ void tst_DDialogueAbsOrdre::reponseAvantLaFinBloquante()
 
 void tst_DDialogueAbsOrdre::storeEcritAvantLaReponse()
 {
-    ReceveurSimulay receveur;
+    ReceveurNotant receveur;
     bool etaitRetenue = false;
     receveur.action = [&etaitRetenue] {
         etaitRetenue = DAlerteRappelDejaCochay(StockeurNePlusMAviser, u"guid"_s);
@@ -154,13 +154,13 @@ void tst_DDialogueAbsOrdre::storeEcritAvantLaReponse()
     QVERIFY(boite);
     Coche(*boite);
     Clique(boite->button(QMessageBox::Yes));
-    QCOMPARE(receveur.reponses, QList<int>{kBoutonOui});
+    QCOMPARE(DonneReponses(receveur), QList<int>{kBoutonOui});
     QVERIFY(etaitRetenue);
 }
 
 void tst_DDialogueAbsOrdre::reponseRetenueApresLAppel()
 {
-    monBanc->Retiens(u"guid"_s, kBoutonNon);
+    monBanc->stockage.Ecris(u"guid"_s, kBoutonNon);
     Temoin temoin;
     DAlerteRappel(nullptr, Question(), StockeurNePlusMAviser, u"guid"_s, kBoutonOui | kBoutonNon,
                   kBoutonOui, kBoutonNon,

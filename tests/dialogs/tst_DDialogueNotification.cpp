@@ -183,7 +183,7 @@ void tst_DDialogueNotification::reglage()
 {
     QFETCH(int, reglage);
     QFETCH(bool, montray);
-    monBanc->toasts->reglage = static_cast<NotificationSetting>(reglage);
+    monBanc->toasts->MetsReglage(static_cast<NotificationSetting>(reglage));
     QCOMPARE(monBanc->Affiche(kBoutonOk), montray);
     QCOMPARE(monBanc->toasts->DonneNombreToasts(), montray ? 1 : 0);
 }

@@ -1,4 +1,4 @@
-// dialogs/tst_DDialogueNotificationDocumentDocument.cpp
+// tests/dialogs/tst_DDialogueNotificationDocument.cpp
 #include "BancToasts.h"
 
 #include "dialogs/BoutonsDialogue_p.h"
@@ -289,7 +289,7 @@ void tst_DDialogueNotificationDocument::textes()
 {
     QFETCH(int, nombre);
     QFETCH(QStringList, attendus);
-    monBanc->toasts->modele = ModeleDeTextes(nombre);
+    monBanc->toasts->MetsModele(ModeleDeTextes(nombre));
     QVERIFY(monBanc->AfficheAlerte(AlerteExpliquee(DAlerteInfo::kNotification, UniChaine("message"),
                                                    UniChaine("note"), UniChaine("titre")),
                                    kBoutonOk));
@@ -371,7 +371,7 @@ void tst_DDialogueNotificationDocument::modeleIncomplet()
 {
     QFETCH(QString, modele);
     QFETCH(bool, montray);
-    monBanc->toasts->modele = modele;
+    monBanc->toasts->MetsModele(modele);
     QCOMPARE(monBanc->Affiche(kBoutonOk | kBoutonAnnuler), montray);
 }
 

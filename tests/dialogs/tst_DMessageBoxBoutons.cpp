@@ -1,45 +1,42 @@
-// dialogs/tst_DMessageBoxBoutons.cpp
+// tests/dialogs/tst_DMessageBoxBoutons.cpp
 //
-// The buttons of a message box.
-#include "dialogs/EssaisBoites.h"
+// The buttons of the box: which there are, in which order, and what the keyboard does with them.
+#include "EssaisBoites.h"
 
+#include "dialogs/StockageReponse.h"
+
+#include "noyau/Traductions.h"
+
+#include "outils/BureauSimulay.h"
+
+#include <QDialogButtonBox>
 #include <QtTest>
 
 using namespace DDialogue;
-using namespace EssaisAlertes;
 using namespace Qt::StringLiterals;
 
 namespace {
 
-std::array<UniChaine, 5> const & CinqLabels()
+DAlerteInfo const & Question()
 {
-    static std::array<UniChaine, 5> const labels{u"un"_s, u"deux"_s, u"trois"_s, u"quatre"_s,
-                                                 u"cinq"_s};
-    return labels;
+    static DAlerteInfo const info(DAlerteInfo::kQuestion, u"Continuer ?"_s, {}, u"Essai"_s);
+    return info;
 }
 
-int EnMasque(std::initializer_list<quint32> boutons)
+std::list<UniChaine> Labels()
 {
-    quint32 masque = 0;
-    for (quint32 const bouton : boutons)
-        masque |= bouton;
-    return static_cast<int>(masque);
+    return {u"Un"_s, u"Deux"_s, u"Trois"_s, u"Quatre"_s, u"Cinq"_s};
 }
 
-// A box with these buttons and the five labels.
-std::unique_ptr<BoiteMontree> Montre(int boutons, quint32 defaut = kBoutonAucun,
-                                     quint32 echap = kBoutonAucun)
-{
-    return std::make_unique<BoiteMontree>(Alerte(), boutons, defaut, echap, nullptr,
-                                          StockeurParDefaut, CinqLabels());
-}
+constexpr int kTous = static_cast<int>(0xFFFFFFFFU);
 
-QStringList Textes(QMessageBox const & boite)
+QPushButton * DonneBouton(DMessageBox const & boite, QString const & texte)
 {
-    QStringList textes;
-    for (QPushButton const * const bouton : BoutonsDansLOrdre(boite))
-        textes << bouton->text();
-    return textes;
+    for (QAbstractButton * const bouton : boite.buttons()) {
+        if (bouton->text() == texte)
+            return qobject_cast<QPushButton *>(bouton);
+    }
+    return nullptr;
 }
 
 } // namespace
@@ -49,148 +46,178 @@ class tst_DMessageBoxBoutons : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void init() { monBanc = std::make_unique<Banc>(); }
+    void init();
     void cleanup();
-
     void boutonStandard_data();
     void boutonStandard();
     void boutonMaison_data();
     void boutonMaison();
-    void labelsTraduits();
-    void ordreDuMasque();
-    void bitsSansBouton_data();
-    void bitsSansBouton();
-    void memeLabelPourLesDeux();
-    void boutonElevay_data();
-    void boutonElevay();
     void labelVide_data();
     void labelVide();
+    void tousLesBoutons();
+    void bitsSansBouton_data();
+    void bitsSansBouton();
+    void libellesTraduits();
+    void boutonElevay_data();
+    void boutonElevay();
     void defautEtEchap_data();
     void defautEtEchap();
-    void designesHorsDuMasque();
-    void sansBouton();
-    void chaqueBoutonRepondSonIdentifiant();
+    void choixDeQtSansDefautNiEchap();
+    void raccourcisDesLabels();
+    void defautSurRetour();
+    void echapSurEchap();
+    void sansMasque();
 
 private:
-    std::unique_ptr<Banc> monBanc;
+    DMessageBox * Montre(int boutons, eBoutons defaut = kBoutonAucun, eBoutons echap = kBoutonAucun,
+                         std::list<UniChaine> const & labels = Labels());
+
+    BureauSimulay * monBureau = nullptr;
+    QList<eBoutons> mesReponses;
 };
+
+void tst_DMessageBoxBoutons::init()
+{
+    auto bureau = std::make_unique<BureauSimulay>();
+    monBureau = bureau.get();
+    PlateformeBureau::Installe(std::move(bureau));
+    mesReponses.clear();
+}
 
 void tst_DMessageBoxBoutons::cleanup()
 {
-    RetireRestes();
+    if (DMessageBox * const boite = DonneBoiteVisible())
+        boite->PriseResultat(QVariant::fromValue(kBoutonAucun));
     QTRY_VERIFY(QApplication::topLevelWidgets().isEmpty());
-    monBanc.reset();
+    StockageReponse::LibereSingletons();
+    PlateformeBureau::Installe(nullptr);
+    Traductions::MetsLanguePourApplicationCourante(kLangueFrancais);
+}
+
+DMessageBox * tst_DMessageBoxBoutons::Montre(int boutons, eBoutons defaut, eBoutons echap,
+                                             std::list<UniChaine> const & labels)
+{
+    DAlerte(nullptr, Question(), boutons, defaut, echap, labels,
+            [this](eBoutons const & reponse) { mesReponses.append(reponse); });
+    return DonneBoiteVisible();
 }
 
 void tst_DMessageBoxBoutons::boutonStandard_data()
 {
-    QTest::addColumn<quint32>("bouton");
-    QTest::addColumn<QMessageBox::StandardButton>("standard");
-    QTest::newRow("Ok") << quint32(1) << QMessageBox::Ok;
-    QTest::newRow("Cancel") << quint32(2) << QMessageBox::Cancel;
-    QTest::newRow("Apply") << quint32(4) << QMessageBox::Apply;
-    QTest::newRow("Close") << quint32(8) << QMessageBox::Close;
-    QTest::newRow("Save") << quint32(16) << QMessageBox::Save;
-    QTest::newRow("SaveAll") << quint32(32) << QMessageBox::SaveAll;
-    QTest::newRow("Help") << quint32(64) << QMessageBox::Help;
-    QTest::newRow("Yes") << quint32(128) << QMessageBox::Yes;
-    QTest::newRow("YesToAll") << quint32(256) << QMessageBox::YesToAll;
-    QTest::newRow("No") << quint32(512) << QMessageBox::No;
-    QTest::newRow("NoToAll") << quint32(1024) << QMessageBox::NoToAll;
-    QTest::newRow("Retry") << quint32(2048) << QMessageBox::Retry;
-    QTest::newRow("Ignore") << quint32(4096) << QMessageBox::Ignore;
+    QTest::addColumn<eBoutons>("identifiant");
+    QTest::addColumn<QMessageBox::StandardButton>("bouton");
+    QTest::newRow("OK") << kBoutonOk << QMessageBox::Ok;
+    QTest::newRow("Cancel") << kBoutonAnnuler << QMessageBox::Cancel;
+    QTest::newRow("Apply") << kBoutonAppliquer << QMessageBox::Apply;
+    QTest::newRow("Close") << kBoutonFermer << QMessageBox::Close;
+    QTest::newRow("Save") << kBoutonSauvegarder << QMessageBox::Save;
+    QTest::newRow("Save all") << kBoutonSauvegarderTout << QMessageBox::SaveAll;
+    QTest::newRow("Help") << kBoutonAide << QMessageBox::Help;
+    QTest::newRow("Yes") << kBoutonOui << QMessageBox::Yes;
+    QTest::newRow("Yes to all") << kBoutonOuiTout << QMessageBox::YesToAll;
+    QTest::newRow("No") << kBoutonNon << QMessageBox::No;
+    QTest::newRow("No to all") << kBoutonNonTout << QMessageBox::NoToAll;
+    QTest::newRow("Retry") << kBoutonReessayer << QMessageBox::Retry;
+    QTest::newRow("Ignore") << kBoutonIgnorer << QMessageBox::Ignore;
 }
 
 void tst_DMessageBoxBoutons::boutonStandard()
 {
-    QFETCH(quint32, bouton);
-    QFETCH(QMessageBox::StandardButton, standard);
-    auto const boite = Montre(static_cast<int>(bouton));
-    QCOMPARE((*boite)->buttons().size(), 1);
-    QCOMPARE((*boite)->standardButtons(), QMessageBox::StandardButtons(standard));
-    Clique((*boite)->button(standard));
-    QCOMPARE(boite->receveur.reponses, QList<int>{static_cast<int>(bouton)});
+    QFETCH(eBoutons, identifiant);
+    QFETCH(QMessageBox::StandardButton, bouton);
+    DMessageBox * const boite = Montre(int(identifiant));
+    QCOMPARE(boite->buttons().size(), 1);
+    QCOMPARE(boite->standardButton(boite->buttons().constFirst()), bouton);
+    QTest::mouseClick(boite->buttons().constFirst(), Qt::LeftButton);
+    QCOMPARE(mesReponses, QList{identifiant});
 }
 
 void tst_DMessageBoxBoutons::boutonMaison_data()
 {
-    QTest::addColumn<quint32>("bouton");
+    QTest::addColumn<eBoutons>("identifiant");
     QTest::addColumn<QString>("texte");
     QTest::addColumn<QMessageBox::ButtonRole>("role");
-    auto const action = QMessageBox::ActionRole;
-    QTest::newRow("Continuer") << quint32(16384) << u"Continuer"_s << QMessageBox::AcceptRole;
-    QTest::newRow("Essayer") << quint32(32768) << u"Essayer"_s << action;
-    QTest::newRow("first label") << quint32(65536) << u"un"_s << action;
-    QTest::newRow("first label, elevated") << quint32(0x80000000) << u"un"_s << action;
-    QTest::newRow("second label") << quint32(262144) << u"deux"_s << action;
-    QTest::newRow("third label") << quint32(524288) << u"trois"_s << action;
-    QTest::newRow("fourth label") << quint32(1048576) << u"quatre"_s << action;
-    QTest::newRow("fifth label") << quint32(2097152) << u"cinq"_s << action;
+    QTest::newRow("continue") << kBoutonContinuer << u"Continuer"_s << QMessageBox::AcceptRole;
+    QTest::newRow("try") << kBoutonEssayer << u"Essayer"_s << QMessageBox::ActionRole;
+    QTest::newRow("first") << kBoutonMaison1 << u"Un"_s << QMessageBox::ActionRole;
+    QTest::newRow("second") << kBoutonMaison2 << u"Deux"_s << QMessageBox::ActionRole;
+    QTest::newRow("third") << kBoutonMaison3 << u"Trois"_s << QMessageBox::ActionRole;
+    QTest::newRow("fourth") << kBoutonMaison4 << u"Quatre"_s << QMessageBox::ActionRole;
+    QTest::newRow("fifth") << kBoutonMaison5 << u"Cinq"_s << QMessageBox::ActionRole;
+    QTest::newRow("first, elevated") << kBoutonMaisonElevee1 << u"Un"_s << QMessageBox::ActionRole;
 }
 
 void tst_DMessageBoxBoutons::boutonMaison()
 {
-    QFETCH(quint32, bouton);
+    QFETCH(eBoutons, identifiant);
     QFETCH(QString, texte);
     QFETCH(QMessageBox::ButtonRole, role);
-    monBanc->bureau->peutExecuterElevay = true;
-    auto const boite = Montre(static_cast<int>(bouton));
-    QCOMPARE(Textes(**boite), QStringList{texte});
-    QCOMPARE((*boite)->buttonRole((*boite)->buttons().constFirst()), role);
-    Clique((*boite)->buttons().constFirst());
-    QCOMPARE(boite->receveur.reponses, QList<int>{static_cast<int>(bouton)});
+    monBureau->peutExecuterElevay = true;
+    DMessageBox * const boite = Montre(int(identifiant));
+    QCOMPARE(boite->buttons().size(), 1);
+    QAbstractButton * const bouton = boite->buttons().constFirst();
+    QCOMPARE(bouton->text(), texte);
+    QCOMPARE(boite->buttonRole(bouton), role);
+    bouton->click();
+    QCOMPARE(mesReponses, QList{identifiant});
 }
 
-void tst_DMessageBoxBoutons::labelsTraduits()
+void tst_DMessageBoxBoutons::labelVide_data()
 {
-    Traductions::MetsLanguePourApplicationCourante(kLangueAnglais);
-    auto const boite = Montre(kBoutonContinuer | kBoutonEssayer);
-    QCOMPARE(Textes(**boite), (QStringList{u"Continue"_s, u"Try"_s}));
+    QTest::addColumn<eBoutons>("identifiant");
+    QTest::newRow("first") << kBoutonMaison1;
+    QTest::newRow("first, elevated") << kBoutonMaisonElevee1;
+    QTest::newRow("second") << kBoutonMaison2;
+    QTest::newRow("third") << kBoutonMaison3;
+    QTest::newRow("fourth") << kBoutonMaison4;
+    QTest::newRow("fifth") << kBoutonMaison5;
 }
 
-void tst_DMessageBoxBoutons::ordreDuMasque()
+void tst_DMessageBoxBoutons::labelVide()
 {
-    auto const boite =
-        Montre(EnMasque({kBoutonMaison2, kBoutonMaison1, kBoutonMaisonElevee1, kBoutonEssayer,
-                         kBoutonContinuer, kBoutonNon, kBoutonOui, kBoutonOk}));
-    QList<QPushButton *> const boutons = BoutonsDansLOrdre(**boite);
-    QCOMPARE(boutons.size(), 8);
-    QCOMPARE((*boite)->standardButton(boutons.at(0)), QMessageBox::Ok);
-    QCOMPARE((*boite)->standardButton(boutons.at(1)), QMessageBox::Yes);
-    QCOMPARE((*boite)->standardButton(boutons.at(2)), QMessageBox::No);
-    QCOMPARE(Textes(**boite).mid(3),
-             (QStringList{u"Continuer"_s, u"Essayer"_s, u"un"_s, u"un"_s, u"deux"_s}));
+    QFETCH(eBoutons, identifiant);
+    DMessageBox * const boite = Montre(int(kBoutonOui | identifiant), identifiant, identifiant, {});
+    QCOMPARE(boite->buttons().size(), 1);
+    // A default and an escape button that are not there are ignored.
+    QVERIFY(boite->escapeButton() != boite->button(QMessageBox::Yes));
+    QVERIFY(!boite->defaultButton());
+}
+
+void tst_DMessageBoxBoutons::tousLesBoutons()
+{
+    DMessageBox * const boite = Montre(kTous);
+    QCOMPARE(boite->buttons().size(), 21); // all but the link
+    // Buttons of one role stand in the order in which they were added.
+    QStringList actions;
+    for (QAbstractButton const * const bouton : boite->findChild<QDialogButtonBox *>()->buttons()) {
+        if (boite->buttonRole(const_cast<QAbstractButton *>(bouton)) == QMessageBox::ActionRole)
+            actions << bouton->text();
+    }
+    QCOMPARE(actions, (QStringList{u"Essayer"_s, u"Un"_s, u"Un"_s, u"Deux"_s, u"Trois"_s,
+                                   u"Quatre"_s, u"Cinq"_s}));
 }
 
 void tst_DMessageBoxBoutons::bitsSansBouton_data()
 {
-    QTest::addColumn<quint32>("bit");
-    QTest::newRow("link") << quint32(kBoutonLien);
-    QTest::newRow("8192") << quint32(8192);
-    QTest::newRow("131072") << quint32(131072);
-    for (int rang = 23; rang < 31; ++rang)
-        QTest::addRow("bit %d", rang) << (1U << rang);
+    QTest::addColumn<int>("bits");
+    QTest::newRow("the link") << int(kBoutonLien);
+    QTest::newRow("not assigned, 8192") << 8192;
+    QTest::newRow("not assigned, 131072") << 131072;
+    QTest::newRow("above the link") << 0x7F800000;
 }
 
 void tst_DMessageBoxBoutons::bitsSansBouton()
 {
-    QFETCH(quint32, bit);
-    auto const boite = Montre(static_cast<int>(bit | kBoutonFermer), bit, bit);
-    QCOMPARE((*boite)->buttons().size(), 1);
-    QVERIFY(!(*boite)->defaultButton());
-    QVERIFY(!(*boite)->escapeButton());
+    QFETCH(int, bits);
+    QCOMPARE(Montre(bits | kBoutonOui)->buttons().size(), 1);
 }
 
-void tst_DMessageBoxBoutons::memeLabelPourLesDeux()
+void tst_DMessageBoxBoutons::libellesTraduits()
 {
-    monBanc->bureau->peutExecuterElevay = true;
-    for (qsizetype const rang : {0, 1}) {
-        auto const boite = Montre(EnMasque({kBoutonMaison1, kBoutonMaisonElevee1}));
-        QCOMPARE(Textes(**boite), (QStringList{u"un"_s, u"un"_s}));
-        Clique(BoutonsDansLOrdre(**boite).at(rang));
-        quint32 const attendue = rang == 0 ? kBoutonMaison1 : kBoutonMaisonElevee1;
-        QCOMPARE(boite->receveur.reponses, QList<int>{static_cast<int>(attendue)});
-    }
+    Traductions::MetsLanguePourApplicationCourante(kLangueAnglais);
+    DMessageBox const * const boite = Montre(kBoutonContinuer | kBoutonEssayer);
+    QVERIFY(DonneBouton(*boite, u"Continue"_s));
+    QVERIFY(DonneBouton(*boite, u"Try"_s));
 }
 
 void tst_DMessageBoxBoutons::boutonElevay_data()
@@ -203,88 +230,76 @@ void tst_DMessageBoxBoutons::boutonElevay_data()
 void tst_DMessageBoxBoutons::boutonElevay()
 {
     QFETCH(bool, peut);
-    monBanc->bureau->peutExecuterElevay = peut;
-    auto const boite = Montre(EnMasque({kBoutonMaison1, kBoutonMaisonElevee1}));
-    QList<QPushButton *> const boutons = BoutonsDansLOrdre(**boite);
-    QVERIFY(boutons.at(0)->isEnabled());
-    QCOMPARE(boutons.at(1)->isEnabled(), peut);
-    QVERIFY(boutons.at(0)->icon().isNull());
-    QIcon const bouclier = QApplication::style()->standardIcon(QStyle::SP_VistaShield);
-    QCOMPARE(boutons.at(1)->icon().isNull(), bouclier.isNull());
-    Clique(boutons.at(1));
-    QCOMPARE(boite->receveur.reponses.size(), peut ? 1 : 0);
-}
-
-void tst_DMessageBoxBoutons::labelVide_data()
-{
-    QTest::addColumn<quint32>("bouton");
-    for (quint32 const bouton :
-         {quint32(kBoutonMaison1), quint32(kBoutonMaisonElevee1), quint32(kBoutonMaison2),
-          quint32(kBoutonMaison3), quint32(kBoutonMaison4), quint32(kBoutonMaison5)})
-        QTest::addRow("0x%x", bouton) << bouton;
-}
-
-// A button without a label is not made, and a default or escape button that names it is ignored.
-void tst_DMessageBoxBoutons::labelVide()
-{
-    QFETCH(quint32, bouton);
-    BoiteMontree const boite(Alerte(), static_cast<int>(bouton | kBoutonOk), bouton, bouton);
-    QCOMPARE(boite->buttons().size(), 1);
-    QVERIFY(!boite->defaultButton());
-    QVERIFY(!boite->escapeButton());
+    monBureau->peutExecuterElevay = peut;
+    DMessageBox * const boite = Montre(int(kBoutonMaison1 | kBoutonMaisonElevee1));
+    QCOMPARE(boite->buttons().size(), 2); // both, with the same label
+    int actifs = 0;
+    for (QAbstractButton * const bouton : boite->buttons()) {
+        QCOMPARE(bouton->text(), u"Un"_s);
+        actifs += bouton->isEnabled() ? 1 : 0;
+    }
+    QCOMPARE(actifs, peut ? 2 : 1);
 }
 
 void tst_DMessageBoxBoutons::defautEtEchap_data()
 {
-    QTest::addColumn<quint32>("defaut");
-    QTest::addColumn<quint32>("echap");
-    QTest::newRow("two standard buttons") << quint32(kBoutonNon) << quint32(kBoutonAnnuler);
-    QTest::newRow("the same button twice") << quint32(kBoutonOui) << quint32(kBoutonOui);
-    QTest::newRow("own buttons") << quint32(kBoutonContinuer) << quint32(kBoutonMaison1);
-    QTest::newRow("elevated") << quint32(kBoutonMaisonElevee1) << quint32(kBoutonEssayer);
+    boutonMaison_data();
 }
 
 void tst_DMessageBoxBoutons::defautEtEchap()
 {
-    QFETCH(quint32, defaut);
-    QFETCH(quint32, echap);
-    monBanc->bureau->peutExecuterElevay = true;
-    int const boutons = EnMasque({kBoutonAnnuler, kBoutonOui, kBoutonNon, kBoutonContinuer,
-                                  kBoutonEssayer, kBoutonMaison1, kBoutonMaisonElevee1});
-    for (bool const aLEchap : {false, true}) {
-        auto const boite = Montre(boutons, defaut, echap);
-        Clique(aLEchap ? (*boite)->escapeButton() : (*boite)->defaultButton());
-        QCOMPARE(boite->receveur.reponses, QList<int>{static_cast<int>(aLEchap ? echap : defaut)});
-    }
+    QFETCH(eBoutons, identifiant);
+    QFETCH(QString, texte);
+    monBureau->peutExecuterElevay = true;
+    DMessageBox * const boite =
+        Montre(int(kBoutonOui | kBoutonNon | identifiant), identifiant, kBoutonNon);
+    QCOMPARE(boite->defaultButton(), DonneBouton(*boite, texte));
+    QCOMPARE(boite->escapeButton(), boite->button(QMessageBox::No));
+    QTest::keyClick(boite, Qt::Key_Return);
+    QCOMPARE(mesReponses, QList{identifiant});
 }
 
-void tst_DMessageBoxBoutons::designesHorsDuMasque()
+void tst_DMessageBoxBoutons::choixDeQtSansDefautNiEchap()
 {
-    auto const boite = Montre(kBoutonOui | kBoutonNon, kBoutonOk, kBoutonAnnuler);
-    QVERIFY(!(*boite)->defaultButton());
-    QVERIFY(!(*boite)->escapeButton());
+    DMessageBox * const boite = Montre(kBoutonOui | kBoutonAnnuler, kBoutonAide, kBoutonAide);
+    QVERIFY(!boite->defaultButton());
+    QVERIFY(!boite->escapeButton());
+    QTest::keyClick(boite, Qt::Key_Escape); // Qt has found the Cancel button by itself
+    QCOMPARE(mesReponses, QList{kBoutonAnnuler});
 }
 
-// Qt gives a box without buttons one of its own, which is not ours: its answer is none.
-void tst_DMessageBoxBoutons::sansBouton()
+void tst_DMessageBoxBoutons::raccourcisDesLabels()
 {
-    auto const boite = Montre(0);
-    QCOMPARE((*boite)->buttons().size(), 1);
-    Clique((*boite)->buttons().constFirst());
-    QCOMPARE(boite->receveur.reponses, QList<int>{kBoutonAucun});
-    QTRY_VERIFY(!boite->boite);
+    DMessageBox * const boite = Montre(kBoutonMaison1 | kBoutonMaison2, kBoutonMaison1,
+                                       kBoutonMaison1, {u"&Garder"_s, u"&Remplacer"_s});
+    boite->activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(boite));
+    QTest::keyClick(boite, Qt::Key_R, Qt::AltModifier);
+    QTRY_COMPARE(mesReponses, QList{kBoutonMaison2});
 }
 
-void tst_DMessageBoxBoutons::chaqueBoutonRepondSonIdentifiant()
+void tst_DMessageBoxBoutons::defautSurRetour()
 {
-    int const boutons = EnMasque({kBoutonOui, kBoutonNon, kBoutonMaison3, kBoutonMaison5});
-    QList<int> const attendues{kBoutonOui, kBoutonNon, kBoutonMaison3, kBoutonMaison5};
-    for (qsizetype rang = 0; rang < attendues.size(); ++rang) {
-        auto const boite = Montre(boutons);
-        Clique(BoutonsDansLOrdre(**boite).at(rang));
-        QCOMPARE(boite->receveur.reponses, attendues.mid(rang, 1));
-        QTRY_VERIFY(!boite->boite);
-    }
+    DMessageBox * const boite = Montre(kBoutonOui | kBoutonNon | kBoutonAnnuler, kBoutonNon);
+    QVERIFY(boite->button(QMessageBox::No)->hasFocus() ||
+            boite->focusWidget() == boite->button(QMessageBox::No));
+    QTest::keyClick(boite, Qt::Key_Return);
+    QCOMPARE(mesReponses, QList{kBoutonNon});
+}
+
+void tst_DMessageBoxBoutons::echapSurEchap()
+{
+    DMessageBox * const boite = Montre(kBoutonOui | kBoutonIgnorer, kBoutonOui, kBoutonIgnorer);
+    QTest::keyClick(boite, Qt::Key_Escape);
+    QCOMPARE(mesReponses, QList{kBoutonIgnorer});
+}
+
+void tst_DMessageBoxBoutons::sansMasque()
+{
+    DMessageBox * const boite = Montre(0, kBoutonOk, kBoutonOk);
+    QCOMPARE(boite->buttons().size(), 1); // Qt gives a box without buttons an OK of its own,
+    boite->buttons().constFirst()->click();
+    QCOMPARE(mesReponses, QList{kBoutonAucun}); // which is no answer of ours
 }
 
 QTEST_MAIN(tst_DMessageBoxBoutons)

@@ -1,4 +1,4 @@
-// dialogs/tst_DorvelToastEventHandler.cpp
+// tests/dialogs/tst_DorvelToastEventHandler.cpp
 #include "dialogs/DorvelToastEventHandler_p.h"
 #include "noyau/plateforme/ReferenceComptay.h"
 #include "outils/ToastsSimules.h"
@@ -13,6 +13,22 @@ using namespace Qt::StringLiterals;
 using namespace Toasts;
 
 using Rappel = std::function<void(eBoutons const &)>;
+
+namespace {
+// The arguments of a toast that was pressed itself; alive for as long as its test wants.
+class Activation final : public IInspectable, public IToastActivatedEventArgs
+{
+public:
+    ULONG AddRef() override { return 2; }
+    ULONG Release() override { return 1; }
+    HRESULT QueryInterface(IToastActivatedEventArgs ** arguments) override
+    {
+        *arguments = this;
+        return S_OK;
+    }
+    HRESULT get_Arguments(QString *) override { return S_OK; }
+};
+} // namespace
 
 class tst_DorvelToastEventHandler : public QObject
 {
@@ -34,12 +50,21 @@ private Q_SLOTS:
     void sansRappel();
     void secondEvenement();
     void sansEvenement();
+    void evenementSansToast();
+    void evenementPuisOubli_data();
+    void evenementPuisOubli();
+    void rappelQuiFaitOublierLeToast_data();
+    void rappelQuiFaitOublierLeToast();
+    void rappelQuiRendLaDerniereReference_data();
+    void rappelQuiRendLaDerniereReference();
     void sansNotificateur();
     void compte();
     void rappelSurLeThreadDeLEvenement();
     void evenementsSimultanes();
 
 private:
+    static void AjouteEvenements();
+    ReferenceComptay<IToastNotifier> CreeNotificateur();
     void Montre(Rappel const & rappel, bool retirer);
     HRESULT Envoie(QString const & evenement);
     QStringList DonneSuite() const;
@@ -62,6 +87,23 @@ void tst_DorvelToastEventHandler::cleanup()
     mesToasts.reset();
 }
 
+void tst_DorvelToastEventHandler::AjouteEvenements()
+{
+    QTest::addColumn<QString>("evenement");
+    QTest::newRow("pressed") << u"Activated"_s;
+    QTest::newRow("dismissed") << u"Dismissed"_s;
+    QTest::newRow("failed") << u"Failed"_s;
+}
+
+ReferenceComptay<IToastNotifier> tst_DorvelToastEventHandler::CreeNotificateur()
+{
+    ReferenceComptay<IToastNotificationManagerStatics> statiques;
+    mesToasts->RoGetActivationFactory({}, statiques.Recois());
+    ReferenceComptay<IToastNotifier> notificateur;
+    statiques->CreateToastNotifierWithId(u"org.essai"_s, notificateur.Recois());
+    return notificateur;
+}
+
 // A toast on screen with a handler that nothing but its registrations holds, and that alone holds
 // the notifier.
 void tst_DorvelToastEventHandler::Montre(Rappel const & rappel, bool retirer)
@@ -70,8 +112,7 @@ void tst_DorvelToastEventHandler::Montre(Rappel const & rappel, bool retirer)
     mesToasts->RoGetActivationFactory({}, statiques.Recois());
     ReferenceComptay<IXmlDocument> document;
     statiques->GetTemplateContent(ToastImageAndText04, document.Recois());
-    ReferenceComptay<IToastNotifier> notificateur;
-    statiques->CreateToastNotifierWithId(u"org.essai"_s, notificateur.Recois());
+    ReferenceComptay<IToastNotifier> const notificateur = CreeNotificateur();
     ReferenceComptay<IToastNotificationFactory> fabrique;
     mesToasts->RoGetActivationFactory({}, fabrique.Recois());
     ReferenceComptay<IToastNotification> toast;
@@ -256,6 +297,86 @@ void tst_DorvelToastEventHandler::sansEvenement()
     QCOMPARE(mesToasts->DonneNombreObjets(), 0);
     QCOMPARE(DonneSuite(), QStringList{u"~IToastNotifier"_s});
     QVERIFY(mesReponses.isEmpty());
+}
+
+// The platform refuses to hide what it is not told; the answer comes all the same.
+void tst_DorvelToastEventHandler::evenementSansToast()
+{
+    ReferenceComptay<DorvelToastEventHandler> const gestionnaire(
+        new DorvelToastEventHandler(DonneRappel(), CreeNotificateur().Prete(), true));
+    mesToasts->Note(u"---"_s);
+    QCOMPARE(gestionnaire->Invoke(nullptr, static_cast<IToastFailedEventArgs *>(nullptr)), S_OK);
+    QCOMPARE(mesReponses, QList{kBoutonReessayer});
+    QCOMPARE(DonneSuite(), QStringList({u"Hide()"_s, u"~IToastNotifier"_s, u"rappel"_s}));
+}
+
+void tst_DorvelToastEventHandler::evenementPuisOubli_data()
+{
+    AjouteEvenements();
+}
+
+void tst_DorvelToastEventHandler::evenementPuisOubli()
+{
+    QFETCH(QString, evenement);
+    auto const temoin = std::make_shared<int>(0);
+    Montre([temoin](eBoutons const &) {}, true);
+    Envoie(evenement);
+    QCOMPARE(temoin.use_count(), 2); // a second event could come
+    mesToasts->Oublie();
+    QCOMPARE(temoin.use_count(), 1);
+}
+
+void tst_DorvelToastEventHandler::rappelQuiFaitOublierLeToast_data()
+{
+    AjouteEvenements();
+}
+
+void tst_DorvelToastEventHandler::rappelQuiFaitOublierLeToast()
+{
+    QFETCH(QString, evenement);
+    auto const temoin = std::make_shared<int>(0);
+    Montre(
+        [this, temoin](eBoutons const &) {
+            mesToasts->Oublie();
+            ++*temoin; // still there
+        },
+        true);
+    Envoie(evenement);
+    QCOMPARE(*temoin, 1);
+    QCOMPARE(temoin.use_count(), 1);
+    QCOMPARE(DonneSuite(), QStringList({u"Hide()"_s, u"~IToastNotifier"_s}));
+}
+
+void tst_DorvelToastEventHandler::rappelQuiRendLaDerniereReference_data()
+{
+    AjouteEvenements();
+}
+
+// Nobody holds the handler but the registration that the callback ends.
+void tst_DorvelToastEventHandler::rappelQuiRendLaDerniereReference()
+{
+    QFETCH(QString, evenement);
+    auto temoin = std::make_shared<int>(0);
+    std::weak_ptr<int> const faible = temoin;
+    DorvelToastEventHandler * gestionnaire = nullptr;
+    bool vivantApres = false;
+    auto const rends = [&] {
+        gestionnaire->Release();
+        vivantApres = !faible.expired();
+    };
+    gestionnaire = new DorvelToastEventHandler([temoin, &rends](eBoutons const &) { rends(); },
+                                               CreeNotificateur().Prete(), false);
+    temoin.reset();
+    Activation activation;
+    if (evenement == "Activated"_L1)
+        gestionnaire->Invoke(nullptr, static_cast<IInspectable *>(&activation));
+    else if (evenement == "Dismissed"_L1)
+        gestionnaire->Invoke(nullptr, static_cast<IToastDismissedEventArgs *>(nullptr));
+    else
+        gestionnaire->Invoke(nullptr, static_cast<IToastFailedEventArgs *>(nullptr));
+    QVERIFY(vivantApres);
+    QVERIFY(faible.expired());
+    QCOMPARE(DonneSuite().count("~IToastNotifier"_L1), 1);
 }
 
 void tst_DorvelToastEventHandler::sansNotificateur()

@@ -1,8 +1,9 @@
-// dialogs/tst_RappelSurThreadGraphique.cpp
+// tests/dialogs/tst_RappelSurThreadGraphique.cpp
 #include "dialogs/DAlerte.h"
 
 #include <QtTest>
 
+#include <future>
 #include <memory>
 #include <thread>
 
@@ -50,6 +51,8 @@ private Q_SLOTS:
     void copieDeLEnveloppe();
     void detruitSurLeThreadGraphique();
     void detruitParLeRappel();
+    void lacheeAilleursPendantQueLeRappelCourt();
+    void enveloppayAvantLApplication();
     void sansApplication();
     void applicationPartieAvantLaLivraison();
 
@@ -170,6 +173,49 @@ void tst_RappelSurThreadGraphique::detruitParLeRappel()
     });
     rappel(kBoutonOui);
     QCOMPARE(*valeur, 1);
+}
+
+// The other thread drops the last copy while the callback, in an event loop of its own, delivers
+// everything that waits.
+void tst_RappelSurThreadGraphique::lacheeAilleursPendantQueLeRappelCourt()
+{
+    std::promise<void> commencay;
+    std::thread autre;
+    std::thread::id mort;
+    bool vivantApresLaBoucle = false;
+    auto const ouvreUneBoucle = [&] {
+        commencay.set_value();
+        autre.join();
+        QEventLoop boucle;
+        QTimer::singleShot(0, &boucle, &QEventLoop::quit);
+        boucle.exec();
+        vivantApresLaBoucle = mort == std::thread::id();
+    };
+    auto temoin = std::make_shared<Temoin>(mort);
+    RappelAlerte rappel =
+        RappelSurThreadGraphique([temoin, &ouvreUneBoucle](eBoutons const &) { ouvreUneBoucle(); });
+    temoin.reset();
+
+    autre = std::thread([&] {
+        rappel(kBoutonOui);
+        commencay.get_future().wait();
+        rappel = {};
+    });
+
+    QTRY_VERIFY(!autre.joinable());
+    QVERIFY(vivantApresLaBoucle);
+    QTRY_VERIFY(mort == std::this_thread::get_id());
+}
+
+void tst_RappelSurThreadGraphique::enveloppayAvantLApplication()
+{
+    monApplication.reset();
+    RappelAlerte const rappel = RappelSurThreadGraphique(DonneRappel());
+    init();
+    SurAutreThread([&] { rappel(kBoutonOui); });
+    QVERIFY(mesReponses.isEmpty());
+    QTRY_COMPARE(mesReponses, QList{kBoutonOui});
+    QCOMPARE(mesThreadsGraphiques, QList{true});
 }
 
 void tst_RappelSurThreadGraphique::sansApplication()

@@ -21,6 +21,7 @@ private Q_SLOTS:
     void guidVideNeLitRien();
     void oublieUnGuid();
     void oublieToutUnType();
+    void oublieCeQuUnAutreAEcrit();
     void valeurDuFichierNEstPasFiltree();
     void copieIndependante();
     void libereSingletonsGardeLesFichiers();
@@ -119,6 +120,23 @@ void tst_StockageReponse::oublieToutUnType()
         QVERIFY(StockageReponse::Instance(StockeurParDefaut, UniChaine(guid))
                     ->UtilisateurADejaRepondu());
     }
+}
+
+void tst_StockageReponse::oublieCeQuUnAutreAEcrit()
+{
+    StockageReponse::Instance(StockeurNePlusMAviser, UniChaine("un"))->ActualiseReponse(1);
+    StockageReponse::LibereSingletons();
+    QVERIFY(StockageReponse::Instance(StockeurNePlusMAviser, UniChaine("un"))
+                ->UtilisateurADejaRepondu()); // the file is open from here on
+    QFile fichier(Fichier());
+    QVERIFY(fichier.open(QIODevice::WriteOnly));
+    fichier.write("[messageMemoire]\nun=128\ndeux=512\ntrois=1\n");
+    fichier.close();
+    StockageReponse::ReinitialiseToutLeStockeur(StockeurNePlusMAviser);
+    StockageReponse::LibereSingletons();
+    for (char const * const guid : {"un", "deux", "trois"})
+        QVERIFY(!StockageReponse::Instance(StockeurNePlusMAviser, UniChaine(guid))
+                     ->UtilisateurADejaRepondu());
 }
 
 void tst_StockageReponse::valeurDuFichierNEstPasFiltree()

@@ -82,6 +82,7 @@ void tst_PlateformeFenetres::coucheNulle()
     QCOMPARE(processus, DWORD(0));
     QCOMPARE(couche.MonitorFromWindow(fenetre, MONITOR_DEFAULTTOPRIMARY), nullptr);
     QCOMPARE(couche.DonneNomClasse(fenetre), QString());
+    QCOMPARE(couche.GetWindowTextW(fenetre), QString());
     QCOMPARE(couche.DonneExecutable(fenetre), QString());
 }
 
@@ -295,6 +296,7 @@ void tst_PlateformeFenetres::poigneeMorteSimulee()
     QVERIFY(!couche.SetForegroundWindow(fenetre));
     QVERIFY(!couche.PostMessageW(fenetre, WM_CHAR, U'a', 0));
     QCOMPARE(couche.DonneNomClasse(fenetre), QString());
+    QCOMPARE(couche.GetWindowTextW(fenetre), QString());
 }
 
 QTEST_MAIN(tst_PlateformeFenetres)

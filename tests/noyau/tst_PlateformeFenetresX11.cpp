@@ -33,6 +33,8 @@ private Q_SLOTS:
     void iconiseEtRestaure();
     void cacheEtMontre();
     void styles();
+    void chefVisible();
+    void activeQuandRienNEstActif();
     void enfants();
     void gel();
     void gelNotrePropreFenetre();
@@ -101,6 +103,7 @@ void tst_PlateformeFenetresX11::trouveParClasseEtTitre()
     QVERIFY(fenetre);
 
     QCOMPARE(maPlateforme.DonneNomClasse(fenetre), u"EditeurEtranger"_s);
+    QCOMPARE(maPlateforme.GetWindowTextW(fenetre), u"Brouillon"_s);
     QCOMPARE(maPlateforme.FindWindowW(u"EditeurEtranger"_s, {}), fenetre);
     QCOMPARE(maPlateforme.FindWindowW(u"editeurETRANGER"_s, u"brouillon"_s), fenetre);
     QCOMPARE(maPlateforme.FindWindowW({}, u"Brouillon"_s), fenetre);
@@ -262,6 +265,47 @@ void tst_PlateformeFenetresX11::styles()
 
     QCOMPARE(monProgramme->Demande(u"opacite Principale"_s), u"ok"_s);
     QTRY_VERIFY_WITH_TIMEOUT(DonneStyleEtendu(principale) & WS_EX_LAYERED, kDelai);
+}
+
+void tst_PlateformeFenetresX11::chefVisible()
+{
+    HWND const principale = Ouvre(u"Principale"_s);
+    QVERIFY(principale);
+    HWND const dialogue = Ouvre(u"Question"_s, u"dialogue"_s);
+    QVERIFY(dialogue);
+
+    QCOMPARE(monProgramme->Demande(u"chef Principale"_s), u"ok"_s);
+
+    QCOMPARE(maPlateforme.GetWindow(dialogue, GW_OWNER), principale);
+    QCOMPARE(maPlateforme.GetParent(dialogue), principale);
+    QCOMPARE(DonneStyle(dialogue) & (WS_POPUP | WS_CHILD | WS_SYSMENU), WS_POPUP);
+    QCOMPARE(maPlateforme.GetWindow(principale, GW_OWNER), nullptr);
+
+    // Iconic is not hidden.
+    maPlateforme.ShowWindow(principale, SW_MINIMIZE);
+    QTRY_VERIFY_WITH_TIMEOUT(maPlateforme.IsIconic(principale), kDelai);
+    QCOMPARE(maPlateforme.GetWindow(dialogue, GW_OWNER), principale);
+
+    // A hidden leader stands for its program and owns nothing.
+    QVERIFY(maPlateforme.ShowWindow(principale, SW_HIDE));
+    QTRY_COMPARE_WITH_TIMEOUT(maPlateforme.GetWindow(dialogue, GW_OWNER), nullptr, kDelai);
+}
+
+void tst_PlateformeFenetresX11::activeQuandRienNEstActif()
+{
+    HWND const fenetre = Ouvre(u"Brouillon"_s);
+    QVERIFY(fenetre);
+    HWND const autre = Ouvre(u"Autre"_s);
+    QVERIFY(autre);
+    QVERIFY(maPlateforme.SetWindowPos(fenetre, HWND_TOPMOST, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE));
+    QTRY_COMPARE_WITH_TIMEOUT(maPlateforme.GetTopWindow(nullptr), fenetre, kDelai);
+    QCOMPARE(maPlateforme.GetForegroundWindow(), autre); // which it is not taken from
+
+    maPlateforme.ShowWindow(fenetre, SW_MINIMIZE);
+    maPlateforme.ShowWindow(autre, SW_MINIMIZE);
+    QTRY_COMPARE_WITH_TIMEOUT(maPlateforme.GetForegroundWindow(), nullptr, kDelai);
+    QVERIFY(maPlateforme.SetWindowPos(autre, HWND_NOTOPMOST, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE));
+    QTRY_COMPARE_WITH_TIMEOUT(maPlateforme.GetForegroundWindow(), autre, kDelai);
 }
 
 void tst_PlateformeFenetresX11::enfants()
@@ -552,6 +596,7 @@ void tst_PlateformeFenetresX11::poigneesMortes()
     QCOMPARE(maPlateforme.SendMessageTimeoutW(fenetre, WM_NULL, 0, 0, 0, 100, nullptr), LRESULT(0));
     QVERIFY(!maPlateforme.DestroyWindow(fenetre));
     QCOMPARE(maPlateforme.DonneNomClasse(fenetre), QString());
+    QCOMPARE(maPlateforme.GetWindowTextW(fenetre), QString());
     QCOMPARE(maPlateforme.DonneExecutable(fenetre), QString());
     QCOMPARE(maPlateforme.DonneEnfantDeClasse(fenetre, u"EditeurEtranger"_s), nullptr);
 }

@@ -1,4 +1,4 @@
-// noyau/tst_PlateformeToasts.cpp
+// tests/noyau/tst_PlateformeToasts.cpp
 #include "noyau/plateforme/PlateformeToasts.h"
 #include "noyau/plateforme/ReferenceComptay.h"
 #include "outils/ToastsSimules.h"
@@ -28,6 +28,8 @@ private Q_SLOTS:
     void installeEtRemet();
     void sansToastsDuSysteme();
     void objetsSurviventALaPlateforme();
+    void reglagesSurviventAuDouble();
+    void cacherRien();
     void resultats();
     void referencePrendEtLibere();
     void referencePartage();
@@ -85,6 +87,41 @@ void tst_PlateformeToasts::objetsSurviventALaPlateforme()
     PlateformeToasts::Installe(nullptr);
     QCOMPARE(fabrique->AddRef(), ULONG(2));
     QCOMPARE(fabrique->Release(), ULONG(1));
+}
+
+// What a test set on the double outlives it too.
+void tst_PlateformeToasts::reglagesSurviventAuDouble()
+{
+    auto simules = std::make_unique<ToastsSimules>();
+    simules->MetsReglage(NotificationSetting_DisabledForUser);
+    simules->MetsModele(u"<toast/>"_s);
+    ReferenceComptay<IToastNotificationManagerStatics> gestionnaire;
+    simules->RoGetActivationFactory({}, gestionnaire.Recois());
+    simules.reset();
+
+    ReferenceComptay<IXmlDocument> document;
+    QCOMPARE(gestionnaire->GetTemplateContent(ToastImageAndText04, document.Recois()), S_OK);
+    ReferenceComptay<IXmlNodeList> elements;
+    QCOMPARE(document->GetElementsByTagName(u"toast"_s, elements.Recois()), S_OK);
+    UINT longueur = 0;
+    QCOMPARE(elements->get_Length(&longueur), S_OK);
+    QCOMPARE(longueur, UINT(1));
+
+    ReferenceComptay<IToastNotifier> notificateur;
+    QCOMPARE(gestionnaire->CreateToastNotifierWithId({}, notificateur.Recois()), S_OK);
+    NotificationSetting reglage = NotificationSetting_Enabled;
+    QCOMPARE(notificateur->get_Setting(&reglage), S_OK);
+    QCOMPARE(reglage, NotificationSetting_DisabledForUser);
+}
+
+void tst_PlateformeToasts::cacherRien()
+{
+    ToastsSimules simules;
+    ReferenceComptay<IToastNotificationManagerStatics> gestionnaire;
+    simules.RoGetActivationFactory({}, gestionnaire.Recois());
+    ReferenceComptay<IToastNotifier> notificateur;
+    gestionnaire->CreateToastNotifierWithId({}, notificateur.Recois());
+    QCOMPARE(notificateur->Hide(nullptr), E_POINTER);
 }
 
 void tst_PlateformeToasts::resultats()

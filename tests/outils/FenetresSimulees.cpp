@@ -179,6 +179,12 @@ DWORD FenetresSimulees::GetWindowThreadProcessId(HWND fenetre, DWORD * processus
     return description ? description->thread : 0;
 }
 
+QString FenetresSimulees::GetWindowTextW(HWND fenetre)
+{
+    Fenetre const * const description = Cherche(fenetre);
+    return description ? description->titre : QString();
+}
+
 bool FenetresSimulees::GetClientRect(HWND fenetre, RECT * rect)
 {
     Fenetre const * const description = Cherche(fenetre);

@@ -76,6 +76,7 @@ public:
     bool IsHungAppWindow(HWND fenetre) override;
     LONG_PTR GetWindowLongPtrW(HWND fenetre, int indice) override;
     DWORD GetWindowThreadProcessId(HWND fenetre, DWORD * processus) override;
+    QString GetWindowTextW(HWND fenetre) override;
     bool GetClientRect(HWND fenetre, RECT * rect) override;
     bool ClientToScreen(HWND fenetre, POINT * point) override;
 

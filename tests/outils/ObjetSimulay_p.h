@@ -42,6 +42,8 @@ struct ToastsSimules::Etat
     QHash<QString, HRESULT> reponses;
     QHash<int, HRESULT> reponsesParRang;
     QSet<QString> sansObjet;
+    Toasts::NotificationSetting reglage = Toasts::NotificationSetting_Enabled;
+    QString modele;
     std::atomic<int> nombreObjets = 0;
     std::vector<ReferenceComptay<NotificationSimulee>> toasts;
 };

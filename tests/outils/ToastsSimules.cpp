@@ -143,6 +143,8 @@ public:
     HRESULT Hide(IToastNotification * notification) override
     {
         HRESULT const resultat = monEtat->Passe(u"Hide"_s);
+        if (!notification)
+            return E_POINTER;
         if (SUCCEEDED(resultat))
             static_cast<NotificationSimulee *>(notification)->retiray = true;
         return resultat;
@@ -171,11 +173,7 @@ private:
 class GestionnaireSimulay final : public Simulay<IToastNotificationManagerStatics>
 {
 public:
-    GestionnaireSimulay(PointeurEtat etat, ToastsSimules const & toasts)
-        : Simulay(std::move(etat))
-        , mesToasts(toasts)
-    {
-    }
+    using Simulay::Simulay;
 
     HRESULT CreateToastNotifierWithId(QString const & identifiantApplication,
                                       IToastNotifier ** notificateur) override
@@ -183,7 +181,7 @@ public:
         return monEtat->Rend(monEtat->Passe(u"CreateToastNotifierWithId"_s, identifiantApplication),
                              u"CreateToastNotifierWithId"_s, notificateur, [&] {
                                  return new NotificateurSimulay(monEtat, identifiantApplication,
-                                                                mesToasts.reglage);
+                                                                monEtat->reglage);
                              });
     }
 
@@ -191,11 +189,8 @@ public:
     {
         return monEtat->Rend(monEtat->Passe(u"GetTemplateContent"_s, QString::number(type)),
                              u"GetTemplateContent"_s, document,
-                             [&] { return new DocumentSimulay(monEtat, mesToasts.modele); });
+                             [&] { return new DocumentSimulay(monEtat, monEtat->modele); });
     }
-
-private:
-    ToastsSimules const & mesToasts;
 };
 
 class ActivationSimulee final : public Simulay<IToastActivatedEventArgs>
@@ -266,11 +261,13 @@ private:
 
 using EchecSimulay = Simulay<IToastFailedEventArgs>;
 
-// The handler is called on a thread of its own; the caller waits for it.
+// The handler is called on a thread of its own; the caller waits for it. As on the platform, the
+// toast and the handler last for the call, also when it makes the layer forget the toast.
 template <typename Gestionnaire, typename Arguments>
-HRESULT Appelle(ReferenceComptay<Gestionnaire> const & gestionnaire, NotificationSimulee * toast,
-                Arguments * arguments)
+HRESULT Appelle(Gestionnaire * gestionnaire, NotificationSimulee * toast, Arguments * arguments)
 {
+    auto const tenu = ReferenceComptay<Gestionnaire>::Partage(gestionnaire);
+    auto const toastTenu = ReferenceComptay<NotificationSimulee>::Partage(toast);
     ReferenceComptay<Arguments> const cedes(arguments);
     HRESULT resultat = E_FAIL;
     std::thread thread([&] { resultat = gestionnaire->Invoke(toast, arguments); });
@@ -280,14 +277,24 @@ HRESULT Appelle(ReferenceComptay<Gestionnaire> const & gestionnaire, Notificatio
 } // namespace
 
 ToastsSimules::ToastsSimules()
-    : modele(kModele)
-    , monEtat(std::make_shared<Etat>())
+    : monEtat(std::make_shared<Etat>())
 {
+    monEtat->modele = kModele;
 }
 
 ToastsSimules::~ToastsSimules()
 {
     Oublie(); // else the toasts and what they share would hold each other
+}
+
+void ToastsSimules::MetsReglage(NotificationSetting reglage)
+{
+    monEtat->reglage = reglage;
+}
+
+void ToastsSimules::MetsModele(QString const & modele)
+{
+    monEtat->modele = modele;
 }
 
 void ToastsSimules::Reponds(QString const & operation, HRESULT resultat)
@@ -359,20 +366,21 @@ HRESULT ToastsSimules::Active(int toast, QString const & arguments)
 {
     auto * const notification = monEtat->toasts.at(toast).Prete();
     return Appelle<ITypedEventHandler<IInspectable>, IInspectable>(
-        notification->activation, notification, new ArgumentsSimules(monEtat, arguments, true));
+        notification->activation.Prete(), notification,
+        new ArgumentsSimules(monEtat, arguments, true));
 }
 
 HRESULT ToastsSimules::ActiveAutrement(int toast)
 {
     auto * const notification = monEtat->toasts.at(toast).Prete();
     return Appelle<ITypedEventHandler<IInspectable>, IInspectable>(
-        notification->activation, notification, new ArgumentsSimules(monEtat, {}, false));
+        notification->activation.Prete(), notification, new ArgumentsSimules(monEtat, {}, false));
 }
 
 HRESULT ToastsSimules::ActiveSansArguments(int toast)
 {
     auto * const notification = monEtat->toasts.at(toast).Prete();
-    return Appelle<ITypedEventHandler<IInspectable>, IInspectable>(notification->activation,
+    return Appelle<ITypedEventHandler<IInspectable>, IInspectable>(notification->activation.Prete(),
                                                                    notification, nullptr);
 }
 
@@ -380,21 +388,21 @@ HRESULT ToastsSimules::Ecarte(int toast, ToastDismissalReason raison)
 {
     auto * const notification = monEtat->toasts.at(toast).Prete();
     return Appelle<ITypedEventHandler<IToastDismissedEventArgs>, IToastDismissedEventArgs>(
-        notification->ecartement, notification, new EcartementSimulay(monEtat, raison));
+        notification->ecartement.Prete(), notification, new EcartementSimulay(monEtat, raison));
 }
 
 HRESULT ToastsSimules::EcarteSansArguments(int toast)
 {
     auto * const notification = monEtat->toasts.at(toast).Prete();
     return Appelle<ITypedEventHandler<IToastDismissedEventArgs>, IToastDismissedEventArgs>(
-        notification->ecartement, notification, nullptr);
+        notification->ecartement.Prete(), notification, nullptr);
 }
 
 HRESULT ToastsSimules::Echoue(int toast)
 {
     auto * const notification = monEtat->toasts.at(toast).Prete();
     return Appelle<ITypedEventHandler<IToastFailedEventArgs>, IToastFailedEventArgs>(
-        notification->echec, notification, new EchecSimulay(monEtat));
+        notification->echec.Prete(), notification, new EchecSimulay(monEtat));
 }
 
 HRESULT ToastsSimules::RoGetActivationFactory(QString const & classe,
@@ -402,7 +410,7 @@ HRESULT ToastsSimules::RoGetActivationFactory(QString const & classe,
 {
     return monEtat->Rend(monEtat->Passe(u"RoGetActivationFactory"_s, classe),
                          u"RoGetActivationFactory"_s, fabrique,
-                         [&] { return new GestionnaireSimulay(monEtat, *this); });
+                         [&] { return new GestionnaireSimulay(monEtat); });
 }
 
 HRESULT ToastsSimules::RoGetActivationFactory(QString const & classe,

@@ -22,8 +22,10 @@ public:
     ToastsSimules();
     ~ToastsSimules() override;
 
-    Toasts::NotificationSetting reglage = Toasts::NotificationSetting_Enabled;
-    QString modele; ///< the document that a toast begins with
+    /// What the notifiers made from here on say of the user's setting; enabled without it.
+    void MetsReglage(Toasts::NotificationSetting reglage);
+    /// The document that a toast begins with, in place of the platform's.
+    void MetsModele(QString const & modele);
 
     /// Every call of that name gives that result; with a failure it does nothing else.
     void Reponds(QString const & operation, HRESULT resultat);

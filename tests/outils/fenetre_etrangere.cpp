@@ -11,10 +11,14 @@
 #include <QSocketNotifier>
 #include <QVBoxLayout>
 
+#include <xcb/xcb.h>
+
+#include <cstdlib>
 #include <iostream>
 #include <map>
 #include <memory>
 #include <string>
+#include <string_view>
 
 using namespace Qt::StringLiterals;
 
@@ -45,6 +49,10 @@ public:
             return u'<' + mesFenetres.at(argument)->findChild<QLineEdit *>()->text() + u'>';
         if (commande == "visible"_L1)
             return mesFenetres.at(argument)->isVisible() ? u"oui"_s : u"non"_s;
+        if (commande == "chef"_L1) {
+            NommeChef(mesFenetres.at(argument)->winId());
+            return u"ok"_s;
+        }
         if (commande == "trouve"_L1)
             return QString::number(reinterpret_cast<quintptr>(
                 PlateformeFenetres::Courante().FindWindowW(argument, {})));
@@ -64,6 +72,24 @@ private:
         WId const poignee = fenetre->winId();
         mesFenetres[titre] = std::move(fenetre);
         return QString::number(poignee);
+    }
+
+    // As programs did whose main window led their group, in the place of Qt's hidden one.
+    void NommeChef(WId chef)
+    {
+        auto * const connexion =
+            qApp->nativeInterface<QNativeInterface::QX11Application>()->connection();
+        constexpr std::string_view kNom = "WM_CLIENT_LEADER";
+        std::unique_ptr<xcb_intern_atom_reply_t, decltype(&std::free)> const atome(
+            xcb_intern_atom_reply(connexion,
+                                  xcb_intern_atom(connexion, 0, kNom.size(), kNom.data()), nullptr),
+            &std::free);
+        auto const valeur = static_cast<xcb_window_t>(chef);
+        for (auto const & [titre, fenetre] : mesFenetres)
+            xcb_change_property(connexion, XCB_PROP_MODE_REPLACE,
+                                static_cast<xcb_window_t>(fenetre->winId()), atome->atom,
+                                XCB_ATOM_WINDOW, 32, 1, &valeur);
+        xcb_flush(connexion);
     }
 
     std::map<QString, std::unique_ptr<QWidget>> mesFenetres;

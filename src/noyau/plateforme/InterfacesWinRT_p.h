@@ -9,6 +9,7 @@
 // The platform's objects are never destroyed through their interfaces, and a destructor in the
 // table of functions would move the rest.
 #ifdef __GNUC__
+#pragma GCC diagnostic push
 #pragma GCC diagnostic ignored "-Wnon-virtual-dtor"
 #endif
 
@@ -203,3 +204,7 @@ struct IToastNotificationManagerStatics : IInspectable
 #undef FABREL_PLACE
 
 } // namespace AbiWinRT
+
+#ifdef __GNUC__
+#pragma GCC diagnostic pop
+#endif

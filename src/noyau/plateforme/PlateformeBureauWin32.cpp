@@ -2,6 +2,7 @@
 #include "noyau/plateforme/PlateformeBureau.h"
 
 #include "noyau/plateforme/PlateformeBureauSysteme_p.h"
+#include "noyau/plateforme/ReferenceComptay.h"
 #include "noyau/plateforme/TypesWin32.h"
 
 #include <QDesktopServices>
@@ -10,10 +11,14 @@
 #include <QFileInfo>
 #include <QOperatingSystemVersion>
 #include <QProcess>
+#include <QStringList>
 
 #include <objbase.h>
+#include <propsys.h>
 #include <shlobj.h>
 #include <wincred.h>
+
+#include <algorithm>
 
 using namespace Qt::StringLiterals;
 
@@ -33,15 +38,60 @@ QString DonneDossier(REFKNOWNFOLDERID identifiant)
     return dossier;
 }
 
-bool ContientLien(QString const & dossier, QString const & nom)
+// The links of the Start menu, the user's own first.
+QStringList DonneLiens()
 {
-    QDirIterator liens(dossier, {u"*.lnk"_s}, QDir::Files, QDirIterator::Subdirectories);
-    while (liens.hasNext()) {
-        liens.next();
-        if (liens.fileInfo().completeBaseName().compare(nom, Qt::CaseInsensitive) == 0)
-            return true;
+    QStringList liens;
+    for (auto const * const identifiant : {&FOLDERID_StartMenu, &FOLDERID_CommonStartMenu}) {
+        QString const dossier = DonneDossier(*identifiant);
+        if (dossier.isEmpty())
+            continue; // the iterator would take the current directory for it
+        QDirIterator iterateur(dossier, {u"*.lnk"_s}, QDir::Files, QDirIterator::Subdirectories);
+        while (iterateur.hasNext())
+            liens << iterateur.next();
     }
-    return false;
+    return liens;
+}
+
+// The application identifier inside a link; empty without one.
+QString DonneIdentifiantDuLien(QString const & lien)
+{
+    // System.AppUserModel.ID, here and not by its name: that one stands in a library which not
+    // every compiler for Windows links.
+    constexpr PROPERTYKEY kIdentifiant{
+        {0x9f4c2855, 0x9f79, 0x4b39, {0xa8, 0xd0, 0xe1, 0xd4, 0x2d, 0xe1, 0xd5, 0xf3}}, 5};
+    ReferenceComptay<IPropertyStore> proprietes;
+    if (FAILED(::SHGetPropertyStoreFromParsingName(DonneTexte(QDir::toNativeSeparators(lien)),
+                                                   nullptr, GPS_DEFAULT,
+                                                   IID_PPV_ARGS(proprietes.Recois()))))
+        return {};
+    PROPVARIANT valeur{};
+    QString identifiant;
+    if (SUCCEEDED(proprietes->GetValue(kIdentifiant, &valeur)) && valeur.vt == VT_LPWSTR)
+        identifiant = QString::fromWCharArray(valeur.pwszVal);
+    ::PropVariantClear(&valeur);
+    return identifiant;
+}
+
+bool UnLienPorteIdentifiant(QStringList const & liens, QString const & identifiant)
+{
+    // The window system of the desktop gives the GUI thread its apartment; others do not. One of
+    // the other kind will do, so a refusal is none.
+    HRESULT const appartement = ::CoInitializeEx(nullptr, COINIT_APARTMENTTHREADED);
+    bool const trouvay =
+        std::any_of(liens.cbegin(), liens.cend(), [&identifiant](QString const & lien) {
+            return DonneIdentifiantDuLien(lien).compare(identifiant, Qt::CaseInsensitive) == 0;
+        });
+    if (SUCCEEDED(appartement))
+        ::CoUninitialize();
+    return trouvay;
+}
+
+bool UnLienPorteNom(QStringList const & liens, QString const & nom)
+{
+    return std::any_of(liens.cbegin(), liens.cend(), [&nom](QString const & lien) {
+        return QFileInfo(lien).completeBaseName().compare(nom, Qt::CaseInsensitive) == 0;
+    });
 }
 
 // True when the list of compatibility modes under this root names the executable.
@@ -66,13 +116,14 @@ public:
                                        numeroBuild);
     }
 
-    // A link is known by its file's name; the identifier inside it would have to be read by COM,
-    // one link after the other.
+    // The name is that of the link's file. It comes first: for the identifier every link has to be
+    // opened.
     bool RaccourciExiste(Raccourci const & raccourci) override
     {
-        return !raccourci.nom.isEmpty() &&
-               (ContientLien(DonneDossier(FOLDERID_Programs), raccourci.nom) ||
-                ContientLien(DonneDossier(FOLDERID_CommonPrograms), raccourci.nom));
+        QStringList const liens = DonneLiens();
+        return (!raccourci.nom.isEmpty() && UnLienPorteNom(liens, raccourci.nom)) ||
+               (!raccourci.identifiantApplication.isEmpty() &&
+                UnLienPorteIdentifiant(liens, raccourci.identifiantApplication));
     }
 
     bool PossedeAppCompatFlags(QString const & executable) override

@@ -55,6 +55,8 @@ public:
     virtual LONG_PTR GetWindowLongPtrW(HWND fenetre, int indice) = 0;
     /// The thread of the window, 0 when unknown; `processus`, if not null, receives its process.
     virtual DWORD GetWindowThreadProcessId(HWND fenetre, DWORD * processus) = 0;
+    /// The title; empty when there is none.
+    virtual QString GetWindowTextW(HWND fenetre) = 0;
     virtual bool GetClientRect(HWND fenetre, RECT * rect) = 0;
     virtual bool ClientToScreen(HWND fenetre, POINT * point) = 0;
 

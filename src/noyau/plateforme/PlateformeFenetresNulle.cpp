@@ -23,6 +23,7 @@ public:
             *processus = 0;
         return 0;
     }
+    QString GetWindowTextW(HWND) override { return {}; }
     bool GetClientRect(HWND, RECT *) override { return false; }
     bool ClientToScreen(HWND, POINT *) override { return false; }
     bool SetForegroundWindow(HWND) override { return false; }

@@ -76,6 +76,13 @@ public:
             *processus = 0; // left alone when the window has gone
         return ::GetWindowThreadProcessId(fenetre, processus);
     }
+    QString GetWindowTextW(HWND fenetre) override
+    {
+        QString texte(kLongueurTexte, Qt::Uninitialized);
+        texte.truncate(::GetWindowTextW(fenetre, reinterpret_cast<wchar_t *>(texte.data()),
+                                        static_cast<int>(kLongueurTexte)));
+        return texte;
+    }
     bool GetClientRect(HWND fenetre, RECT * rect) override
     {
         return rect && ::GetClientRect(fenetre, rect);

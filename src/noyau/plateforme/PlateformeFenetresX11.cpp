@@ -203,12 +203,15 @@ xcb_window_t PlateformeFenetresX11::DonnePremierNiveau(xcb_window_t fenetre) con
 xcb_window_t PlateformeFenetresX11::DonneProprietaire(xcb_window_t fenetre) const
 {
     xcb_window_t const proprietaire = maConnexion.LisMot(fenetre, XCB_ATOM_WM_TRANSIENT_FOR);
-    // The root stands for "the whole program", and so does the hidden window that leads a program's
-    // group, which Qt names for a dialog without a parent; some windows name themselves.
+    // The root stands for "the whole program"; some windows name themselves.
     if (proprietaire == maConnexion.DonneRacine() || proprietaire == fenetre ||
-        proprietaire == maConnexion.LisMot(fenetre, monAtomeChef) || !Existe(proprietaire))
+        !Existe(proprietaire))
         return XCB_NONE;
-    return proprietaire;
+    // The window that leads a program's group stands for the program too while it is hidden: Qt
+    // names it for a dialog without a parent. Older programs lead by their main window.
+    bool const estChef = proprietaire == maConnexion.LisMot(fenetre, monAtomeChef);
+    return estChef && !EstAffichee(proprietaire) && !EstGeree(proprietaire) ? XCB_NONE
+                                                                            : proprietaire;
 }
 
 std::vector<xcb_window_t> PlateformeFenetresX11::DonnePile() const

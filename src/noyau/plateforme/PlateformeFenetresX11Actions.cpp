@@ -106,8 +106,11 @@ bool PlateformeFenetresX11::SetWindowPos(HWND fenetre, HWND apres, int x, int y,
         else
             reussite = Empile(xid, DonneXid(apres), XCB_STACK_MODE_BELOW);
     }
-    // Never activates, with or without SWP_NOACTIVATE: that is for the window manager to decide,
-    // and SetForegroundWindow asks it.
+    // Activation is for the window manager to decide, and SetForegroundWindow asks it. Only where
+    // no window is active there is nobody from whom this could take it.
+    if (!(options & (SWP_NOACTIVATE | SWP_NOZORDER)) && apres != HWND_BOTTOM && EstGeree(xid) &&
+        !GetForegroundWindow())
+        SetForegroundWindow(fenetre);
     return Deplace(xid, QRect(x, y, largeur, hauteur), options) && reussite;
 }
 

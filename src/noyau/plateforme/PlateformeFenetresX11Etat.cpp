@@ -93,6 +93,12 @@ DWORD PlateformeFenetresX11::GetWindowThreadProcessId(HWND fenetre, DWORD * proc
     return numero;
 }
 
+QString PlateformeFenetresX11::GetWindowTextW(HWND fenetre)
+{
+    maConnexion.RattrapeQt();
+    return DonneTitre(DonneXid(fenetre));
+}
+
 bool PlateformeFenetresX11::GetClientRect(HWND fenetre, RECT * rect)
 {
     maConnexion.RattrapeQt();

@@ -6,6 +6,7 @@
 #include "noyau/plateforme/InterfacesWinRT_p.h"
 #include "noyau/plateforme/PlateformeToastsSysteme_p.h"
 
+#include <objbase.h>
 #include <objidl.h>
 #include <roapi.h>
 
@@ -64,10 +65,29 @@ public:
 
 class NotificationWinRT;
 
+// The platform keeps a delegate for as long as its toast, and may call it when a host has unloaded
+// what brought us: the module in which the object's functions stand stays for the whole process.
+// Pinning it once more does nothing.
+template <typename Objet>
+void GardeModule(Objet const * objet)
+{
+    auto const * const fonctions = *reinterpret_cast<void const * const *>(objet);
+    HMODULE module = nullptr;
+    ::GetModuleHandleExW(GET_MODULE_HANDLE_EX_FLAG_FROM_ADDRESS | GET_MODULE_HANDLE_EX_FLAG_PIN,
+                         static_cast<LPCWSTR>(fonctions), &module);
+}
+
+// As for the interface that it is made on.
+#ifdef __GNUC__
+#pragma GCC diagnostic push
+#pragma GCC diagnostic ignored "-Wnon-virtual-dtor"
+#endif
+
 /// What the platform calls for one event: hands it to our handler, which it keeps alive.
 ///
 /// Agile, so that the call comes on the thread of the event and not through the message loop of
-/// the thread that registered.
+/// the thread that registered. The free-threaded marshaler says the same to who does not ask for
+/// agility.
 template <typename Interface, typename Com, typename Adaptateur>
 class Delegue final : public AbiWinRT::ITypedEventHandler<Com>
 {
@@ -77,12 +97,16 @@ public:
     explicit Delegue(Gestionnaire * gestionnaire)
         : monGestionnaire(ReferenceComptay<Gestionnaire>::Partage(gestionnaire))
     {
+        // A part of this object, on which it keeps no reference. Does without it on a failure.
+        ::CoCreateFreeThreadedMarshaler(this, monMarshaler.Recois());
     }
 
     HRESULT STDMETHODCALLTYPE QueryInterface(REFIID iid, void ** objet) override
     {
         if (!objet)
             return E_POINTER;
+        if (iid == IID_IMarshal && monMarshaler)
+            return monMarshaler->QueryInterface(iid, objet);
         // An agile object has no functions of its own to show for it.
         bool const connu = iid == AbiWinRT::ITypedEventHandler<Com>::kIid || iid == IID_IUnknown ||
                            iid == IID_IAgileObject;
@@ -103,14 +127,19 @@ public:
     }
 
     HRESULT STDMETHODCALLTYPE Invoke(AbiWinRT::IToastNotification * emetteur,
-                                     Com * arguments) override;
+                                     Com * arguments) noexcept override;
 
 private:
     ~Delegue() = default;
 
     ReferenceComptay<Gestionnaire> monGestionnaire;
+    ReferenceComptay<::IUnknown> monMarshaler;
     std::atomic<ULONG> monCompte = 1;
 };
+
+#ifdef __GNUC__
+#pragma GCC diagnostic pop
+#endif
 
 class Notification6WinRT final
     : public Enveloppe<Toasts::IToastNotification6, AbiWinRT::IToastNotification6>
@@ -170,6 +199,8 @@ private:
                     Toasts::EventRegistrationToken * jeton)
     {
         ReferenceComptay<TypeDelegue> const delegue(new TypeDelegue(gestionnaire));
+        GardeModule(delegue.Prete());
+        GardeModule(gestionnaire);
         AbiWinRT::EventRegistrationToken jetonWinRT{};
         HRESULT const resultat = (Prete()->*operation)(delegue.Prete(), &jetonWinRT);
         jeton->value = jetonWinRT.value;
@@ -179,7 +210,7 @@ private:
 
 template <typename Interface, typename Com, typename Adaptateur>
 HRESULT STDMETHODCALLTYPE Delegue<Interface, Com, Adaptateur>::Invoke(
-    AbiWinRT::IToastNotification * emetteur, Com * arguments)
+    AbiWinRT::IToastNotification * emetteur, Com * arguments) noexcept
 {
     ReferenceComptay<Toasts::IToastNotification> const toast(
         emetteur ? new NotificationWinRT(emetteur) : nullptr);

@@ -1,32 +1,24 @@
 // dialogs/EssaisAlertes.h
 #pragma once
 
-#include "dialogs/DAlerte.h"
-#include "dialogs/DMessageBox.h"
-#include "dialogs/StockageReponse.h"
-#include "noyau/DAlerteInfo.h"
+#include "dialogs/EssaisBoites.h"
+#include "dialogs/EssaisStockage.h"
+
 #include "noyau/ExecutionSilencieuse.h"
 #include "noyau/JournalSimulay.h"
 #include "noyau/Traductions.h"
 #include "outils/BureauSimulay.h"
 
-#include <QApplication>
 #include <QCheckBox>
 #include <QDialogButtonBox>
 #include <QPointer>
-#include <QPushButton>
-#include <QTemporaryDir>
 #include <QTest>
-#include <QTimer>
 
-#include <functional>
-
-// What the tests of the alerts share.
+// What the tests of all alerts share.
 namespace EssaisAlertes {
 
 inline constexpr int kDelaiRepondant = 10;   // ms between two looks at the screen
 inline constexpr int kDelaiAbandon = 10'000; // ms until a box that nobody answers is given up
-inline QString const kCase = QStringLiteral("NePlusMAviser");
 
 /// The top-level windows of a class, hidden ones too.
 template <typename T>
@@ -49,33 +41,15 @@ inline void RetireRestes()
 /// The message box that the user has in front, or null.
 inline DMessageBox * BoiteDevant()
 {
-    if (auto * const modale = qobject_cast<DMessageBox *>(QApplication::activeModalWidget()))
-        return modale->isVisible() ? modale : nullptr;
-    for (DMessageBox * const boite : Fenetres<DMessageBox>())
-        if (boite->isVisible())
-            return boite;
-    return nullptr;
-}
-
-inline QCheckBox * Case(QMessageBox const & boite)
-{
-    return boite.findChild<QCheckBox *>(kCase);
+    auto * const modale = qobject_cast<DMessageBox *>(QApplication::activeModalWidget());
+    return modale && modale->isVisible() ? modale : DonneBoiteVisible();
 }
 
 /// At its indicator: the text may end anywhere.
 inline void Coche(QMessageBox const & boite)
 {
-    if (QCheckBox * const caseACocher = Case(boite))
-        QTest::mouseClick(caseACocher, Qt::LeftButton, {}, QPoint(6, caseACocher->height() / 2));
-}
-
-/// The button that shows `texte`, access key or not; null for none.
-inline QAbstractButton * Bouton(QMessageBox const & boite, QString const & texte)
-{
-    for (QAbstractButton * const bouton : boite.buttons())
-        if (bouton->text().remove(QLatin1Char('&')) == texte)
-            return bouton;
-    return nullptr;
+    if (auto * const laCase = boite.findChild<QCheckBox *>(QStringLiteral("NePlusMAviser")))
+        QTest::mouseClick(laCase, Qt::LeftButton, {}, QPoint(6, laCase->height() / 2));
 }
 
 /// The buttons in the order in which they were made.
@@ -142,22 +116,13 @@ private:
     QList<QPointer<DMessageBox>> mesBoites;
 };
 
-/// Keeps what it receives.
-class ReceveurSimulay : public DDialogue::DAlerteReceveur
+inline QList<int> DonneReponses(ReceveurNotant const & receveur)
 {
-public:
-    void TraiteReponse(int const & idMessage, int reponse) override
-    {
-        identifiants << idMessage;
-        reponses << reponse;
-        if (action)
-            action();
-    }
-
-    QList<int> identifiants;
     QList<int> reponses;
-    std::function<void()> action;
-};
+    for (auto const & [identifiant, reponse] : receveur.reponses)
+        reponses << reponse;
+    return reponses;
+}
 
 /// A process without remembered answers in which nothing is silent and French is spoken, with a
 /// journal and a desktop of its own, for as long as it lives.
@@ -170,8 +135,6 @@ public:
         bureau = leBureau.get();
         PlateformeBureau::Installe(std::move(leBureau));
         Traductions::MetsLanguePourApplicationCourante(kLangueFrancais);
-        for (auto const type : {DDialogue::StockeurParDefaut, DDialogue::StockeurNePlusMAviser})
-            StockageReponse::Initialise(type, UniChaine(DonneFichier(type)), QSettings::IniFormat);
     }
     Banc(Banc const &) = delete;
     Banc & operator=(Banc const &) = delete;
@@ -179,41 +142,11 @@ public:
     {
         ExecutionSilencieuse::Arrete();
         ExecutionSilencieuse::OublieDialoguesJournalises();
-        StockageReponse::LibereSingletons();
-        StockageReponse::assocTypQSettings.clear();
         Traductions::MetsLanguePourApplicationCourante(kLangueFrancais);
         PlateformeBureau::Installe(nullptr);
     }
 
-    QString DonneFichier(DDialogue::eTypStockeur type = DDialogue::StockeurNePlusMAviser) const
-    {
-        return dossier.filePath(QStringLiteral("reponses%1.ini").arg(int(type)));
-    }
-
-    /// Writes the file of a store with this one answer.
-    void Retiens(QString const & guid, quint32 reponse,
-                 DDialogue::eTypStockeur type = DDialogue::StockeurNePlusMAviser) const
-    {
-        QFile fichier(DonneFichier(type));
-        QVERIFY(fichier.open(QIODevice::WriteOnly));
-        fichier.write(QStringLiteral("[messageMemoire]\n%1=%2\n")
-                          .arg(guid, QString::number(static_cast<qint32>(reponse)))
-                          .toUtf8());
-    }
-
-    /// The answers that the file of a store holds, as "guid=number".
-    QStringList DonneReponses(DDialogue::eTypStockeur type = DDialogue::StockeurNePlusMAviser) const
-    {
-        QFile fichier(DonneFichier(type));
-        if (!fichier.open(QIODevice::ReadOnly))
-            return {};
-        QStringList lignes = QString::fromUtf8(fichier.readAll()).split(QLatin1Char('\n'));
-        lignes.removeAll(QString());
-        lignes.removeAll(QStringLiteral("[messageMemoire]"));
-        return lignes;
-    }
-
-    QTemporaryDir dossier;
+    EssaisStockage stockage;
     BureauSimulay * bureau = nullptr;
     JournalSimulay journal;
 };

@@ -131,7 +131,7 @@ void tst_DAlerteFenetres::fenetre()
     Forme const & laForme = PreteForme(forme);
     QWidget parent;
     parent.show();
-    ReceveurSimulay receveur;
+    ReceveurNotant receveur;
     Appel appel{DAlerteInfo(static_cast<DAlerteInfo::eTypeDialogue>(type), UniChaine("Message"))};
     appel.parent = aParent ? &parent : nullptr;
     appel.receveur = &receveur;
@@ -152,7 +152,7 @@ void tst_DAlerteFenetres::fenetreNative()
 {
     QFETCH(QString, forme);
     Forme const & laForme = PreteForme(forme);
-    ReceveurSimulay receveur;
+    ReceveurNotant receveur;
     Appel appel{DAlerteInfo(DAlerteInfo::kQuestion, UniChaine("Message"))};
     appel.fenetre = AjouteFenetreEtrangere();
     appel.receveur = &receveur;
@@ -173,7 +173,7 @@ void tst_DAlerteFenetres::fenetreNative()
 void tst_DAlerteFenetres::fenetreNativeNulle()
 {
     QFETCH(QString, forme);
-    ReceveurSimulay receveur;
+    ReceveurNotant receveur;
     Appel appel{DAlerteInfo(DAlerteInfo::kQuestion, UniChaine("Message"))};
     appel.receveur = &receveur;
     Vue const vue = Regarde(PreteForme(forme), appel);
@@ -206,7 +206,7 @@ void tst_DAlerteFenetres::notificationNativePartAvecLAppel()
 // Deliberate: the widget that stands for the window lives for the call only.
 void tst_DAlerteFenetres::receveurNatifPartAvecLAppel()
 {
-    ReceveurSimulay receveur;
+    ReceveurNotant receveur;
     DAlerteInfo const info(DAlerteInfo::kQuestion, u"Message"_s);
     DAlerteCentrageNatif(AjouteFenetreEtrangere(), &receveur, info);
     QVERIFY(QApplication::topLevelWidgets().isEmpty());
@@ -214,33 +214,33 @@ void tst_DAlerteFenetres::receveurNatifPartAvecLAppel()
              QStringList{u"Dialogue asynchrone non réponduRéponse=0\tMessage\tGUID: \t"_s});
     for (int tour = 0; tour < 10; ++tour)
         QCoreApplication::processEvents();
-    QCOMPARE(receveur.reponses, QList<int>());
+    QCOMPARE(DonneReponses(receveur), QList<int>());
 }
 
 // The box took the queued answer with it.
 void tst_DAlerteFenetres::receveurNatifReponseConnue()
 {
     ExecutionSilencieuse::Demarre();
-    ReceveurSimulay receveur;
+    ReceveurNotant receveur;
     DAlerteInfo const info(DAlerteInfo::kQuestion, u"Message"_s);
     DAlerteCentrageNatif(AjouteFenetreEtrangere(), &receveur, info);
-    QCOMPARE(receveur.reponses, QList<int>());
+    QCOMPARE(DonneReponses(receveur), QList<int>());
     QVERIFY(QApplication::topLevelWidgets().isEmpty());
     for (int tour = 0; tour < 10; ++tour)
         QCoreApplication::processEvents();
-    QCOMPARE(receveur.reponses, QList<int>());
+    QCOMPARE(DonneReponses(receveur), QList<int>());
 }
 
 void tst_DAlerteFenetres::alerteNeTerminePasLApplication()
 {
     QSignalSpy const fin(qApp, &QGuiApplication::lastWindowClosed);
-    ReceveurSimulay receveur;
+    ReceveurNotant receveur;
     DAlerte(nullptr, &receveur, DAlerteInfo(DAlerteInfo::kQuestion, u"Message"_s));
     DMessageBox * const boite = BoiteDevant();
     QVERIFY(boite);
     Clique(boite->button(QMessageBox::Ok));
     QTRY_VERIFY(Fenetres<DMessageBox>().isEmpty());
-    QCOMPARE(receveur.reponses, QList<int>{kBoutonOk});
+    QCOMPARE(DonneReponses(receveur), QList<int>{kBoutonOk});
     QCOMPARE(fin.count(), 0);
 }
 

@@ -103,7 +103,7 @@ void tst_DAlerteFormes::cinqLabels()
     QFETCH(QString, forme);
     Forme const & laForme = PreteForme(forme);
     QStringList textes;
-    ReceveurSimulay receveur;
+    ReceveurNotant receveur;
     Appel appel = AppelAvecLabels(kToutesMaison);
     appel.receveur = &receveur;
     appel.boutons |= kBoutonFermer; // no form is without buttons
@@ -177,7 +177,7 @@ void tst_DAlerteFormes::okSeulSansMasque()
 {
     QFETCH(QString, forme);
     Forme const & laForme = PreteForme(forme);
-    ReceveurSimulay receveur;
+    ReceveurNotant receveur;
     Appel appel = AppelAvecLabels(kBoutonOui | kBoutonNon);
     appel.receveur = &receveur;
     QList<QMessageBox::StandardButton> boutons;
@@ -201,7 +201,7 @@ void tst_DAlerteFormes::echap()
 {
     QFETCH(QString, forme);
     Forme const & laForme = PreteForme(forme);
-    ReceveurSimulay receveur;
+    ReceveurNotant receveur;
     Appel appel{Question()};
     appel.receveur = &receveur;
     appel.boutons = kBoutonOui | kBoutonNon | kBoutonAnnuler;
@@ -218,7 +218,7 @@ void tst_DAlerteFormes::defaut()
 {
     QFETCH(QString, forme);
     Forme const & laForme = PreteForme(forme);
-    ReceveurSimulay receveur;
+    ReceveurNotant receveur;
     Appel appel{Question()};
     appel.receveur = &receveur;
     appel.boutons = kBoutonOui | kBoutonNon | kBoutonAnnuler;
@@ -234,7 +234,7 @@ void tst_DAlerteFormes::defaut()
 void tst_DAlerteFormes::identifiantDuReceveur()
 {
     QFETCH(QString, forme);
-    ReceveurSimulay receveur;
+    ReceveurNotant receveur;
     QCOMPARE(receveur.DonneIdMessage(), -1);
     receveur.MetsIdMessage(42);
     Appel appel{Question()};
@@ -244,16 +244,15 @@ void tst_DAlerteFormes::identifiantDuReceveur()
     DMessageBox * const boite = BoiteDevant();
     QVERIFY(boite);
     Clique(boite->button(QMessageBox::Ok));
-    QCOMPARE(receveur.identifiants, QList<int>{42});
-    QCOMPARE(receveur.reponses, QList<int>{kBoutonOk});
+    QCOMPARE(receveur.reponses, (QList<QPair<int, int>>{{42, kBoutonOk}}));
 }
 
 void tst_DAlerteFormes::booleensDuReceveurSansEffet()
 {
-    ReceveurSimulay receveur;
+    ReceveurNotant receveur;
     QVERIFY(!receveur.DonneModalAFenetre());
     QVERIFY(!receveur.DonneModalAApplication());
-    ReceveurSimulay copie(receveur);
+    ReceveurNotant copie(receveur);
     receveur.MetsIdMessage(7);
     copie = receveur;
     QCOMPARE(copie.DonneIdMessage(), 7);
@@ -264,12 +263,12 @@ void tst_DAlerteFormes::booleensDuReceveurSansEffet()
 // Deliberate: closed, the box answers Cancel, which it does not have.
 void tst_DAlerteFormes::receveurCentrayNAPasDEchap()
 {
-    ReceveurSimulay receveur;
+    ReceveurNotant receveur;
     DAlerteCentrageNatif(&receveur, Question());
     DMessageBox * const boite = BoiteDevant();
     QVERIFY(boite);
     boite->reject();
-    QCOMPARE(receveur.reponses, QList<int>{kBoutonAnnuler});
+    QCOMPARE(DonneReponses(receveur), QList<int>{kBoutonAnnuler});
 }
 
 void tst_DAlerteFormes::notificationBloquanteRetientSansRendre()
@@ -289,7 +288,7 @@ void tst_DAlerteFormes::notificationBloquanteRetientSansRendre()
         QTRY_VERIFY(Fenetres<DMessageBox>().isEmpty());
         QVERIFY(DAlerteRappelDejaCochay(appel.type, appel.guid));
     }
-    QCOMPARE(monBanc->DonneReponses().size(), 2);
+    QCOMPARE(monBanc->stockage.DonneContenu().size(), 2);
 }
 
 QTEST_MAIN(tst_DAlerteFormes)

@@ -56,7 +56,7 @@ struct Issue
     QList<int> reponses{}; // to the callback or the receiver
     QStringList lignes{};  // of the journal
     QStringList silencieux{};
-    QStringList fichier{};
+    QVariantMap fichier{};
 };
 
 QString NomReponse(quint32 reponse)
@@ -90,7 +90,7 @@ public:
     {
         Issue issue;
         if (maSituation == eSituation::kRetenue)
-            issue.fichier << u"guid=2048"_s;
+            issue.fichier = {{u"guid"_s, int(kBoutonReessayer)}};
         if (EstRefusee())
             return issue;
         bool const silence = maSituation == eSituation::kSilencieuse;
@@ -143,7 +143,7 @@ private:
         if (montree)
             issue.fenetre = eFenetre::kBoite;
         if (montree && maForme.aStockage)
-            issue.fichier = QStringList{u"guid=%1"_s.arg(reponse)};
+            issue.fichier = {{u"guid"_s, static_cast<int>(reponse)}};
 
         // A box that does not block has no answer yet when the journal hears of it.
         QString const texte = DonneTexte(montree && !EstSynchrone() ? 0 : reponse, retenue);
@@ -244,12 +244,12 @@ void tst_DAlerteMatrice::alerte()
     Modele const modele(PreteForme(forme), type, situation);
     Issue const attendu = modele.Calcule();
     if (situation == eSituation::kRetenue)
-        banc.Retiens(u"guid"_s, kBoutonReessayer);
+        banc.stockage.Ecris(u"guid"_s, kBoutonReessayer);
     if (situation == eSituation::kSilencieuse)
         ExecutionSilencieuse::Demarre();
 
     QList<int> reponses;
-    ReceveurSimulay receveur;
+    ReceveurNotant receveur;
     auto const temoin = std::make_shared<int>();
     std::weak_ptr<int> const vie = temoin;
     Appel appel{
@@ -280,7 +280,7 @@ void tst_DAlerteMatrice::alerte()
     QCOMPARE(retour, attendu.retour);
     QCOMPARE(banc.journal.DonneLignes(), attendu.lignes);
     if (!modele.EstSynchrone()) {
-        QCOMPARE(reponses + receveur.reponses, QList<int>()); // never inside the call
+        QCOMPARE(reponses + DonneReponses(receveur), QList<int>()); // never inside the call
         vue = FenetreVisible();
     }
     QTRY_VERIFY(Fenetres<DMessageBox>().isEmpty());
@@ -288,12 +288,12 @@ void tst_DAlerteMatrice::alerte()
         vue = FenetreVisible();
     QCOMPARE(vue, attendu.fenetre);
     QCOMPARE(utilisateur.DonneNombre(), attendu.fenetre == eFenetre::kBoite ? 1 : 0);
-    QCOMPARE(reponses + receveur.reponses, attendu.reponses);
+    QCOMPARE(reponses + DonneReponses(receveur), attendu.reponses);
     QCOMPARE(ExecutionSilencieuse::DonneDialoguesJournalises(),
              QList<UniChaine>(attendu.silencieux.begin(), attendu.silencieux.end()));
     QCOMPARE(banc.journal.DonneLignes(), attendu.lignes);
     QVERIFY(banc.journal.AppelsSontComplets());
-    QCOMPARE(banc.DonneReponses(), attendu.fichier);
+    QCOMPARE(banc.stockage.DonneContenu(), attendu.fichier);
     appel.rappel = {};
     QCOMPARE(vie.use_count(), 1L); // the callback is not kept
 }

@@ -51,7 +51,7 @@ struct Essai
     }
 
     Appel appel;
-    ReceveurSimulay receveur;
+    ReceveurNotant receveur;
     std::weak_ptr<int> vie;
     int rappels = 0;
 };
@@ -80,7 +80,7 @@ QString ListeFautesSansApplication()
     QStringList fautes;
     for (Forme const & forme : kFormes) {
         Banc const banc;
-        banc.Retiens(u"guid"_s, kBoutonOui);
+        banc.stockage.Ecris(u"guid"_s, kBoutonOui);
         ExecutionSilencieuse::Demarre();
         Essai essai(DAlerteInfo::kQuestion);
         if (essai.Lance(forme) != kBoutonAucun || !essai.SansTrace(banc))
@@ -129,7 +129,7 @@ void tst_DAlerteRefus::autreThread()
     if (silence)
         ExecutionSilencieuse::Demarre();
     if (retenue)
-        banc.Retiens(u"guid"_s, kBoutonOui);
+        banc.stockage.Ecris(u"guid"_s, kBoutonOui);
     Essai essai(DAlerteInfo::kQuestion);
     quint32 retour = 1;
     std::unique_ptr<QThread> const thread(
@@ -140,7 +140,8 @@ void tst_DAlerteRefus::autreThread()
     QCOMPARE(retour, quint32(kBoutonAucun));
     QVERIFY(essai.SansTrace(banc));
     QVERIFY(RienALEcran());
-    QCOMPARE(banc.DonneReponses(), retenue ? QStringList{u"guid=128"_s} : QStringList());
+    QVariantMap const retenues{{u"guid"_s, int(kBoutonOui)}};
+    QCOMPARE(banc.stockage.DonneContenu(), retenue ? retenues : QVariantMap());
 }
 
 // Nothing was left in the event queue either.
@@ -222,7 +223,7 @@ void tst_DAlerteRefus::rappelDUneBulleAbandonnay()
     QFETCH(QString, forme);
     QFETCH(int, type);
     Banc const banc;
-    banc.Retiens(u"guid"_s, kBoutonOui); // a bubble knows of no store
+    banc.stockage.Ecris(u"guid"_s, kBoutonOui); // a bubble knows of no store
     Essai essai(static_cast<DAlerteInfo::eTypeDialogue>(type));
     essai.Lance(PreteForme(forme));
     QCOMPARE(QApplication::topLevelWidgets().size(), 1);

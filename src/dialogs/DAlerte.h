@@ -27,7 +27,7 @@ class QWidget;
 ///   `kProgressionInfinie`) have no buttons and give no answer. A notification (`kNotification`)
 ///   never blocks; where the platform has none, a message box appears in its place.
 /// - Under silent execution nothing is shown and the default button of the message box answers. A
-///   toast is shown all the same.
+///   toast appears all the same and is not journalled: it makes nobody wait.
 /// - GUI thread only. A call from another thread, without an application object, or against the
 ///   rules below is refused: nothing is shown or journalled, the callback is dropped uncalled, and
 ///   the answer is `kBoutonAucun`. An alert with an empty message is not checked.
@@ -49,7 +49,8 @@ class QWidget;
 
 /// `rappel`, but called on the GUI thread: at once when it is called there, and otherwise through
 /// the event loop. An empty one stays empty. Calls that come once the application object is gone
-/// are dropped.
+/// are dropped. `rappel` is destroyed on the GUI thread, too, unless no application object is left.
+/// Wrap it on the GUI thread, or once the application object exists.
 FABRELGUI_EXPORT RappelAlerte RappelSurThreadGraphique(RappelAlerte rappel);
 
 // Blocking, modal to the window

@@ -10,6 +10,7 @@
 #include "outils/BureauSimulay.h"
 
 #include <QCheckBox>
+#include <QDeadlineTimer>
 #include <QDialogButtonBox>
 #include <QPointer>
 #include <QTest>
@@ -17,7 +18,7 @@
 // What the tests of all alerts share.
 namespace EssaisAlertes {
 
-inline constexpr int kDelaiRepondant = 10;   // ms between two looks at the screen
+inline constexpr int kDelaiRepondant = 1;    // ms between two looks at the screen
 inline constexpr int kDelaiAbandon = 10'000; // ms until a box that nobody answers is given up
 
 /// The top-level windows of a class, hidden ones too.
@@ -85,9 +86,7 @@ public:
     explicit Repondant(Action action)
         : monAction(std::move(action))
     {
-        maMinuterie.setInterval(kDelaiRepondant);
-        QObject::connect(&maMinuterie, &QTimer::timeout, this, &Repondant::Regarde);
-        maMinuterie.start();
+        Regarde();
         QTimer::singleShot(kDelaiAbandon, this, &Repondant::Abandonne);
     }
 
@@ -96,6 +95,8 @@ public:
 private:
     void Regarde()
     {
+        // A timer anew each time: a repeating one rests while an alert blocks inside the action.
+        QTimer::singleShot(kDelaiRepondant, this, &Repondant::Regarde);
         DMessageBox * const boite = BoiteDevant();
         if (!boite || mesBoites.contains(boite))
             return;
@@ -112,9 +113,20 @@ private:
     }
 
     Action monAction;
-    QTimer maMinuterie;
     QList<QPointer<DMessageBox>> mesBoites;
 };
+
+/// Turns the event loop until no box is left; false when one stays. In finer steps than `QTRY_…`
+/// takes, for tests with hundreds of rows.
+inline bool AttendsFinDesBoites()
+{
+    QDeadlineTimer const fin(kDelaiAbandon);
+    while (!Fenetres<DMessageBox>().isEmpty() && !fin.hasExpired()) {
+        QCoreApplication::processEvents(QEventLoop::AllEvents, kDelaiRepondant);
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    }
+    return Fenetres<DMessageBox>().isEmpty();
+}
 
 inline QList<int> DonneReponses(ReceveurNotant const & receveur)
 {

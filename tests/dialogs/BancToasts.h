@@ -1,4 +1,4 @@
-// dialogs/BancToasts.h
+// tests/dialogs/BancToasts.h
 #pragma once
 
 #include "dialogs/DAlerteNotification.h"

@@ -1,4 +1,4 @@
-// dialogs/tst_BoutonsDialogue.cpp
+// tests/dialogs/tst_BoutonsDialogue.cpp
 #include "dialogs/BoutonsDialogue_p.h"
 
 #include <QtTest>

@@ -1,4 +1,4 @@
-// dialogs/tst_DDialogueNotification.cpp
+// tests/dialogs/tst_DDialogueNotification.cpp
 #include "BancToasts.h"
 
 #include <QtTest>
@@ -22,9 +22,13 @@ private Q_SLOTS:
     void sansRaccourci();
     void raccourciJamaisMis();
     void appelsDansLOrdre();
+    void documentDansLOrdre();
     void chaqueAppelQuiEchoue();
     void chaqueAppelSansObjet_data();
     void chaqueAppelSansObjet();
+    void sansNotification6_data();
+    void sansNotification6();
+    void ajoutSansObjet();
     void succesPartiel();
     void reglage_data();
     void reglage();
@@ -115,7 +119,40 @@ void tst_DDialogueNotification::appelsDansLOrdre()
     QVERIFY(monBanc->toasts->ExpireAuRedemarrage(0));
 }
 
-// Whichever call fails, nothing is shown, nothing is kept, and the callback is the caller's.
+// What writes to the document, and where: the image, the texts, the actions; each action complete
+// before it is put in its place.
+void tst_DDialogueNotification::documentDansLOrdre()
+{
+    QVERIFY(
+        monBanc->Affiche(kBoutonMaison1 | kBoutonMaison2, {UniChaine("un"), UniChaine("deux")}));
+    QStringList const ecritures = monBanc->toasts->DonneAppels().filter(QRegularExpression(
+        u"^(GetElementsByTagName|CreateTextNode|CreateElement|SetAttribute|AppendChild)"_s));
+    QCOMPARE(ecritures, QStringList({u"GetElementsByTagName(image)"_s,
+                                     u"CreateTextNode(file:///%1)"_s.arg(monBanc->DonneImage()),
+                                     u"AppendChild(src)"_s,
+                                     u"GetElementsByTagName(text)"_s,
+                                     u"CreateTextNode(message)"_s,
+                                     u"AppendChild(text)"_s,
+                                     u"CreateTextNode()"_s,
+                                     u"AppendChild(text)"_s,
+                                     u"GetElementsByTagName(toast)"_s,
+                                     u"SetAttribute(duration=long)"_s,
+                                     u"CreateElement(actions)"_s,
+                                     u"AppendChild(toast)"_s,
+                                     u"CreateElement(action)"_s,
+                                     u"SetAttribute(content=un)"_s,
+                                     u"SetAttribute(arguments=kBoutonMaison1)"_s,
+                                     u"SetAttribute(activationType=foreground)"_s,
+                                     u"AppendChild(actions)"_s,
+                                     u"CreateElement(action)"_s,
+                                     u"SetAttribute(content=deux)"_s,
+                                     u"SetAttribute(arguments=kBoutonMaison2)"_s,
+                                     u"SetAttribute(activationType=foreground)"_s,
+                                     u"AppendChild(actions)"_s}));
+}
+
+// Whichever call fails, none follows, nothing is shown, nothing is kept, and the callback is the
+// caller's.
 void tst_DDialogueNotification::chaqueAppelQuiEchoue()
 {
     QVERIFY(monBanc->Affiche(kBoutonOk | kBoutonAnnuler));
@@ -131,6 +168,9 @@ void tst_DDialogueNotification::chaqueAppelQuiEchoue()
             kBoutonOk | kBoutonAnnuler, kBoutonOk, kBoutonAnnuler, {}, rappel);
         QByteArray const appel = appels.at(rang).toUtf8();
         QVERIFY2(!montray, appel);
+        QStringList faits = monBanc->toasts->DonneAppels();
+        faits.removeAll(u"~IToastNotifier"_s); // no call, but the end of an object
+        QCOMPARE(faits, appels.mid(0, rang + 1));
         QCOMPARE(monBanc->toasts->DonneNombreToasts(), 0);
         QVERIFY2(monBanc->toasts->DonneNombreObjets() == 0, appel);
         QVERIFY2(temoin.use_count() == 2, appel); // the test's, and that of its own callback
@@ -156,6 +196,39 @@ void tst_DDialogueNotification::chaqueAppelSansObjet()
     monBanc->toasts->RendsRien(appel);
     QVERIFY(!monBanc->Affiche(kBoutonOk | kBoutonAnnuler));
     QCOMPARE(monBanc->toasts->DonneNombreToasts(), 0);
+}
+
+void tst_DDialogueNotification::sansNotification6_data()
+{
+    QTest::addColumn<bool>("echoue");
+    QTest::newRow("no such interface") << true;
+    QTest::newRow("success without an object") << false;
+}
+
+// A toast that would survive a restart is none.
+void tst_DDialogueNotification::sansNotification6()
+{
+    QFETCH(bool, echoue);
+    QVERIFY(monBanc->Affiche(kBoutonOk));
+    auto const rang = static_cast<int>(
+        monBanc->toasts->DonneAppels().indexOf("QueryInterface(IToastNotification6)"_L1));
+    QVERIFY(rang > 0);
+    monBanc->InstalleToasts();
+    if (echoue)
+        monBanc->toasts->RepondsAppel(rang, E_NOINTERFACE);
+    else
+        monBanc->toasts->RendsRienAppel(rang);
+    QVERIFY(!monBanc->Affiche(kBoutonOk));
+    QVERIFY(!monBanc->toasts->DonneAppels().contains("put_ExpiresOnReboot(true)"_L1));
+    QCOMPARE(monBanc->toasts->DonneNombreToasts(), 0);
+}
+
+// What was added is known without it.
+void tst_DDialogueNotification::ajoutSansObjet()
+{
+    monBanc->toasts->RendsRien(u"AppendChild"_s);
+    QVERIFY(monBanc->Affiche(kBoutonOk | kBoutonAnnuler));
+    QCOMPARE(monBanc->toasts->DonneDocument(0).elementsByTagName(u"action"_s).size(), 2);
 }
 
 // A success that says more than S_OK goes on; only the last one has to be exact.
@@ -190,11 +263,18 @@ void tst_DDialogueNotification::reglage()
 
 void tst_DDialogueNotification::references()
 {
-    QVERIFY(monBanc->Affiche(kBoutonOk));
+    auto const temoin = std::make_shared<int>(0);
+    QVERIFY(DDialogueNotification::Affiche(
+        DAlerteInfo(DAlerteInfo::kNotification, UniChaine("message")), kBoutonOk, kBoutonOk,
+        kBoutonOk, {}, [temoin](eBoutons const &) {}));
+    QCOMPARE(temoin.use_count(), 2);
     QCOMPARE(monBanc->toasts->DonneNombreObjets(), 2); // the toast, and the notifier of its handler
     monBanc->toasts->Ecarte(0, ToastDismissalReason_UserCanceled);
     QCOMPARE(monBanc->toasts->DonneNombreObjets(), 1);
     QCOMPARE(monBanc->toasts->DonneAppels().count("~IToastNotifier"_L1), 1);
+    QCOMPARE(temoin.use_count(), 2); // a second event could come
+    monBanc->toasts->Oublie();
+    QCOMPARE(temoin.use_count(), 1);
 }
 
 void tst_DDialogueNotification::reponseDepuisUnAutreThread()

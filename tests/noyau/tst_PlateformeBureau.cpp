@@ -1,4 +1,4 @@
-// noyau/tst_PlateformeBureau.cpp
+// tests/noyau/tst_PlateformeBureau.cpp
 #include "noyau/plateforme/PlateformeBureau.h"
 #include "outils/BureauSimulay.h"
 

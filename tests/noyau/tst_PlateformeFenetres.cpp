@@ -1,4 +1,4 @@
-// noyau/tst_PlateformeFenetres.cpp
+// tests/noyau/tst_PlateformeFenetres.cpp
 #include "noyau/plateforme/PlateformeFenetres.h"
 #include "outils/FenetresSimulees.h"
 

@@ -1,4 +1,4 @@
-// noyau/tst_PlateformeFenetresX11.cpp
+// tests/noyau/tst_PlateformeFenetresX11.cpp
 #include "noyau/plateforme/PlateformeFenetres.h"
 #include "outils/ProgrammeEtranger.h"
 

@@ -1,4 +1,4 @@
-// noyau/tst_PlateformeFenetresX11Seul.cpp
+// tests/noyau/tst_PlateformeFenetresX11Seul.cpp
 #include "noyau/plateforme/PlateformeFenetres.h"
 #include "outils/ProgrammeEtranger.h"
 

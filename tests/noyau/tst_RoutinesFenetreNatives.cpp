@@ -1,4 +1,4 @@
-// noyau/tst_RoutinesFenetreNatives.cpp
+// tests/noyau/tst_RoutinesFenetreNatives.cpp
 #include "noyau/RoutinesFenetreNatives.h"
 #include "outils/FenetresSimulees.h"
 

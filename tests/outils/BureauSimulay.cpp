@@ -1,4 +1,4 @@
-// outils/BureauSimulay.cpp
+// tests/outils/BureauSimulay.cpp
 #include "outils/BureauSimulay.h"
 
 bool BureauSimulay::WindowsEstAuMoins(int majeure, int mineure, int numeroBuild)

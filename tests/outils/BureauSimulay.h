@@ -1,4 +1,4 @@
-// outils/BureauSimulay.h
+// tests/outils/BureauSimulay.h
 #pragma once
 
 #include "noyau/plateforme/PlateformeBureau.h"

@@ -1,4 +1,4 @@
-// outils/DocumentSimulay.cpp
+// tests/outils/DocumentSimulay.cpp
 #include "outils/DocumentSimulay_p.h"
 
 #include <utility>

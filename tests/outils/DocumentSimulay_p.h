@@ -1,4 +1,4 @@
-// outils/DocumentSimulay_p.h
+// tests/outils/DocumentSimulay_p.h
 #pragma once
 
 #include "outils/ObjetSimulay_p.h"

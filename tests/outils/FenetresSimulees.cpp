@@ -1,4 +1,4 @@
-// outils/FenetresSimulees.cpp
+// tests/outils/FenetresSimulees.cpp
 #include "outils/FenetresSimulees.h"
 
 #include <algorithm>

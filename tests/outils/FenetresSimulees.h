@@ -1,4 +1,4 @@
-// outils/FenetresSimulees.h
+// tests/outils/FenetresSimulees.h
 #pragma once
 
 #include "noyau/plateforme/PlateformeFenetres.h"

@@ -1,4 +1,4 @@
-// outils/ObjetSimulay_p.h
+// tests/outils/ObjetSimulay_p.h
 #pragma once
 
 #include "outils/ToastsSimules.h"
@@ -30,10 +30,16 @@ struct ToastsSimules::Etat
     HRESULT Rend(HRESULT resultat, QString const & operation, Interface ** sortie, Objet cree)
     {
         *sortie = nullptr;
-        if (FAILED(resultat) || sansObjet.contains(operation))
+        if (FAILED(resultat) || EstSansObjet(operation))
             return resultat;
         *sortie = cree();
         return resultat;
+    }
+
+    bool EstSansObjet(QString const & operation) const
+    {
+        QMutexLocker const verrou(&mutex);
+        return sansObjet.contains(operation) || sansObjetParRang.contains(rang - 1);
     }
 
     mutable QMutex mutex;
@@ -42,6 +48,7 @@ struct ToastsSimules::Etat
     QHash<QString, HRESULT> reponses;
     QHash<int, HRESULT> reponsesParRang;
     QSet<QString> sansObjet;
+    QSet<int> sansObjetParRang;
     Toasts::NotificationSetting reglage = Toasts::NotificationSetting_Enabled;
     QString modele;
     std::atomic<int> nombreObjets = 0;

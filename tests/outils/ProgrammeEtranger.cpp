@@ -1,4 +1,4 @@
-// outils/ProgrammeEtranger.cpp
+// tests/outils/ProgrammeEtranger.cpp
 #include "outils/ProgrammeEtranger.h"
 
 #include <QCoreApplication>

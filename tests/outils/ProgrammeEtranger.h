@@ -1,4 +1,4 @@
-// outils/ProgrammeEtranger.h
+// tests/outils/ProgrammeEtranger.h
 #pragma once
 
 #include "noyau/plateforme/TypesWin32.h"

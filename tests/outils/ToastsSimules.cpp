@@ -1,4 +1,4 @@
-// outils/ToastsSimules.cpp
+// tests/outils/ToastsSimules.cpp
 #include "outils/ToastsSimules.h"
 
 #include "outils/DocumentSimulay_p.h"
@@ -310,6 +310,11 @@ void ToastsSimules::RepondsAppel(int rang, HRESULT resultat)
 void ToastsSimules::RendsRien(QString const & operation)
 {
     monEtat->sansObjet.insert(operation);
+}
+
+void ToastsSimules::RendsRienAppel(int rang)
+{
+    monEtat->sansObjetParRang.insert(rang);
 }
 
 QStringList ToastsSimules::DonneAppels() const

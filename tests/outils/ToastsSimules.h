@@ -1,4 +1,4 @@
-// outils/ToastsSimules.h
+// tests/outils/ToastsSimules.h
 #pragma once
 
 #include "noyau/plateforme/PlateformeToasts.h"
@@ -33,6 +33,8 @@ public:
     void RepondsAppel(int rang, HRESULT resultat);
     /// Calls of that name succeed without the object that they return.
     void RendsRien(QString const & operation);
+    /// The same for one call, the number `rang` from 0 of all of them.
+    void RendsRienAppel(int rang);
 
     QStringList DonneAppels() const;
     /// Puts a line of the test's own among the calls.

@@ -1,4 +1,4 @@
-// outils/fenetre_etrangere.cpp
+// tests/outils/fenetre_etrangere.cpp
 // A program of its own with windows of its own, which a test drives: one command per line on the
 // standard input, one line in answer to each. It ends with its input.
 // Usage: fenetre_etrangere CLASS

@@ -12,4 +12,9 @@ int main()
         ThemesQt::Instance()->AppliquerVariable(QStringLiteral("@couleurSeparateur"));
     std::printf("%s %s\n", texte.PreteUTF8(), qPrintable(couleur));
     ThemesQt::DetruisToi();
+    ExecutionSilencieuse::Demarre();
+    DAlerteInfo const alerte(DAlerteInfo::kInformation, UniChaine("Essai"));
+    if (DAlerte(nullptr, alerte) != DDialogue::kBoutonOk)
+        return 1;
+    StockageReponse::LibereSingletons();
 }

@@ -11,7 +11,6 @@
 
 #include <QCheckBox>
 #include <QDeadlineTimer>
-#include <QDialogButtonBox>
 #include <QPointer>
 #include <QTest>
 
@@ -51,15 +50,6 @@ inline void Coche(QMessageBox const & boite)
 {
     if (auto * const laCase = boite.findChild<QCheckBox *>(QStringLiteral("NePlusMAviser")))
         QTest::mouseClick(laCase, Qt::LeftButton, {}, QPoint(6, laCase->height() / 2));
-}
-
-/// The buttons in the order in which they were made.
-inline QList<QPushButton *> BoutonsDansLOrdre(QMessageBox const & boite)
-{
-    QList<QPushButton *> boutons;
-    for (QDialogButtonBox const * const barre : boite.findChildren<QDialogButtonBox *>())
-        boutons += barre->findChildren<QPushButton *>(Qt::FindDirectChildrenOnly);
-    return boutons;
 }
 
 inline void Clique(QAbstractButton * bouton)

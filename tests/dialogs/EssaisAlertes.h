@@ -10,14 +10,14 @@
 #include "outils/BureauSimulay.h"
 
 #include <QCheckBox>
-#include <QDialogButtonBox>
+#include <QDeadlineTimer>
 #include <QPointer>
 #include <QTest>
 
 // What the tests of all alerts share.
 namespace EssaisAlertes {
 
-inline constexpr int kDelaiRepondant = 10;   // ms between two looks at the screen
+inline constexpr int kDelaiRepondant = 1;    // ms between two looks at the screen
 inline constexpr int kDelaiAbandon = 10'000; // ms until a box that nobody answers is given up
 
 /// The top-level windows of a class, hidden ones too.
@@ -52,15 +52,6 @@ inline void Coche(QMessageBox const & boite)
         QTest::mouseClick(laCase, Qt::LeftButton, {}, QPoint(6, laCase->height() / 2));
 }
 
-/// The buttons in the order in which they were made.
-inline QList<QPushButton *> BoutonsDansLOrdre(QMessageBox const & boite)
-{
-    QList<QPushButton *> boutons;
-    for (QDialogButtonBox const * const barre : boite.findChildren<QDialogButtonBox *>())
-        boutons += barre->findChildren<QPushButton *>(Qt::FindDirectChildrenOnly);
-    return boutons;
-}
-
 inline void Clique(QAbstractButton * bouton)
 {
     if (bouton)
@@ -85,9 +76,7 @@ public:
     explicit Repondant(Action action)
         : monAction(std::move(action))
     {
-        maMinuterie.setInterval(kDelaiRepondant);
-        QObject::connect(&maMinuterie, &QTimer::timeout, this, &Repondant::Regarde);
-        maMinuterie.start();
+        Regarde();
         QTimer::singleShot(kDelaiAbandon, this, &Repondant::Abandonne);
     }
 
@@ -96,6 +85,8 @@ public:
 private:
     void Regarde()
     {
+        // A timer anew each time: a repeating one rests while an alert blocks inside the action.
+        QTimer::singleShot(kDelaiRepondant, this, &Repondant::Regarde);
         DMessageBox * const boite = BoiteDevant();
         if (!boite || mesBoites.contains(boite))
             return;
@@ -112,9 +103,20 @@ private:
     }
 
     Action monAction;
-    QTimer maMinuterie;
     QList<QPointer<DMessageBox>> mesBoites;
 };
+
+/// Turns the event loop until no box is left; false when one stays. In finer steps than `QTRY_…`
+/// takes, for tests with hundreds of rows.
+inline bool AttendsFinDesBoites()
+{
+    QDeadlineTimer const fin(kDelaiAbandon);
+    while (!Fenetres<DMessageBox>().isEmpty() && !fin.hasExpired()) {
+        QCoreApplication::processEvents(QEventLoop::AllEvents, kDelaiRepondant);
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    }
+    return Fenetres<DMessageBox>().isEmpty();
+}
 
 inline QList<int> DonneReponses(ReceveurNotant const & receveur)
 {

@@ -7,6 +7,7 @@
 #include "noyau/DAlerteInfo.h"
 
 #include <QApplication>
+#include <QDialogButtonBox>
 #include <QPushButton>
 #include <QTimer>
 
@@ -23,6 +24,15 @@ inline DMessageBox * DonneBoiteVisible()
             return boite;
     }
     return nullptr;
+}
+
+/// The buttons in the order in which they were made.
+inline QList<QPushButton *> BoutonsDansLOrdre(QMessageBox const & boite)
+{
+    QList<QPushButton *> boutons;
+    for (QDialogButtonBox const * const barre : boite.findChildren<QDialogButtonBox *>())
+        boutons += barre->findChildren<QPushButton *>(Qt::FindDirectChildrenOnly);
+    return boutons;
 }
 
 /// Does `action` with the next box, once it is on the screen, from inside the event loop: before a

@@ -42,7 +42,7 @@ Vue Regarde(Forme const & forme, Appel const & appel)
         boite.QDialog::done(0);
     });
     forme.lance(appel);
-    if (!QTest::qWaitFor([] { return Fenetres<DMessageBox>().isEmpty(); }))
+    if (!AttendsFinDesBoites())
         return {};
     vue.nombre = utilisateur.DonneNombre();
     return vue;

@@ -45,8 +45,7 @@ bool Montre(Forme const & forme, Appel const & appel,
         boite.QDialog::done(0);
     });
     forme.lance(appel);
-    return QTest::qWaitFor([] { return Fenetres<DMessageBox>().isEmpty(); }) &&
-           utilisateur.DonneNombre() == 1;
+    return AttendsFinDesBoites() && utilisateur.DonneNombre() == 1;
 }
 
 // These two read no labels at all.

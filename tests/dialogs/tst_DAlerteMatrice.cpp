@@ -283,7 +283,7 @@ void tst_DAlerteMatrice::alerte()
         QCOMPARE(reponses + DonneReponses(receveur), QList<int>()); // never inside the call
         vue = FenetreVisible();
     }
-    QTRY_VERIFY(Fenetres<DMessageBox>().isEmpty());
+    QVERIFY(AttendsFinDesBoites());
     if (modele.EstSynchrone() && attendu.fenetre != eFenetre::kBoite)
         vue = FenetreVisible();
     QCOMPARE(vue, attendu.fenetre);

@@ -165,6 +165,7 @@ void tst_DDialogueAbs::masqueRefusaySansEchap_data()
     QTest::addColumn<int>("reponse");
     QTest::addColumn<bool>("retenue");
     QTest::newRow("Yes") << int(kBoutonOui) << true;
+    QTest::newRow("OK") << int(kBoutonOk) << true;
     QTest::newRow("Cancel") << int(kBoutonAnnuler) << false;
     QTest::newRow("Close") << int(kBoutonFermer) << false;
     QTest::newRow("Help") << int(kBoutonAide) << false;
@@ -320,20 +321,36 @@ void tst_DDialogueAbs::reponseRetenueEnBloquant()
 
 void tst_DDialogueAbs::reponseRetenueQuelconque_data()
 {
-    QTest::addColumn<int>("valeur");
-    QTest::newRow("a link and a number") << int(kBoutonLien | 5);
-    QTest::newRow("the highest bit") << int(kBoutonMaisonElevee1);
-    QTest::newRow("a button that the box has not") << int(kBoutonIgnorer);
-    QTest::newRow("several bits") << 7;
+    QTest::addColumn<quint32>("valeur");
+    QTest::addColumn<QString>("nom");
+    QTest::newRow("a button that the box has not") << quint32(kBoutonReessayer) << u"Réessayer"_s;
+    QTest::newRow("an answer that is never stored") << quint32(kBoutonAnnuler) << u"Annuler"_s;
+    QTest::newRow("a link and a number") << quint32(kBoutonLien | 5) << u"4194309"_s;
+    QTest::newRow("several bits") << quint32(7) << u"7"_s;
+    QTest::newRow("a bit that no button has") << quint32(8192) << u"8192"_s;
+    QTest::newRow("the highest bit") << quint32(kBoutonMaisonElevee1) << u"2147483648"_s;
+    QTest::newRow("all bits") << quint32(0xFFFFFFFF) << u"4294967295"_s;
 }
 
+// Nothing filters what the file holds, in either form.
 void tst_DDialogueAbs::reponseRetenueQuelconque()
 {
-    QFETCH(int, valeur);
-    monStockage->Ecris(Guid(), valeur);
-    QCOMPARE(int(DAlerteRappel(nullptr, Question(), StockeurNePlusMAviser, Guid(), kBoutonOui,
-                               kBoutonOui, kBoutonOui)),
-             valeur);
+    QFETCH(quint32, valeur);
+    QFETCH(QString, nom);
+    auto const attendue = static_cast<eBoutons>(valeur);
+    monStockage->Ecris(Guid(), static_cast<int>(valeur));
+    QCOMPARE(DAlerteRappel(nullptr, Question(), StockeurNePlusMAviser, Guid(), kBoutonOui,
+                           kBoutonOui, kBoutonOui),
+             attendue);
+    DAlerteRappel(nullptr, Question(), StockeurNePlusMAviser, Guid(), kBoutonOui, kBoutonOui,
+                  kBoutonOui, [this](eBoutons const & r) { mesReponses.append(r); });
+    QTRY_COMPARE(mesReponses, QList{attendue});
+    QString const texte = u"Réponse=%1\tContinuer ?\tTypeDeStockeur: StockeurNePlusMAviser\t"
+                          "GUID: %2\t"_s.arg(nom, Guid());
+    QCOMPARE(monJournal->DonneLignes(),
+             (QStringList{u"Dialogue déjà répondu."_s + texte,
+                          u"Dialogue asynchrone déjà répondu."_s + texte}));
+    QCOMPARE(monStockage->DonneContenu(), (QVariantMap{{Guid(), static_cast<int>(valeur)}}));
 }
 
 void tst_DDialogueAbs::reponseRetenueAvantLeSilence()

@@ -66,6 +66,7 @@ private Q_SLOTS:
     void iconeDeFenetre();
     void feuille();
     void feuilleDeLaBoite();
+    void feuilleSelonLeModulateur();
     void texteNonSelectionnable();
     void texteNonSelectionnableApresUnChangementDeStyle();
     void doneNeFaitRien();
@@ -116,6 +117,7 @@ void tst_DMessageBox::icone_data()
     QTest::newRow("notification without toast") << 6 << QMessageBox::Warning;
     QTest::newRow("custom, without an image") << 8 << QMessageBox::NoIcon;
     QTest::newRow("plain") << 9 << QMessageBox::NoIcon;
+    QTest::newRow("below all types") << 0 << QMessageBox::NoIcon;
     QTest::newRow("unknown") << 42 << QMessageBox::NoIcon;
 }
 
@@ -249,6 +251,19 @@ void tst_DMessageBox::feuilleDeLaBoite()
     auto const * const dessous = DonneEtiquette(*boite, "qt_msgbox_informativelabel");
     QVERIFY(message->font().pixelSize() > dessous->font().pixelSize());
     QCOMPARE(message->palette().color(QPalette::WindowText), QColor(0x00, 0x33, 0x99));
+}
+
+void tst_DMessageBox::feuilleSelonLeModulateur()
+{
+    using RoutinesGeneralesQt::ModulateurFont;
+    QFont const font(u"Sans"_s, 12);
+    ModulateurFont::Instance()->PrendsModulateur(0.5);
+    QString const feuille = DDialogueAbs::DonneStyleSheet(font);
+    int const pixels =
+        ModulateurFont::Instance()->DonneFontPointVersPixelsAvecDiff(font, 2.0).pixelSize();
+    ModulateurFont::LibereInstance();
+    QVERIFY(feuille != QString(DDialogueAbs::DonneStyleSheet(font)));
+    QVERIFY(feuille.contains(u"font-size: %1px"_s.arg(pixels)));
 }
 
 void tst_DMessageBox::texteNonSelectionnable()

@@ -30,6 +30,17 @@ std::list<UniChaine> Labels()
 
 constexpr int kTous = static_cast<int>(0xFFFFFFFFU);
 
+// In the order in which a box makes them.
+constexpr eBoutons kDansLOrdre[] = {
+    kBoutonOk,      kBoutonAnnuler,       kBoutonAppliquer,
+    kBoutonFermer,  kBoutonSauvegarder,   kBoutonSauvegarderTout,
+    kBoutonAide,    kBoutonOui,           kBoutonOuiTout,
+    kBoutonNon,     kBoutonNonTout,       kBoutonReessayer,
+    kBoutonIgnorer, kBoutonContinuer,     kBoutonEssayer,
+    kBoutonMaison1, kBoutonMaisonElevee1, kBoutonMaison2,
+    kBoutonMaison3, kBoutonMaison4,       kBoutonMaison5,
+};
+
 QPushButton * DonneBouton(DMessageBox const & boite, QString const & texte)
 {
     for (QAbstractButton * const bouton : boite.buttons()) {
@@ -55,6 +66,8 @@ private Q_SLOTS:
     void labelVide_data();
     void labelVide();
     void tousLesBoutons();
+    void chaqueBoutonRepond_data();
+    void chaqueBoutonRepond();
     void bitsSansBouton_data();
     void bitsSansBouton();
     void libellesTraduits();
@@ -197,6 +210,26 @@ void tst_DMessageBoxBoutons::tousLesBoutons()
                                    u"Quatre"_s, u"Cinq"_s}));
 }
 
+void tst_DMessageBoxBoutons::chaqueBoutonRepond_data()
+{
+    QTest::addColumn<int>("rang");
+    QTest::addColumn<eBoutons>("identifiant");
+    for (qsizetype rang = 0; rang < qsizetype(std::size(kDansLOrdre)); ++rang)
+        QTest::addRow("0x%x", kDansLOrdre[rang]) << int(rang) << kDansLOrdre[rang];
+}
+
+// In a box with all of them, two with one label among them.
+void tst_DMessageBoxBoutons::chaqueBoutonRepond()
+{
+    QFETCH(int, rang);
+    QFETCH(eBoutons, identifiant);
+    monBureau->peutExecuterElevay = true;
+    QPushButton * const bouton = BoutonsDansLOrdre(*Montre(kTous)).value(rang);
+    QVERIFY(bouton);
+    QTest::mouseClick(bouton, Qt::LeftButton);
+    QCOMPARE(mesReponses, QList{identifiant});
+}
+
 void tst_DMessageBoxBoutons::bitsSansBouton_data()
 {
     QTest::addColumn<int>("bits");
@@ -232,13 +265,15 @@ void tst_DMessageBoxBoutons::boutonElevay()
     QFETCH(bool, peut);
     monBureau->peutExecuterElevay = peut;
     DMessageBox * const boite = Montre(int(kBoutonMaison1 | kBoutonMaisonElevee1));
-    QCOMPARE(boite->buttons().size(), 2); // both, with the same label
-    int actifs = 0;
-    for (QAbstractButton * const bouton : boite->buttons()) {
-        QCOMPARE(bouton->text(), u"Un"_s);
-        actifs += bouton->isEnabled() ? 1 : 0;
-    }
-    QCOMPARE(actifs, peut ? 2 : 1);
+    QList<QPushButton *> const boutons = BoutonsDansLOrdre(*boite);
+    QCOMPARE(boutons.size(), 2); // both, with the same label
+    QCOMPARE(boutons.at(0)->text(), u"Un"_s);
+    QCOMPARE(boutons.at(1)->text(), u"Un"_s);
+    QVERIFY(boutons.at(0)->isEnabled());
+    QCOMPARE(boutons.at(1)->isEnabled(), peut);
+    QIcon const bouclier = QApplication::style()->standardIcon(QStyle::SP_VistaShield);
+    QVERIFY(boutons.at(0)->icon().isNull());
+    QCOMPARE(boutons.at(1)->icon().isNull(), bouclier.isNull());
 }
 
 void tst_DMessageBoxBoutons::defautEtEchap_data()

@@ -26,6 +26,8 @@ private Q_SLOTS:
     void adresse_data();
     void adresse();
     void clicSurUnLien();
+    void lienDansChaqueTexte_data();
+    void lienDansChaqueTexte();
     void clavierSurUnLien();
     void sansLienPasDArretDeTabulation();
 
@@ -145,6 +147,33 @@ void tst_DMessageBoxLiens::clicSurUnLien()
     QTest::mouseClick(etiquette, Qt::LeftButton, {}, QPoint(6, etiquette->height() / 2));
     QCOMPARE(monBureau->urlsOuvertes.size(), 1);
     QVERIFY(boite->isVisible());
+}
+
+void tst_DMessageBoxLiens::lienDansChaqueTexte_data()
+{
+    QTest::addColumn<QString>("etiquette");
+    QTest::addColumn<eTypStockeur>("type");
+    for (QString const & etiquette : {u"qt_msgbox_label"_s, u"qt_msgbox_informativelabel"_s}) {
+        QTest::addRow("%s", qPrintable(etiquette)) << etiquette << StockeurParDefaut;
+        QTest::addRow("%s, with the check box", qPrintable(etiquette))
+            << etiquette << StockeurNePlusMAviser;
+    }
+}
+
+void tst_DMessageBoxLiens::lienDansChaqueTexte()
+{
+    QFETCH(QString, etiquette);
+    QFETCH(eTypStockeur, type);
+    DAlerteInfo const info(DAlerteInfo::kQuestion, u"<a href='https://example.org/'>un</a>"_s,
+                           u"<a href='https://example.org/'>deux</a>"_s);
+    DAlerteRappel(nullptr, info, type, {}, kBoutonOui | kBoutonNon, kBoutonOui, kBoutonNon,
+                  [this](eBoutons const & reponse) { mesReponses.append(reponse); });
+    auto * const texte = DonneBoiteVisible()->findChild<QLabel *>(etiquette);
+    QVERIFY(texte);
+    Q_EMIT texte->linkActivated(u"https://example.org/"_s);
+    QCOMPARE(monBureau->urlsOuvertes.size(), 1); // the connection is made once
+    Q_EMIT texte->linkActivated(u"7"_s);
+    QCOMPARE(mesReponses, QList{kBoutonNon});
 }
 
 void tst_DMessageBoxLiens::clavierSurUnLien()

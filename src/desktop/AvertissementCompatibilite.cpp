@@ -12,6 +12,7 @@
 
 #include <QApplication>
 #include <QEvent>
+#include <QPointer>
 
 #include <cstdlib>
 
@@ -20,7 +21,8 @@ using namespace Qt::StringLiterals;
 namespace {
 using DDialogue::StockeurNePlusMAviser;
 
-// Sees whether the box that was shown last was left with its tick.
+// Sees whether the first box that is shown from here on is left with its tick. Only that one: what
+// the alert lets happen meanwhile may show and hide other boxes, after this one too.
 class TemoinCoche final : public QObject
 {
 public:
@@ -34,14 +36,26 @@ public:
 
     bool eventFilter(QObject * objet, QEvent * evenement) override
     {
-        if (evenement->type() == QEvent::Hide) {
-            if (auto const * const boite = qobject_cast<DMessageBoxAvecCaseACocher *>(objet))
-                monCoche = boite->CaseEstCochee();
+        if (maBoite) {
+            if (objet == maBoite && evenement->type() == QEvent::Hide)
+                monCoche = maBoite->CaseEstCochee();
+        } else if (evenement->type() == QEvent::Show && !evenement->spontaneous()) {
+            Suis(qobject_cast<DMessageBoxAvecCaseACocher *>(objet));
         }
         return false;
     }
 
 private:
+    void Suis(DMessageBoxAvecCaseACocher * boite)
+    {
+        if (!boite)
+            return;
+        maBoite = boite;
+        qApp->removeEventFilter(this);
+        boite->installEventFilter(this);
+    }
+
+    QPointer<DMessageBoxAvecCaseACocher> maBoite;
     bool monCoche = false;
 };
 
@@ -65,8 +79,12 @@ DDialogue::eBoutons Avertis(UniChemin const & executable, UniChaine const & guid
                       TraductionGui(TexteGui("Quitter")), TraductionGui(TexteGui("Parcourir...")));
     // Alerts never remember an answer on their escape button. Here that is the one answer with
     // which the program goes on, and whoever ticks the box with it wants to be left alone too.
-    if (reponse == DDialogue::kBoutonIgnorer && temoin.EstCoche() && !guid.EstVide())
-        StockageReponse::Instance(StockeurNePlusMAviser, guid)->ActualiseReponse(reponse);
+    if (reponse == DDialogue::kBoutonIgnorer && temoin.EstCoche() && !guid.EstVide()) {
+        // Through a copy, which writes the file when it ends: the settings of the singleton wait
+        // for the event loop, and the program may end before that runs.
+        StockageReponse(*StockageReponse::Instance(StockeurNePlusMAviser, guid))
+            .ActualiseReponse(reponse);
+    }
     return reponse;
 }
 

@@ -2,6 +2,7 @@
 #include "desktop/AvertissementCompatibilite.h"
 #include "dialogs/DAlerte.h"
 #include "dialogs/StockageReponse.h"
+#include "noyau/DAlerteInfo.h"
 #include "noyau/ExecutionSilencieuse.h"
 #include "outils/BureauSimulay.h"
 
@@ -78,6 +79,46 @@ private:
     QTimer monMinuteur;
 };
 
+// Leaves the warning with "Ignore" and no tick, from inside another alert that came up over it and
+// goes away after it, with a tick.
+class UtilisateurInterrompu : public QObject
+{
+public:
+    UtilisateurInterrompu()
+    {
+        connect(&monMinuteur, &QTimer::timeout, this, &UtilisateurInterrompu::Repond);
+        monMinuteur.start(5);
+    }
+
+    DDialogue::eBoutons autreReponse = DDialogue::kBoutonAucun;
+
+private:
+    void Repond()
+    {
+        auto * const boite = qobject_cast<QMessageBox *>(QApplication::activeModalWidget());
+        if (!boite || !boite->isVisible())
+            return;
+        monMinuteur.stop();
+        monAvertissement = boite;
+        QMetaObject::invokeMethod(this, &UtilisateurInterrompu::Termine, Qt::QueuedConnection);
+        autreReponse = DAlerteRappel(
+            nullptr, DAlerteInfo(DAlerteInfo::kInformation, "Autre", kUniChaineNulle, "Titre"),
+            DDialogue::StockeurNePlusMAviser, UniChaine("{AUTRE}"), DDialogue::kBoutonOk,
+            DDialogue::kBoutonOk, DDialogue::kBoutonAucun);
+    }
+
+    void Termine()
+    {
+        auto * const boite = qobject_cast<QMessageBox *>(QApplication::activeModalWidget());
+        monAvertissement->button(QMessageBox::Ignore)->click();
+        boite->findChild<QCheckBox *>()->setChecked(true);
+        boite->buttons().constFirst()->click();
+    }
+
+    QPointer<QMessageBox> monAvertissement;
+    QTimer monMinuteur;
+};
+
 // The child: warns, answers with a tick, and ends with another code when it comes back.
 int Avertis(QString const & bouton, QString const & repertoire, QString const & reponses)
 {
@@ -108,6 +149,7 @@ private Q_SLOTS:
     void memoirePourToujours();
     void guidDejaCochay();
     void guidVide();
+    void cocheDUneAutreAlerte();
     void finDuProcessus_data();
     void finDuProcessus();
 
@@ -271,24 +313,39 @@ void tst_AvertissementCompatibilite::guidVide()
     }
 }
 
+void tst_AvertissementCompatibilite::cocheDUneAutreAlerte()
+{
+    Cree(u"a.exe"_s);
+    UtilisateurInterrompu const utilisateur;
+    InformerUtilisationAppCompatFlags({DonneRepertoire()}, Guid());
+    QCOMPARE(utilisateur.autreReponse, DDialogue::kBoutonOk);
+    QVERIFY(!DAlerteRappelDejaCochay(DDialogue::StockeurNePlusMAviser, Guid()));
+}
+
 void tst_AvertissementCompatibilite::finDuProcessus_data()
 {
+    QTest::addColumn<QStringList>("programmes");
     QTest::addColumn<QString>("bouton");
     QTest::addColumn<int>("code");
     QTest::addColumn<QString>("sortie"); // %1 for the directory
-    QTest::newRow("quit") << u"Quitter"_s << 0 << QString();
-    QTest::newRow("browse, and quit") << u"Parcourir..."_s << 0 << u"%1\n"_s;
-    QTest::newRow("ignore and go on") << u"Ignorer"_s << kCodeSuite << u"1\n"_s;
+    QStringList const un{u"vieux.exe"_s};
+    QStringList const deux{u"vieux.exe"_s, u"vieux2.exe"_s};
+    QTest::newRow("quit") << deux << u"Quitter"_s << 0 << QString();
+    QTest::newRow("browse, and quit") << deux << u"Parcourir..."_s << 0 << u"%1\n"_s;
+    QTest::newRow("ignore and go on") << deux << u"Ignorer"_s << kCodeSuite << u"1\n"_s;
+    // No second alert runs the event loop after the answer.
+    QTest::newRow("ignore the only one") << un << u"Ignorer"_s << kCodeSuite << u"1\n"_s;
 }
 
 void tst_AvertissementCompatibilite::finDuProcessus()
 {
+    QFETCH(QStringList, programmes);
     QFETCH(QString, bouton);
     QFETCH(int, code);
     QFETCH(QString, sortie);
-    Cree(u"vieux.exe"_s);
-    Cree(u"vieux2.exe"_s);
-    QCOMPARE(CompteSilencieux({DonneRepertoire()}), 2);
+    for (QString const & programme : programmes)
+        Cree(programme);
+    QCOMPARE(CompteSilencieux({DonneRepertoire()}), programmes.size());
     StockageReponse::LibereSingletons();
 
     QProcess enfant;

@@ -4,6 +4,7 @@
 #include "desktop/RoutinesFenetre.h"
 #include "dialogs/DAlerte.h"
 #include "dialogs/DDialogueProgressionInfinie.h"
+#include "dialogs/StockageReponse.h"
 #include "foundation/GeometrieEcran.h"
 #include "noyau/DAlerteInfo.h"
 #include "noyau/plateforme/PlateformeFenetres.h"
@@ -79,6 +80,7 @@ void tst_QWinWidgetX11::cleanup()
 {
     monProgramme.reset();
     QVERIFY(QApplication::topLevelWidgets().isEmpty());
+    StockageReponse::LibereSingletons();
 }
 
 HWND tst_QWinWidgetX11::Ouvre(QString const & titre)

@@ -12,7 +12,6 @@
 
 #include <QApplication>
 #include <QEvent>
-#include <QPointer>
 
 #include <cstdlib>
 
@@ -21,8 +20,8 @@ using namespace Qt::StringLiterals;
 namespace {
 using DDialogue::StockeurNePlusMAviser;
 
-// Sees whether the first box that is shown from here on is left with its tick. Only that one: what
-// the alert lets happen meanwhile may show and hide other boxes, after this one too.
+// Sees whether the first box that is shown from here on is answered with its tick. Only that one:
+// what the alert lets happen meanwhile may bring other boxes.
 class TemoinCoche final : public QObject
 {
 public:
@@ -36,26 +35,17 @@ public:
 
     bool eventFilter(QObject * objet, QEvent * evenement) override
     {
-        if (maBoite) {
-            if (objet == maBoite && evenement->type() == QEvent::Hide)
-                monCoche = maBoite->CaseEstCochee();
-        } else if (evenement->type() == QEvent::Show && !evenement->spontaneous()) {
-            Suis(qobject_cast<DMessageBoxAvecCaseACocher *>(objet));
+        if (evenement->type() != QEvent::Show || evenement->spontaneous())
+            return false;
+        if (auto const * const boite = qobject_cast<DMessageBoxAvecCaseACocher *>(objet)) {
+            qApp->removeEventFilter(this);
+            connect(boite, &DMessageBox::SignalEnFermeture, this,
+                    [this, boite] { monCoche = boite->CaseEstCochee(); });
         }
         return false;
     }
 
 private:
-    void Suis(DMessageBoxAvecCaseACocher * boite)
-    {
-        if (!boite)
-            return;
-        maBoite = boite;
-        qApp->removeEventFilter(this);
-        boite->installEventFilter(this);
-    }
-
-    QPointer<DMessageBoxAvecCaseACocher> maBoite;
     bool monCoche = false;
 };
 

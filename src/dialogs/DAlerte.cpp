@@ -55,6 +55,9 @@ void DemandeAvecRappel(QWidget * parent, DAlerteInfo const & info, eTypStockeur 
 
 } // namespace
 
+// NOLINTBEGIN(performance-unnecessary-value-param): texts, lists and callbacks come by value, so
+// that an application may give its own away.
+
 eBoutons DAlerte(QWidget * parent, DAlerteInfo const & info)
 {
     return Demande(parent, info, kBoutonOk, kBoutonOk, kBoutonOk, {}, false);
@@ -207,6 +210,8 @@ eBoutons DAlerteRappelSynchroneEtModalAFenetre(QWidget * parent, DAlerteInfo con
     return DAlerteCommune(parent, nullptr, info, typeStockeur, &guid, boutons, defaut, echap, true,
                           {label1, label2, label3, label4, label5}, false, {});
 }
+
+// NOLINTEND(performance-unnecessary-value-param)
 
 void DAlerteOublieToutesLesReponses(eTypStockeur typeStockeur)
 {

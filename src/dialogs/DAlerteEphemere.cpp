@@ -73,6 +73,7 @@ std::optional<double> RoutinesBulle::DonneOpacite(quint64 ecoule)
 
 DAlerteEphemere * DAlerteEphemere::alerteCourante = nullptr;
 
+// NOLINTNEXTLINE(performance-unnecessary-value-param): a pixmap is shared, not copied
 void DAlerteEphemere::Affiche(QWidget * parent, DAlerteInfo const & info, QPixmap pixmap)
 {
     delete alerteCourante; // its destructor clears the pointer

@@ -26,6 +26,7 @@ constexpr int kRafraichissement = 25; // ms
 
 } // namespace
 
+// NOLINTBEGIN(performance-unnecessary-value-param): texts are shared, not copied
 DDialogueProgressionInfinie::DDialogueProgressionInfinie(QWidget * parent, QString texte,
                                                          QString texteSecondaire,
                                                          QFlags<Qt::WindowType> flags)
@@ -41,6 +42,8 @@ DDialogueProgressionInfinie::DDialogueProgressionInfinie(DorvelWidgetCentrageNat
 {
     init(parent, texte, texteSecondaire);
 }
+
+// NOLINTEND(performance-unnecessary-value-param)
 
 DDialogueProgressionInfinie::~DDialogueProgressionInfinie() = default;
 

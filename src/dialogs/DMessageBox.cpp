@@ -66,6 +66,7 @@ DMessageBox::~DMessageBox()
     delete monProprietaire;
 }
 
+// NOLINTNEXTLINE(performance-unnecessary-value-param): a slot, whose signature others name
 void DMessageBox::PriseHyperlien(QString cible)
 {
     bool estNombre = false;
@@ -88,6 +89,7 @@ void DMessageBox::PriseBoutonCliquay(QAbstractButton * bouton)
     Conclus(bouton ? monProprietaire->DonneIdentifiant(bouton) : static_cast<int>(kBoutonAnnuler));
 }
 
+// NOLINTNEXTLINE(performance-unnecessary-value-param): a slot, whose signature others name
 void DMessageBox::PriseResultat(QVariant valeur)
 {
     eBoutons reponse = kBoutonAucun;

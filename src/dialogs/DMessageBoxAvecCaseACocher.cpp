@@ -17,7 +17,7 @@ namespace {
 /// A blank line below makes room for the check box: beside an icon both share a cell.
 QString AvecLigneVide(QString const & explication, bool estRiche)
 {
-    QString const texte = explication + "<br>"_L1;
+    QString texte = explication + "<br>"_L1;
     if (estRiche || Qt::mightBeRichText(texte))
         return texte;
     // Qt takes it for plain text, because of a line feed or a "<": it would show the tag.

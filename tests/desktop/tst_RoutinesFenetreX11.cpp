@@ -294,6 +294,12 @@ void tst_RoutinesFenetreX11::focusDeLAutre()
     HWND const editeur = Ouvre(u"Brouillon"_s);
     QVERIFY(editeur);
     QTRY_COMPARE_WITH_TIMEOUT(DonneControleEnFocusClavier(editeur), editeur, kDelai);
+
+    ProgrammeEtranger tiers(u"Tiers"_s);
+    HWND const autre = tiers.DemandePoignee(u"fenetre Tiers"_s);
+    QTRY_COMPARE_WITH_TIMEOUT(DonneControleEnFocusClavier(autre), autre, kDelai);
+    QCOMPARE(DonneControleEnFocusClavier(editeur), nullptr); // the focus is not the editor's
+
     QWidget notre;
     HWND const fenetre = Montre(notre);
     QVERIFY(fenetre);

@@ -534,6 +534,7 @@ void tst_PlateformeFenetresX11::focusEtAttachement()
 
     QTRY_COMPARE_WITH_TIMEOUT(maPlateforme.GetFocus(), etrangere, kDelai);
     QVERIFY(maPlateforme.AttachThreadInput(nous, eux, true));
+    QCOMPARE(maPlateforme.GetFocus(), etrangere);
     QVERIFY(maPlateforme.AttachThreadInput(nous, eux, false));
     QVERIFY(!maPlateforme.AttachThreadInput(nous, nous, true));
     QVERIFY(!maPlateforme.AttachThreadInput(nous, 0, true));

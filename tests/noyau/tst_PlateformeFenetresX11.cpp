@@ -34,6 +34,7 @@ private Q_SLOTS:
     void cacheEtMontre();
     void styles();
     void chefVisible();
+    void chefGereSansEtreAffiche();
     void activeQuandRienNEstActif();
     void enfants();
     void gel();
@@ -289,6 +290,20 @@ void tst_PlateformeFenetresX11::chefVisible()
     // A hidden leader stands for its program and owns nothing.
     QVERIFY(maPlateforme.ShowWindow(principale, SW_HIDE));
     QTRY_COMPARE_WITH_TIMEOUT(maPlateforme.GetWindow(dialogue, GW_OWNER), nullptr, kDelai);
+}
+
+void tst_PlateformeFenetresX11::chefGereSansEtreAffiche()
+{
+    HWND const fenetre = Ouvre(u"Question"_s);
+    QVERIFY(fenetre);
+    QCOMPARE(maPlateforme.GetWindow(fenetre, GW_OWNER), nullptr);
+
+    HWND const chef = monProgramme->DemandePoignee(u"reserve"_s);
+
+    QVERIFY(chef);
+    QTRY_COMPARE_WITH_TIMEOUT(maPlateforme.GetWindow(fenetre, GW_OWNER), chef, kDelai);
+    QVERIFY(!maPlateforme.IsWindowVisible(chef));
+    QVERIFY(!maPlateforme.IsIconic(chef));
 }
 
 void tst_PlateformeFenetresX11::activeQuandRienNEstActif()

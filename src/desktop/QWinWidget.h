@@ -16,8 +16,9 @@ class QWindow;
 /// Windows that are its children when they are shown are kept in front of the native window and are
 /// centred on it, as on any parent. They are destroyed with this widget, not with the native
 /// window: once that has gone, or without one, they are windows of their own, centred where it was
-/// last. The widget itself is never on the screen and takes no focus. It follows the geometry of
-/// the native window when a child is added or shown, not in between.
+/// last. Windows itself takes what is on the screen away together with the native window. The
+/// widget itself is never on the screen and takes no focus. It follows the geometry of the native
+/// window when a child is added or shown, not in between.
 class FABRELGUI_EXPORT QWinWidget : public QWidget
 {
     Q_OBJECT
@@ -41,7 +42,9 @@ protected:
 private:
     void SuisFenetreNative();
     void Rattache(QWidget & enfant);
+    void RattacheNatif(QWidget const & enfant) const;
 
     HWND maFenetreNative;
     std::unique_ptr<QWindow> monProprietaire; // the native window for Qt; null until it is needed
+    bool monProprietaireEstDemanday = false;
 };

@@ -1,6 +1,8 @@
 // desktop/RoutinesFenetre.cpp
 #include "desktop/RoutinesFenetre.h"
 
+#include "foundation/FenetreNative_p.h"
+
 #include "noyau/Contournement.h"
 #include "noyau/plateforme/PlateformeFenetres.h"
 
@@ -12,6 +14,8 @@
 using namespace Qt::StringLiterals;
 
 namespace {
+using RoutinesGeometrie::DonnePoignee;
+
 constexpr UINT kDelaiReponse = 5000; // ms
 
 // Where marker windows lie: far outside every screen.
@@ -26,12 +30,6 @@ constexpr auto kToucheRelachee = static_cast<LPARAM>(0xC01E0001);
 PlateformeFenetres & Plateforme()
 {
     return PlateformeFenetres::Courante();
-}
-
-HWND DonnePoignee(WId identifiant)
-{
-    // NOLINTNEXTLINE(performance-no-int-to-ptr): a handle is a number that nobody dereferences
-    return reinterpret_cast<HWND>(identifiant);
 }
 
 // The window of the widget if it has one of its own, without making one.

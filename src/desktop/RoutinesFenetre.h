@@ -23,7 +23,8 @@ namespace RoutinesFenetre {
 FABRELGUI_EXPORT HWND DonneHandleFenetre(QWidget const * const widget);
 FABRELGUI_EXPORT void MinimiserFenetre(QWidget * const widget);
 
-/// Restores the widget's window when it is minimised and raises it, without the keyboard focus.
+/// Restores the widget's window when it is minimised and raises it. The keyboard focus stays where
+/// it is unless the window was minimised: restoring activates it.
 FABRELGUI_EXPORT void MetsFenetreEnAvantPlan(QWidget * widget);
 /// The same for the widget of that window; nothing for windows that are not this program's.
 FABRELGUI_EXPORT void MetsFenetreEnAvantPlan(HWND fenetre);
@@ -37,7 +38,8 @@ FABRELGUI_EXPORT void MetsFenetreEnAvantPlan(HWND fenetre);
 FABRELGUI_EXPORT void MetsFenetreEnAvantPlanEtActive(HWND fenetre, bool forcer);
 /// The same for the window of a widget, which is made if there is none yet, and restored if it is
 /// minimised. Harmless in the widget's `showEvent`: a window that is not on the screen yet can't be
-/// activated, and comes to the front when it is shown.
+/// activated; it comes to the front when it is shown, where the window manager gives new windows
+/// the focus.
 FABRELGUI_EXPORT void MetsFenetreEnAvantPlanEtActive(QWidget * widget, bool forcer);
 
 /// The window that the user sees in front: from the foreground window downwards, the first that is
@@ -71,7 +73,8 @@ FABRELGUI_EXPORT void DonneFenetreAvantPlan(HWND & fenetre, QSet<QString> classe
 FABRELGUI_EXPORT void DonneTexteurCourant(HWND & fenetre, QSet<QString> classesExclues);
 
 /// The control with the keyboard focus in another program, of which `fenetre` is a window. Null for
-/// a window of the calling thread: its focus is `QApplication::focusWidget()`.
+/// a window of the calling thread: its focus is `QApplication::focusWidget()`. On X11 there is one
+/// focus for all programs: null while a third one has it, and ours while we have it.
 FABRELGUI_EXPORT HWND DonneControleEnFocusClavier(HWND const & fenetre);
 
 /// True when the window's program no longer answers.
@@ -91,7 +94,8 @@ FABRELGUI_EXPORT bool TypIdFenetreEstBureauWindows7(HWND const & fenetre);
 /// one already is for the caller to ask first: each call makes one.
 FABRELGUI_EXPORT HWND SingletonApplicationCreeFenetre(UniChaine const & classe,
                                                       UniChaine const & titre);
-/// Destroys the marker of this process; that of another one stays.
+/// Destroys the marker of this process if it is the first window of the class that is found: the
+/// window of another process that is found before it stays, and so does ours then.
 FABRELGUI_EXPORT void SingletonApplicationDetruitFenetre(UniChaine const & classe);
 /// True when some process has a top-level window of the class, case not counting; `fenetre`, which
 /// may be null, receives it, or null when there is none.

@@ -1,6 +1,8 @@
 // desktop/RoutinesFenetreRecherche.cpp
 #include "desktop/RoutinesFenetre.h"
 
+#include "foundation/FenetreNative_p.h"
+
 #include "noyau/RoutinesBureau.h"
 #include "noyau/RoutinesFenetreNatives.h"
 #include "noyau/plateforme/PlateformeFenetres.h"
@@ -69,8 +71,7 @@ QSet<HWND> DonneFenetresPropres(QSet<QString> const & classesExclues)
 {
     QSet<HWND> fenetres;
     for (QWidget const * const widget : QApplication::topLevelWidgets()) {
-        // NOLINTNEXTLINE(performance-no-int-to-ptr): a handle is a number that nobody dereferences
-        auto const fenetre = reinterpret_cast<HWND>(widget->internalWinId());
+        HWND const fenetre = RoutinesGeometrie::DonnePoignee(widget->internalWinId());
         if (widget->isVisible() && fenetre != Plateforme().GetDesktopWindow() &&
             !classesExclues.contains(DonneNomClasse(fenetre)))
             fenetres.insert(fenetre);

@@ -3,6 +3,7 @@
 
 #include "desktop/DorvelWidgetCentrageNatif.h"
 #include "dialogs/TextesAlerte_p.h"
+#include "foundation/FenetreNative_p.h"
 #include "foundation/Layouts.h"
 #include "foundation/ThemesQt.h"
 
@@ -127,8 +128,7 @@ void DDialogueProgressionInfinie::PriseFermerDialogue()
 void DDialogueProgressionInfinie::showEvent(QShowEvent * evenement)
 {
     QDialog::showEvent(evenement);
-    // NOLINTNEXTLINE(performance-no-int-to-ptr): a handle is a number that nobody dereferences
-    auto const fenetre = reinterpret_cast<HWND>(winId());
+    HWND const fenetre = RoutinesGeometrie::DonnePoignee(winId());
     // A wait that lasts must not cover what the user turns to meanwhile.
     PlateformeFenetres::Courante().SetWindowPos(fenetre, HWND_NOTOPMOST, 0, 0, 0, 0,
                                                 SWP_NOSIZE | SWP_NOMOVE | SWP_NOACTIVATE);

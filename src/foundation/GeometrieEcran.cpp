@@ -19,6 +19,7 @@
 #include <optional>
 
 namespace {
+using RoutinesGeometrie::DonnePoignee;
 
 constexpr char kProprieteReajustement[] = "DoitRefaireAjusteDansEcran";
 constexpr auto kEvenementReajustement = static_cast<QEvent::Type>(1000); // QEvent::User
@@ -52,12 +53,6 @@ QMargins DonneBordures(QWidget const & widget)
     QRect const interieur = widget.geometry();
     return {interieur.left() - cadre.left(), interieur.top() - cadre.top(),
             cadre.right() - interieur.right(), cadre.bottom() - interieur.bottom()};
-}
-
-HWND DonnePoignee(WId identifiant)
-{
-    // NOLINTNEXTLINE(performance-no-int-to-ptr): a handle is a number that nobody dereferences
-    return reinterpret_cast<HWND>(identifiant);
 }
 
 HWND DonneParentNatif(QWidget const & widget)

@@ -24,6 +24,8 @@ private Q_SLOTS:
     void signaleSaDestruction();
     void fermeUnDialogue_data();
     void fermeUnDialogue();
+    void detruitParCeQuIlSignale_data();
+    void detruitParCeQuIlSignale();
 
 private:
     HWND AjouteFenetre();
@@ -150,6 +152,34 @@ void tst_DorvelWidgetCentrageNatif::fermeUnDialogue()
         hote.reset();
 
     QTRY_VERIFY(attente.isNull());
+}
+
+void tst_DorvelWidgetCentrageNatif::detruitParCeQuIlSignale_data()
+{
+    QTest::addColumn<bool>("parLaFenetre");
+    QTest::newRow("the window goes") << true;
+    QTest::newRow("the host is closed") << false;
+}
+
+void tst_DorvelWidgetCentrageNatif::detruitParCeQuIlSignale()
+{
+    QFETCH(bool, parLaFenetre);
+    HWND const fenetre = AjouteFenetre();
+    QPointer<DorvelWidgetCentrageNatif> const hote = new DorvelWidgetCentrageNatif(fenetre);
+    int signaux = 0;
+    connect(hote, &DorvelWidgetCentrageNatif::SignalFermerDialogue, this, [&] {
+        if (signaux++ == 0) // its end is signalled too
+            delete hote;
+    });
+    PreteMinuteur(*hote)->setInterval(1);
+
+    if (parLaFenetre)
+        mesFenetres->Retire(fenetre);
+    else
+        hote->close();
+
+    QTRY_VERIFY(hote.isNull());
+    QCOMPARE(signaux, 2);
 }
 
 QTEST_MAIN(tst_DorvelWidgetCentrageNatif)

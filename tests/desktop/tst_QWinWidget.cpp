@@ -21,9 +21,14 @@ public:
         resize(200, 100);
     }
 
+    QStringList appelsAvant; // of the platform, when it was last shown
+
 protected:
     void showEvent(QShowEvent * evenement) override
     {
+        auto const * const fenetres =
+            dynamic_cast<FenetresSimulees *>(&PlateformeFenetres::Courante());
+        appelsAvant = fenetres ? fenetres->appels : QStringList();
         QDialog::showEvent(evenement);
         RoutinesFenetre::CentrageWidgetDansParentOuEcran(this, false);
     }
@@ -48,6 +53,9 @@ private Q_SLOTS:
     void prendLaPlaceDeLaFenetre();
     void placeSurUnEcranAgrandi();
     void jamaisMontre();
+    void proprietaireNatif_data();
+    void proprietaireNatif();
+    void sansFenetresEtrangeresPourQt();
     void centreLesDialogues();
     void suitLaFenetre();
     void suitSansEnfantDirect();
@@ -133,7 +141,63 @@ void tst_QWinWidget::jamaisMontre()
     QVERIFY(dialogue.isVisible());
     QVERIFY(!hote.isVisible());
     QVERIFY(!hote.windowHandle() || !hote.windowHandle()->isVisible());
-    QVERIFY(mesFenetres->appels.isEmpty()); // nothing was done to the native window
+    QVERIFY(mesFenetres->appels.filter(u"(Editeur"_s).isEmpty()); // nothing was done to it
+}
+
+void tst_QWinWidget::proprietaireNatif_data()
+{
+    QTest::addColumn<bool>("estControle");
+    QTest::newRow("a window") << false;
+    QTest::newRow("a control in a window") << true; // owns nothing, its window does
+}
+
+void tst_QWinWidget::proprietaireNatif()
+{
+    QFETCH(bool, estControle);
+    HWND const fenetre = AjouteFenetre();
+    HWND controle = fenetre;
+    for (int etage = 0; estControle && etage < 2; ++etage) {
+        FenetresSimulees::Fenetre description;
+        description.classe = u"Controle"_s;
+        description.client = kClient;
+        description.parent = controle;
+        controle = mesFenetres->Ajoute(description);
+    }
+    QWinWidget hote(controle);
+    Dialogue dialogue(&hote);
+    auto const poignee = reinterpret_cast<HWND>(dialogue.winId());
+    mesFenetres->Ajoute(poignee, {.classe = u"Dialogue"_s});
+    QStringList const appels{u"SetWindowLongPtrW(Dialogue, -8, Editeur)"_s};
+
+    dialogue.show();
+    QCOMPARE(mesFenetres->GetWindow(poignee, GW_OWNER), fenetre);
+    QCOMPARE(mesFenetres->appels, appels);
+    QCOMPARE(dialogue.appelsAvant, QStringList()); // Qt would undo it as the window comes up
+
+    dialogue.hide();
+    mesFenetres->Prete(poignee).proprietaire = nullptr;
+    dialogue.show();
+    QCOMPARE(mesFenetres->GetWindow(poignee, GW_OWNER), fenetre);
+
+    mesFenetres->appels.clear();
+    dialogue.hide();
+    mesFenetres->Retire(fenetre);
+    dialogue.show();
+    QCOMPARE(mesFenetres->appels, QStringList());
+}
+
+void tst_QWinWidget::sansFenetresEtrangeresPourQt()
+{
+    // The platform of this test has none, and Qt says so when it is asked: once.
+    QRegularExpression const avertissement(u"foreign windows"_s);
+    QTest::ignoreMessage(QtWarningMsg, avertissement);
+    QTest::failOnWarning(avertissement);
+    QWinWidget hote(AjouteFenetre());
+    for (int fois = 0; fois < 2; ++fois) {
+        Dialogue dialogue(&hote);
+        dialogue.show();
+        QVERIFY(dialogue.isVisible());
+    }
 }
 
 void tst_QWinWidget::centreLesDialogues()

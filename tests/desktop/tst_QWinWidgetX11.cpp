@@ -13,6 +13,9 @@
 #include <QtTest>
 #include <QtWidgets>
 
+#include <functional>
+#include <utility>
+
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -35,6 +38,32 @@ protected:
         RoutinesFenetre::CentrageWidgetDansParentOuEcran(this, false);
     }
 };
+
+// Looks at the first alert that comes onto the screen, then leaves it by its first button.
+class Utilisateur : public QObject
+{
+public:
+    explicit Utilisateur(std::function<void(QMessageBox const &)> regarde)
+        : monRegard(std::move(regarde))
+    {
+        connect(&monMinuteur, &QTimer::timeout, this, &Utilisateur::Repond);
+        monMinuteur.start(20);
+    }
+
+private:
+    void Repond()
+    {
+        auto * const boite = qobject_cast<QMessageBox *>(QApplication::activeModalWidget());
+        if (!boite || !QTest::qWaitForWindowExposed(boite, kDelai))
+            return;
+        monMinuteur.stop();
+        monRegard(*boite);
+        boite->buttons().constFirst()->click();
+    }
+
+    std::function<void(QMessageBox const &)> monRegard;
+    QTimer monMinuteur;
+};
 } // namespace
 
 // Dialogs of ours on a window of another process.
@@ -49,6 +78,8 @@ private Q_SLOTS:
     void dialogueAttachay();
     void dialogueDejaCreay();
     void alerteCentreeSurLAutre();
+    void alerteSurUneFenetreIconique();
+    void finDuProgrammePendantUneAlerte();
     void finDuProgramme();
     void hoteDetruitAvant();
     void fermeAvecLAutre();
@@ -57,6 +88,8 @@ private:
     HWND Ouvre(QString const & titre);
     QRect DonneInterieur() const;
     bool EstCentreSurLAutre(QWidget const & fenetre) const;
+    bool EstPremierPlan(HWND fenetre) const;
+    static DAlerteInfo DonneAlerte();
 
     PlateformeFenetres & maPlateforme = PlateformeFenetres::Courante();
     std::unique_ptr<ProgrammeEtranger> monProgramme;
@@ -112,6 +145,16 @@ bool tst_QWinWidgetX11::EstCentreSurLAutre(QWidget const & fenetre) const
     return QRect(0, 0, 1, 1).marginsAdded(cadre).contains(ecart);
 }
 
+bool tst_QWinWidgetX11::EstPremierPlan(HWND fenetre) const
+{
+    return maPlateforme.GetWindowLongPtrW(fenetre, GWL_EXSTYLE) & LONG_PTR{WS_EX_TOPMOST};
+}
+
+DAlerteInfo tst_QWinWidgetX11::DonneAlerte()
+{
+    return {DAlerteInfo::kInformation, "Message", kUniChaineNulle, "Titre"};
+}
+
 void tst_QWinWidgetX11::dialogueAttachay()
 {
     QWinWidget hote(maFenetre);
@@ -156,25 +199,46 @@ void tst_QWinWidgetX11::alerteCentreeSurLAutre()
 {
     bool attachee = false;
     bool centree = false;
-    QTimer minuteur;
-    connect(&minuteur, &QTimer::timeout, this, [&] {
-        auto * const boite = qobject_cast<QMessageBox *>(QApplication::activeModalWidget());
-        if (!boite || !QTest::qWaitForWindowExposed(boite, kDelai))
-            return;
-        minuteur.stop();
-        HWND const poignee = RoutinesFenetre::DonneHandleFenetre(boite);
+    bool auDessus = false;
+    Utilisateur const utilisateur([&](QMessageBox const & boite) {
+        HWND const poignee = RoutinesFenetre::DonneHandleFenetre(&boite);
         attachee = maPlateforme.GetWindow(poignee, GW_OWNER) == maFenetre;
-        centree = QTest::qWaitFor([&] { return EstCentreSurLAutre(*boite); }, kDelai);
-        boite->buttons().constFirst()->click();
+        centree = QTest::qWaitFor([&] { return EstCentreSurLAutre(boite); }, kDelai);
+        auDessus = QTest::qWaitFor([&] { return EstPremierPlan(poignee); }, kDelai);
     });
-    minuteur.start(20);
 
-    auto const reponse = DAlerteCentrageNatif(
-        maFenetre, DAlerteInfo(DAlerteInfo::kInformation, "Message", kUniChaineNulle, "Titre"));
+    QCOMPARE(DAlerteCentrageNatif(maFenetre, DonneAlerte()), DDialogue::kBoutonOk);
 
-    QCOMPARE(reponse, DDialogue::kBoutonOk);
     QVERIFY(attachee);
     QVERIFY(centree);
+    QVERIFY(auDessus); // of the other program's windows, and not only while it comes up
+}
+
+void tst_QWinWidgetX11::alerteSurUneFenetreIconique()
+{
+    maPlateforme.ShowWindow(maFenetre, SW_MINIMIZE);
+    QTRY_VERIFY_WITH_TIMEOUT(maPlateforme.IsIconic(maFenetre), kDelai);
+    bool devant = false;
+    Utilisateur const utilisateur([&](QMessageBox const & boite) {
+        HWND const poignee = RoutinesFenetre::DonneHandleFenetre(&boite);
+        devant =
+            QTest::qWaitFor([&] { return maPlateforme.GetForegroundWindow() == poignee; }, kDelai);
+    });
+    QCOMPARE(DAlerteCentrageNatif(maFenetre, DonneAlerte()), DDialogue::kBoutonOk);
+    QVERIFY(devant);
+}
+
+void tst_QWinWidgetX11::finDuProgrammePendantUneAlerte()
+{
+    bool survit = false;
+    Utilisateur const utilisateur([&](QMessageBox const & boite) {
+        monProgramme.reset();
+        bool const finie =
+            QTest::qWaitFor([&] { return !maPlateforme.IsWindow(maFenetre); }, kDelai);
+        survit = finie && boite.isVisible();
+    });
+    QCOMPARE(DAlerteCentrageNatif(maFenetre, DonneAlerte()), DDialogue::kBoutonOk);
+    QVERIFY(survit);
 }
 
 void tst_QWinWidgetX11::finDuProgramme()

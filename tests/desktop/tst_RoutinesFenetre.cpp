@@ -65,6 +65,7 @@ private Q_SLOTS:
     void marqueur();
     void marqueurSansClasse();
     void marqueurDUnAutre();
+    void marqueurDerriereUnAutre();
     void insereCaractere();
     void enumere();
     void rienSurPoigneesMortes_data();
@@ -492,6 +493,21 @@ void tst_RoutinesFenetre::marqueurDUnAutre()
     QVERIFY(mesFenetres->IsWindow(autre));
 }
 
+void tst_RoutinesFenetre::marqueurDerriereUnAutre()
+{
+    // Deliberate: the first window of the class decides, and no process destroys another's.
+    HWND const notre = SingletonApplicationCreeFenetre("Unique", "Titre");
+    HWND const autre = AjouteFenetre(u"Unique"_s);
+
+    SingletonApplicationDetruitFenetre("Unique");
+
+    QVERIFY(mesFenetres->IsWindow(autre));
+    QVERIFY(mesFenetres->IsWindow(notre));
+    mesFenetres->Retire(autre);
+    SingletonApplicationDetruitFenetre("Unique");
+    QVERIFY(!mesFenetres->IsWindow(notre));
+}
+
 void tst_RoutinesFenetre::insereCaractere()
 {
     HWND const editeur = AjouteFenetre(u"Editeur"_s);
@@ -552,7 +568,15 @@ void tst_RoutinesFenetre::rienSurPoigneesMortes()
     MetsFenetreEnAvantPlanEtActive(morte, false);
     MetsFenetreEnAvantPlanEtActive(morte, true);
     QCOMPARE(mesFenetres->avantPlan, editeur);
-    QVERIFY(!nulle || mesFenetres->appels.isEmpty());
+    QStringList const tentatives{u"SetForegroundWindow(dead)"_s,
+                                 u"BringWindowToTop(dead)"_s,
+                                 u"AttachThreadInput(201, 0, true)"_s,
+                                 u"SetForegroundWindow(dead)"_s,
+                                 u"BringWindowToTop(dead)"_s,
+                                 u"AttachThreadInput(201, 0, false)"_s,
+                                 u"SetWindowPos(dead, HWND_TOPMOST, 0x3)"_s,
+                                 u"SetWindowPos(dead, HWND_NOTOPMOST, 0x3)"_s};
+    QCOMPARE(mesFenetres->appels, nulle ? QStringList() : tentatives);
     MetsFenetreEnAvantPlan(static_cast<QWidget *>(nullptr));
     MetsFenetreEnAvantPlanEtActive(static_cast<QWidget *>(nullptr), true);
     MinimiserFenetre(nullptr);

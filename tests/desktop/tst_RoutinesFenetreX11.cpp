@@ -1,6 +1,8 @@
 // tests/desktop/tst_RoutinesFenetreX11.cpp
 #include "desktop/RoutinesFenetre.h"
+#include "dialogs/DAlerte.h"
 #include "noyau/Contournement.h"
+#include "noyau/DAlerteInfo.h"
 #include "noyau/plateforme/PlateformeFenetres.h"
 #include "outils/ProgrammeEtranger.h"
 
@@ -34,6 +36,8 @@ private Q_SLOTS:
     void reprendsLAvantPlan();
     void reprendsLAvantPlanALUnGele();
     void boiteDevantDesQuElleParait();
+    void alerteDevantDesQuElleParait_data();
+    void alerteDevantDesQuElleParait();
     void levayeSansActiver();
     void envoieUnCaractere();
     void focusDeLAutre();
@@ -46,6 +50,7 @@ private:
     /// A foreign window, shown and in front; null when that did not come about.
     HWND Ouvre(QString const & titre, QString const & genre = u"fenetre"_s);
     bool EstDevant(HWND fenetre) const;
+    bool EstPremierPlan(HWND fenetre) const;
     /// Shows a window of ours and waits until it is in front.
     HWND Montre(QWidget & widget);
     static HWND DonneTexteur();
@@ -82,6 +87,11 @@ bool tst_RoutinesFenetreX11::EstDevant(HWND fenetre) const
 {
     return maPlateforme.GetForegroundWindow() == fenetre &&
            maPlateforme.GetTopWindow(nullptr) == fenetre && maPlateforme.IsWindowVisible(fenetre);
+}
+
+bool tst_RoutinesFenetreX11::EstPremierPlan(HWND fenetre) const
+{
+    return maPlateforme.GetWindowLongPtrW(fenetre, GWL_EXSTYLE) & LONG_PTR{WS_EX_TOPMOST};
 }
 
 HWND tst_RoutinesFenetreX11::Montre(QWidget & widget)
@@ -154,6 +164,9 @@ void tst_RoutinesFenetreX11::texteurIconique()
     maPlateforme.ShowWindow(editeur, SW_MINIMIZE);
     QTRY_VERIFY_WITH_TIMEOUT(maPlateforme.IsIconic(editeur), kDelai);
     QTRY_COMPARE_WITH_TIMEOUT(RechercheFenetreActive(), nullptr, kDelai);
+    // Deliberate: with nothing in front the search starts at the top of the stack, iconic or not.
+    QTRY_COMPARE_WITH_TIMEOUT(maPlateforme.GetForegroundWindow(), nullptr, kDelai);
+    QCOMPARE(DonneTexteur(), editeur);
 }
 
 void tst_RoutinesFenetreX11::dialogueMeneAuTexteur()
@@ -178,6 +191,7 @@ void tst_RoutinesFenetreX11::metsLAutreDevant()
     QVERIFY(autre);
     MetsFenetreEnAvantPlanEtActive(editeur, true);
     QTRY_VERIFY_WITH_TIMEOUT(EstDevant(editeur), kDelai);
+    QTRY_VERIFY_WITH_TIMEOUT(!EstPremierPlan(editeur), kDelai);
     // Without staying topmost: another one still comes in front of it.
     MetsFenetreEnAvantPlanEtActive(autre, false);
     QTRY_VERIFY_WITH_TIMEOUT(EstDevant(autre), kDelai);
@@ -223,8 +237,7 @@ void tst_RoutinesFenetreX11::reprendsLAvantPlan()
 
     QTRY_VERIFY_WITH_TIMEOUT(EstDevant(fenetre), kDelai);
     QTRY_VERIFY_WITH_TIMEOUT(notre.isActiveWindow(), kDelai);
-    QTRY_VERIFY_WITH_TIMEOUT(
-        !(maPlateforme.GetWindowLongPtrW(fenetre, GWL_EXSTYLE) & LONG_PTR{WS_EX_TOPMOST}), kDelai);
+    QTRY_VERIFY_WITH_TIMEOUT(!EstPremierPlan(fenetre), kDelai);
 }
 
 void tst_RoutinesFenetreX11::reprendsLAvantPlanALUnGele()
@@ -258,6 +271,48 @@ void tst_RoutinesFenetreX11::boiteDevantDesQuElleParait()
     boite.hide();
     QVERIFY(Ouvre(u"Autre"_s));
     QVERIFY(Montre(boite)); // a second time, when its window is there already
+}
+
+void tst_RoutinesFenetreX11::alerteDevantDesQuElleParait_data()
+{
+    QTest::addColumn<bool>("avecParent");
+    QTest::addColumn<bool>("parentIconique");
+    QTest::newRow("no parent") << false << false;
+    QTest::newRow("a parent behind") << true << false;
+    QTest::newRow("a minimised parent") << true << true;
+}
+
+void tst_RoutinesFenetreX11::alerteDevantDesQuElleParait()
+{
+    QFETCH(bool, avecParent);
+    QFETCH(bool, parentIconique);
+    QWidget notre;
+    QVERIFY(Montre(notre));
+    if (parentIconique) {
+        MinimiserFenetre(&notre);
+        QTRY_VERIFY_WITH_TIMEOUT(notre.isMinimized(), kDelai);
+    }
+    QVERIFY(Ouvre(u"Brouillon"_s));
+    bool devant = false;
+    bool premierPlan = true;
+    QTimer minuteur;
+    connect(&minuteur, &QTimer::timeout, this, [&] {
+        auto * const boite = qobject_cast<QMessageBox *>(QApplication::activeModalWidget());
+        if (!boite || !QTest::qWaitForWindowExposed(boite, kDelai))
+            return;
+        minuteur.stop();
+        HWND const fenetre = DonneHandleFenetre(boite);
+        devant = QTest::qWaitFor([&] { return EstDevant(fenetre); }, kDelai);
+        premierPlan = !QTest::qWaitFor([&] { return !EstPremierPlan(fenetre); }, kDelai);
+        boite->buttons().constFirst()->click();
+    });
+    minuteur.start(20);
+
+    DAlerteInfo const info(DAlerteInfo::kInformation, "Message", kUniChaineNulle, "Titre");
+    QCOMPARE(DAlerte(avecParent ? &notre : nullptr, info), DDialogue::kBoutonOk);
+
+    QVERIFY(devant);
+    QVERIFY(!premierPlan);
 }
 
 void tst_RoutinesFenetreX11::levayeSansActiver()
@@ -294,6 +349,12 @@ void tst_RoutinesFenetreX11::focusDeLAutre()
     HWND const editeur = Ouvre(u"Brouillon"_s);
     QVERIFY(editeur);
     QTRY_COMPARE_WITH_TIMEOUT(DonneControleEnFocusClavier(editeur), editeur, kDelai);
+
+    ProgrammeEtranger tiers(u"Tiers"_s);
+    HWND const autre = tiers.DemandePoignee(u"fenetre Tiers"_s);
+    QTRY_COMPARE_WITH_TIMEOUT(DonneControleEnFocusClavier(autre), autre, kDelai);
+    QCOMPARE(DonneControleEnFocusClavier(editeur), nullptr); // the focus is not the editor's
+
     QWidget notre;
     HWND const fenetre = Montre(notre);
     QVERIFY(fenetre);

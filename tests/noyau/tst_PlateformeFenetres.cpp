@@ -81,6 +81,7 @@ void tst_PlateformeFenetres::coucheNulle()
     QCOMPARE(couche.GetWindowThreadProcessId(fenetre, &processus), DWORD(0));
     QCOMPARE(processus, DWORD(0));
     QCOMPARE(couche.MonitorFromWindow(fenetre, MONITOR_DEFAULTTOPRIMARY), nullptr);
+    QCOMPARE(couche.SetWindowLongPtrW(fenetre, GWLP_HWNDPARENT, 0), LONG_PTR(0));
     QCOMPARE(couche.DonneNomClasse(fenetre), QString());
     QCOMPARE(couche.GetWindowTextW(fenetre), QString());
     QCOMPARE(couche.DonneExecutable(fenetre), QString());
@@ -187,6 +188,12 @@ void tst_PlateformeFenetres::fenetreLieesSimulees()
     QCOMPARE(couche.DonneEnfantDeClasse(principale, u"liste"_s), liste);
     QCOMPARE(couche.DonneEnfantDeClasse(principale, u"Dialogue"_s), nullptr);
     QCOMPARE(couche.DonneEnfantDeClasse(nullptr, u"Liste"_s), nullptr);
+
+    HWND const autre = couche.Ajoute({u"Autre"_s});
+    QCOMPARE(couche.SetWindowLongPtrW(dialogue, GWLP_HWNDPARENT, reinterpret_cast<LONG_PTR>(autre)),
+             reinterpret_cast<LONG_PTR>(principale));
+    QCOMPARE(couche.GetWindow(dialogue, GW_OWNER), autre);
+    QCOMPARE(couche.appels, QStringList{u"SetWindowLongPtrW(Dialogue, -8, Autre)"_s});
 }
 
 void tst_PlateformeFenetres::etatsSimules()

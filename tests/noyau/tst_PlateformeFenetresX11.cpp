@@ -34,6 +34,7 @@ private Q_SLOTS:
     void cacheEtMontre();
     void styles();
     void chefVisible();
+    void chefGereSansEtreAffiche();
     void activeQuandRienNEstActif();
     void enfants();
     void gel();
@@ -291,6 +292,20 @@ void tst_PlateformeFenetresX11::chefVisible()
     QTRY_COMPARE_WITH_TIMEOUT(maPlateforme.GetWindow(dialogue, GW_OWNER), nullptr, kDelai);
 }
 
+void tst_PlateformeFenetresX11::chefGereSansEtreAffiche()
+{
+    HWND const fenetre = Ouvre(u"Question"_s);
+    QVERIFY(fenetre);
+    QCOMPARE(maPlateforme.GetWindow(fenetre, GW_OWNER), nullptr);
+
+    HWND const chef = monProgramme->DemandePoignee(u"reserve"_s);
+
+    QVERIFY(chef);
+    QTRY_COMPARE_WITH_TIMEOUT(maPlateforme.GetWindow(fenetre, GW_OWNER), chef, kDelai);
+    QVERIFY(!maPlateforme.IsWindowVisible(chef));
+    QVERIFY(!maPlateforme.IsIconic(chef));
+}
+
 void tst_PlateformeFenetresX11::activeQuandRienNEstActif()
 {
     HWND const fenetre = Ouvre(u"Brouillon"_s);
@@ -534,6 +549,7 @@ void tst_PlateformeFenetresX11::focusEtAttachement()
 
     QTRY_COMPARE_WITH_TIMEOUT(maPlateforme.GetFocus(), etrangere, kDelai);
     QVERIFY(maPlateforme.AttachThreadInput(nous, eux, true));
+    QCOMPARE(maPlateforme.GetFocus(), etrangere);
     QVERIFY(maPlateforme.AttachThreadInput(nous, eux, false));
     QVERIFY(!maPlateforme.AttachThreadInput(nous, nous, true));
     QVERIFY(!maPlateforme.AttachThreadInput(nous, 0, true));

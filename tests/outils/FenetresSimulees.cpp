@@ -2,6 +2,7 @@
 #include "outils/FenetresSimulees.h"
 
 #include <algorithm>
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
@@ -276,6 +277,16 @@ bool FenetresSimulees::SetWindowPos(HWND fenetre, HWND apres, int x, int y, int 
     if (!(options & SWP_NOSIZE))
         description.client.setSize({largeur, hauteur});
     return true;
+}
+
+LONG_PTR FenetresSimulees::SetWindowLongPtrW(HWND fenetre, int indice, LONG_PTR valeur)
+{
+    HWND const proprietaire = DonnePoignee(static_cast<quintptr>(valeur));
+    Note("SetWindowLongPtrW", fenetre, {QString::number(indice), DonneNom(proprietaire)});
+    if (!Cherche(fenetre) || indice != GWLP_HWNDPARENT)
+        return 0;
+    HWND const avant = std::exchange(Prete(fenetre).proprietaire, proprietaire);
+    return reinterpret_cast<LONG_PTR>(avant);
 }
 
 HWND FenetresSimulees::GetFocus()

@@ -85,6 +85,7 @@ public:
     bool ShowWindow(HWND fenetre, int commande) override;
     bool SetWindowPos(HWND fenetre, HWND apres, int x, int y, int largeur, int hauteur,
                       UINT options) override;
+    LONG_PTR SetWindowLongPtrW(HWND fenetre, int indice, LONG_PTR valeur) override;
 
     HWND GetFocus() override;
     DWORD GetCurrentThreadId() override;

@@ -13,6 +13,7 @@
 
 #include <xcb/xcb.h>
 
+#include <cstdint>
 #include <cstdlib>
 #include <iostream>
 #include <map>
@@ -53,6 +54,8 @@ public:
             NommeChef(mesFenetres.at(argument)->winId());
             return u"ok"_s;
         }
+        if (commande == "reserve"_L1)
+            return QString::number(NommeChefEnReserve());
         if (commande == "trouve"_L1)
             return QString::number(reinterpret_cast<quintptr>(
                 PlateformeFenetres::Courante().FindWindowW(argument, {})));
@@ -77,21 +80,51 @@ private:
     // As programs did whose main window led their group, in the place of Qt's hidden one.
     void NommeChef(WId chef)
     {
-        auto * const connexion =
-            qApp->nativeInterface<QNativeInterface::QX11Application>()->connection();
-        constexpr std::string_view kNom = "WM_CLIENT_LEADER";
-        std::unique_ptr<xcb_intern_atom_reply_t, decltype(&std::free)> const atome(
-            xcb_intern_atom_reply(connexion,
-                                  xcb_intern_atom(connexion, 0, kNom.size(), kNom.data()), nullptr),
-            &std::free);
-        auto const valeur = static_cast<xcb_window_t>(chef);
         for (auto const & [titre, fenetre] : mesFenetres)
-            xcb_change_property(connexion, XCB_PROP_MODE_REPLACE,
-                                static_cast<xcb_window_t>(fenetre->winId()), atome->atom,
-                                XCB_ATOM_WINDOW, 32, 1, &valeur);
-        xcb_flush(connexion);
+            EcrisMot(fenetre->winId(), DonneAtome("WM_CLIENT_LEADER"), XCB_ATOM_WINDOW,
+                     static_cast<std::uint32_t>(chef));
     }
 
+    // A leader that owns all the windows, and that a manager keeps without showing it, not even as
+    // an icon: as the windows of another desktop may be.
+    WId NommeChefEnReserve()
+    {
+        monChef = std::make_unique<QWidget>();
+        WId const chef = monChef->winId();
+        xcb_atom_t const etat = DonneAtome("WM_STATE");
+        EcrisMot(chef, etat, etat, 1); // normal
+        for (auto const & [titre, fenetre] : mesFenetres)
+            EcrisMot(fenetre->winId(), XCB_ATOM_WM_TRANSIENT_FOR, XCB_ATOM_WINDOW,
+                     static_cast<std::uint32_t>(chef));
+        NommeChef(chef);
+        return chef;
+    }
+
+    static xcb_connection_t * PreteConnexion()
+    {
+        return qApp->nativeInterface<QNativeInterface::QX11Application>()->connection();
+    }
+
+    static xcb_atom_t DonneAtome(std::string_view nom)
+    {
+        std::unique_ptr<xcb_intern_atom_reply_t, decltype(&std::free)> const atome(
+            xcb_intern_atom_reply(PreteConnexion(),
+                                  xcb_intern_atom(PreteConnexion(), 0,
+                                                  static_cast<std::uint16_t>(nom.size()),
+                                                  nom.data()),
+                                  nullptr),
+            &std::free);
+        return atome->atom;
+    }
+
+    static void EcrisMot(WId fenetre, xcb_atom_t propriete, xcb_atom_t type, std::uint32_t mot)
+    {
+        xcb_change_property(PreteConnexion(), XCB_PROP_MODE_REPLACE,
+                            static_cast<xcb_window_t>(fenetre), propriete, type, 32, 1, &mot);
+        xcb_flush(PreteConnexion());
+    }
+
+    std::unique_ptr<QWidget> monChef;
     std::map<QString, std::unique_ptr<QWidget>> mesFenetres;
 };
 } // namespace

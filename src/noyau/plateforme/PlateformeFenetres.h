@@ -66,8 +66,12 @@ public:
     virtual bool ShowWindow(HWND fenetre, int commande) = 0;
     virtual bool SetWindowPos(HWND fenetre, HWND apres, int x, int y, int largeur, int hauteur,
                               UINT options) = 0;
+    /// Changes `GWLP_HWNDPARENT`, the owner of a top-level window; answers the number before, or 0.
+    /// Does nothing on X11, where Qt names the owner of its windows itself.
+    virtual LONG_PTR SetWindowLongPtrW(HWND fenetre, int indice, LONG_PTR valeur) = 0;
 
     // Input and messages
+    /// While the thread is attached to others, none but a window of theirs or of its own.
     virtual HWND GetFocus() = 0;
     virtual DWORD GetCurrentThreadId() = 0;
     virtual bool AttachThreadInput(DWORD thread, DWORD versThread, bool attache) = 0;

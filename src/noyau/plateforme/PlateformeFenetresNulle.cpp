@@ -30,6 +30,7 @@ public:
     bool BringWindowToTop(HWND) override { return false; }
     bool ShowWindow(HWND, int) override { return false; }
     bool SetWindowPos(HWND, HWND, int, int, int, int, UINT) override { return false; }
+    LONG_PTR SetWindowLongPtrW(HWND, int, LONG_PTR) override { return 0; }
     HWND GetFocus() override { return nullptr; }
     DWORD GetCurrentThreadId() override { return 0; }
     bool AttachThreadInput(DWORD, DWORD, bool) override { return false; }

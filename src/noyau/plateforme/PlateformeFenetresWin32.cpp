@@ -100,6 +100,10 @@ public:
     {
         return ::SetWindowPos(fenetre, apres, x, y, largeur, hauteur, options);
     }
+    LONG_PTR SetWindowLongPtrW(HWND fenetre, int indice, LONG_PTR valeur) override
+    {
+        return ::SetWindowLongPtrW(fenetre, indice, valeur);
+    }
 
     HWND GetFocus() override { return ::GetFocus(); }
     DWORD GetCurrentThreadId() override { return ::GetCurrentThreadId(); }

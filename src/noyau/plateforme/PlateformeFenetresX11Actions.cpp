@@ -6,9 +6,6 @@
 #include <algorithm>
 #include <limits>
 
-#include <cerrno>
-#include <csignal>
-
 #include <unistd.h>
 
 namespace {
@@ -114,25 +111,9 @@ bool PlateformeFenetresX11::SetWindowPos(HWND fenetre, HWND apres, int x, int y,
     return Deplace(xid, QRect(x, y, largeur, hauteur), options) && reussite;
 }
 
-HWND PlateformeFenetresX11::GetFocus()
+LONG_PTR PlateformeFenetresX11::SetWindowLongPtrW(HWND, int, LONG_PTR)
 {
-    maConnexion.RattrapeQt();
-    return DonneHwnd(DonneFocus());
-}
-
-DWORD PlateformeFenetresX11::GetCurrentThreadId()
-{
-    return static_cast<DWORD>(getpid());
-}
-
-bool PlateformeFenetresX11::AttachThreadInput(DWORD thread, DWORD versThread, bool)
-{
-    // The input of all programs is one here, so there is nothing to attach. The answer tells what
-    // callers learn by it: two programs, both alive.
-    auto const vit = [](DWORD numero) {
-        return numero != 0 && (kill(static_cast<pid_t>(numero), 0) == 0 || errno == EPERM);
-    };
-    return thread != versThread && vit(thread) && vit(versThread);
+    return 0;
 }
 
 bool PlateformeFenetresX11::PostMessageW(HWND fenetre, UINT message, WPARAM wParam, LPARAM)

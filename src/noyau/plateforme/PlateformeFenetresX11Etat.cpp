@@ -9,6 +9,9 @@
 #include <algorithm>
 #include <limits>
 
+#include <cerrno>
+#include <csignal>
+
 #include <unistd.h>
 
 namespace {
@@ -124,6 +127,41 @@ bool PlateformeFenetresX11::ClientToScreen(HWND fenetre, POINT * point)
     point->x += origine->dst_x;
     point->y += origine->dst_y;
     return true;
+}
+
+HWND PlateformeFenetresX11::GetFocus()
+{
+    maConnexion.RattrapeQt();
+    xcb_window_t const focus = DonneFocus();
+    if (focus == XCB_NONE || mesProgrammesAttaches.empty())
+        return DonneHwnd(focus);
+    // There is one focus for all programs, which a third one may have.
+    DWORD const processus = DonneProcessus(focus);
+    bool const estDesNotres = processus == GetCurrentThreadId() ||
+                              std::find(mesProgrammesAttaches.begin(), mesProgrammesAttaches.end(),
+                                        processus) != mesProgrammesAttaches.end();
+    return estDesNotres ? DonneHwnd(focus) : nullptr;
+}
+
+DWORD PlateformeFenetresX11::GetCurrentThreadId()
+{
+    return static_cast<DWORD>(getpid());
+}
+
+bool PlateformeFenetresX11::AttachThreadInput(DWORD thread, DWORD versThread, bool attache)
+{
+    DWORD const nous = GetCurrentThreadId();
+    if (thread == nous || versThread == nous)
+        std::erase(mesProgrammesAttaches, thread == nous ? versThread : thread);
+    // The input of all programs is one here, so there is nothing to attach. The answer tells what
+    // callers learn by it: two programs, both alive.
+    auto const vit = [](DWORD numero) {
+        return numero != 0 && (kill(static_cast<pid_t>(numero), 0) == 0 || errno == EPERM);
+    };
+    bool const reussite = thread != versThread && vit(thread) && vit(versThread);
+    if (reussite && attache && (thread == nous || versThread == nous))
+        mesProgrammesAttaches.push_back(thread == nous ? versThread : thread);
+    return reussite;
 }
 
 DWORD PlateformeFenetresX11::GetSysColor(int indice)

@@ -49,6 +49,7 @@ public:
     bool ShowWindow(HWND fenetre, int commande) override;
     bool SetWindowPos(HWND fenetre, HWND apres, int x, int y, int largeur, int hauteur,
                       UINT options) override;
+    LONG_PTR SetWindowLongPtrW(HWND fenetre, int indice, LONG_PTR valeur) override;
 
     // Input and messages
     HWND GetFocus() override;
@@ -135,4 +136,5 @@ private:
     xcb_atom_t monAtomeOpacite = XCB_ATOM_NONE;
     std::vector<QString> mesClasses; // those registered, case folded
     std::map<xcb_window_t, FenetreCreee> mesFenetres;
+    std::vector<DWORD> mesProgrammesAttaches; // to this one
 };

@@ -70,6 +70,9 @@ constexpr UINT GW_CHILD = 5;
 constexpr int GWL_STYLE = -16;
 constexpr int GWL_EXSTYLE = -20;
 
+// SetWindowLongPtrW
+constexpr int GWLP_HWNDPARENT = -8;
+
 constexpr DWORD WS_POPUP = 0x80000000;
 constexpr DWORD WS_CHILD = 0x40000000;
 constexpr DWORD WS_MINIMIZE = 0x20000000;

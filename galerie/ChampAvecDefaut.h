@@ -8,7 +8,7 @@
 class ChampAvecDefaut : public QLineEdit
 {
     Q_OBJECT
-    Q_PROPERTY(QString saisie READ DonneSaisie WRITE MetsSaisie USER true)
+    Q_PROPERTY(QString saisie READ DonneSaisie WRITE MetsSaisie NOTIFY textChanged USER true)
 
 public:
     using QLineEdit::QLineEdit;

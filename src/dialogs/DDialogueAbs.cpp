@@ -96,9 +96,11 @@ eBoutons DDialogueAbs::ExecuteDialogue()
     Issue issue = DonneIssue();
     UniChaine texte;
     if (issue.nature == eIssue::kMontree) {
+        auto const donnee = std::make_shared<int>(issue.reponse);
         QObject::connect(maBoite, &DMessageBox::SignalEnFermeture, maBoite,
-                         [&issue](eBoutons reponse) { issue.reponse = reponse; });
+                         [donnee](eBoutons reponse) { *donnee = static_cast<int>(reponse); });
         maBoite->exec(); // destroys the box
+        issue.reponse = *donnee;
         texte = DonneTextePourJournal(issue.reponse, message, texteDuStockage);
     } else {
         QPointer<DMessageBox> const boite = maBoite;

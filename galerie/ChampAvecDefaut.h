@@ -8,7 +8,9 @@
 class ChampAvecDefaut : public QLineEdit
 {
     Q_OBJECT
-    Q_PROPERTY(QString saisie READ DonneSaisie WRITE MetsSaisie NOTIFY textChanged USER true)
+    // Read and written when the page is built anew; nobody waits for its changes.
+    // clazy:excludeall=qproperty-without-notify
+    Q_PROPERTY(QString saisie READ DonneSaisie WRITE MetsSaisie USER true)
 
 public:
     using QLineEdit::QLineEdit;

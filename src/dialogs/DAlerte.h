@@ -3,12 +3,12 @@
 
 #include "dialogs/DDialogue.h"
 
+#include "noyau/DAlerteInfo.h"
 #include "noyau/UniChaine.h"
 #include "noyau/plateforme/TypesWin32.h"
 
 #include <list>
 
-class DAlerteInfo;
 class QWidget;
 
 /// \file
@@ -44,8 +44,10 @@ class QWidget;
 /// - The text of a bubble is not escaped: mark-up in it is rendered.
 /// - The tick in "do not show again" together with Cancel, Close, Help or the escape button (unless
 ///   that is OK) is forgotten: such an answer is never remembered.
-/// - Links never open by themselves: a click on a number closes the box as Escape does, a click on
-///   an address opens the browser and the box stays.
+/// - Links never open by themselves: a click on a number closes the box as its window does, a click
+///   on an address opens the browser and the box stays.
+/// - A box that is closed by its window answers with the button of `echap`, and `kBoutonAnnuler`
+///   where the mask has no such button, whatever Qt lets the Escape key press then.
 
 /// `rappel`, but called on the GUI thread: at once when it is called there, and otherwise through
 /// the event loop. An empty one stays empty. Calls that come once the application object is gone

@@ -77,9 +77,11 @@ DAlerteEphemere * DAlerteEphemere::alerteCourante = nullptr;
 void DAlerteEphemere::Affiche(QWidget * parent, DAlerteInfo const & info, QPixmap pixmap)
 {
     delete alerteCourante; // its destructor clears the pointer
-    alerteCourante =
+    auto * const bulle =
         new DAlerteEphemere(parent, info.DonneMessage(), info.DonneExplication(), pixmap,
                             RoutinesBulle::DonneDureeAffichage(info.dureeAffichage));
+    delete alerteCourante; // who hears of the showing may have shown another
+    alerteCourante = bulle;
 }
 
 // A window from the start: as a plain child it would be centred in the coordinates of its parent,
@@ -105,7 +107,8 @@ DAlerteEphemere::DAlerteEphemere(QWidget * parent, QString const & message,
 DAlerteEphemere::~DAlerteEphemere()
 {
     QAccessible::removeFactory(&CreeInterfaceAccessible);
-    alerteCourante = nullptr;
+    if (alerteCourante == this)
+        alerteCourante = nullptr;
 }
 
 void DAlerteEphemere::CreeContenu(QString const & texte, QPixmap const & pixmap)
@@ -178,5 +181,5 @@ void DAlerteEphemere::PriseAnimationFade()
     QPointer<DAlerteEphemere> const moi(this); // who hears of the closing may show another alert
     close();
     if (moi)
-        alerteCourante->deleteLater();
+        moi->deleteLater();
 }

@@ -13,15 +13,15 @@ class DDialogueAbs;
 ///
 /// The alert functions make it; an application sees it, if at all, among the top-level widgets. It
 /// never closes itself as a `QMessageBox` does: each way out gives the answer first, and only then
-/// ends the box, whose `result()` is the answer. It answers once. `clickedButton()` stays null. A
-/// box that is to answer without being shown has no icon, font or style sheet. Showing it may block
-/// for half a second, or for 5 s with a workaround, when the window in front hangs (see
-/// `RoutinesFenetre::FenetreEstGelee`).
+/// ends the box, whose `result()` is the answer. It answers once. `clickedButton()` stays null
+/// after a click. A box that is to answer without being shown has no icon, font or style sheet.
+/// Showing it may block for half a second, or for 5 s with a workaround, when the window in front
+/// hangs (see `RoutinesFenetre::FenetreEstGelee`).
 ///
-/// Links never open by themselves. One whose target is a number closes the box as Escape does, and
-/// leaves the number with `kBoutonLien` in `result()`, which is gone with the box when the alert
-/// blocks; without an escape button the box stays. Any other valid address opens in the user's
-/// browser, and the box stays.
+/// Links never open by themselves. One whose target is a number closes the box as its window does,
+/// and leaves the number with `kBoutonLien` in `result()`, which is gone with the box when the
+/// alert blocks; without an escape button the box stays. Any other valid address opens in the
+/// user's browser, and the box stays.
 class FABRELGUI_EXPORT DMessageBox : public QMessageBox
 {
     Q_OBJECT

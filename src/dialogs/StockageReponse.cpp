@@ -5,9 +5,9 @@ namespace {
 
 constexpr QLatin1StringView kGroupe("messageMemoire");
 
-QSettings * CopieReglages(QSettings const & modele)
+std::shared_ptr<QSettings> CopieReglages(QSettings const & modele)
 {
-    return new QSettings(modele.fileName(), modele.format(), modele.parent());
+    return std::make_shared<QSettings>(modele.fileName(), modele.format(), modele.parent());
 }
 
 } // namespace
@@ -27,10 +27,7 @@ StockageReponse::StockageReponse(StockageReponse const & autre)
 {
 }
 
-StockageReponse::~StockageReponse()
-{
-    delete mesReglages;
-}
+StockageReponse::~StockageReponse() = default;
 
 void StockageReponse::Initialise(DDialogue::eTypStockeur type, UniChaine const & nomFichier,
                                  QSettings::Format format)

@@ -10,6 +10,7 @@
 #include <QSettings>
 
 #include <map>
+#include <memory>
 #include <utility>
 
 /// The remembered answers: for each alert, known by its GUID, the button that the user chose.
@@ -22,8 +23,7 @@ class FABRELGUI_EXPORT StockageReponse
 {
 public:
     StockageReponse(StockageReponse const & autre);
-    /// Deliberate: shares the settings of `autre` instead of opening its own, and each of the two
-    /// would delete them. Nothing in the library assigns.
+    /// Deliberate: shares the settings of `autre` instead of opening its own.
     StockageReponse & operator=(StockageReponse const & autre) = default;
     virtual ~StockageReponse();
 
@@ -61,5 +61,5 @@ private:
     bool monAfficheCase;
     UniChaine monGuid;
     DDialogue::eTypStockeur monType;
-    QSettings * mesReglages; // owned
+    std::shared_ptr<QSettings> mesReglages; // its own, until it is assigned
 };

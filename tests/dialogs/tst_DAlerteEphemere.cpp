@@ -130,6 +130,7 @@ private Q_SLOTS:
     void remplaceeAussitot_data();
     void remplaceeAussitot();
     void remplaceePendantSaFermeture();
+    void autreBullePendantQuElleApparait();
     void parentDetruit();
     void detruiteParUnAutre();
 };
@@ -486,6 +487,29 @@ void tst_DAlerteEphemere::remplaceePendantSaFermeture()
     QCOMPARE(Bulles().size(), 1);
     QCOMPARE(Bulles().first()->accessibleName(), u"second"_s);
     QVERIFY(Bulles().first()->isVisible());
+}
+
+void tst_DAlerteEphemere::autreBullePendantQuElleApparait()
+{
+    class Relanceur : public QObject
+    {
+    public:
+        bool eventFilter(QObject * objet, QEvent * evenement) override
+        {
+            if (evenement->type() == QEvent::Show && qobject_cast<DAlerteEphemere *>(objet)) {
+                qApp->removeEventFilter(this);
+                Affiche(nullptr, 0.0F, u"interieure"_s);
+            }
+            return false;
+        }
+    } relanceur;
+    qApp->installEventFilter(&relanceur);
+    DAlerteInfo info(DAlerteInfo::kEphemere, UniChaine("exterieure"));
+    info.dureeAffichage = 0.0F;
+    DAlerteEphemere::Affiche(nullptr, info, {});
+    QCOMPARE(Bulles().size(), 1);
+    QCOMPARE(Bulles().first()->accessibleName(), u"exterieure"_s);
+    QTRY_VERIFY(Bulles().isEmpty());
 }
 
 void tst_DAlerteEphemere::parentDetruit()

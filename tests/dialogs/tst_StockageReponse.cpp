@@ -24,6 +24,7 @@ private Q_SLOTS:
     void oublieCeQuUnAutreAEcrit();
     void valeurDuFichierNEstPasFiltree();
     void copieIndependante();
+    void affectationPartageLesReglages();
     void libereSingletonsGardeLesFichiers();
     void typeJamaisInitialisay();
     void journal();
@@ -158,6 +159,19 @@ void tst_StockageReponse::copieIndependante()
     QVERIFY(copie.JAfficheCaseACocher());
     QVERIFY(StockageReponse::Instance(StockeurNePlusMAviser, UniChaine("un"))
                 ->UtilisateurADejaRepondu());
+}
+
+void tst_StockageReponse::affectationPartageLesReglages()
+{
+    StockageReponse un(*StockageReponse::Instance(StockeurNePlusMAviser, UniChaine("un")));
+    StockageReponse deux(*StockageReponse::Instance(StockeurParDefaut, UniChaine("deux")));
+    deux = un;
+    QVERIFY(deux.JAfficheCaseACocher());
+    deux.ActualiseReponse(DDialogue::kBoutonOui); // under the GUID that came along
+    QCOMPARE(un.DonneReponseEnregistree(), DDialogue::kBoutonOui);
+    StockageReponse const & memeObjet = deux;
+    deux = memeObjet;
+    QCOMPARE(deux.DonneReponseEnregistree(), DDialogue::kBoutonOui);
 }
 
 void tst_StockageReponse::libereSingletonsGardeLesFichiers()

@@ -1,6 +1,7 @@
 // tests/desktop/tst_RoutinesFenetreX11.cpp
 #include "desktop/RoutinesFenetre.h"
 #include "dialogs/DAlerte.h"
+#include "dialogs/StockageReponse.h"
 #include "noyau/Contournement.h"
 #include "noyau/DAlerteInfo.h"
 #include "noyau/plateforme/PlateformeFenetres.h"
@@ -75,6 +76,7 @@ void tst_RoutinesFenetreX11::cleanup()
     monProgramme.reset();
     Contournement::Efface(u"UtiliserSendMessageTimeout"_s, u"Choix"_s);
     QVERIFY(QApplication::topLevelWidgets().isEmpty());
+    StockageReponse::LibereSingletons();
 }
 
 HWND tst_RoutinesFenetreX11::Ouvre(QString const & titre, QString const & genre)

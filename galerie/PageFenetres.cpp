@@ -24,8 +24,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int kHauteurLigne = 24; // logical pixels
-
 // Columns
 enum
 {
@@ -173,13 +171,8 @@ QWidget * PageFenetres::CreeListe()
     }
     maTable->setHorizontalHeaderLabels(titres);
     maTable->setEditTriggers(QAbstractItemView::NoEditTriggers);
-    maTable->setSelectionBehavior(QAbstractItemView::SelectRows);
     maTable->setSelectionMode(QAbstractItemView::SingleSelection);
-    maTable->setAlternatingRowColors(true);
-    maTable->setTabKeyNavigation(false); // Tab leaves the table: the arrows move inside it
-    maTable->setWordWrap(false);
-    maTable->verticalHeader()->hide();
-    maTable->verticalHeader()->setDefaultSectionSize(kHauteurLigne);
+    PrepareTable(*maTable);
     maTable->horizontalHeader()->setStretchLastSection(true);
 
     auto * const liste = new QWidget;

@@ -25,7 +25,6 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr int kNombreAuDepart = 0;   // a singular in French, a plural in English
-constexpr int kHauteurLigne = 24;    // logical pixels
 constexpr int kLargeurColonne = 150; // logical pixels
 constexpr int kContexte = 1;         // column
 constexpr int kLargeurContexte = 250;
@@ -102,12 +101,7 @@ void PageTextes::RemplisTable()
     maTable->setRowCount(static_cast<int>(cles.size()));
     maTable->setHorizontalHeaderLabels(titres);
     maTable->setEditTriggers(QAbstractItemView::NoEditTriggers);
-    maTable->setSelectionBehavior(QAbstractItemView::SelectRows);
-    maTable->setAlternatingRowColors(true);
-    maTable->setTabKeyNavigation(false); // Tab leaves the table: the arrows move inside it
-    maTable->setWordWrap(false);
-    maTable->verticalHeader()->hide();
-    maTable->verticalHeader()->setDefaultSectionSize(kHauteurLigne);
+    PrepareTable(*maTable);
     maTable->horizontalHeader()->setStretchLastSection(true);
     for (int colonne = 0; colonne < maTable->columnCount(); ++colonne)
         maTable->setColumnWidth(colonne, colonne == kContexte ? kLargeurContexte : kLargeurColonne);

@@ -38,7 +38,6 @@ enum eColonne
 constexpr QSize kTailleEchantillon(56, 16);
 constexpr int kLargeurValeur = 260;
 constexpr int kLargeurApercu = 90;
-constexpr int kHauteurLigne = 24;
 constexpr int kHauteurEssai = 150;
 
 // Over black and white halves, so that a transparent colour shows as one.
@@ -104,12 +103,8 @@ void PageTheme::CreeTable()
     maTable->setAccessibleName(TraductionGalerie(TexteGalerie("Variables du thème")));
     maTable->setModel(&monFiltre);
     maTable->setIconSize(kTailleEchantillon);
-    maTable->setAlternatingRowColors(true);
-    maTable->setSelectionBehavior(QAbstractItemView::SelectRows);
     maTable->setSelectionMode(QAbstractItemView::SingleSelection);
-    maTable->setTabKeyNavigation(false); // Tab leaves the table: the arrows move inside it
-    maTable->verticalHeader()->hide();
-    maTable->verticalHeader()->setDefaultSectionSize(kHauteurLigne);
+    PrepareTable(*maTable);
     maTable->horizontalHeader()->setSectionResizeMode(kNom, QHeaderView::Stretch);
     maTable->setColumnWidth(kValeur, kLargeurValeur);
     maTable->setColumnWidth(kApercu, kLargeurApercu);

@@ -9,7 +9,9 @@
 #include "PageTheme.h"
 #include "TraductionGalerie.h"
 
+#include <QHeaderView>
 #include <QLabel>
+#include <QTableView>
 #include <QVBoxLayout>
 
 using namespace Qt::StringLiterals;
@@ -51,4 +53,16 @@ QVBoxLayout * CreeMiseEnPage(QWidget * page, QString const & titre, QString cons
     etiquetteExplication->setWordWrap(true);
     disposition->addWidget(etiquetteExplication);
     return disposition;
+}
+
+void PrepareTable(QTableView & table)
+{
+    constexpr int kHauteurLigne = 24; // logical pixels
+
+    table.setSelectionBehavior(QAbstractItemView::SelectRows);
+    table.setAlternatingRowColors(true);
+    table.setTabKeyNavigation(false); // the arrows move inside it
+    table.setWordWrap(false);
+    table.verticalHeader()->hide();
+    table.verticalHeader()->setDefaultSectionSize(kHauteurLigne);
 }

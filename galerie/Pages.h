@@ -6,6 +6,7 @@
 #include <QList>
 #include <QString>
 
+class QTableView;
 class QVBoxLayout;
 class QWidget;
 class ThemeGalerie;
@@ -23,3 +24,7 @@ QList<DescriptionPage> const & DonnePages();
 
 /// The layout of a page, begun with its title and a sentence on what the page shows.
 QVBoxLayout * CreeMiseEnPage(QWidget * page, QString const & titre, QString const & explication);
+
+/// Gives a table the look and the keys that those of all pages have: whole striped rows, no line
+/// numbers, and a Tab key that leaves it.
+void PrepareTable(QTableView & table);

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QColor>
+#include <QPalette>
 
 // Overlays: black of little alpha, so that they darken any background a little.
 namespace CouleursStyle {
@@ -28,5 +29,19 @@ constexpr QColor kBoutonOutilSurvolay = Noir(20);
 constexpr QColor kBoutonOutilCochaySurvolay = Noir(30);
 constexpr QColor kBoutonOutilEnfoncay = Noir(35);
 constexpr QColor kSeparateurMenuBouton = Noir(20);
+
+/// Whether the text of the palette is lighter than its background.
+inline bool EstSombre(QPalette const & palette)
+{
+    return palette.color(QPalette::WindowText).lightness() >
+           palette.color(QPalette::Window).lightness();
+}
+
+/// The overlay on the backgrounds of `palette`: white of the same alpha on dark ones, where black
+/// is not seen.
+inline QColor Voile(QColor const & noir, QPalette const & palette)
+{
+    return EstSombre(palette) ? QColor(255, 255, 255, noir.alpha()) : noir;
+}
 
 } // namespace CouleursStyle

@@ -18,6 +18,8 @@
 
 using namespace Qt::StringLiterals;
 
+using CouleursStyle::Voile;
+
 namespace {
 
 // Logical pixels.
@@ -170,7 +172,7 @@ void DStyleProxy::DessineFondItem(QStyleOptionViewItem const & option, QPainter 
     int const rayonGauche = libreAGauche ? kRayonItem : 0;
     int const rayonDroite = libreADroite ? kRayonItem : 0;
     peintre->fillPath(DonneRectArondi(rect, rayonGauche, rayonDroite, rayonDroite, rayonGauche),
-                      CouleursStyle::kFondItem);
+                      Voile(CouleursStyle::kFondItem, option.palette));
 }
 
 QPainterPath DStyleProxy::DonneRectArondi(QRect const & rect, int hautGauche, int hautDroite,
@@ -217,6 +219,17 @@ void DStyleProxy::DessinePanneauItem(QStyleOptionViewItem const & option, QPaint
     }
 }
 
+// What is beside the items of a tree, and the stripes of all views.
+void DStyleProxy::DessineRangee(QStyleOptionViewItem const & option, QPainter * peintre,
+                                QWidget const * widget) const
+{
+    auto copie = ActivePalette(option);
+    // The base style goes on with the background of the selected items, whose colour is ours.
+    if (!EstTable(widget))
+        copie.palette.setColor(QPalette::Highlight, Voile(CouleursStyle::kFondItem, copie.palette));
+    QProxyStyle::drawPrimitive(PE_PanelItemViewRow, &copie, peintre, widget);
+}
+
 void DStyleProxy::DessineSelecteurAccentListe(QPainter * peintre,
                                               QStyleOptionViewItem const & option, QWidget const *,
                                               QColor const & couleur)
@@ -229,7 +242,7 @@ void DStyleProxy::DessineSelecteurAccentListe(QPainter * peintre,
 void DStyleProxy::DessineSectionEntete(QStyleOptionHeader const & option, QPainter * peintre)
 {
     if (option.state & State_MouseOver)
-        peintre->fillRect(option.rect, CouleursStyle::kSurvolEntete);
+        peintre->fillRect(option.rect, Voile(CouleursStyle::kSurvolEntete, option.palette));
     bool const estPremiere = option.position == QStyleOptionHeader::Beginning ||
                              option.position == QStyleOptionHeader::OnlyOneSection;
     if (estPremiere)
@@ -239,5 +252,5 @@ void DStyleProxy::DessineSectionEntete(QStyleOptionHeader const & option, QPaint
                                                             : QSize(1, option.rect.height());
     peintre->fillRect(
         visualRect(option.direction, option.rect, QRect(option.rect.topLeft(), taille)),
-        CouleursStyle::kSeparateurEntete);
+        Voile(CouleursStyle::kSeparateurEntete, option.palette));
 }

@@ -13,6 +13,8 @@
 class DLabelElision;
 class QLabel;
 class QStyleOptionButton;
+class QStyleOptionComboBox;
+class QStyleOptionHeader;
 class QStyleOptionMenuItem;
 class QStyleOptionTab;
 class QStyleOptionToolButton;
@@ -157,6 +159,43 @@ private:
     void DessineIndicateur(QPainter & peintre, QStyleOption const & option) const;
     static bool PossedeDPIEntier(QWidget const * widget);
     static void ArreteAnimations(QStyleOption const * option, QWidget const * widget);
+    bool SelectionnaySurFondAccent() const;
+
+    // One control element or primitive each.
+    void DessineItemMenu(ControlElement element, QStyleOptionMenuItem const & option,
+                         QPainter * peintre, QWidget const * widget) const;
+    bool DessineElement(ControlElement element, QStyleOption const * option, QPainter * peintre,
+                        QWidget const * widget) const;
+    bool DessineCadre(QStyleOption const * option, QPainter * peintre,
+                      QWidget const * widget) const;
+    void DessineFondBouton(QStyleOptionButton const & option, QPainter * peintre,
+                           QWidget const * widget) const;
+    QColor DonneFondBouton(QStyleOptionButton const & option) const;
+    void DessineTexteBouton(QStyleOptionButton const & option, QPainter * peintre,
+                            QWidget const * widget) const;
+    static void DessineOnglet(QStyleOptionTab const & option, QPainter * peintre,
+                              QWidget const * widget);
+    void DessineItemVue(QStyleOptionViewItem const & option, QPainter * peintre,
+                        QWidget const * widget) const;
+    static void DessineFondItem(QStyleOptionViewItem const & option, QPainter * peintre,
+                                QWidget const * widget);
+    void DessinePanneauItem(QStyleOptionViewItem const & option, QPainter * peintre,
+                            QWidget const * widget) const;
+    bool SuitRegles(QString const & texte, eContextePourStyle contexte,
+                    QWidget const * widget) const;
+    void EcrisItem(QStyleOptionViewItem const & option, QPalette const & palette,
+                   QPainter * peintre, QWidget const * widget, QWidget const * decideur) const;
+    void DessineTexteBoutonOutil(QStyleOptionToolButton const & option, QPainter * peintre,
+                                 QWidget const * widget) const;
+    static void DessineSectionEntete(QStyleOptionHeader const & option, QPainter * peintre);
+    void DessinePanneauBoutonOutil(QStyleOption const & option, QPainter * peintre,
+                                   QWidget const * widget) const;
+    void DessineBoutonOutil(QStyleOptionToolButton const & option, QPainter * peintre,
+                            QWidget const * widget) const;
+    void DessineComboBox(QStyleOptionComboBox const & option, QPainter * peintre,
+                         QWidget const * widget) const;
+    int MesureTexteItemMenu(QStyleOptionMenuItem const & option, QWidget const * widget) const;
+    QLabel & PreteLabel(QPointer<QLabel> & label) const;
 
     // Measuring and drawing rich text: hidden labels without a parent, made on first use.
     mutable QPointer<QLabel> monLabelMesure;
@@ -166,4 +205,5 @@ private:
     // drawn outside of it.
     mutable QPointer<QWidget const> monWidgetDessinay;
     QPointer<DLabelElision> monLabelElision;
+    mutable bool monFondItemPeint = false; // of the item that the base style is drawing
 };

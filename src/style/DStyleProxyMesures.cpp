@@ -1,0 +1,118 @@
+// style/DStyleProxyMesures.cpp
+//
+// Metrics, sizes, hints, and the parts of simple elements.
+#include "style/DStyleProxy.h"
+#include "style/InterpreteurChaineSemantique.h"
+#include "style/LecturePropriete_p.h"
+#include "style/ProprietesStyle_p.h"
+
+#include "controls/DLabelElision.h"
+#include "foundation/Polices.h"
+
+#include <QLabel>
+#include <QStyleOption>
+#include <QTableView>
+
+using RoutinesGeneralesQt::ModulateurFont;
+
+namespace {
+
+// Logical pixels.
+constexpr QSize kAjoutItemBarreMenu(26, 13);
+constexpr int kAjoutItemSansIcone = 4;
+constexpr int kDebordChampTexte = 4; // of the text of a line edit, to its left
+
+} // namespace
+
+QRect DStyleProxy::subElementRect(SubElement element, QStyleOption const * option,
+                                  QWidget const * widget) const
+{
+    QRect rect = QProxyStyle::subElementRect(element, option, widget);
+    if (element == SE_LineEditContents)
+        return rect.adjusted(-kDebordChampTexte, 0, 0, 0);
+    auto const * const item = qstyleoption_cast<QStyleOptionViewItem const *>(option);
+    if (!item)
+        return rect;
+    if (element == SE_ItemViewItemCheckIndicator && item->text.isEmpty() &&
+        item->features & QStyleOptionViewItem::HasCheckIndicator)
+        rect.moveLeft(item->rect.left() + (item->rect.width() - rect.width()) / 2);
+    if (element == SE_ItemViewItemText && qobject_cast<QTableView const *>(widget))
+        rect.setLeft(item->rect.left());
+    return rect;
+}
+
+int DStyleProxy::pixelMetric(PixelMetric mesure, QStyleOption const * option,
+                             QWidget const * widget) const
+{
+    int valeur = QProxyStyle::pixelMetric(mesure, option, widget);
+    switch (mesure) {
+    case PM_ButtonShiftHorizontal:
+    case PM_ButtonShiftVertical:
+        return EstBooleenVrai(widget, ProprietesStyle::kBoutonSansDecalage) ? 0 : valeur;
+    case PM_IndicatorWidth:
+    case PM_IndicatorHeight:
+    case PM_ExclusiveIndicatorWidth:
+    case PM_ExclusiveIndicatorHeight:
+    case PM_CheckBoxLabelSpacing:
+    case PM_RadioButtonLabelSpacing:
+        if (!EstBooleenVrai(widget, ProprietesStyle::kPourStyle))
+            return valeur;
+        if (mesure == PM_CheckBoxLabelSpacing &&
+            EstVrai(widget, ProprietesStyle::kEspacementReduitCaseCochay))
+            valeur /= 2;
+        // Fonts shrink with the modulator, and the indicators beside them.
+        return static_cast<int>(ModulateurFont::Instance()->DonneValeurDeZoom(valeur));
+    default:
+        return valeur;
+    }
+}
+
+QSize DStyleProxy::sizeFromContents(ContentsType type, QStyleOption const * option,
+                                    QSize const & taille, QWidget const * widget) const
+{
+    QSize resultat = QProxyStyle::sizeFromContents(type, option, taille, widget);
+    if (type == CT_MenuItem) {
+        auto const * const menu = qstyleoption_cast<QStyleOptionMenuItem const *>(option);
+        if (menu && EstBooleenVrai(widget, ProprietesStyle::kTexteRiche))
+            resultat.rwidth() += MesureTexteItemMenu(*menu, widget) - taille.width();
+    } else if (type == CT_MenuBarItem) {
+        resultat += kAjoutItemBarreMenu;
+    } else if (type == CT_ItemViewItem) {
+        auto const * const item = qstyleoption_cast<QStyleOptionViewItem const *>(option);
+        if (item && item->icon.isNull())
+            resultat.rheight() += kAjoutItemSansIcone;
+    }
+    if (EstBooleenVrai(widget, ProprietesStyle::kScrolling))
+        resultat.setHeight(std::min(resultat.height(), widget->maximumHeight()));
+    return resultat;
+}
+
+int DStyleProxy::MesureTexteItemMenu(QStyleOptionMenuItem const & option,
+                                     QWidget const * widget) const
+{
+    using Interpreteur = InterpreteurChaineSemantiqueT<UniChaine>;
+
+    UniChaine const texte = DonneChainesDansItemMenu(&option).texte;
+    EnsembleRegles const regles = DonneInterpreteurPourContexte(DonneContexte(&option), widget);
+    if (Interpreteur::PossedeReglesAAppliquer(texte, regles)) {
+        QLabel & label = PreteLabel(monLabelMesure);
+        label.setFont(option.font);
+        label.setText(Interpreteur::AppliqueRegles(texte, regles));
+        label.adjustSize();
+        return label.width();
+    }
+    monLabelElision->PrendsPolice(option.font);
+    monLabelElision->PrendsTexte(texte, true);
+    monLabelElision->AjusteElision(QSize(QWIDGETSIZE_MAX, QWIDGETSIZE_MAX));
+    return monLabelElision->DonneLongueurLigne();
+}
+
+int DStyleProxy::styleHint(StyleHint indication, QStyleOption const * option,
+                           QWidget const * widget, QStyleHintReturn * retour) const
+{
+    if (indication == SH_ComboBox_Popup)
+        return 0; // a list, and not a menu
+    if (indication == SH_Menu_Scrollable && EstBooleenVrai(widget, ProprietesStyle::kScrolling))
+        return 1;
+    return QProxyStyle::styleHint(indication, option, widget, retour);
+}

@@ -1,0 +1,243 @@
+// style/DStyleProxyVues.cpp
+//
+// The items of views and the sections of their headers.
+#include "style/CopieOption_p.h"
+#include "style/CouleursStyle_p.h"
+#include "style/DStyleProxy.h"
+#include "style/GardePeintre_p.h"
+#include "style/InterpreteurChaineSemantique.h"
+#include "style/LecturePropriete_p.h"
+#include "style/ProprietesStyle_p.h"
+
+#include "foundation/ThemesQt.h"
+#include "foundation/VersionsQt_p.h"
+
+#include <QScopedValueRollback>
+#include <QStyleOption>
+#include <QTableView>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+// Logical pixels.
+constexpr int kRetraitItem = 2;  // of the background from the free edges of a row
+constexpr int kRayonItem = 3;    // of its corners
+constexpr int kSeparateur = 1;   // left free under a row
+constexpr int kLargeurMarque = 2; // the accent mark of a selected row
+constexpr int kRetraitMarque = 2; // from the top and from the bottom
+
+constexpr QPalette::ColorGroup kGroupes[] = {QPalette::Active, QPalette::Inactive,
+                                             QPalette::Disabled};
+
+bool EstMisEnValeur(QStyleOption const & option)
+{
+    return option.state & (QStyle::State_Selected | QStyle::State_MouseOver);
+}
+
+bool EstTable(QWidget const * widget)
+{
+    return qobject_cast<QTableView const *>(widget);
+}
+
+bool EstListeDeCombo(QWidget const * widget)
+{
+    return widget && widget->inherits("QComboBoxListView");
+}
+
+// The widget that says whether the items of the list of a combo box are rich: the list's parent, or
+// the combo box around the container that Qt puts the list in.
+QWidget const * DonneParentDeListe(QWidget const & liste)
+{
+    QWidget const * const parent = liste.parentWidget();
+    bool const estConteneur = parent && parent->inherits("QComboBoxPrivateContainer") &&
+                              !EstBooleenVrai(parent, ProprietesStyle::kTexteRiche);
+    return estConteneur ? parent->parentWidget() : parent;
+}
+
+// The text of a selected item is written on the overlay that this style paints, and not on the
+// colour of the selection.
+void EcrisSurFondClair(QPalette & palette)
+{
+    for (auto const groupe : kGroupes)
+        palette.setBrush(groupe, QPalette::HighlightedText, palette.brush(groupe, QPalette::Text));
+}
+
+// What a model asks for behind its item, as the base styles paint it.
+void DessineFondDuModele(QStyleOptionViewItem const & option, QPainter & peintre)
+{
+    GardePeintre const garde(&peintre);
+    peintre.setBrushOrigin(option.rect.topLeft());
+    peintre.fillRect(option.rect, option.backgroundBrush);
+}
+
+QColor DonneCouleurMarque(QWidget const * widget)
+{
+    if (EstVrai(widget, ProprietesStyle::kSelecteurDictionnaires))
+        return ThemesQt::Instance()->DonneCouleur(u"couleurAccentDictionnaires"_s);
+    if (EstVrai(widget, ProprietesStyle::kSelecteurGuides))
+        return ThemesQt::Instance()->DonneCouleur(u"couleurAccentGuides"_s);
+    return DonneCouleurAccent(QPalette());
+}
+
+} // namespace
+
+void DStyleProxy::DessineItemVue(QStyleOptionViewItem const & option, QPainter * peintre,
+                                 QWidget const * widget) const
+{
+    bool const estListeDeCombo = EstListeDeCombo(widget);
+    QWidget const * const decideur = estListeDeCombo ? DonneParentDeListe(*widget) : widget;
+    bool const estRiche = EstBooleenVrai(decideur, ProprietesStyle::kTexteRiche);
+    bool const suitRegles = estRiche && SuitRegles(option.text, DonneContexte(&option), decideur);
+    bool const avecFond = !EstTable(widget) && EstMisEnValeur(option);
+
+    peintre->setRenderHint(QPainter::Antialiasing);
+    QStyleOptionViewItem copie(option);
+    if (avecFond) {
+        DessineFondItem(option, peintre, widget);
+        EcrisSurFondClair(copie.palette);
+    }
+    if (estListeDeCombo) {
+        copie.state &= ~State_Selected;
+        if (estRiche)
+            copie.text.clear(); // its delegate writes it, or what follows
+    } else if (suitRegles) {
+        copie.text = u" "_s; // as good as none, but the check indicator stays at its place
+    }
+    {
+        QScopedValueRollback const fondPeint(monFondItemPeint, avecFond);
+        QProxyStyle::drawControl(CE_ItemViewItem, &copie, peintre, widget);
+    }
+    bool const sansDelegue = estListeDeCombo && estRiche &&
+                             !LisPropriete(decideur, ProprietesStyle::kEnsembleRegles).isNull();
+    if (suitRegles || sansDelegue)
+        EcrisItem(option, copie.palette, peintre, widget, decideur);
+}
+
+bool DStyleProxy::SuitRegles(QString const & texte, eContextePourStyle contexte,
+                             QWidget const * widget) const
+{
+    return InterpreteurChaineSemantiqueT<UniChaine>::PossedeReglesAAppliquer(
+        texte, DonneInterpreteurPourContexte(contexte, widget));
+}
+
+// By the rules of `decideur`, or as it stands where none applies.
+void DStyleProxy::EcrisItem(QStyleOptionViewItem const & option, QPalette const & palette,
+                            QPainter * peintre, QWidget const * widget,
+                            QWidget const * decideur) const
+{
+    int const marge = proxy()->pixelMetric(PM_FocusFrameHMargin, &option, widget) + 1;
+    QRect const rect = proxy()->subElementRect(SE_ItemViewItemText, &option, widget)
+                           .adjusted(marge, 0, -marge, 0);
+    bool const actif = option.state & State_Enabled;
+    auto const role = option.state & State_Selected ? QPalette::HighlightedText : QPalette::Text;
+    QPalette couleurs(palette);
+    for (auto const groupe : kGroupes)
+        couleurs.setBrush(groupe, QPalette::WindowText, palette.brush(groupe, role));
+    peintre->setFont(option.font);
+    if (DessinerTexteRiche(peintre, option.text, rect, actif, couleurs, 0, 0,
+                           DonneContexte(&option), static_cast<int>(option.displayAlignment),
+                           decideur, false))
+        return;
+    QString const elide =
+        option.fontMetrics.elidedText(option.text, option.textElideMode, rect.width());
+    QProxyStyle::drawItemText(peintre, rect, static_cast<int>(option.displayAlignment), couleurs,
+                              actif, elide, QPalette::WindowText);
+}
+
+void DStyleProxy::DessineFondItem(QStyleOptionViewItem const & option, QPainter * peintre,
+                                  QWidget const * widget)
+{
+    using Option = QStyleOptionViewItem;
+    auto const position = option.viewItemPosition;
+    bool const estDebut = position == Option::Beginning;
+    bool const estFin = position == Option::End;
+    bool const estSeul = position == Option::OnlyOne || position == Option::Invalid;
+
+    QRect rect(option.rect);
+    if (EstVrai(widget, ProprietesStyle::kListSeparateur))
+        rect.adjust(0, 0, 0, -kSeparateur);
+    bool const libreALAvant = estDebut || estSeul;
+    bool const libreALArriere = estFin || estSeul;
+    bool const deDroiteAGauche = option.direction == Qt::RightToLeft;
+    bool const libreAGauche = deDroiteAGauche ? libreALArriere : libreALAvant;
+    bool const libreADroite = deDroiteAGauche ? libreALAvant : libreALArriere;
+    rect.adjust(libreAGauche ? kRetraitItem : 0, kRetraitItem, libreADroite ? -kRetraitItem : 0,
+                -kRetraitItem);
+
+    GardePeintre const garde(peintre);
+    peintre->setRenderHint(QPainter::Antialiasing);
+    int const rayonGauche = libreAGauche ? kRayonItem : 0;
+    int const rayonDroite = libreADroite ? kRayonItem : 0;
+    peintre->fillPath(DonneRectArondi(rect, rayonGauche, rayonDroite, rayonDroite, rayonGauche),
+                      CouleursStyle::kFondItem);
+}
+
+QPainterPath DStyleProxy::DonneRectArondi(QRect const & rect, int hautGauche, int hautDroite,
+                                          int basDroite, int basGauche)
+{
+    QRectF const bords(rect);
+    // Each corner ends the side in front of it; without a radius, arcTo would leave it out.
+    auto const ajouteCoin = [](QPainterPath & forme, QPointF coin, QPointF versLeCentre, int rayon,
+                               double angle) {
+        if (rayon <= 0) {
+            forme.lineTo(coin);
+            return;
+        }
+        QPointF const oppose = coin + 2 * rayon * versLeCentre;
+        forme.arcTo(QRectF(coin, oppose).normalized(), angle, -90);
+    };
+    QPainterPath forme(bords.topLeft() + QPointF(hautGauche, 0));
+    ajouteCoin(forme, bords.topRight(), {-1, 1}, hautDroite, 90);
+    ajouteCoin(forme, bords.bottomRight(), {-1, -1}, basDroite, 0);
+    ajouteCoin(forme, bords.bottomLeft(), {1, -1}, basGauche, -90);
+    ajouteCoin(forme, bords.topLeft(), {1, 1}, hautGauche, 180);
+    forme.closeSubpath();
+    return forme;
+}
+
+void DStyleProxy::DessinePanneauItem(QStyleOptionViewItem const & option, QPainter * peintre,
+                                     QWidget const * widget) const
+{
+    if (EstTable(widget)) {
+        QProxyStyle::drawPrimitive(PE_PanelItemViewItem, &option, peintre, widget);
+        return;
+    }
+    if (option.backgroundBrush.style() != Qt::NoBrush && !(option.state & State_Selected))
+        DessineFondDuModele(option, *peintre);
+    // Of itself where a delegate asks for the panel alone.
+    if (!monFondItemPeint && EstMisEnValeur(option))
+        DessineFondItem(option, peintre, widget);
+    bool const portMarque = option.viewItemPosition == QStyleOptionViewItem::Beginning ||
+                            option.viewItemPosition == QStyleOptionViewItem::OnlyOne;
+    if (portMarque && option.state & State_Selected) {
+        QStyleOptionViewItem copie(option);
+        copie.rect.adjust(kRetraitItem, kRetraitItem, -kRetraitItem, -kRetraitItem);
+        DessineSelecteurAccentListe(peintre, copie, widget, DonneCouleurMarque(widget));
+    }
+}
+
+void DStyleProxy::DessineSelecteurAccentListe(QPainter * peintre,
+                                              QStyleOptionViewItem const & option,
+                                              QWidget const *, QColor const & couleur)
+{
+    QRect const rect = option.rect.adjusted(0, kRetraitMarque, 0, -kRetraitMarque);
+    QRect const marque(rect.topLeft(), QSize(kLargeurMarque, rect.height()));
+    peintre->fillRect(visualRect(option.direction, rect, marque), couleur);
+}
+
+void DStyleProxy::DessineSectionEntete(QStyleOptionHeader const & option, QPainter * peintre)
+{
+    if (option.state & State_MouseOver)
+        peintre->fillRect(option.rect, CouleursStyle::kSurvolEntete);
+    bool const estPremiere = option.position == QStyleOptionHeader::Beginning ||
+                             option.position == QStyleOptionHeader::OnlyOneSection;
+    if (estPremiere)
+        return;
+    // A vertical header has its sections one above the other.
+    QSize const taille = option.orientation == Qt::Vertical ? QSize(option.rect.width(), 1)
+                                                            : QSize(1, option.rect.height());
+    peintre->fillRect(
+        visualRect(option.direction, option.rect, QRect(option.rect.topLeft(), taille)),
+        CouleursStyle::kSeparateurEntete);
+}

@@ -84,7 +84,7 @@ public:
     void drawControl(ControlElement element, QStyleOption const * option, QPainter * peintre,
                      QWidget const * widget) const override
     {
-        Note({AppelStyle::kControle, element, widget}, option, peintre);
+        Note({AppelStyle::kControle, int(element), widget}, option, peintre);
         if (maConduite == kDessine)
             QProxyStyle::drawControl(element, option, peintre, widget);
     }
@@ -92,7 +92,7 @@ public:
     void drawPrimitive(PrimitiveElement element, QStyleOption const * option, QPainter * peintre,
                        QWidget const * widget) const override
     {
-        Note({AppelStyle::kPrimitive, element, widget}, option, peintre);
+        Note({AppelStyle::kPrimitive, int(element), widget}, option, peintre);
         if (maConduite == kDessine)
             QProxyStyle::drawPrimitive(element, option, peintre, widget);
     }
@@ -100,7 +100,7 @@ public:
     void drawComplexControl(ComplexControl controle, QStyleOptionComplex const * option,
                             QPainter * peintre, QWidget const * widget) const override
     {
-        Note({AppelStyle::kComplexe, controle, widget}, option, peintre);
+        Note({AppelStyle::kComplexe, int(controle), widget}, option, peintre);
         if (maConduite == kDessine)
             QProxyStyle::drawComplexControl(controle, option, peintre, widget);
     }
@@ -109,7 +109,7 @@ public:
                       QPalette const & palette, bool actif, QString const & texte,
                       QPalette::ColorRole role) const override
     {
-        AppelStyle appel{AppelStyle::kTexte, role};
+        AppelStyle appel{AppelStyle::kTexte, int(role)};
         appel.rect = rect;
         appel.palette = palette;
         appel.drapeaux = drapeaux;

@@ -106,7 +106,7 @@ void tst_DStyleProxyOrdre::rienPourTousLesElements()
     onglet.state = QStyle::State_Selected;
     for (bool const deStyle : {false, true}) {
         monWidget->setProperty(DStyleProxy::DonneNomAttributPourStyle(), deStyle);
-        for (int element = QStyle::CE_PushButton; element <= QStyle::CE_ShapedFrame; ++element)
+        for (int element = QStyle::CE_PushButton; element <= int(QStyle::CE_ShapedFrame); ++element)
             QVERIFY(EstVide(PeinsControle(QStyle::ControlElement(element), onglet)));
     }
     QVERIFY(monBanc->espion->appels.isEmpty());
@@ -241,7 +241,8 @@ void tst_DStyleProxyOrdre::peintreRendu()
         peintre.setPen(plume);
         peintre.setBrush(Qt::yellow);
         peintre.setOpacity(0.75);
-        for (int element = QStyle::CE_PushButton; element <= QStyle::CE_ShapedFrame; ++element) {
+        for (int element = QStyle::CE_PushButton; element <= int(QStyle::CE_ShapedFrame);
+             ++element) {
             monBanc->style.drawControl(QStyle::ControlElement(element), &option, &peintre,
                                        monWidget.get());
             QCOMPARE(peintre.pen(), plume);

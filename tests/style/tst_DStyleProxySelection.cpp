@@ -66,7 +66,6 @@ private Q_SLOTS:
     void selecteurSeul_data();
     void selecteurSeul();
     void optionDuMauvaisType();
-    void depotSurItem();
 
 private:
     QImage PeinsPanneau(QStyleOption const & option, QWidget const * widget) const;
@@ -294,28 +293,6 @@ void tst_DStyleProxySelection::optionDuMauvaisType()
     QVERIFY(EstVide(PeinsPanneau(option, &vue)));
 
     QCOMPARE(monBanc->espion->Donne(AppelStyle::kPrimitive).size(), 1);
-}
-
-// Views that draw the place of a drop themselves are asked; all others leave it to the base.
-void tst_DStyleProxySelection::depotSurItem()
-{
-    QListView liste;
-    QTreeView arbre;
-    QStyleOption option;
-    option.rect = kRect;
-    for (QWidget * vue : {static_cast<QWidget *>(&liste), static_cast<QWidget *>(&arbre)}) {
-        for (bool const deStyle : {false, true}) {
-            vue->setProperty(DStyleProxy::DonneNomAttributPourStyle(), deStyle);
-            Peins(kTaille, [&](QPainter & peintre) {
-                monBanc->style.drawPrimitive(QStyle::PE_IndicatorItemViewItemDrop, &option,
-                                             &peintre, vue);
-            });
-        }
-    }
-
-    QCOMPARE(
-        monBanc->espion->Donne(AppelStyle::kPrimitive, QStyle::PE_IndicatorItemViewItemDrop).size(),
-        4);
 }
 
 QTEST_MAIN(tst_DStyleProxySelection)

@@ -1,7 +1,11 @@
 // noyau/RoutinesTexte.cpp
 #include "noyau/RoutinesTexte.h"
 
+#include "noyau/UniChaine.h"
+
 #include <QFile>
+
+#include <iostream>
 
 namespace {
 
@@ -51,4 +55,9 @@ void RoutinesGeneralesQt::HTMLiser(QString & texte, QList<QString> const & balis
         i += balise > 0 ? balise : 1;
     }
     texte = html;
+}
+
+void RoutinesGeneralesQt::EcrisSurErreurStandard(UniChaine const & texte)
+{
+    std::cerr << texte << std::endl;
 }

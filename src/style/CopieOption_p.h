@@ -19,7 +19,8 @@ void EmploieCopie(QStyleOption const & option, Emploi && emploie)
     }
 }
 
-/// The option as in the active window: what shows a choice or a value looks the same in all windows.
+/// The option as in the active window: what shows a choice or a value looks the same in all
+/// windows.
 template <typename Option>
 Option ActivePalette(Option option)
 {

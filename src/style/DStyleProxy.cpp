@@ -72,10 +72,10 @@ void DStyleProxy::drawItemPixmap(QPainter * peintre, QRect const & rect, int ali
     constexpr double kOpacitePale = 0.35;
 
     auto const * const bouton = qobject_cast<QAbstractButton const *>(monWidgetDessinay.data());
-    bool const pale = bouton && EstBooleenVrai(bouton, ProprietesStyle::kPourStyle) &&
-                      (!bouton->isEnabled() ||
-                       (!bouton->isCheckable() &&
-                        !EstBooleenVrai(bouton, ProprietesStyle::kBoutonCheckable)));
+    bool const pale =
+        bouton && EstBooleenVrai(bouton, ProprietesStyle::kPourStyle) &&
+        (!bouton->isEnabled() ||
+         (!bouton->isCheckable() && !EstBooleenVrai(bouton, ProprietesStyle::kBoutonCheckable)));
     double const opacite = peintre->opacity();
     if (pale)
         peintre->setOpacity(kOpacitePale);

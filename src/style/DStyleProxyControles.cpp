@@ -75,8 +75,9 @@ void DessineBoutonDefaut(QStyleOptionButton const & option, QPainter & peintre)
     else if (option.state & QStyle::State_MouseOver)
         couleur = couleur.lighter(kClarteSurvolay);
 
-    QRectF const rect = QRectF(option.rect).adjusted(kMargeBoutonDefaut, kMargeBoutonDefaut,
-                                                     -kMargeBoutonDefaut, -kMargeBoutonDefaut);
+    QRectF const rect = QRectF(option.rect)
+                            .adjusted(kMargeBoutonDefaut, kMargeBoutonDefaut, -kMargeBoutonDefaut,
+                                      -kMargeBoutonDefaut);
     peintre.setRenderHint(QPainter::Antialiasing);
     peintre.setPen(couleur);
     peintre.setBrush(couleur);
@@ -129,13 +130,11 @@ bool DStyleProxy::DessineElement(ControlElement element, QStyleOption const * op
 {
     switch (element) {
     case CE_PushButtonBevel:
-        return Dessine<QStyleOptionButton>(option, [&](auto const & bouton) {
-            DessineFondBouton(bouton, peintre, widget);
-        });
+        return Dessine<QStyleOptionButton>(
+            option, [&](auto const & bouton) { DessineFondBouton(bouton, peintre, widget); });
     case CE_PushButtonLabel:
-        return Dessine<QStyleOptionButton>(option, [&](auto const & bouton) {
-            DessineTexteBouton(bouton, peintre, widget);
-        });
+        return Dessine<QStyleOptionButton>(
+            option, [&](auto const & bouton) { DessineTexteBouton(bouton, peintre, widget); });
     case CE_TabBarTabShape:
         return Dessine<QStyleOptionTab>(
             option, [&](auto const & onglet) { DessineOnglet(onglet, peintre, widget); });
@@ -143,9 +142,8 @@ bool DStyleProxy::DessineElement(ControlElement element, QStyleOption const * op
         return Dessine<QStyleOptionViewItem>(
             option, [&](auto const & item) { DessineItemVue(item, peintre, widget); });
     case CE_ToolButtonLabel:
-        return Dessine<QStyleOptionToolButton>(option, [&](auto const & bouton) {
-            DessineTexteBoutonOutil(bouton, peintre, widget);
-        });
+        return Dessine<QStyleOptionToolButton>(
+            option, [&](auto const & bouton) { DessineTexteBoutonOutil(bouton, peintre, widget); });
     case CE_HeaderSection:
         return Dessine<QStyleOptionHeader>(
             option, [&](auto const & section) { DessineSectionEntete(section, peintre); });
@@ -231,13 +229,13 @@ void DStyleProxy::DessineFondBouton(QStyleOptionButton const & option, QPainter 
 
 QColor DStyleProxy::DonneFondBouton(QStyleOptionButton const & option) const
 {
-    QColor const couche = option.state & State_MouseOver ? CouleursStyle::kSurvolBouton
-                                                         : CouleursStyle::kFondBouton;
+    QColor const couche =
+        option.state & State_MouseOver ? CouleursStyle::kSurvolBouton : CouleursStyle::kFondBouton;
     if (!baseStyle()->inherits("QFusionStyle"))
         return couche;
     // This base drops the alpha of the colour, and would paint the overlay for the mouse in solid
-    // black. It gets what the overlay gives on its own button; on a dark one the light overlay would
-    // hide the light text.
+    // black. It gets what the overlay gives on its own button; on a dark one the light overlay
+    // would hide the light text.
     QColor const bouton = option.palette.color(QPalette::Button);
     return EstSombre(option.palette) ? bouton : MelangeSur(bouton, couche);
 }
@@ -275,8 +273,8 @@ void DStyleProxy::DessineOnglet(QStyleOptionTab const & option, QPainter * peint
                             option.rect.width() - 2 * kMargeAccentOnglet, kEpaisseurAccentOnglet);
         peintre->setPen(QPen(DonneCouleurAccent(option.palette), kEpaisseurAccentOnglet,
                              Qt::SolidLine, Qt::FlatCap));
-        peintre->drawLine(QLineF(accent.left(), accent.center().y(), accent.right(),
-                                 accent.center().y()));
+        peintre->drawLine(
+            QLineF(accent.left(), accent.center().y(), accent.right(), accent.center().y()));
     } else if (option.state & State_MouseOver) {
         peintre->setPen(Qt::transparent);
         peintre->setBrush(CouleursStyle::kSurvolBouton);
@@ -298,8 +296,8 @@ QPainterPath DStyleProxy::DonneFormeOnglet(QRect const & rect)
     return forme;
 }
 
-void DStyleProxy::DessineTexteBoutonOutil(QStyleOptionToolButton const & option,
-                                          QPainter * peintre, QWidget const * widget) const
+void DStyleProxy::DessineTexteBoutonOutil(QStyleOptionToolButton const & option, QPainter * peintre,
+                                          QWidget const * widget) const
 {
     QStyleOptionToolButton copie(option);
     if (widget && (widget->objectName() == "BoutonFavorisChevronnable"_L1 ||

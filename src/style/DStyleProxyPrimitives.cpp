@@ -35,8 +35,7 @@ QColor DonneCouleurBoutonOutil(QStyle::State etat)
 void DessineBaseOnglets(QRect const & rect, QPainter & peintre)
 {
     GardePeintre const garde(&peintre);
-    peintre.setPen(
-        QPen(CouleursStyle::kBaseOnglets, 1, Qt::SolidLine, Qt::FlatCap, Qt::MiterJoin));
+    peintre.setPen(QPen(CouleursStyle::kBaseOnglets, 1, Qt::SolidLine, Qt::FlatCap, Qt::MiterJoin));
     peintre.drawLine(rect.topRight(), rect.topLeft());
 }
 

@@ -31,8 +31,7 @@ QPalette DonnePalettePourContexte(QPalette palette, eContextePourStyle contexte)
 // A label writes in the colour of window text.
 QPalette DonnePaletteAvecRole(QPainter const & peintre, QPalette palette, QPalette::ColorRole role)
 {
-    QColor const couleur =
-        role == QPalette::NoRole ? peintre.pen().color() : palette.color(role);
+    QColor const couleur = role == QPalette::NoRole ? peintre.pen().color() : palette.color(role);
     palette.setColor(QPalette::Active, QPalette::WindowText, couleur);
     palette.setColor(QPalette::Inactive, QPalette::WindowText, couleur);
     if (role == QPalette::ButtonText)
@@ -84,7 +83,8 @@ bool DStyleProxy::DessinerTexteRiche(QPainter * peintre, QString texte, QRect co
     label.setPalette(DonnePalettePourContexte(palette, contexte));
     label.setEnabled(actif);
     label.setFont(peintre->font());
-    label.setLayoutDirection(widget ? widget->layoutDirection() : QGuiApplication::layoutDirection());
+    label.setLayoutDirection(widget ? widget->layoutDirection()
+                                    : QGuiApplication::layoutDirection());
     label.setAlignment(Qt::Alignment(alignement & kMasqueAlignement));
     label.setText(html);
     label.setFixedSize(rect.size().expandedTo(QSize(0, 0)));

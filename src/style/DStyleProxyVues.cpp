@@ -21,9 +21,9 @@ using namespace Qt::StringLiterals;
 namespace {
 
 // Logical pixels.
-constexpr int kRetraitItem = 2;  // of the background from the free edges of a row
-constexpr int kRayonItem = 3;    // of its corners
-constexpr int kSeparateur = 1;   // left free under a row
+constexpr int kRetraitItem = 2;   // of the background from the free edges of a row
+constexpr int kRayonItem = 3;     // of its corners
+constexpr int kSeparateur = 1;    // left free under a row
 constexpr int kLargeurMarque = 2; // the accent mark of a selected row
 constexpr int kRetraitMarque = 2; // from the top and from the bottom
 
@@ -127,8 +127,8 @@ void DStyleProxy::EcrisItem(QStyleOptionViewItem const & option, QPalette const 
                             QWidget const * decideur) const
 {
     int const marge = proxy()->pixelMetric(PM_FocusFrameHMargin, &option, widget) + 1;
-    QRect const rect = proxy()->subElementRect(SE_ItemViewItemText, &option, widget)
-                           .adjusted(marge, 0, -marge, 0);
+    QRect const rect =
+        proxy()->subElementRect(SE_ItemViewItemText, &option, widget).adjusted(marge, 0, -marge, 0);
     bool const actif = option.state & State_Enabled;
     auto const role = option.state & State_Selected ? QPalette::HighlightedText : QPalette::Text;
     QPalette couleurs(palette);
@@ -218,8 +218,8 @@ void DStyleProxy::DessinePanneauItem(QStyleOptionViewItem const & option, QPaint
 }
 
 void DStyleProxy::DessineSelecteurAccentListe(QPainter * peintre,
-                                              QStyleOptionViewItem const & option,
-                                              QWidget const *, QColor const & couleur)
+                                              QStyleOptionViewItem const & option, QWidget const *,
+                                              QColor const & couleur)
 {
     QRect const rect = option.rect.adjusted(0, kRetraitMarque, 0, -kRetraitMarque);
     QRect const marque(rect.topLeft(), QSize(kLargeurMarque, rect.height()));

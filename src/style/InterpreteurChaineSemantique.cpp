@@ -1,8 +1,9 @@
 // style/InterpreteurChaineSemantique.cpp
 #include "style/InterpreteurChaineSemantique.h"
 
+#include "noyau/RoutinesTexte.h"
+
 #include <algorithm>
-#include <iostream>
 #include <string>
 
 namespace {
@@ -116,7 +117,7 @@ private:
 
     [[noreturn]] void Refuse() const
     {
-        std::cerr << UniChaine(maSource) << std::endl;
+        RoutinesGeneralesQt::EcrisSurErreurStandard(maSource);
         throw InterpreteurChaineSemantiqueErreur();
     }
 
@@ -136,8 +137,7 @@ InterpreteurChaineSemantiqueErreur::InterpreteurChaineSemantiqueErreur()
 
 InterpreteurChaineSemantiqueErreur::~InterpreteurChaineSemantiqueErreur() = default;
 
-RegleTexteRiche
-InterpreteurChaineSemantiqueT<UniChaine>::CreeFonctionRemplacerBalisesAvecTexte(
+RegleTexteRiche InterpreteurChaineSemantiqueT<UniChaine>::CreeFonctionRemplacerBalisesAvecTexte(
     UniChaine const & ouvrant, UniChaine const & fermant)
 {
     return [ouvrant, fermant](UniChaine * texte, Balise & ouverture, Balise & fermeture) {

@@ -30,11 +30,11 @@ constexpr QColor kBoutonOutilCochaySurvolay = Noir(30);
 constexpr QColor kBoutonOutilEnfoncay = Noir(35);
 constexpr QColor kSeparateurMenuBouton = Noir(20);
 
-/// Whether the text of the palette is lighter than its background.
-inline bool EstSombre(QPalette const & palette)
+/// Whether texts of the palette are lighter than what they are written on.
+inline bool EstSombre(QPalette const & palette, QPalette::ColorRole texte = QPalette::WindowText,
+                      QPalette::ColorRole fond = QPalette::Window)
 {
-    return palette.color(QPalette::WindowText).lightness() >
-           palette.color(QPalette::Window).lightness();
+    return palette.color(texte).lightness() > palette.color(fond).lightness();
 }
 
 /// The overlay on the backgrounds of `palette`: white of the same alpha on dark ones, where black

@@ -92,7 +92,7 @@ void DessineSeparateurOnglet(QStyleOptionTab const & option, QPainter & peintre,
 {
     int const index = barre.tabAt(option.rect.bottomLeft());
     bool const estDernier = index == barre.count() - 1;
-    if (estDernier || std::abs(index - barre.currentIndex()) <= 1)
+    if (index < 0 || estDernier || std::abs(index - barre.currentIndex()) <= 1)
         return;
     bool const versLaGauche = option.direction == Qt::RightToLeft;
     double const x = (versLaGauche ? option.rect.left() : option.rect.right()) + 0.5;
@@ -234,7 +234,7 @@ QColor DStyleProxy::DonneFondBouton(QStyleOptionButton const & option) const
     QColor const bouton = option.palette.color(QPalette::Button);
     bool const survolay = option.state & State_MouseOver;
     // The light background would hide the light text of a dark palette.
-    if (!survolay && EstSombre(option.palette))
+    if (!survolay && EstSombre(option.palette, QPalette::ButtonText, QPalette::Button))
         return bouton;
     QColor const couche =
         survolay ? Voile(CouleursStyle::kSurvolBouton, option.palette) : CouleursStyle::kFondBouton;

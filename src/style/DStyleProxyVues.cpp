@@ -15,6 +15,7 @@
 #include <QScopedValueRollback>
 #include <QStyleOption>
 #include <QTableView>
+#include <QTreeView>
 
 using namespace Qt::StringLiterals;
 
@@ -91,14 +92,18 @@ void DStyleProxy::DessineItemVue(QStyleOptionViewItem const & option, QPainter *
     QWidget const * const decideur = estListeDeCombo ? DonneParentDeListe(*widget) : widget;
     bool const estRiche = EstBooleenVrai(decideur, ProprietesStyle::kTexteRiche);
     bool const suitRegles = estRiche && SuitRegles(option.text, DonneContexte(&option), decideur);
-    bool const avecFond = !EstTable(widget) && EstMisEnValeur(option);
+    bool const surFondClair = !EstTable(widget) && EstMisEnValeur(option);
+    // The panel of the other views has its background from drawPrimitive, as have the panels that
+    // delegates draw by themselves. In the list of a combo box, the base will see no selection.
+    bool const fondPeint =
+        surFondClair && (estListeDeCombo || qobject_cast<QTreeView const *>(widget));
 
     peintre->setRenderHint(QPainter::Antialiasing);
     QStyleOptionViewItem copie(option);
-    if (avecFond) {
+    if (fondPeint)
         DessineFondItem(option, peintre, widget);
+    if (surFondClair)
         EcrisSurFondClair(copie.palette);
-    }
     if (estListeDeCombo) {
         copie.state &= ~State_Selected;
         if (estRiche)
@@ -107,7 +112,7 @@ void DStyleProxy::DessineItemVue(QStyleOptionViewItem const & option, QPainter *
         copie.text = u" "_s; // as good as none, but the check indicator stays at its place
     }
     {
-        QScopedValueRollback const fondPeint(monFondItemPeint, avecFond);
+        QScopedValueRollback const etat(monFondItemPeint, fondPeint);
         QProxyStyle::drawControl(CE_ItemViewItem, &copie, peintre, widget);
     }
     bool const sansDelegue = estListeDeCombo && estRiche &&
@@ -207,7 +212,6 @@ void DStyleProxy::DessinePanneauItem(QStyleOptionViewItem const & option, QPaint
     }
     if (option.backgroundBrush.style() != Qt::NoBrush && !(option.state & State_Selected))
         DessineFondDuModele(option, *peintre);
-    // Of itself where a delegate asks for the panel alone.
     if (!monFondItemPeint && EstMisEnValeur(option))
         DessineFondItem(option, peintre, widget);
     bool const portMarque = option.viewItemPosition == QStyleOptionViewItem::Beginning ||

@@ -141,14 +141,16 @@ RegleTexteRiche InterpreteurChaineSemantiqueT<UniChaine>::CreeFonctionRemplacerB
     UniChaine const & ouvrant, UniChaine const & fermant)
 {
     return [ouvrant, fermant](UniChaine * texte, Balise & ouverture, Balise & fermeture) {
+        unsigned longueur = fermeture.first - ouverture.first - ouverture.second;
         // The closing tag first: the position of the opening one stays valid.
-        if (fermeture.second != 0)
+        if (fermeture.second != 0) {
             texte->Remplace(static_cast<int>(fermeture.first), static_cast<int>(fermeture.second),
                             fermant);
+            longueur += fermant.Longueur();
+        }
         texte->Remplace(static_cast<int>(ouverture.first), static_cast<int>(ouverture.second),
                         ouvrant);
-        unsigned const contenu = fermeture.first - ouverture.first - ouverture.second;
-        return static_cast<int>(contenu + ouvrant.Longueur() + fermant.Longueur());
+        return static_cast<int>(longueur + ouvrant.Longueur());
     };
 }
 

@@ -16,6 +16,8 @@
 #include <QStyleOption>
 #include <QTableView>
 
+#include <algorithm>
+
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -222,7 +224,8 @@ void DStyleProxy::DessineSelecteurAccentListe(QPainter * peintre,
                                               QColor const & couleur)
 {
     QRect const rect = option.rect.adjusted(0, kRetraitMarque, 0, -kRetraitMarque);
-    QRect const marque(rect.topLeft(), QSize(kLargeurMarque, rect.height()));
+    // A painter fills what is less than nothing upwards.
+    QRect const marque(rect.topLeft(), QSize(kLargeurMarque, std::max(rect.height(), 0)));
     peintre->fillRect(visualRect(option.direction, rect, marque), couleur);
 }
 

@@ -17,6 +17,8 @@
 #include <QTableView>
 #include <QTreeView>
 
+#include <algorithm>
+
 using namespace Qt::StringLiterals;
 
 using CouleursStyle::Voile;
@@ -239,7 +241,8 @@ void DStyleProxy::DessineSelecteurAccentListe(QPainter * peintre,
                                               QColor const & couleur)
 {
     QRect const rect = option.rect.adjusted(0, kRetraitMarque, 0, -kRetraitMarque);
-    QRect const marque(rect.topLeft(), QSize(kLargeurMarque, rect.height()));
+    // A painter fills what is less than nothing upwards.
+    QRect const marque(rect.topLeft(), QSize(kLargeurMarque, std::max(rect.height(), 0)));
     peintre->fillRect(visualRect(option.direction, rect, marque), couleur);
 }
 

@@ -3,9 +3,11 @@
 
 #include "style/InterpreteurChaineSemantique.h"
 
-#include <QRegularExpression>
+#include <QString>
 
+#include <algorithm>
 #include <stdexcept>
+#include <vector>
 
 /// The rewriting of a tagged text as slowly and plainly as can be: a walk that calls itself for
 /// each nested element and takes what is done out of the list of tags. Measures the real one.
@@ -29,10 +31,17 @@ public:
 
     static std::vector<Balise> TrouveBalises(QString const & texte)
     {
-        static QRegularExpression const expression(QStringLiteral("<[^<>]+>"));
         std::vector<Balise> balises;
-        for (auto const & trouvay : expression.globalMatch(texte))
-            balises.emplace_back(trouvay.capturedStart(), trouvay.capturedLength());
+        qsizetype ouvrant = -1; // the last bracket that nothing has ended yet
+        for (qsizetype i = 0; i < texte.size(); ++i) {
+            if (texte.at(i) == u'<')
+                ouvrant = i;
+            if (texte.at(i) != u'>' || ouvrant < 0)
+                continue;
+            if (i > ouvrant + 1) // the empty tag is text
+                balises.emplace_back(ouvrant, i + 1 - ouvrant);
+            ouvrant = -1;
+        }
         return balises;
     }
 

@@ -426,8 +426,8 @@ void tst_DStyleProxyTexteRiche::exceptionTraverse()
     {
         QPainter peintre(&image);
         CaptureErreurs const erreurs;
-        QVERIFY_EXCEPTION_THROWN(demande.Dessine(*monStyle, peintre),
-                                 InterpreteurChaineSemantiqueErreur);
+        QVERIFY_THROWS_EXCEPTION(InterpreteurChaineSemantiqueErreur,
+                                 demande.Dessine(*monStyle, peintre));
         QCOMPARE(erreurs.Texte(), u"<b>x\n"_s);
     }
     QVERIFY(Encre(image).isEmpty());
@@ -448,7 +448,7 @@ void tst_DStyleProxyTexteRiche::exceptionTraverseDrawItemText()
         monStyle->drawItemText(&peintre, QRect(0, 0, 100, 30), Qt::AlignLeft, QPalette(), true,
                                texte);
     };
-    QVERIFY_EXCEPTION_THROWN(dessine(u"<i>x"_s), InterpreteurChaineSemantiqueErreur);
+    QVERIFY_THROWS_EXCEPTION(InterpreteurChaineSemantiqueErreur, dessine(u"<i>x"_s));
     VerifieDeregle(peintre);
     QCOMPARE(erreurs.Texte(), u"<i>x\n"_s);
     dessine(u"<z>x"_s); // no rule for it: plain text, whose tags nobody counts

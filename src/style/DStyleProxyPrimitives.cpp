@@ -15,6 +15,8 @@
 
 using namespace Qt::StringLiterals;
 
+using CouleursStyle::Voile;
+
 namespace {
 
 // Logical pixels.
@@ -111,8 +113,7 @@ void DStyleProxy::drawPrimitive(PrimitiveElement element, QStyleOption const * o
         break;
     case PE_PanelItemViewRow:
         if (auto const * const item = qstyleoption_cast<QStyleOptionViewItem const *>(option)) {
-            auto const active = ActivePalette(*item);
-            base(&active);
+            DessineRangee(*item, peintre, widget);
             return;
         }
         break;
@@ -132,7 +133,7 @@ void DStyleProxy::DessinePanneauBoutonOutil(QStyleOption const & option, QPainte
     GardePeintre const garde(peintre);
     peintre->setRenderHint(QPainter::Antialiasing);
     peintre->setPen(Qt::NoPen);
-    peintre->setBrush(DonneCouleurBoutonOutil(option.state));
+    peintre->setBrush(Voile(DonneCouleurBoutonOutil(option.state), option.palette));
     peintre->drawRoundedRect(option.rect, kRayonBoutonOutil, kRayonBoutonOutil);
 }
 

@@ -27,14 +27,17 @@ std::unique_ptr<Widget> FabriqueAvec(std::function<void(Widget &)> const & regle
     return widget;
 }
 
-inline std::vector<WidgetOrdinaire> DonneWidgetsOrdinaires()
+/// `base` is the name of the base style.
+inline std::vector<WidgetOrdinaire> DonneWidgetsOrdinaires(QString const & base)
 {
+    // This one draws the arrow of a combo box as a primitive, for which the style has a picture.
+    bool const avecFleches = base == QStringLiteral("Windows");
     QString const texte = QStringLiteral("Texte");
     auto const plage = [](auto & widget) {
         widget.setRange(0, 10);
         widget.setValue(4);
     };
-    return {
+    std::vector<WidgetOrdinaire> widgets{
         {"check box", [=] { return FabriqueAvec<QCheckBox>([](auto &) {}, texte); }},
         {"checked box",
          [=] { return FabriqueAvec<QCheckBox>([](auto & w) { w.setChecked(true); }, texte); }},
@@ -57,7 +60,6 @@ inline std::vector<WidgetOrdinaire> DonneWidgetsOrdinaires()
         {"group box", [=] { return FabriqueAvec<QGroupBox>([](auto &) {}, texte); }},
         {"checkable group box",
          [=] { return FabriqueAvec<QGroupBox>([](auto & w) { w.setCheckable(true); }, texte); }},
-        {"combo box", [=] { return FabriqueAvec<QComboBox>([&](auto & w) { w.addItem(texte); }); }},
         {"box frame",
          [] { return FabriqueAvec<QFrame>([](auto & w) { w.setFrameStyle(QFrame::Box); }); }},
         {"line",
@@ -67,6 +69,11 @@ inline std::vector<WidgetOrdinaire> DonneWidgetsOrdinaires()
         {"number display",
          [] { return FabriqueAvec<QLCDNumber>([](auto & w) { w.display(42); }); }},
     };
+    if (!avecFleches)
+        widgets.push_back({"combo box", [=] {
+                               return FabriqueAvec<QComboBox>([&](auto & w) { w.addItem(texte); });
+                           }});
+    return widgets;
 }
 
 /// The picture of the widget in that style, enabled or not.
@@ -80,6 +87,9 @@ inline QImage PeinsWidget(WidgetOrdinaire const & ordinaire, QStyle & style, boo
     widget->ensurePolished();
     QImage image((QSizeF(widget->size()) * ratio).toSize(), QImage::Format_ARGB32_Premultiplied);
     image.setDevicePixelRatio(ratio);
+    image.fill(Qt::white);
+    // Fusion keeps pictures of its parts, and what it draws beside a new one has other pens.
+    widget->render(&image);
     image.fill(Qt::white);
     widget->render(&image);
     return image;

@@ -26,9 +26,10 @@ QString DonneDifferences()
             widget->setStyle(&choisi);
             widget->resize(121, 61);
             widget->show();
+            widget->grab(); // fills the base's cache of pictures
             return widget->grab().toImage();
         };
-        for (WidgetOrdinaire const & ordinaire : DonneWidgetsOrdinaires()) {
+        for (WidgetOrdinaire const & ordinaire : DonneWidgetsOrdinaires(base)) {
             QImage const image = photographie(ordinaire, style);
             if (image.isNull() || image != photographie(ordinaire, *seul))
                 differences.append(base + u": "_s + QString::fromLatin1(ordinaire.nom));

@@ -172,6 +172,7 @@ void tst_DStyleProxyTransparence::elements()
                     kTaille, [&](QPainter & p) { Dessine(peintre, appel, *option, p, &widget); },
                     ratio);
             };
+            peins(seul); // fills the base's cache of pictures
             QImage const attendue = peins(seul);
             // Whatever asks for one of the style's own elements looks different.
             if (std::any_of(seul.appels.cbegin(), seul.appels.cend(), EstPropre))
@@ -203,7 +204,7 @@ void tst_DStyleProxyTransparence::widgets()
     std::unique_ptr<QStyle> const seul(QStyleFactory::create(base));
     DStyleProxy style(QStyleFactory::create(base));
 
-    for (WidgetOrdinaire const & ordinaire : DonneWidgetsOrdinaires()) {
+    for (WidgetOrdinaire const & ordinaire : DonneWidgetsOrdinaires(base)) {
         for (bool const actif : {true, false}) {
             QImage const attendue = PeinsWidget(ordinaire, *seul, actif, ratio);
             QVERIFY2(PeinsWidget(ordinaire, style, actif, ratio) == attendue, ordinaire.nom);

@@ -11,6 +11,7 @@
 #include "controls/DListView.h"
 #include "controls/DTreeView.h"
 
+#include <QFile>
 #include <QIcon>
 
 using namespace Qt::StringLiterals;
@@ -139,11 +140,12 @@ void DStyleProxy::DessinePanneauBoutonOutil(QStyleOption const & option, QPainte
 
 void DStyleProxy::DessineIndicateur(QPainter & peintre, QStyleOption const & option) const
 {
-    int const cote = std::min(kCoteIndicateur, option.rect.width() - 2 * kMargeIndicateur);
-    if (cote <= 0)
-        return;
     // The application's picture. Deliberate: no slash behind the colon.
-    QIcon const chevron(u":Images/chevron-DToolButton.svg"_s);
+    QString const fichier = u":Images/chevron-DToolButton.svg"_s;
+    int const cote = std::min(kCoteIndicateur, option.rect.width() - 2 * kMargeIndicateur);
+    if (cote <= 0 || !QFile::exists(fichier)) // an icon without its file warns at each drawing
+        return;
+    QIcon const chevron(fichier);
     auto const mode = option.state & State_Enabled ? QIcon::Normal : QIcon::Disabled;
     auto const etat = option.state & State_On ? QIcon::On : QIcon::Off;
     QPixmap const pixmap =

@@ -43,19 +43,21 @@ struct AppelStyle
     QPixmap image{};
 };
 
-/// A base style that notes what it is asked to draw. It answers all questions of size as Fusion.
+/// A base style that notes what it is asked to draw. It answers all questions of size as its own
+/// base, Fusion if not told otherwise.
 class StyleEspion : public QProxyStyle
 {
 public:
     enum eConduite
     {
         kMuet,    ///< draws nothing
-        kDessine, ///< draws as Fusion, also what Fusion asks for itself
+        kDessine, ///< draws as its base, also what that asks for itself
         kDerange  ///< draws nothing and leaves the painter in disorder
     };
 
-    explicit StyleEspion(eConduite conduite = kMuet)
-        : QProxyStyle(QStyleFactory::create(QStringLiteral("Fusion")))
+    explicit StyleEspion(eConduite conduite = kMuet,
+                         QString const & base = QStringLiteral("Fusion"))
+        : QProxyStyle(QStyleFactory::create(base))
         , maConduite(conduite)
     {
     }

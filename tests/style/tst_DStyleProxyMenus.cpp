@@ -65,6 +65,7 @@ private Q_SLOTS:
     void richeTextes();
     void richeCrochet();
     void richeContexte();
+    void richeDeDroiteAGauche();
     void richeSansRegle();
     void richeGriseMonochrome();
     void autresElementsDeMenu();
@@ -255,6 +256,21 @@ void tst_DStyleProxyMenus::richeContexte()
 
     QImage const survolay = PeinsItem(DonneOption(QStyle::State_Enabled | QStyle::State_MouseOver));
     QVERIFY(!Etendue(survolay, Qt::red).isEmpty());
+}
+
+// Mirrored: the column for checks is on the right.
+void tst_DStyleProxyMenus::richeDeDroiteAGauche()
+{
+    monMenu->setProperty(DStyleProxy::DonneNomProprietePossedeRegleTexteRiche(), true);
+    monMenu->setLayoutDirection(Qt::RightToLeft);
+    QStyleOptionMenuItem option = DonneOption();
+    option.direction = Qt::RightToLeft;
+
+    QRect const rouge = Etendue(PeinsItem(option), Qt::red);
+
+    int const fin = kRect.right() - 32;
+    QVERIFY2(rouge.right() <= fin && rouge.right() >= fin - 4,
+             qPrintable(QString::number(rouge.right())));
 }
 
 // The text is drawn rich in any case, since the base was not given it.

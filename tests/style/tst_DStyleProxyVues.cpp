@@ -39,7 +39,9 @@ private Q_SLOTS:
     void lissage();
     void fondSelonEtat_data();
     void fondSelonEtat();
-    void fondArbresSeulement();
+    void tableauSansFond();
+    void fondUneSeuleFois();
+    void texteLisible();
     void fondForme_data();
     void fondForme();
     void fondSeparateur_data();
@@ -121,22 +123,55 @@ void tst_DStyleProxyVues::fondSelonEtat()
     QCOMPARE(monBanc->espion->Donne(AppelStyle::kControle, QStyle::CE_ItemViewItem).size(), 2);
 }
 
-void tst_DStyleProxyVues::fondArbresSeulement()
+void tst_DStyleProxyVues::tableauSansFond()
 {
-    QListView liste;
     QTableView tableau;
-    QWidget autre;
+    QTableWidget derivee;
     QStyleOptionViewItem const option = DonneOption(kSurvol | QStyle::State_Selected);
 
-    QVERIFY(EstVide(PeinsItem(option, &liste)));
     QVERIFY(EstVide(PeinsItem(option, &tableau)));
-    QVERIFY(EstVide(PeinsItem(option, &autre)));
-    QVERIFY(EstVide(PeinsItem(option, nullptr)));
+    QVERIFY(EstVide(PeinsItem(option, &derivee)));
 
     auto const appels = monBanc->espion->Donne(AppelStyle::kControle, QStyle::CE_ItemViewItem);
-    QCOMPARE(appels.size(), 4);
-    for (AppelStyle const & appel : appels)
-        QCOMPARE(appel.option.state, option.state);
+    QCOMPARE(appels.size(), 2);
+    QCOMPARE(appels.first().option.state, option.state);
+    QCOMPARE(appels.first().palette, option.palette);
+}
+
+// The base asks for the panel of the item while it draws it.
+void tst_DStyleProxyVues::fondUneSeuleFois()
+{
+    monBanc = std::make_unique<BancStyle>(StyleEspion::kDessine);
+    QTreeView arbre;
+    QListView liste;
+    QStyleOptionViewItem option = DonneOption(kSurvol | QStyle::State_Selected);
+    option.text.clear();
+    for (QWidget const * vue :
+         {static_cast<QWidget const *>(&arbre), static_cast<QWidget const *>(&liste)}) {
+        QImage const image = PeinsItem(option, vue);
+        QCOMPARE(image.pixelColor(kRect.center()), QColor(0, 0, 0, kAlphaFond));
+        QCOMPARE(image.pixelColor(12, kRect.center().y()).alpha(), 255); // the mark
+    }
+    QVERIFY(monBanc->espion->Donne(AppelStyle::kPrimitive, QStyle::PE_PanelItemViewItem).isEmpty());
+}
+
+// The highlighted text is made for the colour of the selection, which isn't painted here.
+void tst_DStyleProxyVues::texteLisible()
+{
+    QTreeView arbre;
+    QStyleOptionViewItem option = DonneOption(QStyle::State_Enabled | QStyle::State_Selected);
+    option.palette.setColor(QPalette::All, QPalette::Text, QColor(1, 2, 3));
+    option.palette.setColor(QPalette::All, QPalette::HighlightedText, Qt::white);
+
+    PeinsItem(option, &arbre);
+
+    auto const appels = monBanc->espion->Donne(AppelStyle::kControle, QStyle::CE_ItemViewItem);
+    QCOMPARE(appels.size(), 1);
+    AppelStyle const appel = appels.first();
+    auto const role =
+        appel.option.state & QStyle::State_Selected ? QPalette::HighlightedText : QPalette::Text;
+    QCOMPARE(appel.palette.color(role), QColor(1, 2, 3));
+    QCOMPARE(option.palette.color(QPalette::HighlightedText), QColor(Qt::white));
 }
 
 void tst_DStyleProxyVues::fondForme_data()

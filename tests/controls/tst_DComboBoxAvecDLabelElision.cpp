@@ -31,7 +31,8 @@ QPalette FabriquePalette()
 }
 
 QImage DessineItem(QComboBox const & combo, int ligne, QStyle::State etat,
-                   Qt::TextElideMode elision = Qt::ElideRight)
+                   Qt::TextElideMode elision = Qt::ElideRight,
+                   Qt::LayoutDirection sens = Qt::LeftToRight)
 {
     QStyleOptionViewItem option;
     option.initFrom(combo.view());
@@ -43,7 +44,7 @@ QImage DessineItem(QComboBox const & combo, int ligne, QStyle::State etat,
     option.state = etat;
     option.displayAlignment = Qt::AlignLeft | Qt::AlignVCenter;
     option.textElideMode = elision;
-    option.direction = combo.layoutDirection();
+    option.direction = sens;
     QImage image = Encre::ImageBlanche(kLigne.size());
     QPainter peintre(&image);
     combo.itemDelegate()->paint(&peintre, option, combo.model()->index(ligne, 0));
@@ -79,6 +80,7 @@ private Q_SLOTS:
     void couleurDesItems();
     void texteHorsDuStyle();
     void itemRiche();
+    void itemDroiteAGauche();
     void itemTropLong_data();
     void itemTropLong();
     void itemAvecIcone();
@@ -177,6 +179,19 @@ void tst_DComboBoxAvecDLabelElision::itemRiche()
     QRect const vert = Encre::BornesDe(image, kVert);
     QVERIFY(vert.isValid());
     QVERIFY(qAbs(vert.center().y() - kLigne.center().y()) <= 2);
+}
+
+void tst_DComboBoxAvecDLabelElision::itemDroiteAGauche()
+{
+    DComboBoxAvecDLabelElision combo;
+    combo.addItem(kRiche);
+    auto const etat = QStyle::State_Enabled | QStyle::State_Active;
+    QRect const normal = Encre::BornesEncre(DessineItem(combo, 0, etat));
+    QRect const miroir =
+        Encre::BornesEncre(DessineItem(combo, 0, etat, Qt::ElideRight, Qt::RightToLeft));
+    QVERIFY(qAbs(miroir.width() - normal.width()) <= 1);
+    QVERIFY(normal.right() < kLigne.right() - 10);
+    QVERIFY(qAbs(kLigne.right() - miroir.right() - normal.left()) <= 2);
 }
 
 void tst_DComboBoxAvecDLabelElision::itemTropLong_data()
@@ -380,8 +395,9 @@ void tst_DComboBoxAvecDLabelElision::editable()
     combo.addItem(kRiche);
     combo.setEditable(true);
     combo.resize(combo.sizeHint());
-    QVERIFY(!Encre::BornesDe(combo.grab().toImage(), kVert).isValid());
     QCOMPARE(combo.lineEdit()->text(), kRiche);
+    combo.lineEdit()->hide(); // which would hide what is drawn under it
+    QVERIFY(!Encre::BornesDe(combo.grab().toImage(), kVert).isValid());
 }
 
 void tst_DComboBoxAvecDLabelElision::comboInactif()

@@ -218,7 +218,6 @@ void DComboBoxAvecDLabelElision::paintEvent(QPaintEvent *)
     else
         rectangle.setLeft(rectangle.left() + icone);
     monLabel->PrendsTexte(texte);
-    monLabel->setLayoutDirection(option.direction);
     DessineTexte(peintre, *monLabel, rectangle, option.textAlignment);
 }
 

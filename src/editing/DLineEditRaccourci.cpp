@@ -1,6 +1,7 @@
 // editing/DLineEditRaccourci.cpp
 #include "editing/DLineEditRaccourci.h"
 
+#include <QApplication>
 #include <QInputMethodEvent>
 #include <QKeyEvent>
 #include <QKeySequence>
@@ -29,6 +30,38 @@ QString DonneRaccourci(QKeyEvent const & evenement)
         return {};
     return raccourci.toString(QKeySequence::NativeText);
 }
+
+// Takes the repetitions of a key that stays down from whoever has the focus next: the shortcut that
+// has just been recorded would fire.
+class AvaleurDeRepetitions : public QObject
+{
+public:
+    AvaleurDeRepetitions(int touche, QObject * parent)
+        : QObject(parent)
+        , maTouche(touche)
+    {
+        qApp->installEventFilter(this);
+    }
+
+    bool eventFilter(QObject *, QEvent * evenement) override
+    {
+        QEvent::Type const type = evenement->type();
+        if (type != QEvent::KeyPress && type != QEvent::KeyRelease &&
+            type != QEvent::ShortcutOverride)
+            return false;
+        auto const & touche = *static_cast<QKeyEvent *>(evenement);
+        if (touche.isAutoRepeat()) {
+            evenement->accept();
+            return true;
+        }
+        if (type != QEvent::KeyRelease || touche.key() == maTouche)
+            deleteLater();
+        return false;
+    }
+
+private:
+    int maTouche;
+};
 
 } // namespace
 
@@ -86,6 +119,7 @@ void DLineEditRaccourci::keyPressEvent(QKeyEvent * evenement)
     if (raccourci.isEmpty())
         return;
 
+    new AvaleurDeRepetitions(evenement->key(), this); // deletes itself
     setText(raccourci);
     clearFocus();
     Q_EMIT SignalRaccourciEnregistray();

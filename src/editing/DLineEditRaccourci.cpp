@@ -32,13 +32,12 @@ QString DonneRaccourci(QKeyEvent const & evenement)
 }
 
 // Takes the repetitions of a key that stays down from whoever has the focus next: the shortcut that
-// has just been recorded would fire.
+// has just been recorded would fire. Destroys itself with the next key that is pressed.
 class AvaleurDeRepetitions : public QObject
 {
 public:
-    AvaleurDeRepetitions(int touche, QObject * parent)
+    explicit AvaleurDeRepetitions(QObject * parent)
         : QObject(parent)
-        , maTouche(touche)
     {
         qApp->installEventFilter(this);
     }
@@ -50,17 +49,28 @@ public:
             type != QEvent::ShortcutOverride)
             return false;
         auto const & touche = *static_cast<QKeyEvent *>(evenement);
-        if (touche.isAutoRepeat()) {
+        if (EstRepetition(touche)) {
             evenement->accept();
             return true;
         }
-        if (type != QEvent::KeyRelease || touche.key() == maTouche)
+        if (type == QEvent::KeyRelease)
+            monRelachement = touche.timestamp();
+        else
             deleteLater();
         return false;
     }
 
 private:
-    int maTouche;
+    bool EstRepetition(QKeyEvent const & touche) const
+    {
+        // Qt does not always recognise those of X11, a release and a press at the same time. Keys
+        // that no keyboard has sent may well be as fast.
+        return touche.isAutoRepeat() ||
+               (touche.type() != QEvent::KeyRelease && touche.timestamp() == monRelachement &&
+                touche.nativeScanCode() != 0);
+    }
+
+    quint64 monRelachement = 0; // when, in ms
 };
 
 } // namespace
@@ -68,7 +78,7 @@ private:
 DLineEditRaccourci::DLineEditRaccourci(QWidget * parent)
     : QLineEdit(parent)
 {
-    // Dead keys then come as keys, without text, and not as the letters that they compose.
+    // What they compose are letters, not keys.
     setAttribute(Qt::WA_InputMethodEnabled, false);
     setAcceptDrops(false);
     installEventFilter(this);
@@ -119,7 +129,7 @@ void DLineEditRaccourci::keyPressEvent(QKeyEvent * evenement)
     if (raccourci.isEmpty())
         return;
 
-    new AvaleurDeRepetitions(evenement->key(), this); // deletes itself
+    new AvaleurDeRepetitions(this);
     setText(raccourci);
     clearFocus();
     Q_EMIT SignalRaccourciEnregistray();

@@ -57,6 +57,8 @@ private Q_SLOTS:
     void raccourciDeLaFenetre_data();
     void raccourciDeLaFenetre();
     void toucheMaintenue();
+    void repetitionDeX11_data();
+    void repetitionDeX11();
     void dialogueResteOuvert();
     void tabulationQuitteLeChamp();
     void sourisSansEffet();
@@ -341,18 +343,42 @@ void tst_DLineEditRaccourci::toucheMaintenue()
     QCOMPARE(espion.count(), 1);
     QVERIFY(autre->text().isEmpty());
 
-    // The release of another key ends nothing, that of the key itself does.
-    QTest::keyRelease(autre, Qt::Key_Shift);
-    Presse(*autre, Qt::Key_A, {}, u"a"_s, true);
-    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-    Presse(*autre, Qt::Key_A, {}, u"a"_s, true);
-    QVERIFY(autre->text().isEmpty());
     QTest::keyRelease(autre, Qt::Key_A);
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    // The next key writes again, and repeats.
     Presse(*autre, Qt::Key_B, {}, u"b"_s);
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     Presse(*autre, Qt::Key_B, {}, u"b"_s, true);
     QCOMPARE(autre->text(), u"bb"_s);
     QCOMPARE(champ->text(), u"A"_s);
+}
+
+void tst_DLineEditRaccourci::repetitionDeX11_data()
+{
+    QTest::addColumn<int>("code");
+    QTest::addColumn<int>("delai");
+    QTest::addColumn<QString>("texte");
+    QTest::newRow("a release and a press at once are a repetition") << 38 << 0 << u""_s;
+    QTest::newRow("later they are a new press") << 38 << 1 << u"a"_s;
+    QTest::newRow("a program presses as fast as it likes") << 0 << 0 << u"a"_s;
+}
+
+// There a key that stays down is released and pressed, which need not be marked as a repetition.
+void tst_DLineEditRaccourci::repetitionDeX11()
+{
+    QFETCH(int, code);
+    QFETCH(int, delai);
+    DLineEditRaccourci champ(nullptr);
+    QLineEdit autre;
+    Presse(champ, Qt::Key_A, {}, u"a"_s);
+    auto const envoie = [&autre, code](QEvent::Type type, int instant) {
+        QKeyEvent evenement(type, Qt::Key_A, {}, quint32(code), 0, 0, u"a"_s);
+        evenement.setTimestamp(quint64(instant));
+        QApplication::sendEvent(&autre, &evenement);
+    };
+    envoie(QEvent::KeyRelease, 1000);
+    envoie(QEvent::KeyPress, 1000 + delai);
+    QTEST(autre.text(), "texte");
 }
 
 void tst_DLineEditRaccourci::dialogueResteOuvert()

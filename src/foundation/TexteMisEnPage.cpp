@@ -100,7 +100,9 @@ bool TexteMisEnPage::EstDeDroiteAGauche() const
 void TexteMisEnPage::Dessine(QPainter & peintre, QPointF const & coin) const
 {
     if (!PeutDessinerGlyphes(peintre)) {
+        peintre.save();
         monLayout.draw(&peintre, coin);
+        peintre.restore();
         return;
     }
     QPen const crayon = peintre.pen();

@@ -434,7 +434,8 @@ void tst_TexteRicheDessin::peintreIntact()
         peintre.setBrush(Qt::green);
         peintre.translate(2, 3);
         for (QString const & texte :
-             {TexteLong(), u"<font color =\"#ff0000\">a</font>"_s, u"a<sup>2</sup>"_s}) {
+             {TexteLong(), u"<font color =\"#ff0000\">a</font>"_s, u"a<sup>2</sup>"_s,
+              u"<span class=\"surlignement\">a</span>"_s}) {
             DessineTexteRicheAvecSource(peintre, kEtroit, DonneFontDImage(), texte, u"b"_s, true);
             QCOMPARE(peintre.pen(), QPen(Qt::magenta, 3));
             QCOMPARE(peintre.font(), autre);

@@ -154,6 +154,5 @@ void TexteMisEnPage::AjouteGlyphes(QTextLine const & ligne, int debut, int longu
 bool TexteMisEnPage::PeutDessinerGlyphes(QPainter const & peintre) const
 {
     return monDessinParGlyphes && peintre.paintEngine() &&
-           peintre.paintEngine()->type() == QPaintEngine::Raster &&
-           peintre.transform().type() <= QTransform::TxScale && peintre.pen().style() != Qt::NoPen;
+           peintre.paintEngine()->type() == QPaintEngine::Raster;
 }

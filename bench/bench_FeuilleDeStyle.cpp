@@ -113,6 +113,8 @@ int main(int nombre, char ** arguments)
             std::puts("no sheet to measure");
             return 1;
         }
+        // The one variable of the sheet that is the application's to define.
+        ThemesQt::Instance()->AjouterVariable(u"widgetListeEditableFontSize"_s, u"17px"_s);
         QString const feuille =
             ThemesQt::Instance()->AppliquerVariable(QString::fromUtf8(fichier.readAll()));
         QWidget fenetre;

@@ -1,6 +1,7 @@
 // editing/DLineEditRaccourci.cpp
 #include "editing/DLineEditRaccourci.h"
 
+#include <QApplication>
 #include <QInputMethodEvent>
 #include <QKeyEvent>
 #include <QKeySequence>
@@ -30,12 +31,54 @@ QString DonneRaccourci(QKeyEvent const & evenement)
     return raccourci.toString(QKeySequence::NativeText);
 }
 
+// Takes the repetitions of a key that stays down from whoever has the focus next: the shortcut that
+// has just been recorded would fire. Destroys itself with the next key that is pressed.
+class AvaleurDeRepetitions : public QObject
+{
+public:
+    explicit AvaleurDeRepetitions(QObject * parent)
+        : QObject(parent)
+    {
+        qApp->installEventFilter(this);
+    }
+
+    bool eventFilter(QObject *, QEvent * evenement) override
+    {
+        QEvent::Type const type = evenement->type();
+        if (type != QEvent::KeyPress && type != QEvent::KeyRelease &&
+            type != QEvent::ShortcutOverride)
+            return false;
+        auto const & touche = *static_cast<QKeyEvent *>(evenement);
+        if (EstRepetition(touche)) {
+            evenement->accept();
+            return true;
+        }
+        if (type == QEvent::KeyRelease)
+            monRelachement = touche.timestamp();
+        else
+            deleteLater();
+        return false;
+    }
+
+private:
+    bool EstRepetition(QKeyEvent const & touche) const
+    {
+        // Qt does not always recognise those of X11, a release and a press at the same time. Keys
+        // that no keyboard has sent may well be as fast.
+        return touche.isAutoRepeat() ||
+               (touche.type() != QEvent::KeyRelease && touche.timestamp() == monRelachement &&
+                touche.nativeScanCode() != 0);
+    }
+
+    quint64 monRelachement = 0; // when, in ms
+};
+
 } // namespace
 
 DLineEditRaccourci::DLineEditRaccourci(QWidget * parent)
     : QLineEdit(parent)
 {
-    // Dead keys then come as keys, without text, and not as the letters that they compose.
+    // What they compose are letters, not keys.
     setAttribute(Qt::WA_InputMethodEnabled, false);
     setAcceptDrops(false);
     installEventFilter(this);
@@ -86,6 +129,7 @@ void DLineEditRaccourci::keyPressEvent(QKeyEvent * evenement)
     if (raccourci.isEmpty())
         return;
 
+    new AvaleurDeRepetitions(this);
     setText(raccourci);
     clearFocus();
     Q_EMIT SignalRaccourciEnregistray();

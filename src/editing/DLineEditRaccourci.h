@@ -11,8 +11,9 @@
 /// F1 to F35. Meta and the keypad are not told apart, arrows and the like record nothing. Once it
 /// is recorded the field gives the focus away; Escape gives it to the parent and records nothing.
 /// While the field has the focus, no shortcut of the window fires: its keys can be recorded too.
-/// Tab and Shift+Tab move the focus as in any field. The mouse does not move the caret or paste,
-/// and input methods are off; the context menu and `setText` still change the text.
+/// Tab and Shift+Tab move the focus as in any field. A dead key records nothing, nor does the
+/// letter that an input method makes of it and the next key. The mouse neither moves the caret nor
+/// pastes or drops; the context menu and `setText` still change the text.
 class FABRELGUI_EXPORT DLineEditRaccourci : public QLineEdit
 {
     Q_OBJECT

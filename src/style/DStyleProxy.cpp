@@ -5,6 +5,7 @@
 #include "editing/DLineEdit.h"
 #include "foundation/ThemesQt.h"
 #include "style/LecturePropriete_p.h"
+#include "style/MemoirePalettes_p.h"
 #include "style/ProprietesStyle_p.h"
 
 #include <QAbstractButton>
@@ -33,6 +34,7 @@ DStyleProxy::DStyleProxy(QStyle * base)
     : QProxyStyle(base)
     , maCouleurFenetre(QApplication::palette().color(QPalette::Window))
     , monLabelElision(new DLabelElision(nullptr))
+    , maMemoirePalettes(std::make_unique<MemoirePalettes>())
 {
     ThemesQt::Instance()->AjouterVariable(NomCouleurSurvol(), QColor(u"#E5F1FB"_s));
 }

@@ -10,7 +10,10 @@
 #include <QPointer>
 #include <QProxyStyle>
 
+#include <memory>
+
 class DLabelElision;
+class MemoirePalettes;
 class QLabel;
 class QLineEdit;
 class QStyleOptionButton;
@@ -219,4 +222,5 @@ private:
     mutable QPointer<QWidget const> monWidgetDessinay;
     QPointer<DLabelElision> monLabelElision;
     mutable bool monFondItemPeint = false; // of the item that the base style is drawing
+    std::unique_ptr<MemoirePalettes> maMemoirePalettes;
 };

@@ -6,6 +6,7 @@
 #include "style/DStyleProxy.h"
 #include "style/GardePeintre_p.h"
 #include "style/LecturePropriete_p.h"
+#include "style/MemoirePalettes_p.h"
 #include "style/ProprietesStyle_p.h"
 
 #include "foundation/VersionsQt_p.h"
@@ -14,6 +15,7 @@
 #include <QTabBar>
 
 #include <cmath>
+#include <optional>
 
 using namespace Qt::StringLiterals;
 
@@ -75,6 +77,7 @@ void DessineBoutonDefaut(QStyleOptionButton const & option, QPainter & peintre)
     QRectF const rect = QRectF(option.rect)
                             .adjusted(kMargeBoutonDefaut, kMargeBoutonDefaut, -kMargeBoutonDefaut,
                                       -kMargeBoutonDefaut);
+    GardePeintre const garde(&peintre);
     peintre.setRenderHint(QPainter::Antialiasing);
     peintre.setPen(couleur);
     peintre.setBrush(couleur);
@@ -107,15 +110,18 @@ void DessineSeparateurOnglet(QStyleOptionTab const & option, QPainter & peintre,
 void DStyleProxy::drawControl(ControlElement element, QStyleOption const * option,
                               QPainter * peintre, QWidget const * widget) const
 {
-    GardePeintre const garde(peintre);
     if (element == CE_RadioButton || element == CE_ComboBoxLabel)
         ArreteAnimations(option, widget);
     monWidgetDessinay = widget;
     if (EstBooleenVrai(widget, ProprietesStyle::kChampTexteSansLigneDecoratrice))
         return;
+    // The painter is saved by what changes it: it is a good part of what simple elements cost.
+    std::optional<GardePeintre> garde;
     if (option && !(option->state & State_Enabled) &&
-        EstBooleenVrai(widget, ProprietesStyle::kMonochrome))
+        EstBooleenVrai(widget, ProprietesStyle::kMonochrome)) {
+        garde.emplace(peintre);
         peintre->setOpacity(kOpaciteDesactivay);
+    }
     if (auto const * const menu = qstyleoption_cast<QStyleOptionMenuItem const *>(option))
         DessineItemMenu(element, *menu, peintre, widget);
     else if (EstBooleenVrai(widget, ProprietesStyle::kPourStyle) ||
@@ -225,7 +231,8 @@ void DStyleProxy::DessineFondBouton(QStyleOptionButton const & option, QPainter 
         return;
     }
     if (copie.palette.currentColorGroup() != QPalette::Disabled)
-        copie.palette.setColor(QPalette::Button, DonneFondBouton(copie));
+        copie.palette =
+            maMemoirePalettes->Donne(copie.palette, QPalette::Button, DonneFondBouton(copie));
     QProxyStyle::drawControl(CE_PushButtonBevel, &copie, peintre, widget);
 }
 
@@ -259,7 +266,8 @@ void DStyleProxy::DessineTexteBouton(QStyleOptionButton const & option, QPainter
         if (copie.state & State_Sunken)
             copie.state |= State_On;
         else
-            copie.palette.setColor(QPalette::ButtonText, Qt::white);
+            copie.palette =
+                maMemoirePalettes->Donne(copie.palette, QPalette::ButtonText, Qt::white);
     }
     QProxyStyle::drawControl(CE_PushButtonLabel, &copie, peintre, widget);
 }
@@ -267,6 +275,7 @@ void DStyleProxy::DessineTexteBouton(QStyleOptionButton const & option, QPainter
 void DStyleProxy::DessineOnglet(QStyleOptionTab const & option, QPainter * peintre,
                                 QWidget const * widget)
 {
+    GardePeintre const garde(peintre);
     peintre->setRenderHint(QPainter::Antialiasing);
     if (option.state & State_Selected) {
         peintre->setPen(Voile(CouleursStyle::kContourOnglet, option.palette));

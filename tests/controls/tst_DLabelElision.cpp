@@ -323,6 +323,14 @@ void tst_DLabelElision::policeDuParent()
 
     QCOMPARE(label.DonnePolice().pixelSize(), 40);
     QCOMPARE(label.minimumSizeHint().height(), QFontMetrics(police).height());
+
+    // Deliberate: the text has the font that was given, whatever the widget has from its parent.
+    QFont grasse;
+    grasse.setBold(true);
+    label.PrendsPolice(grasse);
+    QCOMPARE(label.font().pixelSize(), 40);
+    QCOMPARE(label.DonnePolice(), grasse);
+    QCOMPARE(label.sizeHint().height(), QFontMetrics(grasse).height());
 }
 
 void tst_DLabelElision::palette()

@@ -157,6 +157,11 @@ void tst_ElidedLabel::droiteAGauche()
     QRect const encre = Encre::BornesEncre(Grave(label));
     QVERIFY(label.isElided());
     QVERIFY(kLargeur - encre.right() <= label.fontMetrics().averageCharWidth());
+
+    label.setText(u"שלום"_s); // which leaves much of the line empty
+    QRect const courte = Encre::BornesEncre(Grave(label));
+    QVERIFY(!label.isElided());
+    QVERIFY(kLargeur - courte.right() <= label.fontMetrics().averageCharWidth());
 }
 
 void tst_ElidedLabel::policeDuWidget()

@@ -119,8 +119,9 @@ void DLabelElision::PlaceAvecEllipse(QTextLine & ligne, double place) const
         ligne.setPosition(QPointF(aGauche ? maLargeurEllipse : 0, 0));
         // Beside the text, also where this is flush right: the ellipsis stands for what is missing
         // there, and at a fixed place it would lie under the text.
-        QRectF const rectangle = ligne.naturalTextRect();
-        maPositionEllipse = aGauche ? rectangle.left() - maLargeurEllipse : rectangle.right();
+        double const gauche = ligne.naturalTextRect().left();
+        maPositionEllipse =
+            aGauche ? gauche - maLargeurEllipse : gauche + ligne.horizontalAdvance();
         return;
     }
     maLargeurTexte = 0;

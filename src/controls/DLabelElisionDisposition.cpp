@@ -145,7 +145,7 @@ void DLabelElision::DessineEllipse(QPainter & peintre, QTextLine const & ligne) 
 {
     if (maLargeurTexte == 0) // it may be wider than the label
         peintre.setClipRect(QRect(0, 0, maLargeurDisponible, maHauteurTexte), Qt::IntersectClip);
-    if (maCouleurFondElipse != Qt::transparent)
+    if (maCouleurFondElipse.isValid() && maCouleurFondElipse != Qt::transparent)
         peintre.fillRect(QRectF(maPositionEllipse, 0, maLargeurEllipse, ligne.height()),
                          maCouleurFondElipse);
     peintre.drawText(QPointF(maPositionEllipse, ligne.ascent()), DonneEllipse());

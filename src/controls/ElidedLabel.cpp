@@ -57,6 +57,7 @@ bool ElidedLabel::DessineTexte(QPainter & peintre) const
     // As a layout does: the text tells its direction, and with it the side of the ellipsis.
     peintre.setLayoutDirection(Qt::LayoutDirectionAuto);
     layout.beginLayout();
+    // Deliberate: the room is that of the widget, whatever frame and margins it has.
     bool elision = false;
     for (int haut = 0;; haut += mesures.lineSpacing()) {
         QTextLine ligne = layout.createLine();

@@ -54,6 +54,7 @@ private Q_SLOTS:
     void ellipseDuCoteDeLaFin_data();
     void ellipseDuCoteDeLaFin();
     void policeDuWidget();
+    void cadreSansEffet();
     void vide();
     void detruitParSonSignal();
     void lectureEcran();
@@ -225,6 +226,18 @@ void tst_ElidedLabel::policeDuWidget()
     label.setFont(grande);
     Grave(label);
     QVERIFY(label.isElided());
+}
+
+void tst_ElidedLabel::cadreSansEffet()
+{
+    // Deliberate: neither takes room from the text.
+    ElidedLabel label(kTexte, nullptr);
+    label.resize(kLargeur, CompteLignes(kTexte, label.font()) * label.fontMetrics().lineSpacing());
+    label.setFrameStyle(QFrame::Box | QFrame::Plain);
+    label.setLineWidth(5);
+    label.setContentsMargins(10, 10, 10, 10);
+    Grave(label);
+    QVERIFY(!label.isElided());
 }
 
 void tst_ElidedLabel::vide()

@@ -15,7 +15,6 @@
 #include <QTabBar>
 
 #include <cmath>
-#include <optional>
 
 using namespace Qt::StringLiterals;
 
@@ -77,7 +76,6 @@ void DessineBoutonDefaut(QStyleOptionButton const & option, QPainter & peintre)
     QRectF const rect = QRectF(option.rect)
                             .adjusted(kMargeBoutonDefaut, kMargeBoutonDefaut, -kMargeBoutonDefaut,
                                       -kMargeBoutonDefaut);
-    GardePeintre const garde(&peintre);
     peintre.setRenderHint(QPainter::Antialiasing);
     peintre.setPen(couleur);
     peintre.setBrush(couleur);
@@ -110,18 +108,15 @@ void DessineSeparateurOnglet(QStyleOptionTab const & option, QPainter & peintre,
 void DStyleProxy::drawControl(ControlElement element, QStyleOption const * option,
                               QPainter * peintre, QWidget const * widget) const
 {
+    GardePeintre const garde(peintre); // also from what the base style leaves behind
     if (element == CE_RadioButton || element == CE_ComboBoxLabel)
         ArreteAnimations(option, widget);
     monWidgetDessinay = widget;
     if (EstBooleenVrai(widget, ProprietesStyle::kChampTexteSansLigneDecoratrice))
         return;
-    // The painter is saved by what changes it: it is a good part of what simple elements cost.
-    std::optional<GardePeintre> garde;
     if (option && !(option->state & State_Enabled) &&
-        EstBooleenVrai(widget, ProprietesStyle::kMonochrome)) {
-        garde.emplace(peintre);
+        EstBooleenVrai(widget, ProprietesStyle::kMonochrome))
         peintre->setOpacity(kOpaciteDesactivay);
-    }
     if (auto const * const menu = qstyleoption_cast<QStyleOptionMenuItem const *>(option))
         DessineItemMenu(element, *menu, peintre, widget);
     else if (EstBooleenVrai(widget, ProprietesStyle::kPourStyle) ||
@@ -275,7 +270,6 @@ void DStyleProxy::DessineTexteBouton(QStyleOptionButton const & option, QPainter
 void DStyleProxy::DessineOnglet(QStyleOptionTab const & option, QPainter * peintre,
                                 QWidget const * widget)
 {
-    GardePeintre const garde(peintre);
     peintre->setRenderHint(QPainter::Antialiasing);
     if (option.state & State_Selected) {
         peintre->setPen(Voile(CouleursStyle::kContourOnglet, option.palette));

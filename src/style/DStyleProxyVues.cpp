@@ -100,7 +100,6 @@ void DStyleProxy::DessineItemVue(QStyleOptionViewItem const & option, QPainter *
     bool const fondPeint =
         surFondClair && (estListeDeCombo || qobject_cast<QTreeView const *>(widget));
 
-    GardePeintre const garde(peintre);
     peintre->setRenderHint(QPainter::Antialiasing);
     QStyleOptionViewItem copie(option);
     if (fondPeint)

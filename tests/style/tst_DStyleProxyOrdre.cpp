@@ -225,15 +225,20 @@ void tst_DStyleProxyOrdre::widgetDeStyleSansCasParticuliers()
 void tst_DStyleProxyOrdre::peintreRendu_data()
 {
     QTest::addColumn<int>("conduite");
-    QTest::newRow("the base draws nothing") << int(StyleEspion::kMuet);
-    QTest::newRow("the base leaves the painter in disorder") << int(StyleEspion::kDerange);
+    QTest::addColumn<bool>("monochrome");
+    QTest::newRow("the base draws nothing") << int(StyleEspion::kMuet) << false;
+    QTest::newRow("the base draws nothing, pale") << int(StyleEspion::kMuet) << true;
+    QTest::newRow("the base leaves the painter in disorder") << int(StyleEspion::kDerange) << false;
+    QTest::newRow("the base leaves the painter in disorder, pale")
+        << int(StyleEspion::kDerange) << true;
 }
 
 void tst_DStyleProxyOrdre::peintreRendu()
 {
     QFETCH(int, conduite);
+    QFETCH(bool, monochrome);
     monBanc = std::make_unique<BancStyle>(StyleEspion::eConduite(conduite));
-    monWidget->setProperty(DStyleProxy::DonneNomAttributPourStyleMonochrome(), true);
+    monWidget->setProperty(DStyleProxy::DonneNomAttributPourStyleMonochrome(), monochrome);
     QStyleOptionButton option;
     option.rect = kRect;
     QPen const plume(Qt::green, 3.0);

@@ -3,10 +3,12 @@
 
 #include "foundation/ThemesQt.h"
 #include "noyau/RoutinesTexte.h"
+#include "style/DStyleProxy.h"
 
 #include <QApplication>
 #include <QPalette>
 #include <QRegularExpression>
+#include <QStyleFactory>
 
 #include <utility>
 
@@ -70,6 +72,16 @@ void MetsBords(QPalette palette)
 }
 
 } // namespace
+
+ThemeGalerie::ThemeGalerie(QString styleDeBase)
+    : monStyleDeBase(std::move(styleDeBase))
+{
+}
+
+QString ThemeGalerie::DonneStyleDeBase() const
+{
+    return monStyleDeBase;
+}
 
 void ThemeGalerie::Reinitialise()
 {
@@ -141,6 +153,10 @@ bool ThemeGalerie::Applique() const
     }
     QPalette const palette = DonnePalette();
     QApplication::setPalette(palette);
+    // The style keeps the window's colour from when it was made, and its variable is gone with the
+    // table that it added it to: another theme, another style.
+    if (!monStyleDeBase.isEmpty())
+        QApplication::setStyle(new DStyleProxy(QStyleFactory::create(monStyleDeBase)));
     MetsBords(palette);
     qApp->setStyleSheet(ThemesQt::Instance()->AppliquerVariable(feuilles));
     return true;

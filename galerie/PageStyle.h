@@ -1,0 +1,52 @@
+// galerie/PageStyle.h
+#pragma once
+
+#include <QStyle>
+#include <QWidget>
+
+#include <memory>
+
+class DStyleProxy;
+class EssaisStyle;
+class QCheckBox;
+class QComboBox;
+class QGridLayout;
+class QScrollArea;
+struct DessinStyle;
+struct ProprieteMontree;
+
+/// The style proxy over each base style: every state of what it draws, and each property on and
+/// off.
+class PageStyle : public QWidget
+{
+    Q_OBJECT
+
+public:
+    /// Begins with the base style of that name, or with Fusion if there is none.
+    explicit PageStyle(QString const & styleDeBase, QWidget * parent = nullptr);
+    ~PageStyle() override;
+
+protected:
+    void changeEvent(QEvent * evenement) override;
+
+private:
+    QLayout * CreeChoix(QString const & styleDeBase);
+    QWidget * CreeEntete();
+    QWidget * CreeDessins();
+    void AjouteSection(QGridLayout & grille, QString const & titre, QString const & effet);
+    void AjouteEtats(QGridLayout & grille);
+    void AjoutePropriete(QGridLayout & grille, ProprieteMontree const & propriete);
+    void AjouteMenus(QGridLayout & grille, ProprieteMontree const & propriete);
+    void AjouteLigne(QGridLayout & grille, QString const & titre, DessinStyle const & dessin,
+                     QList<char const *> const & proprietes, QString const & nom);
+
+    void PriseStyleChoisi();
+    void PriseSensChangay();
+
+    std::unique_ptr<DStyleProxy> monStyle;
+    QComboBox * monChoixStyle = nullptr;
+    QCheckBox * monSens = nullptr;
+    EssaisStyle * mesEssais = nullptr;
+    QWidget * monEntete = nullptr;
+    QScrollArea * monDefilement = nullptr;
+};

@@ -49,5 +49,5 @@ struct DessinStyle
 
 DessinStyle const & DonneDessin(eDessin sorte);
 
-/// Rules for the tag "exemple", other ones when the item is selected or under the mouse.
+/// Rules for the tag "ex", other ones when the item is selected or under the mouse.
 MapDeRegles DonneReglesExemple();

@@ -37,7 +37,7 @@ constexpr int kElementsMenuLong = 20;
 QStandardItem * CreeBranche(int numero)
 {
     auto * const branche = new QStandardItem(TraductionGalerie(
-        TexteGalerie("Mot <exemple>vu</exemple> {1}"), {UniChaine(QLocale().toString(numero))}));
+        TexteGalerie("Mot <ex>vu</ex> {1}"), {UniChaine(QLocale().toString(numero))}));
     branche->setEditable(false);
     for (int i = 1; i <= 2; ++i)
         branche->appendRow({new QStandardItem(TraductionGalerie(TexteGalerie("Élément"))),
@@ -144,7 +144,7 @@ QMenu * CreeMenuRiche(QWidget * parent)
     auto * const menu = new QMenu(parent);
     MetsPropriete(*menu, DStyleProxy::DonneNomProprietePossedeRegleTexteRiche());
     MetsPropriete(*menu, DStyleProxy::DonneNomProprieteEnsembleReglesTexteRiche());
-    QString const texte = TraductionGalerie(TexteGalerie("Mot <exemple>vu</exemple>"));
+    QString const texte = TraductionGalerie(TexteGalerie("Mot <ex>vu</ex>"));
     menu->addAction(texte);
     QAction * const coche = menu->addAction(texte + u"\tCtrl+E"_s);
     coche->setCheckable(true);

@@ -126,7 +126,7 @@ void tst_Galerie::captures()
     QString const index = LisTexte(destination + u"/index.html"_s);
     QStringList const images = QDir(destination).entryList({u"*.png"_s});
     for (QString const & page : {u"01-theme"_s, u"02-textes"_s, u"03-polices"_s, u"04-ecrans"_s,
-                                 u"05-alertes"_s, u"06-fenetres"_s}) {
+                                 u"05-alertes"_s, u"06-fenetres"_s, u"07-style"_s}) {
         QVERIFY(images.contains(page + u"-fr.png"_s));
         QVERIFY(images.contains(page + u"-en.png"_s));
         QVERIFY2(QImage(destination + u'/' + page + u"-fr.png"_s) !=
@@ -143,7 +143,7 @@ void tst_Galerie::captures()
                      qPrintable(page));
         }
     }
-    QCOMPARE(images.size(), 24);
+    QCOMPARE(images.size(), 28);
     for (QString const & nom : images) {
         QImage const image(destination + u'/' + nom);
         QVERIFY2(!image.isNull() && !EstUniforme(image), qPrintable(nom));

@@ -1,14 +1,18 @@
 // bench/bench_ThemesQt.cpp
 //
 // The expansion of style sheets, beside a plain loop of QString::replace over the variables: the
-// time for sheets of 10,000, 100,000 and 1,000,000 characters with a variable in every 50, and for
-// a colour. Exits with 1 when the time does not grow linearly.
+// time for sheets of 10,000, 100,000 and 1,000,000 characters with a variable in every 50; and a
+// million colours by name, beside a bare look-up in a QHash of colours. Exits with 1 when the time
+// of sheets does not grow linearly, or the million colours take more than a second.
+#include "Comparaison.h"
 #include "foundation/ThemesQt.h"
 #include "foundation/VariablesParDefaut_p.h"
 
 #include <QApplication>
 #include <QColor>
 #include <QElapsedTimer>
+#include <QHash>
+#include <QStringList>
 
 #include <algorithm>
 #include <cstdio>
@@ -24,6 +28,9 @@ constexpr int kEssais = 15; // of which the fastest counts
 // Ten times the text may take this many times as long: ten, and as much again for what the larger
 // one loses to the caches and the allocator. Quadratic time would take a hundred times as long.
 constexpr double kCroissanceMax = 20.0;
+
+constexpr int kCouleurs = 1'000'000;
+constexpr double kDureeCouleur = 1e9 / kCouleurs; // ns
 
 // A sheet of exactly that many characters with all variables in turn, one in each `kEcart`.
 QString FabriqueFeuille(qsizetype taille)
@@ -63,6 +70,27 @@ double Mesure(int repetitions, Fonction const & fonction)
     return meilleur;
 }
 
+// All names of the table in turn, those of fonts and lengths too.
+bool MesureCouleurs(ThemesQt const & themes)
+{
+    QStringList const noms = themes.DonneNoms();
+    QHash<QString, QColor> couleurs;
+    for (QString const & nom : noms)
+        couleurs.insert(nom, themes.DonneCouleur(nom));
+    auto const tour = [&noms](int repetitions, auto const & donne) {
+        for (int i = 0; i < repetitions; ++i)
+            Garde(donne(noms[i % noms.size()]));
+    };
+    std::puts("");
+    Comparaison comparaison(kCouleurs);
+    comparaison.Mesure(
+        "DonneCouleur beside QHash::value",
+        [&](int n) { tour(n, [&](QString const & nom) { return themes.DonneCouleur(nom); }); },
+        [&](int n) { tour(n, [&](QString const & nom) { return couleurs.value(nom); }); }, 0.0,
+        kDureeCouleur);
+    return comparaison.Resultat() == 0;
+}
+
 } // namespace
 
 int main(int nombre, char ** arguments)
@@ -96,8 +124,7 @@ int main(int nombre, char ** arguments)
     }
     std::printf("growth is for ten times the text; the limit is %.0f\n", kCroissanceMax);
 
-    QString const nom = u"couleurBordureGui"_s;
-    std::printf("DonneCouleur %.0f ns\n", Mesure(10'000, [&] { themes.DonneCouleur(nom); }));
+    reussi = MesureCouleurs(themes) && reussi;
 
     ThemesQt::DetruisToi();
     return reussi ? 0 : 1;

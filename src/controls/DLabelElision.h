@@ -89,6 +89,7 @@ private:
     bool AjustementEstDu() const;
     void DemandeAjustement();
     void AjusteSiDu() const;
+    int DonneLargeurTexte() const;
     void DisposeTexte(QSize const & taille) const;
     QTextLine DisposeFin(double place) const;
     void PlaceAvecEllipse(QTextLine & ligne, double place) const;

@@ -65,7 +65,10 @@ bool ElidedLabel::DessineTexte(QPainter & peintre) const
         reste.replace(QChar::LineSeparator, u' ');
         QString const derniere = mesures.elidedText(reste, Qt::ElideRight, width());
         elision = derniere != reste;
-        peintre.drawText(QPointF(0, haut + mesures.ascent()), derniere);
+        // Flush with the lines above it.
+        int const gauche =
+            reste.isRightToLeft() ? width() - mesures.horizontalAdvance(derniere) : 0;
+        peintre.drawText(QPointF(gauche, haut + mesures.ascent()), derniere);
         break;
     }
     layout.endLayout();

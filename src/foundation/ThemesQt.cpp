@@ -25,6 +25,28 @@ QColor DonneCouleurSysteme(int indice)
             static_cast<int>(couleur >> 16 & 0xff)};
 }
 
+QColor LisCouleur(QString const & texte)
+{
+    if (!texte.startsWith(kDebutCouleur))
+        return {};
+
+    // The last character is taken for the closing bracket, whatever it is.
+    qsizetype const longueur = texte.size() - kDebutCouleur.size() - 1;
+    auto const parties = QStringView(texte).mid(kDebutCouleur.size(), longueur).split(u',');
+    if (parties.size() != kNombreComposantes)
+        return {};
+    quint32 composantes[kNombreComposantes] = {};
+    for (qsizetype i = 0; i < kNombreComposantes; ++i) {
+        bool estNombre = false;
+        composantes[i] = static_cast<quint32>(parties[i].trimmed().toInt(&estNombre));
+        if (!estNombre)
+            return {};
+    }
+    auto const [rouge, vert, bleu, alpha] = composantes;
+    return QColor::fromRgba(alpha << 24 | (rouge & 0xff) << 16 | (vert & 0xff) << 8 |
+                            (bleu & 0xff));
+}
+
 } // namespace
 
 ThemesQt * ThemesQt::instanceUnique = nullptr;
@@ -60,6 +82,7 @@ void ThemesQt::DetruisToi()
 
 void ThemesQt::AjouterVariable(QString nom, QString valeur)
 {
+    mesCouleurs.clear();
     mesVariables.insert_or_assign(std::move(nom), std::move(valeur));
 }
 
@@ -78,28 +101,15 @@ QString ThemesQt::AppliquerVariable(QString const & texte) const
 
 QColor ThemesQt::DonneCouleur(QString const & nom) const
 {
+    if (auto const couleur = mesCouleurs.constFind(nom); couleur != mesCouleurs.cend())
+        return *couleur;
     auto const variable = mesVariables.find(nom);
     if (variable == mesVariables.end())
-        return {};
-    QString const texte = AppliquerVariable(variable->second.trimmed());
-    if (!texte.startsWith(kDebutCouleur))
-        return {};
-
-    // The last character is taken for the closing bracket, whatever it is.
-    qsizetype const longueur = texte.size() - kDebutCouleur.size() - 1;
-    auto const parties = QStringView(texte).mid(kDebutCouleur.size(), longueur).split(u',');
-    if (parties.size() != kNombreComposantes)
-        return {};
-    quint32 composantes[kNombreComposantes] = {};
-    for (qsizetype i = 0; i < kNombreComposantes; ++i) {
-        bool estNombre = false;
-        composantes[i] = static_cast<quint32>(parties[i].trimmed().toInt(&estNombre));
-        if (!estNombre)
-            return {};
-    }
-    auto const [rouge, vert, bleu, alpha] = composantes;
-    return QColor::fromRgba(alpha << 24 | (rouge & 0xff) << 16 | (vert & 0xff) << 8 |
-                            (bleu & 0xff));
+        return {}; // and not kept: there is no end of such names
+    QColor const couleur = LisCouleur(AppliquerVariable(variable->second.trimmed()));
+    // The table's name, since the caller's may stand in memory that is not kept.
+    mesCouleurs.insert(variable->first, couleur);
+    return couleur;
 }
 
 QStringList ThemesQt::DonneNoms() const

@@ -4,6 +4,7 @@
 #include "FabrelGuiExport.h"
 
 #include <QColor>
+#include <QHash>
 #include <QString>
 #include <QStringList>
 
@@ -57,4 +58,7 @@ public:
 private:
     QString monPrefixe;
     std::map<QString, QString> mesVariables;
+    // What `DonneCouleur` has found for names of the table, invalid colours too. Emptied by each
+    // change, since a colour may use other variables.
+    mutable QHash<QString, QColor> mesCouleurs;
 };

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QColor>
+#include <QPalette>
 
 // Overlays: black of little alpha, so that they darken any background a little.
 namespace CouleursStyle {
@@ -28,5 +29,19 @@ constexpr QColor kBoutonOutilSurvolay = Noir(20);
 constexpr QColor kBoutonOutilCochaySurvolay = Noir(30);
 constexpr QColor kBoutonOutilEnfoncay = Noir(35);
 constexpr QColor kSeparateurMenuBouton = Noir(20);
+
+/// Whether texts of the palette are lighter than what they are written on.
+inline bool EstSombre(QPalette const & palette, QPalette::ColorRole texte = QPalette::WindowText,
+                      QPalette::ColorRole fond = QPalette::Window)
+{
+    return palette.color(texte).lightness() > palette.color(fond).lightness();
+}
+
+/// The overlay on the backgrounds of `palette`: white of the same alpha on dark ones, where black
+/// is not seen.
+inline QColor Voile(QColor const & noir, QPalette const & palette)
+{
+    return EstSombre(palette) ? QColor(255, 255, 255, noir.alpha()) : noir;
+}
 
 } // namespace CouleursStyle

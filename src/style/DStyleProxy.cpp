@@ -5,6 +5,7 @@
 #include "editing/DLineEdit.h"
 #include "foundation/ThemesQt.h"
 #include "style/LecturePropriete_p.h"
+#include "style/MemoirePalettes_p.h"
 #include "style/ProprietesStyle_p.h"
 
 #include <QAbstractButton>
@@ -19,6 +20,9 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
+constexpr QMargins kMargeTexte(4, 0, 0, 0); // logical pixels: what the contents are moved by
+constexpr char const * kProprieteMarge = "_d_margeTexte"; // the field has this margin
+
 QString NomCouleurSurvol()
 {
     return u"couleurBoutonDStyleProxyMouseOver"_s;
@@ -30,6 +34,7 @@ DStyleProxy::DStyleProxy(QStyle * base)
     : QProxyStyle(base)
     , maCouleurFenetre(QApplication::palette().color(QPalette::Window))
     , monLabelElision(new DLabelElision(nullptr))
+    , maMemoirePalettes(std::make_unique<MemoirePalettes>())
 {
     ThemesQt::Instance()->AjouterVariable(NomCouleurSurvol(), QColor(u"#E5F1FB"_s));
 }
@@ -62,8 +67,40 @@ eContextePourStyle DStyleProxy::DonneContexte(QStyleOption const * option)
 void DStyleProxy::polish(QWidget * widget)
 {
     QProxyStyle::polish(widget);
+    if (auto * const champ = qobject_cast<QLineEdit *>(widget))
+        AjouteMargeTexte(*champ);
     if (auto * const champ = qobject_cast<DLineEdit *>(widget))
         champ->MetsAJourPalette();
+}
+
+void DStyleProxy::unpolish(QWidget * widget)
+{
+    if (auto * const champ = qobject_cast<QLineEdit *>(widget))
+        EnleveMargeTexte(*champ);
+    QProxyStyle::unpolish(widget);
+}
+
+// The contents of a line edit begin farther to the left than the base style has them. Where that is
+// out of the field, its first letter would be cut.
+void DStyleProxy::AjouteMargeTexte(QLineEdit & champ) const
+{
+    QStyleOptionFrame option;
+    option.initFrom(&champ);
+    option.lineWidth =
+        champ.hasFrame() ? QProxyStyle::pixelMetric(PM_DefaultFrameWidth, &option, &champ) : 0;
+    QRect const contenu = subElementRect(SE_LineEditContents, &option, &champ);
+    if (contenu.left() >= 0 || champ.property(kProprieteMarge).isValid())
+        return;
+    champ.setTextMargins(champ.textMargins() + kMargeTexte);
+    champ.setProperty(kProprieteMarge, true);
+}
+
+void DStyleProxy::EnleveMargeTexte(QLineEdit & champ)
+{
+    if (!champ.property(kProprieteMarge).isValid())
+        return;
+    champ.setTextMargins(champ.textMargins() - kMargeTexte);
+    champ.setProperty(kProprieteMarge, QVariant());
 }
 
 void DStyleProxy::drawItemPixmap(QPainter * peintre, QRect const & rect, int alignement,

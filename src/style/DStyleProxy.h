@@ -10,8 +10,12 @@
 #include <QPointer>
 #include <QProxyStyle>
 
+#include <memory>
+
 class DLabelElision;
+class MemoirePalettes;
 class QLabel;
+class QLineEdit;
 class QStyleOptionButton;
 class QStyleOptionComboBox;
 class QStyleOptionHeader;
@@ -32,6 +36,10 @@ class QStyleOptionViewItem;
 /// text with an unbalanced tag then throws `InterpreteurChaineSemantiqueErreur` out of the drawing.
 /// Two pictures are the application's to supply: ":Images/chevron-DToolButton.svg", the arrow of
 /// buttons, without which none is drawn.
+///
+/// On a base style that writes less than 4 pixels from the left edge of a line edit, the style
+/// gives the field a text margin of 4 pixels more while it has this style. In a dark palette,
+/// overlays are white instead of black and the name of the selected tab, which is white, is black.
 ///
 /// Between a right-to-left layout and a left-to-right one, what is drawn here is mirrored. GUI
 /// thread only, and not to be used while it is drawing a text.
@@ -143,6 +151,8 @@ public:
     int styleHint(StyleHint indication, QStyleOption const * option = nullptr,
                   QWidget const * widget = nullptr,
                   QStyleHintReturn * retour = nullptr) const override;
+    using QProxyStyle::unpolish;
+    void unpolish(QWidget * widget) override;
 
 private:
     struct ChainesItemMenu
@@ -175,12 +185,16 @@ private:
                             QWidget const * widget) const;
     static void DessineOnglet(QStyleOptionTab const & option, QPainter * peintre,
                               QWidget const * widget);
+    void DessineTexteOnglet(QStyleOptionTab const & option, QPainter * peintre,
+                            QWidget const * widget) const;
     void DessineItemVue(QStyleOptionViewItem const & option, QPainter * peintre,
                         QWidget const * widget) const;
     static void DessineFondItem(QStyleOptionViewItem const & option, QPainter * peintre,
                                 QWidget const * widget);
     void DessinePanneauItem(QStyleOptionViewItem const & option, QPainter * peintre,
                             QWidget const * widget) const;
+    void DessineRangee(QStyleOptionViewItem const & option, QPainter * peintre,
+                       QWidget const * widget) const;
     bool SuitRegles(QString const & texte, eContextePourStyle contexte,
                     QWidget const * widget) const;
     void EcrisItem(QStyleOptionViewItem const & option, QPalette const & palette,
@@ -195,6 +209,8 @@ private:
     void DessineComboBox(QStyleOptionComboBox const & option, QPainter * peintre,
                          QWidget const * widget) const;
     int MesureTexteItemMenu(QStyleOptionMenuItem const & option, QWidget const * widget) const;
+    void AjouteMargeTexte(QLineEdit & champ) const;
+    static void EnleveMargeTexte(QLineEdit & champ);
     QLabel & PreteLabel(QPointer<QLabel> & label) const;
 
     // Measuring and drawing rich text: hidden labels without a parent, made on first use.
@@ -206,4 +222,5 @@ private:
     mutable QPointer<QWidget const> monWidgetDessinay;
     QPointer<DLabelElision> monLabelElision;
     mutable bool monFondItemPeint = false; // of the item that the base style is drawing
+    std::unique_ptr<MemoirePalettes> maMemoirePalettes;
 };

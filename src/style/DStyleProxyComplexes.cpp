@@ -68,7 +68,7 @@ void DStyleProxy::DessineBoutonOutil(QStyleOptionToolButton const & option, QPai
         return;
     GardePeintre const garde(peintre);
     peintre->setRenderHint(QPainter::Antialiasing, false);
-    peintre->setPen(CouleursStyle::kSeparateurMenuBouton);
+    peintre->setPen(CouleursStyle::Voile(CouleursStyle::kSeparateurMenuBouton, copie.palette));
     bool const aGauche = copie.direction == Qt::RightToLeft; // of the button
     peintre->drawLine(aGauche ? partieMenu.topRight() : partieMenu.topLeft(),
                       aGauche ? partieMenu.bottomRight() : partieMenu.bottomLeft());

@@ -6,6 +6,7 @@
 #include "style/DStyleProxy.h"
 #include "style/GardePeintre_p.h"
 #include "style/LecturePropriete_p.h"
+#include "style/MemoirePalettes_p.h"
 #include "style/ProprietesStyle_p.h"
 
 #include "foundation/VersionsQt_p.h"
@@ -14,8 +15,12 @@
 #include <QTabBar>
 
 #include <cmath>
+#include <optional>
 
 using namespace Qt::StringLiterals;
+
+using CouleursStyle::EstSombre;
+using CouleursStyle::Voile;
 
 namespace {
 
@@ -52,12 +57,6 @@ bool EstDefaut(QStyleOptionButton const & option)
     return option.features & QStyleOptionButton::DefaultButton;
 }
 
-bool EstSombre(QPalette const & palette)
-{
-    return palette.color(QPalette::ButtonText).lightness() >
-           palette.color(QPalette::Button).lightness();
-}
-
 QColor MelangeSur(QColor const & fond, QColor const & couche)
 {
     auto const melange = [&couche](int dessous, int dessus) {
@@ -78,12 +77,14 @@ void DessineBoutonDefaut(QStyleOptionButton const & option, QPainter & peintre)
     QRectF const rect = QRectF(option.rect)
                             .adjusted(kMargeBoutonDefaut, kMargeBoutonDefaut, -kMargeBoutonDefaut,
                                       -kMargeBoutonDefaut);
+    GardePeintre const garde(&peintre);
     peintre.setRenderHint(QPainter::Antialiasing);
     peintre.setPen(couleur);
     peintre.setBrush(couleur);
     peintre.drawRoundedRect(rect, kRayonBouton, kRayonBouton, Qt::AbsoluteSize);
     if (option.state & QStyle::State_HasFocus) {
-        peintre.setPen(QPen(CouleursStyle::kLigneFocus, 1, Qt::SolidLine, Qt::FlatCap));
+        peintre.setPen(
+            QPen(Voile(CouleursStyle::kLigneFocus, option.palette), 1, Qt::SolidLine, Qt::FlatCap));
         peintre.drawLine(rect.bottomLeft() + QPointF(kMargeLigneFocus, 0),
                          rect.bottomRight() - QPointF(kMargeLigneFocus, 0));
     }
@@ -94,11 +95,12 @@ void DessineSeparateurOnglet(QStyleOptionTab const & option, QPainter & peintre,
 {
     int const index = barre.tabAt(option.rect.bottomLeft());
     bool const estDernier = index == barre.count() - 1;
-    if (estDernier || std::abs(index - barre.currentIndex()) <= 1)
+    if (index < 0 || estDernier || std::abs(index - barre.currentIndex()) <= 1)
         return;
     bool const versLaGauche = option.direction == Qt::RightToLeft;
     double const x = (versLaGauche ? option.rect.left() : option.rect.right()) + 0.5;
-    peintre.setPen(QPen(CouleursStyle::kSeparateurOnglet, 1, Qt::SolidLine, Qt::FlatCap));
+    peintre.setPen(QPen(Voile(CouleursStyle::kSeparateurOnglet, option.palette), 1, Qt::SolidLine,
+                        Qt::FlatCap));
     peintre.drawLine(QPointF(x, option.rect.top() + kHautSeparateurOnglet),
                      QPointF(x, option.rect.bottom() - kBasSeparateurOnglet));
 }
@@ -108,15 +110,18 @@ void DessineSeparateurOnglet(QStyleOptionTab const & option, QPainter & peintre,
 void DStyleProxy::drawControl(ControlElement element, QStyleOption const * option,
                               QPainter * peintre, QWidget const * widget) const
 {
-    GardePeintre const garde(peintre);
     if (element == CE_RadioButton || element == CE_ComboBoxLabel)
         ArreteAnimations(option, widget);
     monWidgetDessinay = widget;
     if (EstBooleenVrai(widget, ProprietesStyle::kChampTexteSansLigneDecoratrice))
         return;
+    // The painter is saved by what changes it: it is a good part of what simple elements cost.
+    std::optional<GardePeintre> garde;
     if (option && !(option->state & State_Enabled) &&
-        EstBooleenVrai(widget, ProprietesStyle::kMonochrome))
+        EstBooleenVrai(widget, ProprietesStyle::kMonochrome)) {
+        garde.emplace(peintre);
         peintre->setOpacity(kOpaciteDesactivay);
+    }
     if (auto const * const menu = qstyleoption_cast<QStyleOptionMenuItem const *>(option))
         DessineItemMenu(element, *menu, peintre, widget);
     else if (EstBooleenVrai(widget, ProprietesStyle::kPourStyle) ||
@@ -138,6 +143,9 @@ bool DStyleProxy::DessineElement(ControlElement element, QStyleOption const * op
     case CE_TabBarTabShape:
         return Dessine<QStyleOptionTab>(
             option, [&](auto const & onglet) { DessineOnglet(onglet, peintre, widget); });
+    case CE_TabBarTabLabel:
+        return Dessine<QStyleOptionTab>(
+            option, [&](auto const & onglet) { DessineTexteOnglet(onglet, peintre, widget); });
     case CE_ItemViewItem:
         return Dessine<QStyleOptionViewItem>(
             option, [&](auto const & item) { DessineItemVue(item, peintre, widget); });
@@ -223,21 +231,23 @@ void DStyleProxy::DessineFondBouton(QStyleOptionButton const & option, QPainter 
         return;
     }
     if (copie.palette.currentColorGroup() != QPalette::Disabled)
-        copie.palette.setColor(QPalette::Button, DonneFondBouton(copie));
+        copie.palette =
+            maMemoirePalettes->Donne(copie.palette, QPalette::Button, DonneFondBouton(copie));
     QProxyStyle::drawControl(CE_PushButtonBevel, &copie, peintre, widget);
 }
 
 QColor DStyleProxy::DonneFondBouton(QStyleOptionButton const & option) const
 {
-    QColor const couche =
-        option.state & State_MouseOver ? CouleursStyle::kSurvolBouton : CouleursStyle::kFondBouton;
-    if (!baseStyle()->inherits("QFusionStyle"))
-        return couche;
-    // This base drops the alpha of the colour, and would paint the overlay for the mouse in solid
-    // black. It gets what the overlay gives on its own button; on a dark one the light overlay
-    // would hide the light text.
     QColor const bouton = option.palette.color(QPalette::Button);
-    return EstSombre(option.palette) ? bouton : MelangeSur(bouton, couche);
+    bool const survolay = option.state & State_MouseOver;
+    // The light background would hide the light text of a dark palette.
+    if (!survolay && EstSombre(option.palette, QPalette::ButtonText, QPalette::Button))
+        return bouton;
+    QColor const couche =
+        survolay ? Voile(CouleursStyle::kSurvolBouton, option.palette) : CouleursStyle::kFondBouton;
+    // Fusion drops the alpha of the colour, and would paint the overlay for the mouse in solid
+    // black. It gets what the overlay gives on its own button.
+    return baseStyle()->inherits("QFusionStyle") ? MelangeSur(bouton, couche) : couche;
 }
 
 void DStyleProxy::DessineTexteBouton(QStyleOptionButton const & option, QPainter * peintre,
@@ -256,7 +266,8 @@ void DStyleProxy::DessineTexteBouton(QStyleOptionButton const & option, QPainter
         if (copie.state & State_Sunken)
             copie.state |= State_On;
         else
-            copie.palette.setColor(QPalette::ButtonText, Qt::white);
+            copie.palette =
+                maMemoirePalettes->Donne(copie.palette, QPalette::ButtonText, Qt::white);
     }
     QProxyStyle::drawControl(CE_PushButtonLabel, &copie, peintre, widget);
 }
@@ -264,9 +275,10 @@ void DStyleProxy::DessineTexteBouton(QStyleOptionButton const & option, QPainter
 void DStyleProxy::DessineOnglet(QStyleOptionTab const & option, QPainter * peintre,
                                 QWidget const * widget)
 {
+    GardePeintre const garde(peintre);
     peintre->setRenderHint(QPainter::Antialiasing);
     if (option.state & State_Selected) {
-        peintre->setPen(CouleursStyle::kContourOnglet);
+        peintre->setPen(Voile(CouleursStyle::kContourOnglet, option.palette));
         peintre->setBrush(Qt::white);
         peintre->drawPath(DonneFormeOnglet(option.rect));
         QRectF const accent(option.rect.left() + kMargeAccentOnglet, option.rect.top(),
@@ -277,11 +289,23 @@ void DStyleProxy::DessineOnglet(QStyleOptionTab const & option, QPainter * peint
             QLineF(accent.left(), accent.center().y(), accent.right(), accent.center().y()));
     } else if (option.state & State_MouseOver) {
         peintre->setPen(Qt::transparent);
-        peintre->setBrush(CouleursStyle::kSurvolBouton);
+        peintre->setBrush(Voile(CouleursStyle::kSurvolBouton, option.palette));
         peintre->drawPath(DonneFormeOnglet(option.rect));
     } else if (auto const * const barre = qobject_cast<QTabBar const *>(widget)) {
         DessineSeparateurOnglet(option, *peintre, *barre);
     }
+}
+
+// The selected tab is white in every palette.
+void DStyleProxy::DessineTexteOnglet(QStyleOptionTab const & option, QPainter * peintre,
+                                     QWidget const * widget) const
+{
+    QStyleOptionTab copie(option);
+    if (copie.state & State_Selected && EstSombre(copie.palette)) {
+        for (auto const role : {QPalette::WindowText, QPalette::ButtonText, QPalette::Text})
+            copie.palette.setColor(role, Qt::black);
+    }
+    QProxyStyle::drawControl(CE_TabBarTabLabel, &copie, peintre, widget);
 }
 
 QPainterPath DStyleProxy::DonneFormeOnglet(QRect const & rect)

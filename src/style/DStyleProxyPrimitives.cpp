@@ -11,9 +11,12 @@
 #include "controls/DListView.h"
 #include "controls/DTreeView.h"
 
+#include <QFile>
 #include <QIcon>
 
 using namespace Qt::StringLiterals;
+
+using CouleursStyle::Voile;
 
 namespace {
 
@@ -111,8 +114,7 @@ void DStyleProxy::drawPrimitive(PrimitiveElement element, QStyleOption const * o
         break;
     case PE_PanelItemViewRow:
         if (auto const * const item = qstyleoption_cast<QStyleOptionViewItem const *>(option)) {
-            auto const active = ActivePalette(*item);
-            base(&active);
+            DessineRangee(*item, peintre, widget);
             return;
         }
         break;
@@ -132,17 +134,18 @@ void DStyleProxy::DessinePanneauBoutonOutil(QStyleOption const & option, QPainte
     GardePeintre const garde(peintre);
     peintre->setRenderHint(QPainter::Antialiasing);
     peintre->setPen(Qt::NoPen);
-    peintre->setBrush(DonneCouleurBoutonOutil(option.state));
+    peintre->setBrush(Voile(DonneCouleurBoutonOutil(option.state), option.palette));
     peintre->drawRoundedRect(option.rect, kRayonBoutonOutil, kRayonBoutonOutil);
 }
 
 void DStyleProxy::DessineIndicateur(QPainter & peintre, QStyleOption const & option) const
 {
-    int const cote = std::min(kCoteIndicateur, option.rect.width() - 2 * kMargeIndicateur);
-    if (cote <= 0)
-        return;
     // The application's picture. Deliberate: no slash behind the colon.
-    QIcon const chevron(u":Images/chevron-DToolButton.svg"_s);
+    QString const fichier = u":Images/chevron-DToolButton.svg"_s;
+    int const cote = std::min(kCoteIndicateur, option.rect.width() - 2 * kMargeIndicateur);
+    if (cote <= 0 || !QFile::exists(fichier)) // an icon without its file warns at each drawing
+        return;
+    QIcon const chevron(fichier);
     auto const mode = option.state & State_Enabled ? QIcon::Normal : QIcon::Disabled;
     auto const etat = option.state & State_On ? QIcon::On : QIcon::Off;
     QPixmap const pixmap =

@@ -85,7 +85,9 @@ bool DStyleProxy::DessinerTexteRiche(QPainter * peintre, QString texte, QRect co
     label.setFont(peintre->font());
     label.setLayoutDirection(widget ? widget->layoutDirection()
                                     : QGuiApplication::layoutDirection());
-    label.setAlignment(Qt::Alignment(alignement & kMasqueAlignement));
+    // Left to itself, the label mirrors a rich text by its letters and not by its own direction.
+    label.setAlignment(
+        visualAlignment(label.layoutDirection(), Qt::Alignment(alignement & kMasqueAlignement)));
     label.setText(html);
     label.setFixedSize(rect.size().expandedTo(QSize(0, 0)));
 

@@ -15,8 +15,13 @@
 #include <QScopedValueRollback>
 #include <QStyleOption>
 #include <QTableView>
+#include <QTreeView>
+
+#include <algorithm>
 
 using namespace Qt::StringLiterals;
+
+using CouleursStyle::Voile;
 
 namespace {
 
@@ -89,14 +94,19 @@ void DStyleProxy::DessineItemVue(QStyleOptionViewItem const & option, QPainter *
     QWidget const * const decideur = estListeDeCombo ? DonneParentDeListe(*widget) : widget;
     bool const estRiche = EstBooleenVrai(decideur, ProprietesStyle::kTexteRiche);
     bool const suitRegles = estRiche && SuitRegles(option.text, DonneContexte(&option), decideur);
-    bool const avecFond = !EstTable(widget) && EstMisEnValeur(option);
+    bool const surFondClair = !EstTable(widget) && EstMisEnValeur(option);
+    // The panel of the other views has its background from drawPrimitive, as have the panels that
+    // delegates draw by themselves. In the list of a combo box, the base will see no selection.
+    bool const fondPeint =
+        surFondClair && (estListeDeCombo || qobject_cast<QTreeView const *>(widget));
 
+    GardePeintre const garde(peintre);
     peintre->setRenderHint(QPainter::Antialiasing);
     QStyleOptionViewItem copie(option);
-    if (avecFond) {
+    if (fondPeint)
         DessineFondItem(option, peintre, widget);
+    if (surFondClair)
         EcrisSurFondClair(copie.palette);
-    }
     if (estListeDeCombo) {
         copie.state &= ~State_Selected;
         if (estRiche)
@@ -105,7 +115,7 @@ void DStyleProxy::DessineItemVue(QStyleOptionViewItem const & option, QPainter *
         copie.text = u" "_s; // as good as none, but the check indicator stays at its place
     }
     {
-        QScopedValueRollback const fondPeint(monFondItemPeint, avecFond);
+        QScopedValueRollback const etat(monFondItemPeint, fondPeint);
         QProxyStyle::drawControl(CE_ItemViewItem, &copie, peintre, widget);
     }
     bool const sansDelegue = estListeDeCombo && estRiche &&
@@ -170,7 +180,7 @@ void DStyleProxy::DessineFondItem(QStyleOptionViewItem const & option, QPainter 
     int const rayonGauche = libreAGauche ? kRayonItem : 0;
     int const rayonDroite = libreADroite ? kRayonItem : 0;
     peintre->fillPath(DonneRectArondi(rect, rayonGauche, rayonDroite, rayonDroite, rayonGauche),
-                      CouleursStyle::kFondItem);
+                      Voile(CouleursStyle::kFondItem, option.palette));
 }
 
 QPainterPath DStyleProxy::DonneRectArondi(QRect const & rect, int hautGauche, int hautDroite,
@@ -205,7 +215,6 @@ void DStyleProxy::DessinePanneauItem(QStyleOptionViewItem const & option, QPaint
     }
     if (option.backgroundBrush.style() != Qt::NoBrush && !(option.state & State_Selected))
         DessineFondDuModele(option, *peintre);
-    // Of itself where a delegate asks for the panel alone.
     if (!monFondItemPeint && EstMisEnValeur(option))
         DessineFondItem(option, peintre, widget);
     bool const portMarque = option.viewItemPosition == QStyleOptionViewItem::Beginning ||
@@ -217,19 +226,31 @@ void DStyleProxy::DessinePanneauItem(QStyleOptionViewItem const & option, QPaint
     }
 }
 
+// What is beside the items of a tree, and the stripes of all views.
+void DStyleProxy::DessineRangee(QStyleOptionViewItem const & option, QPainter * peintre,
+                                QWidget const * widget) const
+{
+    auto copie = ActivePalette(option);
+    // The base style goes on with the background of the selected items, whose colour is ours.
+    if (!EstTable(widget))
+        copie.palette.setColor(QPalette::Highlight, Voile(CouleursStyle::kFondItem, copie.palette));
+    QProxyStyle::drawPrimitive(PE_PanelItemViewRow, &copie, peintre, widget);
+}
+
 void DStyleProxy::DessineSelecteurAccentListe(QPainter * peintre,
                                               QStyleOptionViewItem const & option, QWidget const *,
                                               QColor const & couleur)
 {
     QRect const rect = option.rect.adjusted(0, kRetraitMarque, 0, -kRetraitMarque);
-    QRect const marque(rect.topLeft(), QSize(kLargeurMarque, rect.height()));
+    // A painter fills what is less than nothing upwards.
+    QRect const marque(rect.topLeft(), QSize(kLargeurMarque, std::max(rect.height(), 0)));
     peintre->fillRect(visualRect(option.direction, rect, marque), couleur);
 }
 
 void DStyleProxy::DessineSectionEntete(QStyleOptionHeader const & option, QPainter * peintre)
 {
     if (option.state & State_MouseOver)
-        peintre->fillRect(option.rect, CouleursStyle::kSurvolEntete);
+        peintre->fillRect(option.rect, Voile(CouleursStyle::kSurvolEntete, option.palette));
     bool const estPremiere = option.position == QStyleOptionHeader::Beginning ||
                              option.position == QStyleOptionHeader::OnlyOneSection;
     if (estPremiere)
@@ -239,5 +260,5 @@ void DStyleProxy::DessineSectionEntete(QStyleOptionHeader const & option, QPaint
                                                             : QSize(1, option.rect.height());
     peintre->fillRect(
         visualRect(option.direction, option.rect, QRect(option.rect.topLeft(), taille)),
-        CouleursStyle::kSeparateurEntete);
+        Voile(CouleursStyle::kSeparateurEntete, option.palette));
 }

@@ -26,107 +26,174 @@ bool Ferme(QStringView nomFermant, QStringView nomOuvrant)
     return nom.size() == nomOuvrant.size() || nomOuvrant[nom.size()].isSpace();
 }
 
-// Goes through the tags of a text and runs the rules on a copy of it.
-class Lecture
+// Puts a text in the place of either tag.
+struct RemplacementDeBalises
 {
-public:
-    Lecture(UniChaine const & source, EnsembleRegles const & regles)
-        : maSource(source)
-        , mesRegles(regles)
-        , maSortie(source)
+    int operator()(UniChaine * texte, Balise & ouverture, Balise & fermeture) const
     {
+        // The closing tag first: the position of the opening one stays valid.
+        if (fermeture.second != 0)
+            texte->Remplace(static_cast<int>(fermeture.first), static_cast<int>(fermeture.second),
+                            fermant);
+        texte->Remplace(static_cast<int>(ouverture.first), static_cast<int>(ouverture.second),
+                        ouvrant);
+        unsigned const contenu = fermeture.first - ouverture.first - ouverture.second;
+        // Deliberate: counts both texts, also where there is no closing tag to replace.
+        return static_cast<int>(contenu + ouvrant.Longueur() + fermant.Longueur());
     }
 
-    UniChaine Execute()
-    {
-        AppliqueRegleDuTexte();
-        for (Balise const & balise : Interpreteur::TrouveBalises(UniChaine(maSource))) {
-            QStringView const nom = DonneNom(maSource, balise);
-            if (nom.startsWith(kFermeture)) {
-                if (mesOuvertures.empty())
-                    return maSortie; // Deliberate: what follows stays as it is
-                TermineElement(balise, nom);
-            } else if (nom.endsWith(kFermeture)) {
-                AppliqueRegleVide(balise, nom);
-            } else {
-                mesOuvertures.push_back({balise, nom, monDecalage});
-            }
-        }
-        if (!mesOuvertures.empty())
-            Refuse();
-        return maSortie;
-    }
+    UniChaine ouvrant;
+    UniChaine fermant;
+};
 
-private:
+// An element of the source that has a rule.
+struct Element
+{
+    RegleTexteRiche const * regle = nullptr;
+    Balise ouverture;
+    Balise fermeture; // just behind the opening tag, and of length 0, for an empty element
+};
+
+// The tags of the elements that have a rule, as they follow each other in the source. An empty
+// element has both at one place.
+struct Evenement
+{
+    std::size_t element;
+    bool ouvre;
+};
+
+struct Structure
+{
+    std::vector<Element> elements;
+    std::vector<Evenement> evenements;
+};
+
+[[noreturn]] void Refuse(QString const & source)
+{
+    RoutinesGeneralesQt::EcrisSurErreurStandard(source);
+    throw InterpreteurChaineSemantiqueErreur();
+}
+
+Structure LisStructure(QString const & source, EnsembleRegles const & regles)
+{
     struct Ouverture
     {
-        Balise balise;
         QStringView nom;
-        qint64 decalage; // of the text in front of the element
+        bool suitRegle;
+        std::size_t element; // meant if it follows a rule
     };
-
-    void AppliqueRegleDuTexte()
-    {
-        auto const regle = mesRegles.find(UniChaine());
-        if (regle == mesRegles.end())
+    Structure structure;
+    std::vector<Ouverture> ouvertures;
+    auto const ouvre = [&](Balise const & balise, QStringView nom) {
+        auto const regle = regles.find(UniChaine(nom.toString()));
+        bool const suitRegle = regle != regles.end();
+        ouvertures.push_back({nom, suitRegle, structure.elements.size()});
+        if (!suitRegle)
             return;
-        Balise ouverture(0, 0);
-        Balise fermeture(maSortie.Longueur(), 0);
-        regle->second(&maSortie, ouverture, fermeture);
-        // A rule that wraps the text moves its tags by what it put in front. Its result does not
-        // tell that from what it put behind.
-        monDecalage = std::max<qsizetype>(QString(maSortie).indexOf(maSource), 0);
-    }
-
-    void AppliqueRegleVide(Balise const & balise, QStringView nom)
-    {
-        Balise const fermeture(balise.first + balise.second, 0);
-        AppliqueRegle(balise, monDecalage, fermeture, nom);
-    }
-
-    void TermineElement(Balise const & fermeture, QStringView nomFermant)
-    {
-        Ouverture const ouverture = mesOuvertures.back();
-        mesOuvertures.pop_back();
-        if (!Ferme(nomFermant, ouverture.nom))
-            Refuse();
-        AppliqueRegle(ouverture.balise, ouverture.decalage, fermeture, ouverture.nom);
-    }
-
-    void AppliqueRegle(Balise const & ouverture, qint64 decalageOuverture, Balise const & fermeture,
-                       QStringView nom)
-    {
-        auto const regle = mesRegles.find(UniChaine(nom.toString()));
-        if (regle == mesRegles.end())
+        structure.evenements.push_back({structure.elements.size(), true});
+        structure.elements.push_back({&regle->second, balise, {}});
+    };
+    auto const ferme = [&](Balise const & balise) {
+        Ouverture const ouverture = ouvertures.back();
+        ouvertures.pop_back();
+        if (!ouverture.suitRegle)
             return;
-        Balise ouvertureSortie = Decale(ouverture, decalageOuverture);
-        Balise fermetureSortie = Decale(fermeture, monDecalage);
-        qint64 const debut = ouvertureSortie.first;
-        int const longueur = regle->second(&maSortie, ouvertureSortie, fermetureSortie);
-        monDecalage = debut + longueur - fermeture.first - fermeture.second;
+        structure.elements[ouverture.element].fermeture = balise;
+        structure.evenements.push_back({ouverture.element, false});
+    };
+    for (Balise const & balise : Interpreteur::TrouveBalises(source)) {
+        QStringView const nom = DonneNom(source, balise);
+        if (nom.startsWith(kFermeture)) {
+            if (ouvertures.empty())
+                return structure; // Deliberate: what follows stays as it is
+            if (!Ferme(nom, ouvertures.back().nom))
+                Refuse(source);
+            ferme(balise);
+        } else {
+            ouvre(balise, nom);
+            if (nom.endsWith(kFermeture))
+                ferme({balise.first + balise.second, 0});
+        }
     }
+    if (!ouvertures.empty())
+        Refuse(source);
+    return structure;
+}
 
-    // A rule that told a wrong length must not lead another one out of the text.
-    Balise Decale(Balise const & balise, qint64 decalage) const
-    {
-        qint64 const fin = maSortie.Longueur();
-        qint64 const position = std::clamp<qint64>(balise.first + decalage, 0, fin);
-        return {static_cast<unsigned>(position),
-                static_cast<unsigned>(std::min<qint64>(balise.second, fin - position))};
+RemplacementDeBalises const * PreteRemplacement(Element const & element)
+{
+    return element.regle->target<RemplacementDeBalises>();
+}
+
+// Whether no rule does more than put texts in the place of tags.
+bool NeFaitQueRemplacer(Structure const & structure)
+{
+    return std::all_of(structure.elements.begin(), structure.elements.end(), PreteRemplacement);
+}
+
+// All replacements in one pass: rule by rule, each would move the rest of the text.
+UniChaine RemplaceEnsemble(QString const & source, Structure const & structure)
+{
+    QString sortie;
+    qsizetype position = 0;
+    auto const remplace = [&](Balise const & balise, UniChaine const & texte) {
+        sortie += QStringView(source).mid(position, balise.first - position);
+        if (balise.second > 0)
+            sortie += QString(texte);
+        position = balise.first + balise.second;
+    };
+    for (Evenement const & evenement : structure.evenements) {
+        Element const & element = structure.elements[evenement.element];
+        if (evenement.ouvre)
+            remplace(element.ouverture, PreteRemplacement(element)->ouvrant);
+        else
+            remplace(element.fermeture, PreteRemplacement(element)->fermant);
     }
+    sortie += QStringView(source).mid(position);
+    return sortie;
+}
 
-    [[noreturn]] void Refuse() const
-    {
-        RoutinesGeneralesQt::EcrisSurErreurStandard(maSource);
-        throw InterpreteurChaineSemantiqueErreur();
+// A rule that told a wrong length must not lead another one out of the text.
+Balise Decale(Balise const & balise, qint64 decalage, UniChaine const & sortie)
+{
+    qint64 const fin = sortie.Longueur();
+    qint64 const position = std::clamp<qint64>(balise.first + decalage, 0, fin);
+    return {static_cast<unsigned>(position),
+            static_cast<unsigned>(std::min<qint64>(balise.second, fin - position))};
+}
+
+// Runs the rules on `sortie`, whose positions differ by `decalage` from those of the source.
+void Execute(Structure const & structure, UniChaine & sortie, qint64 decalage)
+{
+    std::vector<qint64> decalages(structure.elements.size()); // in front of each element
+    for (Evenement const & evenement : structure.evenements) {
+        if (evenement.ouvre) {
+            decalages[evenement.element] = decalage;
+            continue;
+        }
+        Element const & element = structure.elements[evenement.element];
+        Balise ouverture = Decale(element.ouverture, decalages[evenement.element], sortie);
+        Balise fermeture = Decale(element.fermeture, decalage, sortie);
+        qint64 const debut = ouverture.first;
+        qint64 longueur = (*element.regle)(&sortie, ouverture, fermeture);
+        auto const * const remplacement = PreteRemplacement(element);
+        if (remplacement && element.fermeture.second == 0)
+            longueur -= remplacement->fermant.Longueur(); // which was counted and is not there
+        decalage = debut + longueur - element.fermeture.first - element.fermeture.second;
     }
+}
 
-    QString const maSource;
-    EnsembleRegles const & mesRegles;
-    UniChaine maSortie;
-    qint64 monDecalage = 0; // from positions in the source to positions in the output
-    std::vector<Ouverture> mesOuvertures;
-};
+// Runs the rule for the whole text; by how much it moved the tags.
+qint64 ExecuteSurLeTexte(RegleTexteRiche const & regle, UniChaine & sortie)
+{
+    QString const source = sortie;
+    Balise ouverture(0, 0);
+    Balise fermeture(sortie.Longueur(), 0);
+    regle(&sortie, ouverture, fermeture);
+    // A rule that wraps the text moves its tags by what it put in front. Its result does not tell
+    // that from what it put behind.
+    return std::max<qsizetype>(QString(sortie).indexOf(source), 0);
+}
 
 } // namespace
 
@@ -140,16 +207,7 @@ InterpreteurChaineSemantiqueErreur::~InterpreteurChaineSemantiqueErreur() = defa
 RegleTexteRiche InterpreteurChaineSemantiqueT<UniChaine>::CreeFonctionRemplacerBalisesAvecTexte(
     UniChaine const & ouvrant, UniChaine const & fermant)
 {
-    return [ouvrant, fermant](UniChaine * texte, Balise & ouverture, Balise & fermeture) {
-        // The closing tag first: the position of the opening one stays valid.
-        if (fermeture.second != 0)
-            texte->Remplace(static_cast<int>(fermeture.first), static_cast<int>(fermeture.second),
-                            fermant);
-        texte->Remplace(static_cast<int>(ouverture.first), static_cast<int>(ouverture.second),
-                        ouvrant);
-        unsigned const contenu = fermeture.first - ouverture.first - ouverture.second;
-        return static_cast<int>(contenu + ouvrant.Longueur() + fermant.Longueur());
-    };
+    return RemplacementDeBalises{ouvrant, fermant};
 }
 
 std::vector<Balise> InterpreteurChaineSemantiqueT<UniChaine>::TrouveBalises(UniChaine const & texte)
@@ -189,7 +247,15 @@ bool InterpreteurChaineSemantiqueT<UniChaine>::PossedeReglesAAppliquer(
 UniChaine InterpreteurChaineSemantiqueT<UniChaine>::AppliqueRegles(UniChaine const & texte,
                                                                    EnsembleRegles const & regles)
 {
-    UniChaine sortie = Lecture(texte, regles).Execute();
+    Structure const structure = LisStructure(texte, regles);
+    auto const regleDuTexte = regles.find(UniChaine());
+    UniChaine sortie = texte;
+    if (regleDuTexte != regles.end())
+        Execute(structure, sortie, ExecuteSurLeTexte(regleDuTexte->second, sortie));
+    else if (NeFaitQueRemplacer(structure))
+        sortie = RemplaceEnsemble(texte, structure);
+    else
+        Execute(structure, sortie, 0);
     sortie.DecodeCaracteresReservesHTML();
     return sortie;
 }

@@ -34,7 +34,7 @@ public:
     using Balise = std::pair<unsigned int, unsigned int>;
 
     /// A rule that puts `ouvrant` and `fermant` in the place of the two tags. An element without a
-    /// closing tag gets `ouvrant` only.
+    /// closing tag gets `ouvrant` only, but the rule's result counts both.
     static RegleTexteRiche CreeFonctionRemplacerBalisesAvecTexte(UniChaine const & ouvrant,
                                                                  UniChaine const & fermant);
 

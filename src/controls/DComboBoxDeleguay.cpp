@@ -1,0 +1,48 @@
+// controls/DComboBoxDeleguay.cpp
+#include "controls/DComboBoxDeleguay_p.h"
+
+#include <QAbstractItemView>
+#include <QComboBox>
+
+using namespace Qt::StringLiterals;
+
+DComboBoxDeleguay::DComboBoxDeleguay(QComboBox * combo, QObject * parent)
+    : QStyledItemDelegate(parent)
+    , monCombo(combo)
+{
+}
+
+void DComboBoxDeleguay::paint(QPainter * peintre, QStyleOptionViewItem const & option,
+                              QModelIndex const & index) const
+{
+    if (!EstSeparateur(index)) {
+        QStyledItemDelegate::paint(peintre, option, index);
+        return;
+    }
+    QRect rectangle = option.rect;
+    if (auto const * const vue = qobject_cast<QAbstractItemView const *>(option.widget)) {
+        rectangle.setLeft(0); // an item may be narrower than the list, and moved in it
+        rectangle.setWidth(vue->viewport()->width());
+    }
+    QStyleOption separateur;
+    separateur.rect = rectangle;
+    monCombo->style()->drawPrimitive(QStyle::PE_IndicatorToolBarSeparator, &separateur, peintre,
+                                     monCombo);
+}
+
+QSize DComboBoxDeleguay::sizeHint(QStyleOptionViewItem const & option,
+                                  QModelIndex const & index) const
+{
+    if (!EstSeparateur(index))
+        return QStyledItemDelegate::sizeHint(option, index);
+    // As high as in a combo box without this delegate.
+    int const epaisseur =
+        monCombo->style()->pixelMetric(QStyle::PM_DefaultFrameWidth, nullptr, monCombo);
+    return {epaisseur, epaisseur};
+}
+
+// As QComboBox::insertSeparator marks them.
+bool DComboBoxDeleguay::EstSeparateur(QModelIndex const & index)
+{
+    return index.data(Qt::AccessibleDescriptionRole).toString() == "separator"_L1;
+}

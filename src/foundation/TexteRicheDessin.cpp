@@ -1,0 +1,55 @@
+// foundation/TexteRicheDessin.cpp
+//
+// Drawing and measuring. The values that are passed are the interface's.
+#include "foundation/MemoireTexteRiche_p.h"
+#include "foundation/TexteMisEnPage_p.h"
+#include "foundation/TexteRiche.h"
+
+#include <QPainter>
+#include <QRect>
+
+#include <utility>
+
+// NOLINTBEGIN(performance-unnecessary-value-param): by value is the interface
+
+namespace RoutinesGeneralesQt {
+
+void DessineTexteRiche(QPainter & peintre, QRect const & rectangle, QFont font, UniChaine texte)
+{
+    DessineTexteRicheAvecSource(peintre, rectangle, std::move(font), std::move(texte), {}, false);
+}
+
+void DessineTexteRicheSurDeuxLignes(QPainter & peintre, QRect const & rectangle, QFont font,
+                                    UniChaine texte)
+{
+    DessineTexteRicheAvecSource(peintre, rectangle, std::move(font), std::move(texte), {}, true);
+}
+
+void DessineTexteRicheAvecSource(QPainter & peintre, QRect const & rectangle, QFont font,
+                                 UniChaine texte, UniChaine source, bool deuxLignes)
+{
+    auto const rang = MemoireTexteRiche::Instance().DonneRang(
+        {std::move(texte), std::move(source), rectangle.width(), rectangle.height(), deuxLignes},
+        font);
+    peintre.save();
+    rang->Dessine(peintre, rectangle.topLeft());
+    peintre.restore();
+}
+
+void DessineUniChaineFormatee(UniChaineFormatee const &, QPainter & peintre, QRect const &,
+                              Qt::AlignmentFlag, Qt::TextElideMode)
+{
+    peintre.save();
+    peintre.restore();
+}
+
+double DonneLongueurTexteRiche(UniChaine const & texte, QFont const & font)
+{
+    return MemoireTexteRiche::Instance()
+        .DonneRang({texte, {}, TexteMisEnPage::kLargeurIllimitee, 0, false}, font)
+        ->DonneLargeurDuTexte();
+}
+
+} // namespace RoutinesGeneralesQt
+
+// NOLINTEND(performance-unnecessary-value-param)

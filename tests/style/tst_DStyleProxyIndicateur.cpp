@@ -1,0 +1,136 @@
+// tests/style/tst_DStyleProxyIndicateur.cpp
+#include "style/EssaisPeinture.h"
+
+#include <QtTest>
+
+namespace {
+
+constexpr QSize kTaille(80, 60);
+
+} // namespace
+
+// The arrow of buttons, with the picture that an application brings.
+class tst_DStyleProxyIndicateur : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init();
+    void cleanup();
+    void absent_data();
+    void absent();
+    void aussiSurLaPartieDuMenu();
+    void taille_data();
+    void taille();
+    void etatInerte();
+
+private:
+    QList<AppelStyle> PeinsFleche(QRect const & rect, QWidget const * widget = nullptr,
+                                  QStyle::State etat = QStyle::State_Enabled) const;
+
+    std::unique_ptr<BancStyle> monBanc;
+};
+
+void tst_DStyleProxyIndicateur::init()
+{
+    monBanc = std::make_unique<BancStyle>();
+}
+
+void tst_DStyleProxyIndicateur::cleanup()
+{
+    monBanc.reset();
+    QVERIFY(QApplication::topLevelWidgets().isEmpty());
+}
+
+// What reaches the base.
+QList<AppelStyle> tst_DStyleProxyIndicateur::PeinsFleche(QRect const & rect, QWidget const * widget,
+                                                         QStyle::State etat) const
+{
+    QStyleOption option;
+    option.rect = rect;
+    option.state = etat;
+    monBanc->espion->appels.clear();
+    Peins(kTaille, [&](QPainter & peintre) {
+        monBanc->style.drawPrimitive(QStyle::PE_IndicatorArrowDown, &option, &peintre, widget);
+    });
+    return monBanc->espion->appels;
+}
+
+void tst_DStyleProxyIndicateur::absent_data()
+{
+    AjouteValeurs(kToutVrai);
+}
+
+void tst_DStyleProxyIndicateur::absent()
+{
+    QFETCH(QVariant, valeur);
+    QFETCH(bool, compte);
+    QToolButton bouton;
+    bouton.setProperty(DStyleProxy::DonneNomStyleDesactiveFlecheMenuBouton(), valeur);
+
+    auto const appels = PeinsFleche(QRect(0, 0, 16, 24), &bouton);
+
+    QCOMPARE(appels.size(), compte ? 0 : 1);
+    if (!compte)
+        QCOMPARE(appels.first().fonction, AppelStyle::kPixmap);
+}
+
+void tst_DStyleProxyIndicateur::aussiSurLaPartieDuMenu()
+{
+    QToolButton bouton;
+    QStyleOptionToolButton option;
+    option.rect = QRect(0, 0, 16, 24);
+    option.state = QStyle::State_Enabled | QStyle::State_MouseOver | QStyle::State_On;
+    Peins(kTaille, [&](QPainter & peintre) {
+        monBanc->style.drawPrimitive(QStyle::PE_IndicatorButtonDropDown, &option, &peintre,
+                                     &bouton);
+    });
+
+    auto const & appels = monBanc->espion->appels;
+    QCOMPARE(appels.size(), 2);
+    QCOMPARE(appels.at(0).fonction, AppelStyle::kPrimitive); // the base first
+    QCOMPARE(appels.at(0).option.state, QStyle::State(QStyle::State_Enabled));
+    QCOMPARE(appels.at(1).fonction, AppelStyle::kPixmap);
+}
+
+void tst_DStyleProxyIndicateur::taille_data()
+{
+    QTest::addColumn<QRect>("rect");
+    QTest::newRow("narrow") << QRect(4, 6, 12, 30);
+    QTest::newRow("a button's drop-down part") << QRect(30, 0, 16, 24);
+    QTest::newRow("wide") << QRect(0, 0, 60, 40);
+    QTest::newRow("low") << QRect(10, 10, 30, 8);
+}
+
+void tst_DStyleProxyIndicateur::taille()
+{
+    QFETCH(QRect, rect);
+
+    auto const appels = PeinsFleche(rect);
+
+    QCOMPARE(appels.size(), 1);
+    AppelStyle const & appel = appels.first();
+    QCOMPARE(appel.drapeaux, int(Qt::AlignHCenter | Qt::AlignVCenter));
+    QCOMPARE(appel.drapeaux, 0x84);
+    QVERIFY(rect.contains(appel.rect));
+    QVERIFY(!appel.image.isNull());
+    QSizeF const taille = appel.image.deviceIndependentSize();
+    QVERIFY(taille.width() > 0.0 && taille.width() <= rect.width());
+    QCOMPARE(taille.width(), taille.height());
+    QCOMPARE(appel.image.toImage().pixelColor(0, 0), QColor(Qt::red));
+}
+
+void tst_DStyleProxyIndicateur::etatInerte()
+{
+    QRect const rect(0, 0, 16, 24);
+
+    auto const actifs = PeinsFleche(rect);
+    auto const inertes = PeinsFleche(rect, nullptr, QStyle::State_None);
+
+    QCOMPARE(actifs.size(), 1);
+    QCOMPARE(inertes.size(), 1);
+    QVERIFY(actifs.first().image.toImage() != inertes.first().image.toImage());
+}
+
+QTEST_MAIN(tst_DStyleProxyIndicateur)
+#include "tst_DStyleProxyIndicateur.moc"

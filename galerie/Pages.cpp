@@ -6,6 +6,7 @@
 #include "PageFenetres.h"
 #include "PagePolices.h"
 #include "PageStyle.h"
+#include "PageTexteRiche.h"
 #include "PageTextes.h"
 #include "PageTheme.h"
 #include "ThemeGalerie.h"
@@ -35,6 +36,8 @@ QList<DescriptionPage> const & DonnePages()
          [](ThemeGalerie &) -> QWidget * { return new PageFenetres; }},
         {TexteGalerie("Style"), u"style"_s,
          [](ThemeGalerie & theme) -> QWidget * { return new PageStyle(theme.DonneStyleDeBase()); }},
+        {TexteGalerie("Texte riche"), u"texteriche"_s,
+         [](ThemeGalerie &) -> QWidget * { return new PageTexteRiche; }},
     };
     return pages;
 }

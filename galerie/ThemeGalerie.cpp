@@ -98,6 +98,7 @@ void ThemeGalerie::Assombris()
     std::pair<QString, QColor> const couleurs[] = {
         {u"couleurBordureGeneral"_s, QColor(130, 135, 145)},
         {u"couleurBordureGui"_s, QColor(84, 88, 96)},
+        {u"couleurErreurLineEdit"_s, QColor(255, 120, 110)},
         {u"couleurFondBlanc"_s, QColor(30, 32, 36)},
         {u"couleurFondBoutonHover"_s, QColor(60, 64, 72)},
         {u"couleurFondGris"_s, QColor(40, 43, 48)},

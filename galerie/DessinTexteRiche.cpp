@@ -7,7 +7,7 @@
 
 namespace {
 // Logical pixels.
-constexpr int kMarge = 3; // between the outline and the text
+constexpr int kMarge = 4; // between the outline and the text
 constexpr int kLargeurSouhaitee = 300;
 } // namespace
 
@@ -36,7 +36,8 @@ void DessinTexteRiche::paintEvent(QPaintEvent *)
 {
     QPainter peintre(this);
     peintre.setPen(palette().color(QPalette::PlaceholderText));
-    peintre.drawRect(rect().adjusted(0, 0, -1, -1));
+    // A pixel inside: at a fractional scale an outline on the edge would be cut.
+    peintre.drawRect(rect().adjusted(1, 1, -2, -2));
     peintre.setPen(palette().color(QPalette::WindowText));
     QRect const place = rect().adjusted(kMarge, kMarge, -kMarge, -kMarge);
     if (AvecSource())

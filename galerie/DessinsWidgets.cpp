@@ -4,6 +4,7 @@
 #include "TraductionGalerie.h"
 
 #include <QIcon>
+#include <QLineEdit>
 #include <QPainter>
 #include <QPlainTextEdit>
 #include <QPushButton>
@@ -20,6 +21,7 @@ namespace {
 constexpr int kCoteIcone = 16;  // logical pixels
 constexpr int kMaximum = 100;   // of the progress bar and the slider
 constexpr int kAvancement = 60; // of them
+constexpr int kMargeChamp = 2;  // logical pixels, that a line edit adds to the style's contents
 
 QIcon Icone()
 {
@@ -104,10 +106,12 @@ void DessineChamp(QStyle const & style, QPainter & peintre, QRect const & rect, 
     auto option = CreeOption<QStyleOptionFrame>(rect, etat | QStyle::State_Sunken, modele);
     option.lineWidth = style.pixelMetric(QStyle::PM_DefaultFrameWidth, &option, &modele);
     style.drawPrimitive(QStyle::PE_PanelLineEdit, &option, &peintre, &modele);
-    style.drawItemText(
-        &peintre, style.subElementRect(QStyle::SE_LineEditContents, &option, &modele),
-        Qt::AlignLeading | Qt::AlignVCenter, option.palette, etat & QStyle::State_Enabled,
-        TraductionGalerie(TexteGalerie("Champ")), QPalette::Text);
+    QRect const contenu = style.subElementRect(QStyle::SE_LineEditContents, &option, &modele)
+                              .marginsRemoved(static_cast<QLineEdit const &>(modele).textMargins())
+                              .adjusted(kMargeChamp, 0, -kMargeChamp, 0);
+    style.drawItemText(&peintre, contenu, Qt::AlignLeft | Qt::AlignVCenter, option.palette,
+                       etat & QStyle::State_Enabled, TraductionGalerie(TexteGalerie("Champ")),
+                       QPalette::Text);
 }
 
 void DessineChampSurPlusieursLignes(QStyle const & style, QPainter & peintre, QRect const & rect,

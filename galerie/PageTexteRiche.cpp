@@ -1,6 +1,7 @@
 // galerie/PageTexteRiche.cpp
 #include "PageTexteRiche.h"
 
+#include "ChampAvecDefaut.h"
 #include "DessinTexteRiche.h"
 #include "JetonsTexteRiche.h"
 #include "Pages.h"
@@ -108,16 +109,16 @@ PageTexteRiche::PageTexteRiche(QWidget * parent)
 QLayout * PageTexteRiche::CreeSaisie()
 {
     auto * const saisie = new QHBoxLayout;
-    monTexte = new QLineEdit(TraductionGalerie(TexteGalerie(
+    monTexte = new ChampAvecDefaut(TraductionGalerie(TexteGalerie(
         "<pn>Dupré</pn> <b>gras</b>, <i>italique</i>, x<sup>2</sup>, H<sub>2</sub>O, <s>capitales"
         "</s>, <font color =\"#e2574c\">rouge</font>, <span class=\"surlignement\">vu</span>")));
     monTexte->setObjectName(u"texteBalisay"_s);
     monTexte->setCursorPosition(0);
-    maSource = new QLineEdit(TraductionGalerie(TexteGalerie("Une <b>source</b>")));
+    maSource = new ChampAvecDefaut(TraductionGalerie(TexteGalerie("Une <b>source</b>")));
     maSource->setObjectName(u"source"_s);
     std::pair<QString, QLineEdit *> const champs[] = {
-        {TraductionGalerie(TexteGalerie("&Texte balisé")), monTexte},
-        {TraductionGalerie(TexteGalerie("&Source")), maSource},
+        {TraductionGalerie(TexteGalerie("Texte bali&sé")), monTexte},
+        {TraductionGalerie(TexteGalerie("S&ource")), maSource},
     };
     for (auto const & [nom, champ] : champs) {
         auto * const etiquette = new QLabel(nom);
@@ -209,7 +210,6 @@ QWidget * PageTexteRiche::CreeChamps()
     auto * const groupe = new QGroupBox(TraductionGalerie(TexteGalerie("Champs")));
     auto * const formulaire = new QFormLayout(groupe);
     monChampErreur = new DLineEdit;
-    monChampErreur->setObjectName(u"champErreur"_s);
     monChampErreur->setText(TraductionGalerie(TexteGalerie("Une valeur")));
     monErreur = new QCheckBox(TraductionGalerie(TexteGalerie("&Erronée")));
     monErreur->setObjectName(u"erreur"_s);
@@ -225,9 +225,9 @@ QWidget * PageTexteRiche::CreeChamps()
     majuscules->setValidator(new DValidateurMajuscule(lettres, majuscules));
     majuscules->setPlaceholderText(
         TraductionGalerie(TexteGalerie("Des lettres, mises en capitales")));
-    formulaire->addRow(TraductionGalerie(TexteGalerie("&Valeur")), monChampErreur);
+    formulaire->addRow(TraductionGalerie(TexteGalerie("Vale&ur")), monChampErreur);
     formulaire->addRow(QString(), monErreur);
-    formulaire->addRow(TraductionGalerie(TexteGalerie("&Raccourci")), monRaccourci);
+    formulaire->addRow(TraductionGalerie(TexteGalerie("Raccourc&i")), monRaccourci);
     formulaire->addRow(QString(), monDernierRaccourci);
     formulaire->addRow(TraductionGalerie(TexteGalerie("&Capitales")), majuscules);
     return groupe;

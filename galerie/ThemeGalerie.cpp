@@ -66,8 +66,8 @@ void MetsBords(QPalette palette)
     QColor const bordure = Couleur(u"couleurBordureGeneral"_s);
     if (palette.color(QPalette::Window).lightness() < kMilieu && bordure.isValid())
         palette.setColor(QPalette::Window, bordure.lighter(kFacteurDesBords));
-    for (char const * const classe :
-         {"QAbstractSpinBox", "QCheckBox", "QComboBox", "QLineEdit", "QPlainTextEdit"})
+    for (char const * const classe : {"QAbstractSpinBox", "QCheckBox", "QComboBox", "QLineEdit",
+                                      "QPlainTextEdit", "QRadioButton"})
         QApplication::setPalette(palette, classe);
 }
 

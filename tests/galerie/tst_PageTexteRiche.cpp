@@ -182,7 +182,7 @@ void tst_PageTexteRiche::largeurElideLesEtiquettes()
 void tst_PageTexteRiche::champEnErreur()
 {
     PageTexteRiche const page;
-    auto const * const champ = page.findChild<DLineEdit *>(u"champErreur"_s);
+    auto const * const champ = page.findChild<DLineEdit *>();
     QCOMPARE(champ->property("erreur"), QVariant(true));
 
     page.findChild<QCheckBox *>(u"erreur"_s)->setChecked(false);

@@ -227,23 +227,33 @@ void PageStyle::AjouteLigne(QGridLayout & grille, QString const & titre, DessinS
 {
     int const ligne = grille.rowCount();
     grille.addWidget(CreeTitre(titre), ligne, 0);
-    QWidget * modeles[2]; // disabled, enabled: the style asks the widget too
-    for (QWidget *& modele : modeles) {
-        modele = dessin.creeModele(grille.parentWidget());
-        modele->hide(); // or it would come with the page
-        for (char const * const propriete : proprietes)
-            MetsPropriete(*modele, propriete);
-    }
-    modeles[0]->setEnabled(false);
+    Modeles const modeles = PreteModeles(dessin, proprietes, grille.parentWidget());
     for (int i = 0; i + 1 < kColonnes; ++i) {
         bool const actif = kEtats[i].etat & QStyle::State_Enabled;
-        auto * const dessinay = new EtatDessinay(dessin, *modeles[actif], kEtats[i].etat);
+        auto * const dessinay =
+            new EtatDessinay(dessin, actif ? *modeles.actif : *modeles.inactif, kEtats[i].etat);
         dessinay->setObjectName(nom);
         dessinay->setAccessibleName(
             TraductionGalerie(TexteGalerie("{1}, {2}"),
                               {UniChaine(titre), UniChaine(TraductionGalerie(kEtats[i].titre))}));
         grille.addWidget(dessinay, ligne, i + 1);
     }
+}
+
+PageStyle::Modeles PageStyle::PreteModeles(DessinStyle const & dessin,
+                                           QList<char const *> const & proprietes, QWidget * parent)
+{
+    Modeles & modeles = mesModeles[{dessin.sorte, proprietes}];
+    if (modeles.actif)
+        return modeles;
+    for (QWidget ** const modele : {&modeles.actif, &modeles.inactif}) {
+        *modele = dessin.creeModele(parent);
+        (*modele)->hide(); // or it would come with the page
+        for (char const * const propriete : proprietes)
+            MetsPropriete(**modele, propriete);
+    }
+    modeles.inactif->setEnabled(false); // the style asks the widget too
+    return modeles;
 }
 
 void PageStyle::PriseStyleChoisi()

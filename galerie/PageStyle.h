@@ -1,10 +1,14 @@
 // galerie/PageStyle.h
 #pragma once
 
-#include <QStyle>
+#include "DessinsStyle.h"
+
+#include <QList>
 #include <QWidget>
 
+#include <map>
 #include <memory>
+#include <utility>
 
 class DStyleProxy;
 class EssaisStyle;
@@ -12,7 +16,6 @@ class QCheckBox;
 class QComboBox;
 class QGridLayout;
 class QScrollArea;
-struct DessinStyle;
 struct ProprieteMontree;
 
 /// The style proxy over each base style: every state of what it draws, and each property on and
@@ -30,6 +33,12 @@ protected:
     void changeEvent(QEvent * evenement) override;
 
 private:
+    struct Modeles
+    {
+        QWidget * actif = nullptr;
+        QWidget * inactif = nullptr;
+    };
+
     QLayout * CreeChoix(QString const & styleDeBase);
     QWidget * CreeEntete();
     QWidget * CreeDessins();
@@ -39,11 +48,15 @@ private:
     void AjouteMenus(QGridLayout & grille, ProprieteMontree const & propriete);
     void AjouteLigne(QGridLayout & grille, QString const & titre, DessinStyle const & dessin,
                      QList<char const *> const & proprietes, QString const & nom);
+    Modeles PreteModeles(DessinStyle const & dessin, QList<char const *> const & proprietes,
+                         QWidget * parent);
 
     void PriseStyleChoisi();
     void PriseSensChangay();
 
     std::unique_ptr<DStyleProxy> monStyle;
+    // One pair for all rows that draw the same.
+    std::map<std::pair<eDessin, QList<char const *>>, Modeles> mesModeles;
     QComboBox * monChoixStyle = nullptr;
     QCheckBox * monSens = nullptr;
     EssaisStyle * mesEssais = nullptr;

@@ -52,7 +52,7 @@ QTableView * CreeTable(QStandardItemModel & modele, QString const & nom, int pre
     table->setFixedHeight(kHauteurTable);
     PrepareTable(*table);
     table->setColumnWidth(0, premiereColonne);
-    table->horizontalHeader()->setStretchLastSection(true);
+    table->horizontalHeader()->setSectionResizeMode(modele.columnCount() - 1, QHeaderView::Stretch);
     return table;
 }
 

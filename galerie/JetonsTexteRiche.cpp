@@ -6,6 +6,7 @@
 #include "foundation/TexteRiche.h"
 
 #include <QBrush>
+#include <QLocale>
 #include <QRegularExpression>
 #include <QStringList>
 #include <QTextCharFormat>

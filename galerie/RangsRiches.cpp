@@ -6,6 +6,7 @@
 #include "foundation/TexteRiche.h"
 
 #include <QApplication>
+#include <QLocale>
 #include <QPainter>
 
 using namespace Qt::StringLiterals;

@@ -85,6 +85,8 @@ QString DLabelElision::DonneTexteAvecElision(int largeur) const
 
 void DLabelElision::PrendsModeElision(Elision mode)
 {
+    if (mode == monModeElision)
+        return;
     monModeElision = mode;
     DemandeAjustement();
 }
@@ -102,6 +104,8 @@ bool DLabelElision::EstEliday() const
 
 void DLabelElision::PrendsAlignement(QFlags<Qt::AlignmentFlag> alignement)
 {
+    if (monOption.alignment() == alignement)
+        return;
     monOption.setAlignment(alignement);
     DemandeAjustement();
 }
@@ -158,7 +162,9 @@ void DLabelElision::AjusteElision(QSize const & taille)
 {
     if (!taille.isValid())
         return;
-    DisposeTexte(taille);
+    // A delegate asks for the same at each painting.
+    if (AjustementEstDu() || taille.width() != maLargeurDisponible)
+        DisposeTexte(taille);
     update();
 }
 

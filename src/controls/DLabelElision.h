@@ -13,9 +13,9 @@
 /// A label of one line that keeps the formats of rich text and shows "…" where the text is cut.
 ///
 /// A text is rich when `Qt::mightBeRichText` takes it for HTML; its first paragraph is shown. Of
-/// either kind, the label shows what stands before the first line separator. The text is cut
-/// between any two characters. It stands at the top of the label, which layouts keep as high as the
-/// font. An accessible name that nobody has set follows the text.
+/// either kind, the label shows what stands before the first line separator; a line feed takes no
+/// room. The text is cut between any two characters. It stands at the top of the label, which
+/// layouts keep as high as the font. An accessible name that nobody has set follows the text.
 class FABRELGUI_EXPORT DLabelElision : public QWidget
 {
     Q_OBJECT
@@ -24,12 +24,12 @@ public:
     /// Which part of a text that does not fit gives way to the ellipsis.
     enum Elision
     {
-        kSansElision = 0, ///< what passes the right edge is cut off, without an ellipsis
+        kSansElision = 0, ///< the characters that do not fit are left out, without an ellipsis
         kElisionFin = 1,  ///< the beginning stays; the mode of a new label
         kElisionDebut = 2 ///< the end stays, to its last character
     };
 
-    DLabelElision(QString const & texte, QWidget * parent);
+    explicit DLabelElision(QString const & texte, QWidget * parent = nullptr);
     explicit DLabelElision(QWidget * parent = nullptr);
 
     /// Does nothing for the text that the label has, unless forced.
@@ -66,7 +66,7 @@ public:
     int DonneLongueurLigne() const;
 
     /// Lays the text out for that size instead of the widget's, until the widget is resized or the
-    /// text, the font or the mode change. An invalid size does nothing.
+    /// text, the font, the mode or the alignment change. An invalid size does nothing.
     void AjusteElision(QSize const & taille);
 
     using QWidget::render;

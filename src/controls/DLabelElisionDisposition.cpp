@@ -119,8 +119,9 @@ void DLabelElision::PlaceAvecEllipse(QTextLine & ligne, double place) const
         ligne.setPosition(QPointF(aGauche ? maLargeurEllipse : 0, 0));
         // Beside the text, also where this is flush right: the ellipsis stands for what is missing
         // there, and at a fixed place it would lie under the text.
-        QRectF const rectangle = ligne.naturalTextRect();
-        maPositionEllipse = aGauche ? rectangle.left() - maLargeurEllipse : rectangle.right();
+        double const gauche = ligne.naturalTextRect().left();
+        maPositionEllipse =
+            aGauche ? gauche - maLargeurEllipse : gauche + ligne.horizontalAdvance();
         return;
     }
     maLargeurTexte = 0;
@@ -144,7 +145,7 @@ void DLabelElision::DessineEllipse(QPainter & peintre, QTextLine const & ligne) 
 {
     if (maLargeurTexte == 0) // it may be wider than the label
         peintre.setClipRect(QRect(0, 0, maLargeurDisponible, maHauteurTexte), Qt::IntersectClip);
-    if (maCouleurFondElipse != Qt::transparent)
+    if (maCouleurFondElipse.isValid() && maCouleurFondElipse != Qt::transparent)
         peintre.fillRect(QRectF(maPositionEllipse, 0, maLargeurEllipse, ligne.height()),
                          maCouleurFondElipse);
     peintre.drawText(QPointF(maPositionEllipse, ligne.ascent()), DonneEllipse());

@@ -3,7 +3,9 @@
 
 #include <QFontMetrics>
 #include <QPainter>
+#include <QStyle>
 #include <QTextLayout>
+#include <QTextOption>
 
 ElidedLabel::ElidedLabel(QString const & texte, QWidget * parent)
     : QFrame(parent)
@@ -47,10 +49,15 @@ void ElidedLabel::paintEvent(QPaintEvent * evenement)
 bool ElidedLabel::DessineTexte(QPainter & peintre) const
 {
     QFontMetrics const mesures = peintre.fontMetrics();
+    Qt::Alignment const alignement = QStyle::visualAlignment(layoutDirection(), Qt::AlignLeft);
     QString texte = monContenu;
     texte.replace(QChar::LineFeed, QChar::LineSeparator);
     QTextLayout layout(texte, peintre.font());
+    layout.setTextOption(QTextOption(alignement));
+    // As a layout does: the text tells its direction, and with it the side of the ellipsis.
+    peintre.setLayoutDirection(Qt::LayoutDirectionAuto);
     layout.beginLayout();
+    // Deliberate: the room is that of the widget, whatever frame and margins it has.
     bool elision = false;
     for (int haut = 0;; haut += mesures.lineSpacing()) {
         QTextLine ligne = layout.createLine();
@@ -65,9 +72,8 @@ bool ElidedLabel::DessineTexte(QPainter & peintre) const
         reste.replace(QChar::LineSeparator, u' ');
         QString const derniere = mesures.elidedText(reste, Qt::ElideRight, width());
         elision = derniere != reste;
-        // Flush with the lines above it.
         int const gauche =
-            reste.isRightToLeft() ? width() - mesures.horizontalAdvance(derniere) : 0;
+            alignement & Qt::AlignRight ? width() - mesures.horizontalAdvance(derniere) : 0;
         peintre.drawText(QPointF(gauche, haut + mesures.ascent()), derniere);
         break;
     }

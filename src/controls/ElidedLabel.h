@@ -16,6 +16,8 @@ class QPainter;
 class FABRELGUI_EXPORT ElidedLabel : public QFrame
 {
     Q_OBJECT
+    // Nobody but the label's owner changes the text, so there is no signal for it.
+    // clazy:excludeall=qproperty-without-notify
     Q_PROPERTY(QString text READ text WRITE setText)
     Q_PROPERTY(bool isElided READ isElided NOTIFY elisionChanged)
 

@@ -100,7 +100,9 @@ bool TexteMisEnPage::EstDeDroiteAGauche() const
 void TexteMisEnPage::Dessine(QPainter & peintre, QPointF const & coin) const
 {
     if (!PeutDessinerGlyphes(peintre)) {
+        peintre.save();
         monLayout.draw(&peintre, coin);
+        peintre.restore();
         return;
     }
     QPen const crayon = peintre.pen();
@@ -152,6 +154,5 @@ void TexteMisEnPage::AjouteGlyphes(QTextLine const & ligne, int debut, int longu
 bool TexteMisEnPage::PeutDessinerGlyphes(QPainter const & peintre) const
 {
     return monDessinParGlyphes && peintre.paintEngine() &&
-           peintre.paintEngine()->type() == QPaintEngine::Raster &&
-           peintre.transform().type() <= QTransform::TxScale && peintre.pen().style() != Qt::NoPen;
+           peintre.paintEngine()->type() == QPaintEngine::Raster;
 }

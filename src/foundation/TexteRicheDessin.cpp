@@ -31,9 +31,8 @@ void DessineTexteRicheAvecSource(QPainter & peintre, QRect const & rectangle, QF
     auto const rang = MemoireTexteRiche::Instance().DonneRang(
         {std::move(texte), std::move(source), rectangle.width(), rectangle.height(), deuxLignes},
         font);
-    peintre.save();
+    // Leaves the painter as it was, without the cost of saving it.
     rang->Dessine(peintre, rectangle.topLeft());
-    peintre.restore();
 }
 
 void DessineUniChaineFormatee(UniChaineFormatee const &, QPainter & peintre, QRect const &,

@@ -85,9 +85,11 @@ bool DStyleProxy::DessinerTexteRiche(QPainter * peintre, QString texte, QRect co
     label.setFont(peintre->font());
     label.setLayoutDirection(widget ? widget->layoutDirection()
                                     : QGuiApplication::layoutDirection());
+    Qt::Alignment cote(alignement & kMasqueAlignement);
     // Left to itself, the label mirrors a rich text by its letters and not by its own direction.
-    label.setAlignment(
-        visualAlignment(label.layoutDirection(), Qt::Alignment(alignement & kMasqueAlignement)));
+    if (label.layoutDirection() == Qt::RightToLeft)
+        cote = visualAlignment(Qt::RightToLeft, cote);
+    label.setAlignment(cote);
     label.setText(html);
     label.setFixedSize(rect.size().expandedTo(QSize(0, 0)));
 

@@ -129,8 +129,12 @@ void tst_DLabelElisionPeinture::fondEllipse()
     label.resize(label.width() - 10, label.height());
     QVERIFY(Encre::BornesDe(Rends(label), kCouleurEllipse).isValid());
 
-    label.PrendsCouleurFondElipse(Qt::transparent);
-    QVERIFY(!Encre::BornesDe(Rends(label), kCouleurEllipse).isValid());
+    for (QColor const & sansFond : {QColor(Qt::transparent), QColor()}) {
+        label.PrendsCouleurFondElipse(sansFond);
+        QImage const image = Rends(label);
+        QVERIFY(!Encre::BornesDe(image, kCouleurEllipse).isValid());
+        QCOMPARE(image.pixelColor(label.width() - 2, 0), QColor(Qt::white));
+    }
 }
 
 void tst_DLabelElisionPeinture::deleguaySansMiseEnPage()

@@ -22,6 +22,7 @@ private Q_SLOTS:
     void placeDeLEllipse();
     void ellipseContreLeTexte_data();
     void ellipseContreLeTexte();
+    void italiqueADroite();
     void droiteAGauche_data();
     void droiteAGauche();
     void alignementDuTexteQuiTient_data();
@@ -156,6 +157,22 @@ void tst_DLabelElisionRendu::ellipseContreLeTexte()
         QVERIFY(qAbs(ellipse.left() - texte.right() - 1) <= 1);
     else
         QVERIFY(qAbs(texte.left() - ellipse.right() - 1) <= 1);
+}
+
+void tst_DLabelElisionRendu::italiqueADroite()
+{
+    // Slanted letters reach beyond their advance; the ellipsis does not follow them out of the
+    // label.
+    DLabelElision label(u"<i>fdfdfdfdfdfdfdfdfdfdfdfdfd</i>"_s, nullptr);
+    label.PrendsAlignement(Qt::AlignRight);
+    label.PrendsCouleurFondElipse(kCouleurEllipse);
+    int const pleine = label.sizeHint().width();
+    for (int largeur = pleine / 3; largeur < pleine; ++largeur) {
+        label.resize(largeur, label.sizeHint().height());
+        QImage const image = Rends(label);
+        QVERIFY(qAbs(Encre::BornesDe(image, kCouleurEllipse).right() + 1 - largeur) <= 1);
+        QVERIFY(Encre::BornesEncre(image).right() < largeur);
+    }
 }
 
 void tst_DLabelElisionRendu::droiteAGauche_data()

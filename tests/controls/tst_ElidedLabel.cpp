@@ -49,8 +49,12 @@ private Q_SLOTS:
     void signalAuChangementSeul();
     void motTropLong();
     void sautDeLigne();
+    void droiteAGauche_data();
     void droiteAGauche();
+    void ellipseDuCoteDeLaFin_data();
+    void ellipseDuCoteDeLaFin();
     void policeDuWidget();
+    void cadreSansEffet();
     void vide();
     void detruitParSonSignal();
     void lectureEcran();
@@ -150,18 +154,64 @@ void tst_ElidedLabel::sautDeLigne()
     QVERIFY(label.isElided());
 }
 
+void tst_ElidedLabel::droiteAGauche_data()
+{
+    QTest::addColumn<QString>("mot");
+    QTest::addColumn<Qt::LayoutDirection>("sens");
+    QTest::newRow("latin, left to right") << u"mot "_s << Qt::LeftToRight;
+    QTest::newRow("latin, right to left") << u"mot "_s << Qt::RightToLeft;
+    QTest::newRow("hebrew, left to right") << u"שלום "_s << Qt::LeftToRight;
+    QTest::newRow("hebrew, right to left") << u"שלום "_s << Qt::RightToLeft;
+}
+
 void tst_ElidedLabel::droiteAGauche()
 {
-    ElidedLabel label(u"שלום עולם שלום עולם שלום עולם שלום עולם"_s, nullptr);
-    label.resize(kLargeur, label.fontMetrics().lineSpacing());
-    QRect const encre = Encre::BornesEncre(Grave(label));
-    QVERIFY(label.isElided());
-    QVERIFY(kLargeur - encre.right() <= label.fontMetrics().averageCharWidth());
+    QFETCH(QString, mot);
+    QFETCH(Qt::LayoutDirection, sens);
+    ElidedLabel label(u"%1\n%1"_s.arg(mot), nullptr);
+    label.setLayoutDirection(sens);
+    QFontMetrics const mesures = label.fontMetrics();
+    int const largeur = 3 * mesures.horizontalAdvance(mot); // most of each line is empty
+    label.resize(largeur, 2 * mesures.lineSpacing());
 
-    label.setText(u"שלום"_s); // which leaves much of the line empty
-    QRect const courte = Encre::BornesEncre(Grave(label));
+    QImage const image = Grave(label);
+
     QVERIFY(!label.isElided());
-    QVERIFY(kLargeur - courte.right() <= label.fontMetrics().averageCharWidth());
+    for (int const haut : {0, mesures.lineSpacing()}) {
+        QRect const encre = Encre::BornesEncre(image.copy(0, haut, largeur, mesures.lineSpacing()));
+        QVERIFY(encre.width() < largeur / 2);
+        int const ecart = sens == Qt::LeftToRight ? encre.left() : largeur - encre.right();
+        QVERIFY(ecart <= mesures.averageCharWidth());
+    }
+}
+
+void tst_ElidedLabel::ellipseDuCoteDeLaFin_data()
+{
+    droiteAGauche_data();
+}
+
+void tst_ElidedLabel::ellipseDuCoteDeLaFin()
+{
+    QFETCH(QString, mot);
+    QFETCH(Qt::LayoutDirection, sens);
+    ElidedLabel label(mot.repeated(20), nullptr);
+    label.setLayoutDirection(sens);
+    label.resize(kLargeur, label.fontMetrics().lineSpacing());
+
+    QImage const image = Grave(label);
+
+    // The dots stand on the base line alone: above it, the side of the ellipsis is empty.
+    QRect const haut =
+        Encre::BornesEncre(image.copy(0, 0, kLargeur, label.fontMetrics().ascent() - 3));
+    QVERIFY(label.isElided());
+    int const ellipse = label.fontMetrics().horizontalAdvance(u'…') * 2 / 3;
+    if (mot.isRightToLeft()) {
+        QVERIFY(haut.left() >= ellipse);
+        QVERIFY(kLargeur - haut.right() <= ellipse);
+    } else {
+        QVERIFY(kLargeur - haut.right() >= ellipse);
+        QVERIFY(haut.left() <= ellipse);
+    }
 }
 
 void tst_ElidedLabel::policeDuWidget()
@@ -176,6 +226,18 @@ void tst_ElidedLabel::policeDuWidget()
     label.setFont(grande);
     Grave(label);
     QVERIFY(label.isElided());
+}
+
+void tst_ElidedLabel::cadreSansEffet()
+{
+    // Deliberate: neither takes room from the text.
+    ElidedLabel label(kTexte, nullptr);
+    label.resize(kLargeur, CompteLignes(kTexte, label.font()) * label.fontMetrics().lineSpacing());
+    label.setFrameStyle(QFrame::Box | QFrame::Plain);
+    label.setLineWidth(5);
+    label.setContentsMargins(10, 10, 10, 10);
+    Grave(label);
+    QVERIFY(!label.isElided());
 }
 
 void tst_ElidedLabel::vide()

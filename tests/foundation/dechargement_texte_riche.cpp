@@ -5,6 +5,7 @@
 #include "noyau/UniChaine.h"
 
 #include <QApplication>
+#include <QFile>
 #include <QFont>
 #include <QLibrary>
 
@@ -25,7 +26,9 @@ int main(int nombre, char ** arguments)
         return 1;
     }
     std::puts(donneLongueur("<em>a</em>", QFont()) > 0.0 ? "measured" : "no width");
-    std::puts(bibliotheque.unload() ? "unloaded" : "still loaded");
+    bool const decharge =
+        bibliotheque.unload() && !QFile::exists(QStringLiteral(":/Style/StyleGeneralGui.qss"));
+    std::puts(decharge ? "unloaded" : "still loaded");
     Q_EMIT application.fontDatabaseChanged();
     return 0;
 }

@@ -64,12 +64,24 @@ inline QPalette DonnePaletteEssai(QPalette::ColorGroup courant = QPalette::Activ
 {
     QPalette palette;
     palette.setColor(QPalette::All, QPalette::Window, QColor(239, 239, 239));
+    palette.setColor(QPalette::All, QPalette::WindowText, Qt::black);
     palette.setColor(QPalette::All, QPalette::Button, QColor(220, 224, 228));
     palette.setColor(QPalette::All, QPalette::ButtonText, QColor(10, 20, 30));
     MetsAccent(palette, QPalette::Active, kAccentActif);
     MetsAccent(palette, QPalette::Inactive, kAccentInactif);
     MetsAccent(palette, QPalette::Disabled, kAccentInerte);
     palette.setCurrentColorGroup(courant);
+    return palette;
+}
+
+/// The same with light texts on dark backgrounds.
+inline QPalette DonnePaletteSombre()
+{
+    QPalette palette = DonnePaletteEssai();
+    palette.setColor(QPalette::All, QPalette::Window, QColor(40, 40, 40));
+    palette.setColor(QPalette::All, QPalette::Button, QColor(53, 53, 53));
+    for (auto const role : {QPalette::WindowText, QPalette::ButtonText, QPalette::Text})
+        palette.setColor(QPalette::All, role, Qt::white);
     return palette;
 }
 

@@ -125,7 +125,7 @@ private:
     }
 
     QString monTexte;
-    EnsembleRegles mesRegles;
+    EnsembleRegles const & mesRegles;
     UniChaine maSortie;
     std::vector<Balise> mesBalises;
     int monDecalage = 0;

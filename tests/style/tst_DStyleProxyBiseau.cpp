@@ -30,7 +30,6 @@ private Q_SLOTS:
     void inactifDevientActif();
     void surFusion_data();
     void surFusion();
-    void fusionSombre();
     void homographe_data();
     void homographe();
     void absent_data();
@@ -139,21 +138,6 @@ void tst_DStyleProxyBiseau::surFusion()
     QColor const couleur = appels.first().palette.button().color();
     QCOMPARE(couleur.alpha(), 255);
     QVERIFY2(SontProches(couleur, attendue, 1), qPrintable(couleur.name()));
-}
-
-void tst_DStyleProxyBiseau::fusionSombre()
-{
-    monBanc->espion->seDitFusion = true;
-    QStyleOptionButton option = DonneOption();
-    option.palette.setColor(QPalette::All, QPalette::Window, QColor(40, 40, 40));
-    option.palette.setColor(QPalette::All, QPalette::Button, QColor(53, 53, 53));
-    option.palette.setColor(QPalette::All, QPalette::ButtonText, Qt::white);
-
-    monBanc->PeinsBiseau(option);
-
-    auto const appels = monBanc->espion->Donne(AppelStyle::kControle);
-    QCOMPARE(appels.size(), 1);
-    QCOMPARE(appels.first().palette.button().color(), QColor(53, 53, 53));
 }
 
 void tst_DStyleProxyBiseau::homographe_data()

@@ -24,6 +24,7 @@ private Q_SLOTS:
     void flecheOutil();
     void enTeteSeparateur_data();
     void enTeteSeparateur();
+    void enTeteVertical();
     void enTeteSurvolay();
     void progressionActive();
     void cadres_data();
@@ -124,6 +125,21 @@ void tst_DStyleProxyElements::enTeteSeparateur()
         QCOMPARE(CouvertureLigne(image, y, 50), 1.0);
         QVERIFY(Encre(image).height() >= kRect.height() / 2);
     }
+}
+
+// There the section in front is the one above.
+void tst_DStyleProxyElements::enTeteVertical()
+{
+    QStyleOptionHeader option;
+    option.rect = kRect;
+    option.state = QStyle::State_Enabled;
+    option.orientation = Qt::Vertical;
+    option.position = QStyleOptionHeader::Middle;
+
+    QImage const image = PeinsControle(QStyle::CE_HeaderSection, &option);
+
+    QCOMPARE(Encre(image), QRect(kRect.left(), kRect.top(), kRect.width(), 1));
+    QCOMPARE(image.pixelColor(kRect.center().x(), kRect.top()), QColor(0, 0, 0, 50));
 }
 
 void tst_DStyleProxyElements::enTeteSurvolay()

@@ -39,7 +39,7 @@ private Q_SLOTS:
     void lissage();
     void fondSelonEtat_data();
     void fondSelonEtat();
-    void tableauSansFond();
+    void fondArbresSeulement();
     void fondUneSeuleFois();
     void texteLisible();
     void fondForme_data();
@@ -51,6 +51,7 @@ private Q_SLOTS:
     void listeDeCombo();
     void listeDeComboNonSelectionnee();
     void ligneDePanneau();
+    void ligneDePanneauDeTableau();
     void optionDuMauvaisType();
 
 private:
@@ -123,19 +124,22 @@ void tst_DStyleProxyVues::fondSelonEtat()
     QCOMPARE(monBanc->espion->Donne(AppelStyle::kControle, QStyle::CE_ItemViewItem).size(), 2);
 }
 
-void tst_DStyleProxyVues::tableauSansFond()
+// Lists have it from the panel that the base asks for, tables from the base itself.
+void tst_DStyleProxyVues::fondArbresSeulement()
 {
+    QListView liste;
     QTableView tableau;
     QTableWidget derivee;
     QStyleOptionViewItem const option = DonneOption(kSurvol | QStyle::State_Selected);
 
+    QVERIFY(EstVide(PeinsItem(option, &liste)));
     QVERIFY(EstVide(PeinsItem(option, &tableau)));
     QVERIFY(EstVide(PeinsItem(option, &derivee)));
 
     auto const appels = monBanc->espion->Donne(AppelStyle::kControle, QStyle::CE_ItemViewItem);
-    QCOMPARE(appels.size(), 2);
+    QCOMPARE(appels.size(), 3);
     QCOMPARE(appels.first().option.state, option.state);
-    QCOMPARE(appels.first().palette, option.palette);
+    QCOMPARE(appels.last().palette, option.palette);
 }
 
 // The base asks for the panel of the item while it draws it.
@@ -178,25 +182,37 @@ void tst_DStyleProxyVues::fondForme_data()
 {
     using Item = QStyleOptionViewItem;
     QTest::addColumn<Item::ViewItemPosition>("position");
+    QTest::addColumn<Qt::LayoutDirection>("sens");
     QTest::addColumn<QMargins>("marges");
     QTest::addColumn<bool>("rondAGauche");
     QTest::addColumn<bool>("rondADroite");
-    QTest::newRow("beginning") << Item::Beginning << QMargins(2, 2, 0, 2) << true << false;
-    QTest::newRow("middle") << Item::Middle << QMargins(0, 2, 0, 2) << false << false;
-    QTest::newRow("end") << Item::End << QMargins(0, 2, 2, 2) << false << true;
-    QTest::newRow("invalid") << Item::Invalid << QMargins(2, 2, 2, 2) << true << true;
-    QTest::newRow("only one") << Item::OnlyOne << QMargins(2, 2, 2, 2) << true << true;
+    QMargins const toutes(2, 2, 2, 2);
+    QMargins const saufDroite(2, 2, 0, 2);
+    QMargins const saufGauche(0, 2, 2, 2);
+    QMargins const milieu(0, 2, 0, 2);
+    QTest::newRow("beginning") << Item::Beginning << Qt::LeftToRight << saufDroite << true << false;
+    QTest::newRow("middle") << Item::Middle << Qt::LeftToRight << milieu << false << false;
+    QTest::newRow("end") << Item::End << Qt::LeftToRight << saufGauche << false << true;
+    QTest::newRow("invalid") << Item::Invalid << Qt::LeftToRight << toutes << true << true;
+    QTest::newRow("only one") << Item::OnlyOne << Qt::LeftToRight << toutes << true << true;
+    QTest::newRow("beginning, right to left")
+        << Item::Beginning << Qt::RightToLeft << saufGauche << false << true;
+    QTest::newRow("end, right to left")
+        << Item::End << Qt::RightToLeft << saufDroite << true << false;
 }
 
 void tst_DStyleProxyVues::fondForme()
 {
     QFETCH(QStyleOptionViewItem::ViewItemPosition, position);
+    QFETCH(Qt::LayoutDirection, sens);
     QFETCH(QMargins, marges);
     QFETCH(bool, rondAGauche);
     QFETCH(bool, rondADroite);
     QTreeView vue;
+    QStyleOptionViewItem option = DonneOption(kSurvol, position);
+    option.direction = sens;
 
-    QImage const image = PeinsItem(DonneOption(kSurvol, position), &vue);
+    QImage const image = PeinsItem(option, &vue);
 
     QRect const fond = kRect - marges;
     QCOMPARE(Encre(image), fond);
@@ -303,6 +319,21 @@ void tst_DStyleProxyVues::ligneDePanneau()
     QCOMPARE(appels.at(1).palette.currentColorGroup(), QPalette::Active);
     QCOMPARE(appels.at(2).palette.currentColorGroup(), QPalette::Disabled);
     QCOMPARE(appels.at(1).option.state, kSurvol);
+    // The base paints the selection beside the item too, in the same tone as the style.
+    QCOMPARE(appels.at(1).palette.highlight().color(), QColor(0, 0, 0, kAlphaFond));
+    QCOMPARE(option.palette.color(QPalette::Active, QPalette::Highlight), kAccentActif);
+}
+
+void tst_DStyleProxyVues::ligneDePanneauDeTableau()
+{
+    QTableView vue;
+    QStyleOptionViewItem const option = DonneOption(kSurvol);
+    Peins(kTaille, [&](QPainter & peintre) {
+        monBanc->style.drawPrimitive(QStyle::PE_PanelItemViewRow, &option, &peintre, &vue);
+    });
+
+    QCOMPARE(monBanc->espion->appels.size(), 1);
+    QCOMPARE(monBanc->espion->appels.first().palette, option.palette);
 }
 
 void tst_DStyleProxyVues::optionDuMauvaisType()

@@ -89,6 +89,15 @@ RegleTexteRiche Remplace(QString const & ouvrant, QString const & fermant)
     return Interpreteur::CreeFonctionRemplacerBalisesAvecTexte(ouvrant, fermant);
 }
 
+// Rules that replace tags and do nothing else, which can be run all at once.
+EnsembleRegles ReglesSimples()
+{
+    return {{UniChaine("b"), Remplace(u"<strong>"_s, u"&lt;/strong&gt;"_s)},
+            {UniChaine("i"), Remplace({}, {})},
+            {UniChaine("b i"), Remplace(u"<i>"_s, u"</i></b>"_s)},
+            {UniChaine("br/"), Remplace(u"<br>"_s, {})}};
+}
+
 // Rules that make the text longer, shorter, and much shorter, and one for the whole of it.
 EnsembleRegles Regles(Journal & journal, bool avecDocument)
 {
@@ -121,6 +130,13 @@ private Q_SLOTS:
 private:
     void Compare(QString const & texte, bool avecDocument);
 
+    Journal monAttendu;
+    Journal monJournal;
+    // Without and with a rule for the whole text.
+    EnsembleRegles const mesReglesAttendues[2] = {Regles(monAttendu, false),
+                                                  Regles(monAttendu, true)};
+    EnsembleRegles const mesRegles[2] = {Regles(monJournal, false), Regles(monJournal, true)};
+    EnsembleRegles const mesReglesSimples = ReglesSimples();
     CaptureErreurs * mesErreurs = nullptr;
     int mesReussites = 0; // texts without an exception for which a rule was run
 };
@@ -157,33 +173,35 @@ void tst_InterpreteurChaineSemantiqueHasard::commeLeModele()
 
 void tst_InterpreteurChaineSemantiqueHasard::Compare(QString const & texte, bool avecDocument)
 {
-    Journal attendu;
-    QString resultatAttendu;
-    bool desequilibre = false;
+    monAttendu = {};
+    monJournal = {};
+    QString resultat;
+    QString resultatSimple;
+    bool equilibre = true;
     try {
-        resultatAttendu = ModeleInterpreteur(texte, Regles(attendu, avecDocument)).Applique();
+        resultat = ModeleInterpreteur(texte, mesReglesAttendues[avecDocument]).Applique();
+        resultatSimple = ModeleInterpreteur(texte, mesReglesSimples).Applique();
     } catch (ModeleInterpreteur::Desequilibre const &) {
-        desequilibre = true;
+        equilibre = false;
     }
 
-    Journal journal;
-    EnsembleRegles const regles = Regles(journal, avecDocument);
-    mesErreurs->Oublie();
+    EnsembleRegles const & regles = mesRegles[avecDocument];
     QCOMPARE(Interpreteur::TrouveBalises(texte), ModeleInterpreteur::TrouveBalises(texte));
     QCOMPARE(Interpreteur::PossedeReglesAAppliquer(texte, regles),
              ModeleInterpreteur::PossedeReglesAAppliquer(texte, regles));
-    if (desequilibre) {
+    mesErreurs->Oublie();
+    if (equilibre) {
+        QCOMPARE(QString(Interpreteur::AppliqueRegles(texte, regles)), resultat);
+        QCOMPARE(QString(Interpreteur::AppliqueRegles(texte, mesReglesSimples)), resultatSimple);
+        QVERIFY(monJournal.appels == monAttendu.appels);
+        QCOMPARE(mesErreurs->Texte(), QString());
+        mesReussites += monJournal.appels.empty() ? 0 : 1;
+    } else {
         QVERIFY_THROWS_EXCEPTION(InterpreteurChaineSemantiqueErreur,
                                  Interpreteur::AppliqueRegles(texte, regles));
         QCOMPARE(mesErreurs->Texte(), QString::fromStdString(to_string(texte)) + u'\n');
-    } else {
-        QCOMPARE(QString(Interpreteur::AppliqueRegles(texte, regles)), resultatAttendu);
-        QCOMPARE(mesErreurs->Texte(), QString());
-        if (!journal.appels.empty())
-            ++mesReussites;
     }
-    QVERIFY(journal.appels == attendu.appels);
-    QCOMPARE(journal.faute, QString());
+    QCOMPARE(monJournal.faute, QString());
 }
 
 QTEST_APPLESS_MAIN(tst_InterpreteurChaineSemantiqueHasard)

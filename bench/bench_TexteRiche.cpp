@@ -1,0 +1,189 @@
+// bench/bench_TexteRiche.cpp
+//
+// Rows of rich text, each with its own words, drawn for the first time and again, as scrolling
+// does; beside a QTextDocument with the same mark-up, a bare QTextLayout with ready formats, plain
+// QPainter::drawText and a prepared QStaticText. Then the scan of the tags, in texts of 1 KB to 1
+// MB. Exits with 1 above a limit.
+#include "Comparaison.h"
+
+#include "foundation/TexteRiche.h"
+
+#include <QApplication>
+#include <QElapsedTimer>
+#include <QImage>
+#include <QPainter>
+#include <QStaticText>
+#include <QTextDocument>
+
+#include <algorithm>
+#include <cstdio>
+#include <limits>
+#include <memory>
+#include <vector>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr double kPremiereFoisMax = 0.8; // times the document
+constexpr double kEncoreMax = 0.25;      // times the document
+constexpr double kCroissanceMax = 20.0;  // for ten times the text; quadratic time takes a hundred
+
+constexpr int kEssais = 15; // of the tag scan, of which the fastest counts
+constexpr int kRangsVisibles = 50;
+constexpr int kRangs = 5'000; // more than are remembered
+constexpr QRect kRectangle(0, 0, 600, 24);
+
+struct Rang
+{
+    QString balises; // for the library
+    QString html;    // the same, for the document
+    RoutinesGeneralesQt::TexteAvecFormat analyse;
+    QStaticText statique;
+};
+
+struct Genre
+{
+    char const * nom;
+    QString modele;    // of the tags that the library and HTML share
+    bool limiteEncore; // for letters alone, and out of line, most of the time is Qt's blending
+};
+
+std::vector<Rang> FabriqueRangs(QString const & modele, QFont const & font, int nombre)
+{
+    std::vector<Rang> rangs;
+    for (int i = 0; i < nombre; ++i) {
+        QString const texte = modele.arg(i);
+        Rang rang{texte, texte, RoutinesGeneralesQt::DonneTexteAvecFormat(texte, font), {}};
+        rang.statique = QStaticText(QString(rang.analyse.texte));
+        rang.statique.setTextFormat(Qt::PlainText);
+        rang.statique.prepare({}, font);
+        rangs.push_back(rang);
+    }
+    return rangs;
+}
+
+void DessineParDocument(QPainter & peintre, Rang const & rang, QFont const & font)
+{
+    QTextDocument document;
+    document.setDocumentMargin(0);
+    document.setDefaultFont(font);
+    document.setHtml(rang.html);
+    document.setTextWidth(kRectangle.width());
+    document.drawContents(&peintre);
+}
+
+void DessineParLayout(QPainter & peintre, Rang const & rang, QFont const & font)
+{
+    QTextLayout layout(rang.analyse.texte, font);
+    layout.setFormats(rang.analyse.formats);
+    layout.beginLayout();
+    layout.createLine().setLineWidth(kRectangle.width());
+    layout.endLayout();
+    layout.draw(&peintre, kRectangle.topLeft());
+}
+
+// Runs over the rows in turn, and over all of them before one comes again.
+template <typename Dessin>
+Comparaison::Boucle ParRang(std::vector<Rang> const & rangs, Dessin dessin)
+{
+    auto suivant = std::make_shared<std::size_t>(0);
+    return [&rangs, dessin, suivant](int repetitions) {
+        for (int i = 0; i < repetitions; ++i)
+            dessin(rangs[(*suivant)++ % rangs.size()]);
+    };
+}
+
+void MesureDessin(Comparaison & comparaison, Genre const & genre)
+{
+    QFont font = QApplication::font();
+    font.setPixelSize(13);
+    QImage image(kRectangle.size(), QImage::Format_ARGB32_Premultiplied);
+    image.fill(Qt::white);
+    QPainter peintre(&image);
+    peintre.setFont(font);
+
+    auto const notre = [&](Rang const & rang) {
+        RoutinesGeneralesQt::DessineTexteRiche(peintre, kRectangle, font, rang.balises);
+    };
+    auto const document = [&](Rang const & rang) { DessineParDocument(peintre, rang, font); };
+    auto const layout = [&](Rang const & rang) { DessineParLayout(peintre, rang, font); };
+    auto const nu = [&](Rang const & rang) {
+        peintre.drawText(kRectangle, Qt::TextSingleLine, rang.analyse.texte);
+    };
+    auto const statique = [&](Rang const & rang) {
+        peintre.drawStaticText(QPointF(), rang.statique);
+    };
+
+    std::printf("-- %s\n", genre.nom);
+    std::vector<Rang> const tous = FabriqueRangs(genre.modele, font, kRangs);
+    std::vector<Rang> const visibles = FabriqueRangs(genre.modele, font, kRangsVisibles);
+    comparaison.Mesure("first, QTextDocument", ParRang(tous, notre), ParRang(tous, document),
+                       kPremiereFoisMax);
+    comparaison.Mesure("first, bare QTextLayout", ParRang(tous, notre), ParRang(tous, layout), 0.0);
+    comparaison.Mesure("again, QTextDocument", ParRang(visibles, notre),
+                       ParRang(visibles, document), genre.limiteEncore ? kEncoreMax : 0.0);
+    comparaison.Mesure("again, plain drawText", ParRang(visibles, notre), ParRang(visibles, nu),
+                       0.0);
+    comparaison.Mesure("again, prepared QStaticText", ParRang(visibles, notre),
+                       ParRang(visibles, statique), 0.0);
+}
+
+// Nanoseconds per call, in the fastest of some rounds.
+template <typename Fonction>
+double MeilleureDuree(int repetitions, Fonction const & fonction)
+{
+    fonction(); // so that the allocator and the caches know its sizes
+    double meilleure = std::numeric_limits<double>::infinity();
+    for (int essai = 0; essai < kEssais; ++essai) {
+        QElapsedTimer chrono;
+        chrono.start();
+        for (int i = 0; i < repetitions; ++i)
+            fonction();
+        meilleure = std::min(meilleure, static_cast<double>(chrono.nsecsElapsed()) / repetitions);
+    }
+    return meilleure;
+}
+
+// True when the time grows with the text.
+bool MesureAnalyse()
+{
+    QString const morceau = u"un <b>mot</b>, <i>un <s>autre</s></i> & un <a x>lien</a>; "_s;
+    QFont const font = QApplication::font();
+    double precedente = 0.0;
+    bool reussi = true;
+    std::printf("-- tags\n%-12s %14s %10s\n", "characters", "ns", "growth");
+    for (int const taille : {1'000, 10'000, 100'000, 1'000'000}) {
+        UniChaine const texte(
+            morceau.repeated(taille / static_cast<int>(morceau.size()) + 1).left(taille));
+        double const duree = MeilleureDuree(3'000'000 / taille, [&] { //
+            Garde(RoutinesGeneralesQt::DonneTexteAvecFormat(texte, font));
+        });
+        double const croissance = precedente > 0.0 ? duree / precedente : 0.0;
+        bool const depasse = croissance > kCroissanceMax;
+        std::printf("%-12d %14.0f %10.1f%s\n", taille, duree, croissance,
+                    depasse ? "  above the limit" : "");
+        reussi = reussi && !depasse;
+        precedente = duree;
+    }
+    return reussi;
+}
+
+} // namespace
+
+int main(int nombre, char ** arguments)
+{
+    QApplication const application(nombre, arguments);
+    Genre const genres[] = {
+        {"a definition",
+         u"<b>chat</b>, <i>nom masculin</i> : petit mammifère domestique, rang %1"_s, true},
+        {"plain words", u"petit mammifère domestique aux yeux clairs, rang %1"_s, true},
+        {"with an index above the line",
+         u"<b>chat</b><sup>2</sup> <i>nom</i> : petit mammifère domestique, rang %1"_s, false},
+    };
+    Comparaison comparaison(200);
+    for (Genre const & genre : genres)
+        MesureDessin(comparaison, genre);
+    bool const lineaire = MesureAnalyse();
+    return lineaire ? comparaison.Resultat() : 1;
+}

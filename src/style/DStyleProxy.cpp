@@ -21,7 +21,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr QMargins kMargeTexte(4, 0, 0, 0); // logical pixels: what the contents are moved by
-constexpr char const * kProprieteMarge = "_d_margeTexte"; // the field has this margin
+constexpr char const * kProprieteMarge = "_d_margesTexte"; // of the field, this one included
 
 QString NomCouleurSurvol()
 {
@@ -92,14 +92,16 @@ void DStyleProxy::AjouteMargeTexte(QLineEdit & champ) const
     if (contenu.left() >= 0 || champ.property(kProprieteMarge).isValid())
         return;
     champ.setTextMargins(champ.textMargins() + kMargeTexte);
-    champ.setProperty(kProprieteMarge, true);
+    champ.setProperty(kProprieteMarge, QVariant::fromValue(champ.textMargins()));
 }
 
 void DStyleProxy::EnleveMargeTexte(QLineEdit & champ)
 {
-    if (!champ.property(kProprieteMarge).isValid())
+    QVariant const marges = champ.property(kProprieteMarge);
+    if (!marges.isValid())
         return;
-    champ.setTextMargins(champ.textMargins() - kMargeTexte);
+    if (champ.textMargins() == marges.value<QMargins>()) // else they are the application's now
+        champ.setTextMargins(champ.textMargins() - kMargeTexte);
     champ.setProperty(kProprieteMarge, QVariant());
 }
 

@@ -6,6 +6,7 @@
 #include "FabrelGuiExport.h"
 
 #include <QColor>
+#include <QIcon>
 #include <QPainterPath>
 #include <QPointer>
 #include <QProxyStyle>
@@ -32,9 +33,13 @@ class QStyleOptionViewItem;
 /// value", whatever `QVariant::toBool` takes for true counts; elsewhere nothing but a boolean does.
 /// A property that changes is seen at the next paint; sizes need an `updateGeometry`.
 ///
-/// Menu items and item texts of a widget with rules (see `MapDeRegles`) are drawn as rich text; a
-/// text with an unbalanced tag then throws `InterpreteurChaineSemantiqueErreur` out of the drawing.
-/// Two pictures are the application's to supply: ":Images/chevron-DToolButton.svg", the arrow of
+/// Texts of a widget with rules (see `MapDeRegles`) are rich where a rule applies; those of menu
+/// items and of items in views, only if the widget says so (see
+/// `DonneNomProprietePossedeRegleTexteRiche`), menu items then also without a rule. A rich text
+/// with an unbalanced tag throws `InterpreteurChaineSemantiqueErreur` out of its drawing and
+/// measuring. A rich menu item shows no mnemonic.
+///
+/// One picture is the application's to supply: ":Images/chevron-DToolButton.svg", the arrow of
 /// buttons, without which none is drawn.
 ///
 /// On a base style that writes less than 4 pixels from the left edge of a line edit, the style
@@ -55,7 +60,8 @@ public:
     ~DStyleProxy() override;
 
     /// Check indicators keep their size whatever the modulator of fonts; a button that cannot be
-    /// used or checked has a pale picture; what the style adds to controls stays away.
+    /// used or checked has a pale picture; what the style adds to controls stays away, but for menu
+    /// items.
     static char const * DonneNomAttributPourStyle();
     /// The picture of an enabled button is not paled, even if it is not checkable.
     static char const * DonneNomAttributPourStyleBoutonCheckable();
@@ -82,7 +88,7 @@ public:
     static char const * DonneNomStyleBoutonsStyleHomographes();
     /// A combo box without a frame.
     static char const * DonneNomStyleComboBoxSansFrame();
-    /// Read by style sheets only.
+    /// The style does not read it.
     static char const * DonneNomStyleCouleurBordure();
     /// A push button without a bevel.
     static char const * DonneNomStyleDesactiveBevelBouton();
@@ -93,7 +99,7 @@ public:
     static char const * DonneNomStyleEspacementReduitCaseCochay();
     /// No focus rectangle.
     static char const * DonneNomStyleFocusSansRect();
-    /// The rows of a tree leave a pixel free under them. Any true value.
+    /// The background of a chosen row leaves a pixel free under it. Any true value.
     static char const * DonneNomStyleListSeparateur();
     /// The mark of a selected item has the theme colour "couleurAccentDictionnaires". Any true
     /// value.
@@ -174,6 +180,10 @@ private:
     // One control element or primitive each.
     void DessineItemMenu(ControlElement element, QStyleOptionMenuItem const & option,
                          QPainter * peintre, QWidget const * widget) const;
+    bool DessinePrimitive(PrimitiveElement element, QStyleOption const & option, QPainter * peintre,
+                          QWidget const * widget) const;
+    void DessineSansExtras(ControlElement element, QStyleOption const * option, QPainter * peintre,
+                           QWidget const * widget) const;
     bool DessineElement(ControlElement element, QStyleOption const * option, QPainter * peintre,
                         QWidget const * widget) const;
     bool DessineCadre(QStyleOption const * option, QPainter * peintre,
@@ -191,9 +201,9 @@ private:
                         QWidget const * widget) const;
     static void DessineFondItem(QStyleOptionViewItem const & option, QPainter * peintre,
                                 QWidget const * widget);
-    void DessinePanneauItem(QStyleOptionViewItem const & option, QPainter * peintre,
+    bool DessinePanneauItem(QStyleOptionViewItem const & option, QPainter * peintre,
                             QWidget const * widget) const;
-    void DessineRangee(QStyleOptionViewItem const & option, QPainter * peintre,
+    bool DessineRangee(QStyleOptionViewItem const & option, QPainter * peintre,
                        QWidget const * widget) const;
     bool SuitRegles(QString const & texte, eContextePourStyle contexte,
                     QWidget const * widget) const;
@@ -208,6 +218,10 @@ private:
                             QWidget const * widget) const;
     void DessineComboBox(QStyleOptionComboBox const & option, QPainter * peintre,
                          QWidget const * widget) const;
+    QSize MesureTexteRiche(QString const & texte, QFont const & font,
+                           EnsembleRegles const & regles) const;
+    QSize MesureItemVue(QStyleOptionViewItem const & option, QSize const & taille,
+                        QWidget const * widget) const;
     int MesureTexteItemMenu(QStyleOptionMenuItem const & option, QWidget const * widget) const;
     void AjouteMargeTexte(QLineEdit & champ) const;
     static void EnleveMargeTexte(QLineEdit & champ);
@@ -221,6 +235,10 @@ private:
     // drawn outside of it.
     mutable QPointer<QWidget const> monWidgetDessinay;
     QPointer<DLabelElision> monLabelElision;
-    mutable bool monFondItemPeint = false; // of the item that the base style is drawing
+    mutable bool monWidgetManque = true; // drawControl was last called without a widget, or never
+    // Of the item of a view that the base style is drawing.
+    mutable bool monItemEstDessinay = false;
+    mutable bool monFondItemPeint = false;
+    mutable QIcon monChevron;
     std::unique_ptr<MemoirePalettes> maMemoirePalettes;
 };

@@ -18,6 +18,11 @@ namespace {
 constexpr int kEpaisseurFocus = 2;
 constexpr int kMargeFocus = 2; // from either end of the combo box
 
+// Parts that no combo box has. The active parts belong to the key by which Fusion finds its picture
+// of a combo box again, and an ordinary one must not get that of one without arrow or frame.
+constexpr auto kCleSansFleche = static_cast<QStyle::SubControl>(0x10000000);
+constexpr auto kCleSansFrame = static_cast<QStyle::SubControl>(0x20000000);
+
 } // namespace
 
 void DStyleProxy::drawComplexControl(ComplexControl controle, QStyleOptionComplex const * option,
@@ -78,7 +83,10 @@ void DStyleProxy::DessineComboBox(QStyleOptionComboBox const & option, QPainter 
                                   QWidget const * widget) const
 {
     QStyleOptionComboBox copie(option);
+    if (EstVrai(widget, ProprietesStyle::kComboBoxSansFleche))
+        copie.activeSubControls |= kCleSansFleche;
     if (EstBooleenVrai(widget, ProprietesStyle::kComboBoxSansFrame)) {
+        copie.activeSubControls |= kCleSansFrame;
         copie.state &= ~State_MouseOver;
         copie.frame = false;
         copie.subControls &= ~SC_ComboBoxFrame;

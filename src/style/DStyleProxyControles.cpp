@@ -8,6 +8,7 @@
 #include "style/LecturePropriete_p.h"
 #include "style/MemoirePalettes_p.h"
 #include "style/ProprietesStyle_p.h"
+#include "style/TexteDeLabel_p.h"
 
 #include "foundation/VersionsQt_p.h"
 
@@ -20,6 +21,7 @@ using namespace Qt::StringLiterals;
 
 using CouleursStyle::EstSombre;
 using CouleursStyle::Voile;
+using TexteDeLabel::SansMnemonique;
 
 namespace {
 
@@ -93,7 +95,9 @@ void DessineSeparateurOnglet(QStyleOptionTab const & option, QPainter & peintre,
 {
     int const index = barre.tabAt(option.rect.bottomLeft());
     bool const estDernier = index == barre.count() - 1;
-    if (index < 0 || estDernier || std::abs(index - barre.currentIndex()) <= 1)
+    bool const cotoieCourant =
+        barre.currentIndex() >= 0 && std::abs(index - barre.currentIndex()) <= 1;
+    if (index < 0 || estDernier || cotoieCourant)
         return;
     bool const versLaGauche = option.direction == Qt::RightToLeft;
     double const x = (versLaGauche ? option.rect.left() : option.rect.right()) + 0.5;
@@ -112,6 +116,7 @@ void DStyleProxy::drawControl(ControlElement element, QStyleOption const * optio
     if (element == CE_RadioButton || element == CE_ComboBoxLabel)
         ArreteAnimations(option, widget);
     monWidgetDessinay = widget;
+    monWidgetManque = !widget;
     if (EstBooleenVrai(widget, ProprietesStyle::kChampTexteSansLigneDecoratrice))
         return;
     if (option && !(option->state & State_Enabled) &&
@@ -119,8 +124,9 @@ void DStyleProxy::drawControl(ControlElement element, QStyleOption const * optio
         peintre->setOpacity(kOpaciteDesactivay);
     if (auto const * const menu = qstyleoption_cast<QStyleOptionMenuItem const *>(option))
         DessineItemMenu(element, *menu, peintre, widget);
-    else if (EstBooleenVrai(widget, ProprietesStyle::kPourStyle) ||
-             !DessineElement(element, option, peintre, widget))
+    else if (EstBooleenVrai(widget, ProprietesStyle::kPourStyle))
+        DessineSansExtras(element, option, peintre, widget);
+    else if (!DessineElement(element, option, peintre, widget))
         QProxyStyle::drawControl(element, option, peintre, widget);
 }
 
@@ -197,7 +203,9 @@ void DStyleProxy::DessineItemMenu(ControlElement element, QStyleOptionMenuItem c
     palette.setColor(QPalette::Window, maCouleurFenetre);
     if (option.state & State_Selected && SelectionnaySurFondAccent())
         palette.setColor(QPalette::WindowText, palette.color(QPalette::HighlightedText));
-    DessinerTexteRiche(peintre, chaines.texte, option.rect, option.state & State_Enabled, palette,
+    peintre->setFont(option.font); // as measured
+    DessinerTexteRiche(peintre, SansMnemonique(chaines.texte), option.rect,
+                       option.state & State_Enabled, palette,
                        option.direction == Qt::RightToLeft ? -decalage : decalage, 0,
                        DonneContexte(&option), Qt::AlignLeft | Qt::AlignVCenter, widget, true);
 }
@@ -260,7 +268,7 @@ void DStyleProxy::DessineTexteBouton(QStyleOptionButton const & option, QPainter
     if (widget && EstDefaut(copie)) {
         if (copie.state & State_Sunken)
             copie.state |= State_On;
-        else
+        else if (!EstBooleenVrai(widget, ProprietesStyle::kBoutonSansBevel))
             copie.palette =
                 maMemoirePalettes->Donne(copie.palette, QPalette::ButtonText, Qt::white);
     }

@@ -2,18 +2,22 @@
 //
 // Metrics, sizes, hints, and the parts of simple elements.
 #include "style/DStyleProxy.h"
+#include "style/GenreDeVue_p.h"
 #include "style/InterpreteurChaineSemantique.h"
 #include "style/LecturePropriete_p.h"
 #include "style/ProprietesStyle_p.h"
+#include "style/TexteDeLabel_p.h"
 
 #include "controls/DLabelElision.h"
 #include "foundation/Polices.h"
+#include "foundation/TailleTexte.h"
 
 #include <QLabel>
 #include <QStyleOption>
-#include <QTableView>
 
 using RoutinesGeneralesQt::ModulateurFont;
+
+using Interpreteur = InterpreteurChaineSemantiqueT<UniChaine>;
 
 namespace {
 
@@ -36,7 +40,11 @@ QRect DStyleProxy::subElementRect(SubElement element, QStyleOption const * optio
     if (element == SE_ItemViewItemCheckIndicator && item->text.isEmpty() &&
         item->features & QStyleOptionViewItem::HasCheckIndicator)
         rect.moveLeft(item->rect.left() + (item->rect.width() - rect.width()) / 2);
-    if (element == SE_ItemViewItemText && qobject_cast<QTableView const *>(widget))
+    // Not while the item is drawn: its text would cover the picture or the check in front of it.
+    bool const laissePlace =
+        monItemEstDessinay && item->features & (QStyleOptionViewItem::HasDecoration |
+                                                QStyleOptionViewItem::HasCheckIndicator);
+    if (element == SE_ItemViewItemText && EstTable(widget) && !laissePlace)
         rect.setLeft(item->rect.left());
     return rect;
 }
@@ -79,28 +87,51 @@ QSize DStyleProxy::sizeFromContents(ContentsType type, QStyleOption const * opti
         resultat += kAjoutItemBarreMenu;
     } else if (type == CT_ItemViewItem) {
         auto const * const item = qstyleoption_cast<QStyleOptionViewItem const *>(option);
-        if (item && item->icon.isNull())
-            resultat.rheight() += kAjoutItemSansIcone;
+        if (item)
+            resultat = MesureItemVue(*item, resultat, widget);
     }
     if (EstBooleenVrai(widget, ProprietesStyle::kScrolling))
         resultat.setHeight(std::min(resultat.height(), widget->maximumHeight()));
     return resultat;
 }
 
+// `taille` is what the base style says for the tagged text.
+QSize DStyleProxy::MesureItemVue(QStyleOptionViewItem const & option, QSize const & taille,
+                                 QWidget const * widget) const
+{
+    QSize resultat = taille;
+    if (option.icon.isNull())
+        resultat.rheight() += kAjoutItemSansIcone;
+    QWidget const * const decideur = DonneDecideur(widget);
+    auto const contexte = DonneContexte(&option);
+    if (!EstBooleenVrai(decideur, ProprietesStyle::kTexteRiche) ||
+        !SuitRegles(option.text, contexte, decideur))
+        return resultat;
+    QSize const riche = MesureTexteRiche(option.text, option.font,
+                                         DonneInterpreteurPourContexte(contexte, decideur));
+    QSize const brut = RoutinesGeneralesQt::DonneTailleTexteBrut(option.text, option.font);
+    return resultat +
+           QSize(riche.width() - brut.width(), std::max(0, riche.height() - brut.height()));
+}
+
+QSize DStyleProxy::MesureTexteRiche(QString const & texte, QFont const & font,
+                                    EnsembleRegles const & regles) const
+{
+    QLabel & label = PreteLabel(monLabelMesure);
+    label.setFont(font);
+    label.setText(TexteDeLabel::ProtegeChevrons(Interpreteur::AppliqueRegles(texte, regles)));
+    // Not adjustSize, which stays within two thirds of the screen.
+    label.resize(label.sizeHint());
+    return label.size();
+}
+
 int DStyleProxy::MesureTexteItemMenu(QStyleOptionMenuItem const & option,
                                      QWidget const * widget) const
 {
-    using Interpreteur = InterpreteurChaineSemantiqueT<UniChaine>;
-
-    UniChaine const texte = DonneChainesDansItemMenu(&option).texte;
+    QString const texte = TexteDeLabel::SansMnemonique(DonneChainesDansItemMenu(&option).texte);
     EnsembleRegles const regles = DonneInterpreteurPourContexte(DonneContexte(&option), widget);
-    if (Interpreteur::PossedeReglesAAppliquer(texte, regles)) {
-        QLabel & label = PreteLabel(monLabelMesure);
-        label.setFont(option.font);
-        label.setText(Interpreteur::AppliqueRegles(texte, regles));
-        label.adjustSize();
-        return label.width();
-    }
+    if (Interpreteur::PossedeReglesAAppliquer(texte, regles))
+        return MesureTexteRiche(texte, option.font, regles).width();
     monLabelElision->PrendsPolice(option.font);
     monLabelElision->PrendsTexte(texte, true);
     monLabelElision->AjusteElision(QSize(QWIDGETSIZE_MAX, QWIDGETSIZE_MAX));

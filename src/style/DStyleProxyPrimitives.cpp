@@ -5,12 +5,14 @@
 #include "style/CouleursStyle_p.h"
 #include "style/DStyleProxy.h"
 #include "style/GardePeintre_p.h"
+#include "style/GenreDeVue_p.h"
 #include "style/LecturePropriete_p.h"
 #include "style/ProprietesStyle_p.h"
 
 #include "controls/DListView.h"
 #include "controls/DTreeView.h"
 
+#include <QComboBox>
 #include <QFile>
 #include <QIcon>
 
@@ -22,7 +24,6 @@ namespace {
 
 // Logical pixels.
 constexpr int kCoteIndicateur = 10;
-constexpr int kMargeIndicateur = 1; // on either side
 constexpr double kRayonBoutonOutil = 3.0;
 
 QColor DonneCouleurBoutonOutil(QStyle::State etat)
@@ -35,11 +36,15 @@ QColor DonneCouleurBoutonOutil(QStyle::State etat)
     return survolay ? CouleursStyle::kBoutonOutilSurvolay : CouleursStyle::kBoutonOutil;
 }
 
-void DessineBaseOnglets(QRect const & rect, QPainter & peintre)
+bool DessineBaseOnglets(QStyleOption const & option, QPainter & peintre)
 {
+    QColor const couleur = CouleursStyle::EstSombre(option.palette)
+                               ? Voile(CouleursStyle::kSeparateurEntete, option.palette)
+                               : CouleursStyle::kBaseOnglets;
     GardePeintre const garde(&peintre);
-    peintre.setPen(QPen(CouleursStyle::kBaseOnglets, 1, Qt::SolidLine, Qt::FlatCap, Qt::MiterJoin));
-    peintre.drawLine(rect.topRight(), rect.topLeft());
+    peintre.setPen(QPen(couleur, 1, Qt::SolidLine, Qt::FlatCap, Qt::MiterJoin));
+    peintre.drawLine(option.rect.topRight(), option.rect.topLeft());
+    return true;
 }
 
 bool DessineParVue(QStyle::PrimitiveElement element, QStyleOption const * option,
@@ -59,69 +64,58 @@ bool DessineParVue(QStyle::PrimitiveElement element, QStyleOption const * option
 void DStyleProxy::drawPrimitive(PrimitiveElement element, QStyleOption const * option,
                                 QPainter * peintre, QWidget const * widget) const
 {
-    auto const base = [&](QStyleOption const * copie) {
-        QProxyStyle::drawPrimitive(element, copie, peintre, widget);
-    };
-    if (!option) {
-        base(option);
-        return;
-    }
+    bool const animay = element == PE_FrameLineEdit || element == PE_PanelLineEdit ||
+                        element == PE_IndicatorCheckBox || element == PE_IndicatorRadioButton;
+    if (animay)
+        ArreteAnimations(option, widget);
+    if (!option || !DessinePrimitive(element, *option, peintre, widget))
+        QProxyStyle::drawPrimitive(element, option, peintre, widget);
+}
+
+// False when the element is the base style's.
+bool DStyleProxy::DessinePrimitive(PrimitiveElement element, QStyleOption const & option,
+                                   QPainter * peintre, QWidget const * widget) const
+{
+    auto const * const item = qstyleoption_cast<QStyleOptionViewItem const *>(&option);
     auto const baseSans = [&](QStyleOption & copie, State drapeaux) {
         copie.state &= ~drapeaux;
-        base(&copie);
+        QProxyStyle::drawPrimitive(element, &copie, peintre, widget);
     };
     switch (element) {
     case PE_FrameFocusRect:
-        if (!EstBooleenVrai(widget, ProprietesStyle::kFocusSansRect))
-            base(option);
-        return;
+        return EstBooleenVrai(widget, ProprietesStyle::kFocusSansRect);
     case PE_FrameLineEdit:
-        ArreteAnimations(option, widget);
         EmploieCopie<QStyleOptionFrame>(
-            *option, [&](QStyleOption & copie) { baseSans(copie, State_MouseOver); });
-        return;
+            option, [&](QStyleOption & copie) { baseSans(copie, State_MouseOver); });
+        return true;
     case PE_FrameTabBarBase:
-        if (!qstyleoption_cast<QStyleOptionTabBarBase const *>(option))
-            break;
-        DessineBaseOnglets(option->rect, *peintre);
-        return;
+        return qstyleoption_cast<QStyleOptionTabBarBase const *>(&option) &&
+               DessineBaseOnglets(option, *peintre);
     case PE_PanelButtonTool:
-        DessinePanneauBoutonOutil(*option, peintre, widget);
-        return;
-    case PE_PanelLineEdit:
-    case PE_IndicatorCheckBox:
-    case PE_IndicatorRadioButton:
-        ArreteAnimations(option, widget);
-        break;
+        DessinePanneauBoutonOutil(option, peintre, widget);
+        return true;
+    case PE_PanelButtonCommand:
+        // Of a combo box that cannot be edited, Fusion paints a button even without a frame.
+        return qobject_cast<QComboBox const *>(widget) &&
+               EstBooleenVrai(widget, ProprietesStyle::kComboBoxSansFrame);
     case PE_IndicatorArrowDown:
         if (!EstVrai(widget, ProprietesStyle::kBoutonSansFlecheMenu))
-            DessineIndicateur(*peintre, *option);
-        return;
+            DessineIndicateur(*peintre, option);
+        return true;
     case PE_IndicatorButtonDropDown:
         EmploieCopie<QStyleOptionToolButton, QStyleOptionButton>(
-            *option, [&](QStyleOption & copie) { baseSans(copie, State_MouseOver | State_On); });
-        DessineIndicateur(*peintre, *option);
-        return;
+            option, [&](QStyleOption & copie) { baseSans(copie, State_MouseOver | State_On); });
+        DessineIndicateur(*peintre, option);
+        return true;
     case PE_IndicatorItemViewItemDrop:
-        if (DessineParVue(element, option, peintre, widget))
-            return;
-        break;
+        return DessineParVue(element, &option, peintre, widget);
     case PE_PanelItemViewItem:
-        if (auto const * const item = qstyleoption_cast<QStyleOptionViewItem const *>(option)) {
-            DessinePanneauItem(*item, peintre, widget);
-            return;
-        }
-        break;
+        return item && !EstTable(widget) && DessinePanneauItem(*item, peintre, widget);
     case PE_PanelItemViewRow:
-        if (auto const * const item = qstyleoption_cast<QStyleOptionViewItem const *>(option)) {
-            DessineRangee(*item, peintre, widget);
-            return;
-        }
-        break;
+        return item && DessineRangee(*item, peintre, widget);
     default:
-        break;
+        return false;
     }
-    base(option);
 }
 
 void DStyleProxy::DessinePanneauBoutonOutil(QStyleOption const & option, QPainter * peintre,
@@ -140,15 +134,16 @@ void DStyleProxy::DessinePanneauBoutonOutil(QStyleOption const & option, QPainte
 
 void DStyleProxy::DessineIndicateur(QPainter & peintre, QStyleOption const & option) const
 {
-    // The application's picture. Deliberate: no slash behind the colon.
+    int const cote = std::min(kCoteIndicateur, option.rect.width());
+    // The application's picture, which it may supply late. Deliberate: no slash behind the colon.
     QString const fichier = u":Images/chevron-DToolButton.svg"_s;
-    int const cote = std::min(kCoteIndicateur, option.rect.width() - 2 * kMargeIndicateur);
-    if (cote <= 0 || !QFile::exists(fichier)) // an icon without its file warns at each drawing
+    if (monChevron.isNull() && QFile::exists(fichier)) // an icon without a file warns
+        monChevron = QIcon(fichier);
+    if (cote <= 0 || monChevron.isNull())
         return;
-    QIcon const chevron(fichier);
     auto const mode = option.state & State_Enabled ? QIcon::Normal : QIcon::Disabled;
     auto const etat = option.state & State_On ? QIcon::On : QIcon::Off;
     QPixmap const pixmap =
-        chevron.pixmap(QSize(cote, cote), peintre.device()->devicePixelRatioF(), mode, etat);
+        monChevron.pixmap(QSize(cote, cote), peintre.device()->devicePixelRatioF(), mode, etat);
     QProxyStyle::drawItemPixmap(&peintre, option.rect, Qt::AlignHCenter | Qt::AlignVCenter, pixmap);
 }

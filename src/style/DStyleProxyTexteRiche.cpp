@@ -5,6 +5,7 @@
 #include "style/LecturePropriete_p.h"
 #include "style/ProprietesStyle_p.h"
 #include "style/ReglesDeBase_p.h"
+#include "style/TexteDeLabel_p.h"
 
 #include <QGuiApplication>
 #include <QLabel>
@@ -77,7 +78,7 @@ bool DStyleProxy::DessinerTexteRiche(QPainter * peintre, QString texte, QRect co
     EnsembleRegles const regles = DonneInterpreteurPourContexte(contexte, widget);
     if (!forcay && !Interpreteur::PossedeReglesAAppliquer(texte, regles))
         return false;
-    QString const html = Interpreteur::AppliqueRegles(texte, regles);
+    QString const html = TexteDeLabel::ProtegeChevrons(Interpreteur::AppliqueRegles(texte, regles));
 
     QLabel & label = PreteLabel(monLabelRendu);
     label.setPalette(DonnePalettePourContexte(palette, contexte));
@@ -108,8 +109,10 @@ void DStyleProxy::drawItemText(QPainter * peintre, QRect const & rect, int drape
                                QPalette const & palette, bool actif, QString const & texte,
                                QPalette::ColorRole role) const
 {
-    // Without a "<" there is no tag: most texts are spared the rest.
-    if (texte.contains(u'<') &&
+    // Without a "<" there is no tag: most texts are spared the rest. The rules of a widget that is
+    // gone are gone with it.
+    bool const widgetEstParti = !monWidgetDessinay && !monWidgetManque;
+    if (texte.contains(u'<') && !widgetEstParti &&
         DessinerTexteRiche(peintre, texte, rect, actif,
                            DonnePaletteAvecRole(*peintre, palette, role), 0, 0, kContexteNormal,
                            drapeaux, monWidgetDessinay, false))

@@ -5,6 +5,7 @@
 #include "style/CouleursStyle_p.h"
 #include "style/DStyleProxy.h"
 #include "style/GardePeintre_p.h"
+#include "style/GenreDeVue_p.h"
 #include "style/InterpreteurChaineSemantique.h"
 #include "style/LecturePropriete_p.h"
 #include "style/ProprietesStyle_p.h"
@@ -14,7 +15,6 @@
 
 #include <QScopedValueRollback>
 #include <QStyleOption>
-#include <QTableView>
 #include <QTreeView>
 
 #include <algorithm>
@@ -38,26 +38,6 @@ constexpr QPalette::ColorGroup kGroupes[] = {QPalette::Active, QPalette::Inactiv
 bool EstMisEnValeur(QStyleOption const & option)
 {
     return option.state & (QStyle::State_Selected | QStyle::State_MouseOver);
-}
-
-bool EstTable(QWidget const * widget)
-{
-    return qobject_cast<QTableView const *>(widget);
-}
-
-bool EstListeDeCombo(QWidget const * widget)
-{
-    return widget && widget->inherits("QComboBoxListView");
-}
-
-// The widget that says whether the items of the list of a combo box are rich: the list's parent, or
-// the combo box around the container that Qt puts the list in.
-QWidget const * DonneParentDeListe(QWidget const & liste)
-{
-    QWidget const * const parent = liste.parentWidget();
-    bool const estConteneur = parent && parent->inherits("QComboBoxPrivateContainer") &&
-                              !EstBooleenVrai(parent, ProprietesStyle::kTexteRiche);
-    return estConteneur ? parent->parentWidget() : parent;
 }
 
 // The text of a selected item is written on the overlay that this style paints, and not on the
@@ -91,7 +71,7 @@ void DStyleProxy::DessineItemVue(QStyleOptionViewItem const & option, QPainter *
                                  QWidget const * widget) const
 {
     bool const estListeDeCombo = EstListeDeCombo(widget);
-    QWidget const * const decideur = estListeDeCombo ? DonneParentDeListe(*widget) : widget;
+    QWidget const * const decideur = DonneDecideur(widget);
     bool const estRiche = EstBooleenVrai(decideur, ProprietesStyle::kTexteRiche);
     bool const suitRegles = estRiche && SuitRegles(option.text, DonneContexte(&option), decideur);
     bool const surFondClair = !EstTable(widget) && EstMisEnValeur(option);
@@ -114,7 +94,8 @@ void DStyleProxy::DessineItemVue(QStyleOptionViewItem const & option, QPainter *
         copie.text = u" "_s; // as good as none, but the check indicator stays at its place
     }
     {
-        QScopedValueRollback const etat(monFondItemPeint, fondPeint);
+        QScopedValueRollback const item(monItemEstDessinay, true);
+        QScopedValueRollback const fond(monFondItemPeint, fondPeint);
         QProxyStyle::drawControl(CE_ItemViewItem, &copie, peintre, widget);
     }
     bool const sansDelegue = estListeDeCombo && estRiche &&
@@ -123,11 +104,26 @@ void DStyleProxy::DessineItemVue(QStyleOptionViewItem const & option, QPainter *
         EcrisItem(option, copie.palette, peintre, widget, decideur);
 }
 
+// As the base style does, but readable: the background of its items is still drawPrimitive's.
+void DStyleProxy::DessineSansExtras(ControlElement element, QStyleOption const * option,
+                                    QPainter * peintre, QWidget const * widget) const
+{
+    auto const * const item = qstyleoption_cast<QStyleOptionViewItem const *>(option);
+    if (element != CE_ItemViewItem || !item || EstTable(widget) || !EstMisEnValeur(*item)) {
+        QProxyStyle::drawControl(element, option, peintre, widget);
+        return;
+    }
+    QStyleOptionViewItem copie(*item);
+    EcrisSurFondClair(copie.palette);
+    QProxyStyle::drawControl(element, &copie, peintre, widget);
+}
+
 bool DStyleProxy::SuitRegles(QString const & texte, eContextePourStyle contexte,
                              QWidget const * widget) const
 {
-    return InterpreteurChaineSemantiqueT<UniChaine>::PossedeReglesAAppliquer(
-        texte, DonneInterpreteurPourContexte(contexte, widget));
+    return texte.contains(u'<') &&
+           InterpreteurChaineSemantiqueT<UniChaine>::PossedeReglesAAppliquer(
+               texte, DonneInterpreteurPourContexte(contexte, widget));
 }
 
 // By the rules of `decideur`, or as it stands where none applies.
@@ -205,13 +201,9 @@ QPainterPath DStyleProxy::DonneRectArondi(QRect const & rect, int hautGauche, in
     return forme;
 }
 
-void DStyleProxy::DessinePanneauItem(QStyleOptionViewItem const & option, QPainter * peintre,
+bool DStyleProxy::DessinePanneauItem(QStyleOptionViewItem const & option, QPainter * peintre,
                                      QWidget const * widget) const
 {
-    if (EstTable(widget)) {
-        QProxyStyle::drawPrimitive(PE_PanelItemViewItem, &option, peintre, widget);
-        return;
-    }
     if (option.backgroundBrush.style() != Qt::NoBrush && !(option.state & State_Selected))
         DessineFondDuModele(option, *peintre);
     if (!monFondItemPeint && EstMisEnValeur(option))
@@ -223,17 +215,20 @@ void DStyleProxy::DessinePanneauItem(QStyleOptionViewItem const & option, QPaint
         copie.rect.adjust(kRetraitItem, kRetraitItem, -kRetraitItem, -kRetraitItem);
         DessineSelecteurAccentListe(peintre, copie, widget, DonneCouleurMarque(widget));
     }
+    return true;
 }
 
 // What is beside the items of a tree, and the stripes of all views.
-void DStyleProxy::DessineRangee(QStyleOptionViewItem const & option, QPainter * peintre,
+bool DStyleProxy::DessineRangee(QStyleOptionViewItem const & option, QPainter * peintre,
                                 QWidget const * widget) const
 {
     auto copie = ActivePalette(option);
-    // The base style goes on with the background of the selected items, whose colour is ours.
+    // Deliberate: not the colour of the selection. The base style goes on with the background of
+    // the selected items, which is ours.
     if (!EstTable(widget))
         copie.palette.setColor(QPalette::Highlight, Voile(CouleursStyle::kFondItem, copie.palette));
     QProxyStyle::drawPrimitive(PE_PanelItemViewRow, &copie, peintre, widget);
+    return true;
 }
 
 void DStyleProxy::DessineSelecteurAccentListe(QPainter * peintre,
@@ -254,7 +249,7 @@ void DStyleProxy::DessineSectionEntete(QStyleOptionHeader const & option, QPaint
                              option.position == QStyleOptionHeader::OnlyOneSection;
     if (estPremiere)
         return;
-    // A vertical header has its sections one above the other.
+    // Deliberate: above the sections of a vertical header, which stand one under the other.
     QSize const taille = option.orientation == Qt::Vertical ? QSize(option.rect.width(), 1)
                                                             : QSize(1, option.rect.height());
     peintre->fillRect(

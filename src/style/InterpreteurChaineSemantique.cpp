@@ -74,51 +74,77 @@ struct Structure
     throw InterpreteurChaineSemantiqueErreur();
 }
 
-Structure LisStructure(QString const & source, EnsembleRegles const & regles)
+// The rule of that name; null without one. A function that is empty is none.
+RegleTexteRiche const * PreteRegle(EnsembleRegles const & regles, QStringView nom)
 {
+    auto const regle = regles.find(UniChaine(nom.toString()));
+    return regle != regles.end() && regle->second ? &regle->second : nullptr;
+}
+
+// Puts the elements of a text together from its tags.
+class Lecteur
+{
+public:
+    Lecteur(QString const & source, EnsembleRegles const & regles)
+        : maSource(source)
+        , mesRegles(regles)
+    {
+    }
+
+    Structure Lis()
+    {
+        for (Balise const & balise : Interpreteur::TrouveBalises(maSource)) {
+            QStringView const nom = DonneNom(maSource, balise);
+            if (nom.startsWith(kFermeture)) {
+                if (mesOuvertures.empty())
+                    return maStructure; // Deliberate: what follows stays as it is
+                if (!Ferme(nom, mesOuvertures.back().nom))
+                    Refuse(maSource);
+                TermineElement(balise);
+            } else {
+                CommenceElement(balise, nom);
+                if (nom.endsWith(kFermeture))
+                    TermineElement({balise.first + balise.second, 0});
+            }
+        }
+        if (!mesOuvertures.empty())
+            Refuse(maSource);
+        return maStructure;
+    }
+
+private:
     struct Ouverture
     {
         QStringView nom;
         bool suitRegle;
         std::size_t element; // meant if it follows a rule
     };
-    Structure structure;
-    std::vector<Ouverture> ouvertures;
-    auto const ouvre = [&](Balise const & balise, QStringView nom) {
-        auto const regle = regles.find(UniChaine(nom.toString()));
-        bool const suitRegle = regle != regles.end();
-        ouvertures.push_back({nom, suitRegle, structure.elements.size()});
-        if (!suitRegle)
+
+    void CommenceElement(Balise const & balise, QStringView nom)
+    {
+        auto const * const regle = PreteRegle(mesRegles, nom);
+        mesOuvertures.push_back({nom, regle != nullptr, maStructure.elements.size()});
+        if (!regle)
             return;
-        structure.evenements.push_back({structure.elements.size(), true});
-        structure.elements.push_back({&regle->second, balise, {}});
-    };
-    auto const ferme = [&](Balise const & balise) {
-        Ouverture const ouverture = ouvertures.back();
-        ouvertures.pop_back();
+        maStructure.evenements.push_back({maStructure.elements.size(), true});
+        maStructure.elements.push_back({regle, balise, {}});
+    }
+
+    void TermineElement(Balise const & balise)
+    {
+        Ouverture const ouverture = mesOuvertures.back();
+        mesOuvertures.pop_back();
         if (!ouverture.suitRegle)
             return;
-        structure.elements[ouverture.element].fermeture = balise;
-        structure.evenements.push_back({ouverture.element, false});
-    };
-    for (Balise const & balise : Interpreteur::TrouveBalises(source)) {
-        QStringView const nom = DonneNom(source, balise);
-        if (nom.startsWith(kFermeture)) {
-            if (ouvertures.empty())
-                return structure; // Deliberate: what follows stays as it is
-            if (!Ferme(nom, ouvertures.back().nom))
-                Refuse(source);
-            ferme(balise);
-        } else {
-            ouvre(balise, nom);
-            if (nom.endsWith(kFermeture))
-                ferme({balise.first + balise.second, 0});
-        }
+        maStructure.elements[ouverture.element].fermeture = balise;
+        maStructure.evenements.push_back({ouverture.element, false});
     }
-    if (!ouvertures.empty())
-        Refuse(source);
-    return structure;
-}
+
+    QString const & maSource;
+    EnsembleRegles const & mesRegles;
+    Structure maStructure;
+    std::vector<Ouverture> mesOuvertures;
+};
 
 RemplacementDeBalises const * PreteRemplacement(Element const & element)
 {
@@ -240,20 +266,20 @@ bool InterpreteurChaineSemantiqueT<UniChaine>::PossedeReglesAAppliquer(
     auto const balises = TrouveBalises(texte);
     return std::any_of(balises.begin(), balises.end(), [&](Balise const & balise) {
         QStringView const nom = DonneNom(unites, balise);
-        return !nom.startsWith(kFermeture) && regles.count(UniChaine(nom.toString())) > 0;
+        return !nom.startsWith(kFermeture) && PreteRegle(regles, nom);
     });
 }
 
 UniChaine InterpreteurChaineSemantiqueT<UniChaine>::AppliqueRegles(UniChaine const & texte,
                                                                    EnsembleRegles const & regles)
 {
-    Structure const structure = LisStructure(texte, regles);
-    auto const regleDuTexte = regles.find(UniChaine());
+    QString const source = texte;
+    Structure const structure = Lecteur(source, regles).Lis();
     UniChaine sortie = texte;
-    if (regleDuTexte != regles.end())
-        Execute(structure, sortie, ExecuteSurLeTexte(regleDuTexte->second, sortie));
+    if (auto const * const regleDuTexte = PreteRegle(regles, {}))
+        Execute(structure, sortie, ExecuteSurLeTexte(*regleDuTexte, sortie));
     else if (NeFaitQueRemplacer(structure))
-        sortie = RemplaceEnsemble(texte, structure);
+        sortie = RemplaceEnsemble(source, structure);
     else
         Execute(structure, sortie, 0);
     sortie.DecodeCaracteresReservesHTML();

@@ -25,7 +25,7 @@ class InterpreteurChaineSemantiqueT;
 ///
 /// A tag runs from a "<" to the first ">" behind it with no other "<" between them; a lone "<" and
 /// the empty tag "<>" are text. "<name/>" is an element without content; "<name attributes>" is
-/// closed by "</name>" or by "</name attributes>".
+/// closed by "</name>" or by "</name attributes>". An empty `std::function` is no rule.
 template <>
 class FABRELGUI_EXPORT InterpreteurChaineSemantiqueT<UniChaine>
 {

@@ -11,7 +11,7 @@
 ///
 /// The arguments are the text being built, and the opening and closing tag as (position, length) in
 /// it; a closing tag of length 0 means that there is none. The result is the length of the whole
-/// element after the rewriting.
+/// element after the rewriting: by it, the rules that run later find their tags.
 using RegleTexteRiche = std::function<int(UniChaine *, std::pair<unsigned int, unsigned int> &,
                                           std::pair<unsigned int, unsigned int> &)>;
 

@@ -8,7 +8,6 @@
 #include "foundation/ThemesQt.h"
 #include "style/DStyleProxy.h"
 
-#include <QPixmapCache>
 #include <QtTest>
 
 using namespace Qt::StringLiterals;
@@ -26,7 +25,6 @@ QList<EtatDessinay *> DonneDessinay(QWidget const & page, QString const & nom)
 QList<QImage> Photographie(QList<EtatDessinay *> const & dessinay)
 {
     // What the base style keeps of one row must not stand for another one.
-    QPixmapCache::clear();
     QList<QImage> images;
     for (EtatDessinay * const dessin : dessinay)
         images.append(dessin->grab().toImage());

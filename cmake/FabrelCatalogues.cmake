@@ -30,6 +30,16 @@ function(fabrel_ressources cible qrc sortie)
         list(APPEND dependances "${mo}")
     endforeach()
 
+    # A file that goes by another name than its own.
+    string(REGEX MATCHALL "<file alias=\"[^\"]+\">[^<]+</file>" alias "${collection}")
+    foreach(entree IN LISTS alias)
+        string(REGEX REPLACE "^.*>([^<]+)</file>$" "\\1" chemin "${entree}")
+        set(absolu "${source}/${chemin}")
+        list(APPEND dependances "${absolu}")
+        string(REPLACE ">${chemin}<" ">${absolu}<" entreeAbsolue "${entree}")
+        string(REPLACE "${entree}" "${entreeAbsolue}" collection "${collection}")
+    endforeach()
+
     foreach(entree IN LISTS entrees)
         string(REGEX REPLACE "</?file>" "" chemin "${entree}")
         if(chemin MATCHES "\\.mo$")

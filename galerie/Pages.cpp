@@ -5,8 +5,11 @@
 #include "PageEcrans.h"
 #include "PageFenetres.h"
 #include "PagePolices.h"
+#include "PageStyle.h"
+#include "PageTexteRiche.h"
 #include "PageTextes.h"
 #include "PageTheme.h"
+#include "ThemeGalerie.h"
 #include "TraductionGalerie.h"
 
 #include <QHeaderView>
@@ -31,6 +34,10 @@ QList<DescriptionPage> const & DonnePages()
          [](ThemeGalerie &) -> QWidget * { return new PageAlertes; }},
         {TexteGalerie("Fenêtres"), u"fenetres"_s,
          [](ThemeGalerie &) -> QWidget * { return new PageFenetres; }},
+        {TexteGalerie("Style"), u"style"_s,
+         [](ThemeGalerie & theme) -> QWidget * { return new PageStyle(theme.DonneStyleDeBase()); }},
+        {TexteGalerie("Texte riche"), u"texteriche"_s,
+         [](ThemeGalerie &) -> QWidget * { return new PageTexteRiche; }},
     };
     return pages;
 }

@@ -3,10 +3,12 @@
 
 #include "foundation/ThemesQt.h"
 #include "noyau/RoutinesTexte.h"
+#include "style/DStyleProxy.h"
 
 #include <QApplication>
 #include <QPalette>
 #include <QRegularExpression>
+#include <QStyleFactory>
 
 #include <utility>
 
@@ -64,12 +66,22 @@ void MetsBords(QPalette palette)
     QColor const bordure = Couleur(u"couleurBordureGeneral"_s);
     if (palette.color(QPalette::Window).lightness() < kMilieu && bordure.isValid())
         palette.setColor(QPalette::Window, bordure.lighter(kFacteurDesBords));
-    for (char const * const classe :
-         {"QAbstractSpinBox", "QCheckBox", "QComboBox", "QLineEdit", "QPlainTextEdit"})
+    for (char const * const classe : {"QAbstractSpinBox", "QCheckBox", "QComboBox", "QLineEdit",
+                                      "QPlainTextEdit", "QRadioButton"})
         QApplication::setPalette(palette, classe);
 }
 
 } // namespace
+
+ThemeGalerie::ThemeGalerie(QString styleDeBase)
+    : monStyleDeBase(std::move(styleDeBase))
+{
+}
+
+QString ThemeGalerie::DonneStyleDeBase() const
+{
+    return monStyleDeBase;
+}
 
 void ThemeGalerie::Reinitialise()
 {
@@ -86,6 +98,7 @@ void ThemeGalerie::Assombris()
     std::pair<QString, QColor> const couleurs[] = {
         {u"couleurBordureGeneral"_s, QColor(130, 135, 145)},
         {u"couleurBordureGui"_s, QColor(84, 88, 96)},
+        {u"couleurErreurLineEdit"_s, QColor(255, 120, 110)},
         {u"couleurFondBlanc"_s, QColor(30, 32, 36)},
         {u"couleurFondBoutonHover"_s, QColor(60, 64, 72)},
         {u"couleurFondGris"_s, QColor(40, 43, 48)},
@@ -141,6 +154,10 @@ bool ThemeGalerie::Applique() const
     }
     QPalette const palette = DonnePalette();
     QApplication::setPalette(palette);
+    // The style keeps the window's colour from when it was made, and its variable is gone with the
+    // table that it added it to: another theme, another style.
+    if (!monStyleDeBase.isEmpty())
+        QApplication::setStyle(new DStyleProxy(QStyleFactory::create(monStyleDeBase)));
     MetsBords(palette);
     qApp->setStyleSheet(ThemesQt::Instance()->AppliquerVariable(feuilles));
     return true;

@@ -13,6 +13,12 @@
 class ThemeGalerie
 {
 public:
+    /// With the name of a style, each theme gets the library's style over it; without one the
+    /// application keeps the style that it has.
+    explicit ThemeGalerie(QString styleDeBase = {});
+
+    QString DonneStyleDeBase() const;
+
     /// Back to the variables of the start-up, whatever was overwritten.
     void Reinitialise();
     /// Overwrites the colours of surfaces, borders and texts by those of a dark theme.
@@ -32,5 +38,6 @@ public:
 private:
     bool MeneA(QString const & nom, QString const & valeur) const;
 
+    QString monStyleDeBase;
     std::map<QString, QString> mesReferences; // values that name variables, as given
 };

@@ -9,11 +9,13 @@
 #include "foundation/Polices.h"
 #include "foundation/ThemesQt.h"
 #include "noyau/Traductions.h"
+#include "style/DStyleProxy.h"
 
 #include <QApplication>
 #include <QCursor>
 #include <QDir>
 #include <QStandardPaths>
+#include <QStyleFactory>
 #include <QTextStream>
 
 namespace {
@@ -29,6 +31,14 @@ void NommeFichiersDesReponses()
     StockageReponse::Initialise(DDialogue::StockeurNePlusMAviser,
                                 UniChaine(dossier.filePath(QStringLiteral("ne-plus-m-aviser.ini"))),
                                 QSettings::IniFormat);
+}
+
+// What the platform or the command line chose, Fusion where they name none.
+QString DonneNomStyleDeBase()
+{
+    QString const nom = QApplication::style()->name();
+    return QStyleFactory::keys().contains(nom, Qt::CaseInsensitive) ? nom
+                                                                    : QStringLiteral("Fusion");
 }
 
 int Execute(ThemeGalerie & theme, LigneDeCommande const & commande)
@@ -69,12 +79,14 @@ int main(int argc, char ** argv)
     // 3. The language: texts looked up before this would be in the default one.
     Traductions::MetsLanguePourApplicationCourante(commande.langue);
 
-    // 4. The style, before anything is built or measured with it: the platform's, so that windows
-    // look at home, but for pictures, which shall be the same everywhere.
+    // 4. The style, before anything is built or measured with it: the library's over that of the
+    // platform, so that windows look at home, but for pictures, which shall be the same everywhere.
     PreparePresentationCaptures(commande);
+    QString const styleDeBase = DonneNomStyleDeBase();
+    QApplication::setStyle(new DStyleProxy(QStyleFactory::create(styleDeBase)));
 
     // 5. The application's own theme variables, then the sheets that name them.
-    ThemeGalerie theme;
+    ThemeGalerie theme(styleDeBase);
     theme.Reinitialise();
 
     int const resultat = theme.Applique() ? Execute(theme, commande) : EXIT_FAILURE;

@@ -64,6 +64,16 @@ struct PoliceGardee
     std::shared_ptr<PoliceTexteRiche const> police;
 };
 
+// Makes no instance: texts without sizes do not either.
+double DonneModulateur()
+{
+    using RoutinesGeneralesQt::ModulateurFont;
+    constexpr double kModulateurSansInstance = 1.0;
+    return ModulateurFont::singletonModulateur
+               ? ModulateurFont::Instance()->DonneModulateurEffectif()
+               : kModulateurSansInstance;
+}
+
 int DonneCout(RangTexteRiche::Demande const & demande)
 {
     return 1 + static_cast<int>((demande.texte.Longueur() + demande.source.Longueur()) /
@@ -78,18 +88,21 @@ struct MemoireTexteRiche::Contenu
     QCache<CleDeRang, RangGarday> rangs{kCoutMax};
 };
 
+// Frees the rows when the library is unloaded, or when the process ends, before an application that
+// is still there.
+struct MemoireTexteRiche::FinDeLaBibliotheque
+{
+    ~FinDeLaBibliotheque()
+    {
+        qRemovePostRoutine(PriseFinApplication);
+        PriseFinApplication();
+    }
+};
+
 MemoireTexteRiche & MemoireTexteRiche::Instance()
 {
     static MemoireTexteRiche memoire;
     return memoire;
-}
-
-// At the end of the process, or when the library is unloaded. The rows are left to their fate when
-// the application has not ended: what Qt needs to free them may be gone.
-MemoireTexteRiche::~MemoireTexteRiche()
-{
-    qRemovePostRoutine(PriseFinApplication);
-    QObject::disconnect(maConnexion);
 }
 
 std::shared_ptr<PoliceTexteRiche const> MemoireTexteRiche::DonnePolice(QFont const & font)
@@ -98,8 +111,7 @@ std::shared_ptr<PoliceTexteRiche const> MemoireTexteRiche::DonnePolice(QFont con
         return std::make_shared<PoliceTexteRiche>(font);
 
     std::list<PoliceGardee> & polices = monContenu->polices;
-    double const modulateur =
-        RoutinesGeneralesQt::ModulateurFont::Instance()->DonneModulateurEffectif();
+    double const modulateur = DonneModulateur();
     auto trouvee = std::find_if(polices.begin(), polices.end(), [&](PoliceGardee const & gardee) {
         return gardee.modulateur == modulateur && gardee.font.isCopyOf(font);
     });
@@ -159,6 +171,9 @@ bool MemoireTexteRiche::Prepare()
     // A font that is added may be the better one for what is remembered.
     maConnexion = QObject::connect(application, &QGuiApplication::fontDatabaseChanged, application,
                                    [this] { Vide(); });
+    // What Qt needs to free fonts has to be there first, to be gone last.
+    DonneResolution(QFont());
+    static FinDeLaBibliotheque const fin;
     return true;
 }
 

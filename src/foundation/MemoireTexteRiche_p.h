@@ -25,9 +25,9 @@ public:
 
 private:
     struct Contenu;
+    struct FinDeLaBibliotheque;
 
     MemoireTexteRiche() = default;
-    ~MemoireTexteRiche();
     Q_DISABLE_COPY_MOVE(MemoireTexteRiche)
 
     static void PriseFinApplication();

@@ -15,15 +15,29 @@ using RoutinesGeneralesQt::ModulateurFont;
 
 namespace {
 
-constexpr double kProportionPetitesCapitales = 0.8;
-constexpr double kProportionMention = 0.7;
-constexpr double kDifferencePetitesCapitales = 1.0; // points
-constexpr double kDifferenceEmphase = 1.0;          // points
-constexpr double kDifferenceMention = 1.0;          // points
-constexpr double kDifferenceIndice = -2.0;          // points
-constexpr double kTailleLosange = 7.0;              // points
-constexpr double kTailleMinimale = 1.0;             // points, and pixels: Qt knows no smaller font
+constexpr double kTailleLosange = 7.0;  // points
+constexpr double kTailleMinimale = 1.0; // points, and pixels: Qt knows no smaller font
 constexpr QRgb kCouleurSurlignement = qRgba(250, 250, 0, 255);
+
+// A format in another size.
+struct FormatDePolice
+{
+    PoliceTexteRiche::eFormat quel;
+    double proportion; // of the pixels, truncated
+    double difference; // points, added then
+    bool italique;
+    QTextCharFormat::VerticalAlignment alignement;
+};
+
+constexpr FormatDePolice kFormatsDePolice[] = {
+    {PoliceTexteRiche::kPetitesCapitales, 0.8, 1.0, false, QTextCharFormat::AlignNormal},
+    {PoliceTexteRiche::kEmphase, 1.0, 1.0, true, QTextCharFormat::AlignNormal},
+    {PoliceTexteRiche::kEmphaseRomaine, 1.0, 1.0, false, QTextCharFormat::AlignNormal},
+    {PoliceTexteRiche::kMention, 0.7, 1.0, true, QTextCharFormat::AlignNormal},
+    {PoliceTexteRiche::kMentionRomaine, 0.7, 1.0, false, QTextCharFormat::AlignNormal},
+    {PoliceTexteRiche::kIndice, 1.0, -2.0, false, QTextCharFormat::AlignSubScript},
+    {PoliceTexteRiche::kExposant, 1.0, 0.0, false, QTextCharFormat::AlignSuperScript},
+};
 
 // A format that says nothing of weight and slant where the font has the usual ones, which would
 // take away the bold or the italics of the other tags around the text.
@@ -40,8 +54,8 @@ QTextCharFormat FabriqueFormatDeFont(QFont const & font)
 
 } // namespace
 
-PoliceTexteRiche::PoliceTexteRiche(QFont font)
-    : maFont(std::move(font))
+PoliceTexteRiche::PoliceTexteRiche(QFont const & font)
+    : maFont(font)
 {
 }
 
@@ -79,46 +93,26 @@ std::shared_ptr<TexteMisEnPage const> const & PoliceTexteRiche::PretePoints() co
 QTextCharFormat PoliceTexteRiche::FabriqueFormat(eFormat quel) const
 {
     QTextCharFormat format;
-    switch (quel) {
-    case kItalique:
+    for (FormatDePolice const & description : kFormatsDePolice) {
+        if (description.quel != quel)
+            continue;
+        format = FabriqueFormatDeFont(FabriqueFont(description.proportion, description.difference));
+        if (description.italique)
+            format.setFontItalic(true);
+        if (description.alignement != QTextCharFormat::AlignNormal)
+            format.setVerticalAlignment(description.alignement);
+    }
+    if (quel == kItalique)
         format.setFontItalic(true);
-        break;
-    case kGras:
+    else if (quel == kGras)
         format.setFontWeight(QFont::Bold);
-        break;
-    case kPetitesCapitales:
-        format = FabriqueFormatDeFont(
-            FabriqueFont(kProportionPetitesCapitales, kDifferencePetitesCapitales));
+    else if (quel == kPetitesCapitales)
         format.setFontCapitalization(QFont::SmallCaps);
-        break;
-    case kEmphase:
-    case kEmphaseRomaine:
-        format = FabriqueFormatDeFont(FabriqueFont(1.0, kDifferenceEmphase));
-        break;
-    case kMention:
-    case kMentionRomaine:
-        format = FabriqueFormatDeFont(FabriqueFont(kProportionMention, kDifferenceMention));
-        break;
-    case kIndice:
-        format = FabriqueFormatDeFont(FabriqueFont(1.0, kDifferenceIndice));
-        format.setVerticalAlignment(QTextCharFormat::AlignSubScript);
-        break;
-    case kExposant:
-        format = FabriqueFormatDeFont(FabriqueFont(1.0, 0.0));
-        format.setVerticalAlignment(QTextCharFormat::AlignSuperScript);
-        break;
-    case kSurlignement:
+    else if (quel == kSurlignement)
         format.setBackground(QColor::fromRgba(kCouleurSurlignement));
-        break;
-    case kLosange:
+    else if (quel == kLosange)
         format = FabriqueFormatDeFont(
             ModulateurFont::Instance()->DonneFontPointVersPixels(kTailleLosange, maFont));
-        break;
-    case kNombreDeFormats:
-        break;
-    }
-    if (quel == kEmphase || quel == kMention)
-        format.setFontItalic(true);
     return format;
 }
 

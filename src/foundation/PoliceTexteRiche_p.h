@@ -31,7 +31,7 @@ public:
         kNombreDeFormats
     };
 
-    explicit PoliceTexteRiche(QFont font);
+    explicit PoliceTexteRiche(QFont const & font);
     ~PoliceTexteRiche();
     Q_DISABLE_COPY_MOVE(PoliceTexteRiche)
 

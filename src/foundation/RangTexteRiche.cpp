@@ -12,8 +12,8 @@ using RoutinesGeneralesQt::TexteAvecFormat;
 
 namespace {
 
-constexpr int kCaracteresReserves =
-    5; // that must fit beside the source for a second line to be worth it
+// That must fit beside the source for a second line to be worth it.
+constexpr int kCaracteresReserves = 5;
 constexpr int kNombreMaxDeLignes = 2;
 
 std::shared_ptr<TexteMisEnPage> MetsEnPage(TexteAvecFormat const & analyse,

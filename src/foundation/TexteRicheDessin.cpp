@@ -1,6 +1,6 @@
 // foundation/TexteRicheDessin.cpp
 //
-// Drawing and measuring. The values that are passed are the interface's.
+// Drawing and measuring.
 #include "foundation/MemoireTexteRiche_p.h"
 #include "foundation/TexteMisEnPage_p.h"
 #include "foundation/TexteRiche.h"
@@ -16,13 +16,13 @@ namespace RoutinesGeneralesQt {
 
 void DessineTexteRiche(QPainter & peintre, QRect const & rectangle, QFont font, UniChaine texte)
 {
-    DessineTexteRicheAvecSource(peintre, rectangle, std::move(font), std::move(texte), {}, false);
+    DessineTexteRicheAvecSource(peintre, rectangle, font, std::move(texte), {}, false);
 }
 
 void DessineTexteRicheSurDeuxLignes(QPainter & peintre, QRect const & rectangle, QFont font,
                                     UniChaine texte)
 {
-    DessineTexteRicheAvecSource(peintre, rectangle, std::move(font), std::move(texte), {}, true);
+    DessineTexteRicheAvecSource(peintre, rectangle, font, std::move(texte), {}, true);
 }
 
 void DessineTexteRicheAvecSource(QPainter & peintre, QRect const & rectangle, QFont font,

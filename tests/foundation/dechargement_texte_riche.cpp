@@ -25,7 +25,7 @@ int main(int nombre, char ** arguments)
         std::fprintf(stderr, "%s\n", qPrintable(bibliotheque.errorString()));
         return 1;
     }
-    std::puts(donneLongueur("<em>a</em>", QFont()) > 0.0 ? "measured" : "no width");
+    std::puts(donneLongueur("<b>a</b>", QFont()) > 0.0 ? "measured" : "no width");
     bool const decharge =
         bibliotheque.unload() && !QFile::exists(QStringLiteral(":/Style/StyleGeneralGui.qss"));
     std::puts(decharge ? "unloaded" : "still loaded");

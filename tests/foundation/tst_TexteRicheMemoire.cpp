@@ -65,6 +65,7 @@ private Q_SLOTS:
     void partageDuTexteEtDeLaSource();
     void modulateur();
     void modulateurACalculer();
+    void aucunModulateurSansTailles();
     void resolutionDuPeripherique();
     void policesAjoutees();
     void beaucoupDAutres();
@@ -180,6 +181,14 @@ void tst_TexteRicheMemoire::modulateurACalculer()
     QCOMPARE(DessineParMemoire(dessin), DessineSansMemoire(dessin));
     QCOMPARE(ModulateurFont::Instance()->DonneModulateurEffectif(),
              ModulateurFont::DonneModulateurCalculee());
+}
+
+void tst_TexteRicheMemoire::aucunModulateurSansTailles()
+{
+    Dessin dessin;
+    dessin.texte = u"un <b>chat</b>"_s;
+    DessineParMemoire(dessin);
+    QVERIFY(!ModulateurFont::singletonModulateur);
 }
 
 // Fonts of two devices are equal, and yet of two sizes.
@@ -302,5 +311,4 @@ int main(int nombre, char ** arguments)
     return QTest::qExec(&test, nombre, arguments);
 }
 
-Q_DECLARE_METATYPE(Changement)
 #include "tst_TexteRicheMemoire.moc"

@@ -125,8 +125,9 @@ void tst_Galerie::captures()
              QFileInfo(destination + u"/index.html"_s).canonicalFilePath());
     QString const index = LisTexte(destination + u"/index.html"_s);
     QStringList const images = QDir(destination).entryList({u"*.png"_s});
-    for (QString const & page : {u"01-theme"_s, u"02-textes"_s, u"03-polices"_s, u"04-ecrans"_s,
-                                 u"05-alertes"_s, u"06-fenetres"_s}) {
+    for (QString const & page :
+         {u"01-theme"_s, u"02-textes"_s, u"03-polices"_s, u"04-ecrans"_s, u"05-alertes"_s,
+          u"06-fenetres"_s, u"07-style"_s, u"08-texteriche"_s}) {
         QVERIFY(images.contains(page + u"-fr.png"_s));
         QVERIFY(images.contains(page + u"-en.png"_s));
         QVERIFY2(QImage(destination + u'/' + page + u"-fr.png"_s) !=
@@ -143,7 +144,7 @@ void tst_Galerie::captures()
                      qPrintable(page));
         }
     }
-    QCOMPARE(images.size(), 24);
+    QCOMPARE(images.size(), 32);
     for (QString const & nom : images) {
         QImage const image(destination + u'/' + nom);
         QVERIFY2(!image.isNull() && !EstUniforme(image), qPrintable(nom));

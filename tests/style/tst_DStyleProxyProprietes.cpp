@@ -111,6 +111,16 @@ void Prepare(QWidget & widget, char const * propriete)
 
 } // namespace
 
+// A class that happens to have declared a property of that name.
+class WidgetADefilement : public QWidget
+{
+    Q_OBJECT
+    Q_PROPERTY(bool DStyleProxyScrolling READ AUnDefilement CONSTANT)
+
+public:
+    bool AUnDefilement() const { return true; }
+};
+
 class tst_DStyleProxyProprietes : public QObject
 {
     Q_OBJECT
@@ -123,6 +133,7 @@ private Q_SLOTS:
     void valeurs();
     void luesAChaqueFois();
     void duWidgetSeul();
+    void dynamiquesSeulement();
 };
 
 void tst_DStyleProxyProprietes::cleanup()
@@ -267,6 +278,15 @@ void tst_DStyleProxyProprietes::duWidgetSeul()
         enfant.setProperty(effet.propriete(), true);
         QVERIFY(!effet.seVoit(style, widget));
     }
+}
+
+// What a class declares is its own affair: a widget asks for a behaviour by what is set on it.
+void tst_DStyleProxyProprietes::dynamiquesSeulement()
+{
+    DStyleProxy const style(CreeBase());
+    WidgetADefilement const widget;
+    QVERIFY(widget.property(DStyleProxy::DonneNomAttributPourStyleScrolling()).toBool());
+    QVERIFY(!MenuDefile(style, widget));
 }
 
 QTEST_MAIN(tst_DStyleProxyProprietes)

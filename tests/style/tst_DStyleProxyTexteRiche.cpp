@@ -65,6 +65,9 @@ private Q_SLOTS:
     void tailleDuRectangle();
     void place_data();
     void place();
+    void rectangleVide();
+    void sensDuWidget_data();
+    void sensDuWidget();
     void peintreRendu_data();
     void peintreRendu();
     void exceptionTraverse();
@@ -225,8 +228,7 @@ void tst_DStyleProxyTexteRiche::alignementCoupay()
     QImage image = Toile();
     QPainter peintre(&image);
     QVERIFY(demande.Dessine(*monStyle, peintre));
-    // The label may have been told not to mirror it once more.
-    QTEST(static_cast<int>(LabelDeRendu()->alignment() & ~Qt::AlignAbsolute), "coupay");
+    QTEST(static_cast<int>(LabelDeRendu()->alignment()), "coupay");
     QVERIFY(!LabelDeRendu()->wordWrap());
 }
 
@@ -388,6 +390,62 @@ void tst_DStyleProxyTexteRiche::place()
     QRect const attendue = encre.translated((QPointF(coin + decalage) * ratio).toPoint());
     QCOMPARE(Encre(image), attendue);
     QCOMPARE(image.copy(attendue), origine.copy(encre));
+}
+
+void tst_DStyleProxyTexteRiche::rectangleVide()
+{
+    QTest::failOnWarning(QRegularExpression(u".*"_s));
+    QImage image = Toile();
+    QPainter peintre(&image);
+    for (QRect const & rect : {QRect(), QRect(10, 5, 0, 30), QRect(10, 5, -20, -30)}) {
+        DemandeTexteRiche demande;
+        demande.rect = rect;
+        QVERIFY(demande.Dessine(*monStyle, peintre));
+        QVERIFY(Encre(image).isEmpty());
+    }
+}
+
+void tst_DStyleProxyTexteRiche::sensDuWidget_data()
+{
+    QTest::addColumn<QString>("texte");
+    QTest::addColumn<int>("direction");
+    QTest::addColumn<int>("alignement");
+    QTest::addColumn<bool>("aGauche");
+    auto const ltr = int(Qt::LeftToRight);
+    auto const rtl = int(Qt::RightToLeft);
+    QString const latin = u"<q>x</q>"_s;
+    QString const hebreu = u"<q>\u05D0</q>"_s;
+    QTest::newRow("left") << latin << ltr << int(Qt::AlignLeft) << true;
+    QTest::newRow("right") << latin << ltr << int(Qt::AlignRight) << false;
+    QTest::newRow("left, mirrored") << latin << rtl << int(Qt::AlignLeft) << false;
+    QTest::newRow("right, mirrored") << latin << rtl << int(Qt::AlignRight) << true;
+    QTest::newRow("left, absolute")
+        << latin << rtl << int(Qt::AlignLeft | Qt::AlignAbsolute) << true;
+    QTest::newRow("left, mirrored, other letters") << hebreu << rtl << int(Qt::AlignLeft) << false;
+}
+
+// Where the widget is mirrored, its layout decides on which side a text begins, and not the
+// letters.
+void tst_DStyleProxyTexteRiche::sensDuWidget()
+{
+    QFETCH(QString, texte);
+    QFETCH(int, direction);
+    QFETCH(int, alignement);
+    QWidget widget;
+    widget.setLayoutDirection(Qt::LayoutDirection(direction));
+    MetsRegle(widget, "q");
+    DemandeTexteRiche demande;
+    demande.texte = texte;
+    demande.alignement = alignement | Qt::AlignVCenter;
+    demande.widget = &widget;
+    QImage image = Toile();
+    {
+        QPainter peintre(&image);
+        QVERIFY(demande.Dessine(*monStyle, peintre));
+    }
+    QRect const encre = Encre(image);
+    QVERIFY(!encre.isEmpty());
+    QTEST(encre.center().x() < demande.rect.center().x(), "aGauche");
 }
 
 void tst_DStyleProxyTexteRiche::peintreRendu_data()

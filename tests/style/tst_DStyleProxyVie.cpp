@@ -351,8 +351,8 @@ void tst_DStyleProxyVie::selecteurSansContour()
 
 int main(int nombre, char ** arguments)
 {
-    QApplication::setStyle(QLatin1StringView(kStyleDEssai)); // whatever the desktop has
-    QApplication application(nombre, arguments);
+    QApplication const application(nombre, arguments);
+    QApplication::setStyle(CreeBase()); // whatever the desktop has
     tst_DStyleProxyVie test;
     return QTest::qExec(&test, nombre, arguments);
 }

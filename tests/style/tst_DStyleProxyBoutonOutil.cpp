@@ -182,7 +182,10 @@ void tst_DStyleProxyBoutonOutil::trait()
     QStyleOptionToolButton option = DonneOutil();
     option.direction = sens;
 
-    QImage const image = PeinsComplexe(QStyle::CC_ToolButton, &option, &bouton);
+    QImage const image = Peins(kTaille, [&](QPainter & peintre) {
+        peintre.setRenderHint(QPainter::Antialiasing);
+        monBanc->style.drawComplexControl(QStyle::CC_ToolButton, &option, &peintre, &bouton);
+    });
 
     QRect const partie = monBanc->style.subControlRect(QStyle::CC_ToolButton, &option,
                                                        QStyle::SC_ToolButtonMenu, &bouton);

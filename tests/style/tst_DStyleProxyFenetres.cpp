@@ -79,11 +79,27 @@ QString DonneElementsArretes(QWidget const * widget)
     return arretes.join(u' ');
 }
 
+// There may be no object to tell, and no option.
+void DessineSansObjet(QWidget const * widget)
+{
+    BancStyle const banc;
+    QStyleOptionComplex const option;
+    Peins(QSize(20, 10), [&](QPainter & peintre) {
+        for (QStyleOptionComplex const * donnee :
+             {&option, static_cast<QStyleOptionComplex const *>(nullptr)}) {
+            banc.style.drawControl(QStyle::CE_RadioButton, donnee, &peintre, widget);
+            banc.style.drawPrimitive(QStyle::PE_PanelLineEdit, donnee, &peintre, widget);
+            banc.style.drawComplexControl(QStyle::CC_ComboBox, donnee, &peintre, widget);
+        }
+    });
+}
+
 // For a widget in a window, for the window and for no widget.
 QString DonneAnimations()
 {
     QWidget fenetre;
     QWidget enfant(&fenetre);
+    DessineSansObjet(&enfant);
     QString const arretes = DonneElementsArretes(&enfant);
     QString const deFenetre = DonneElementsArretes(&fenetre);
     QString const dAucun = DonneElementsArretes(nullptr);

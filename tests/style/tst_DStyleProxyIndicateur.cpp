@@ -22,6 +22,7 @@ private Q_SLOTS:
     void aussiSurLaPartieDuMenu();
     void taille_data();
     void taille();
+    void sansPlace();
     void etatInerte();
 
 private:
@@ -96,15 +97,17 @@ void tst_DStyleProxyIndicateur::aussiSurLaPartieDuMenu()
 void tst_DStyleProxyIndicateur::taille_data()
 {
     QTest::addColumn<QRect>("rect");
-    QTest::newRow("narrow") << QRect(4, 6, 12, 30);
-    QTest::newRow("a button's drop-down part") << QRect(30, 0, 16, 24);
-    QTest::newRow("wide") << QRect(0, 0, 60, 40);
-    QTest::newRow("low") << QRect(10, 10, 30, 8);
+    QTest::addColumn<int>("cote");
+    QTest::newRow("narrow") << QRect(4, 6, 12, 30) << 10;
+    QTest::newRow("a button's drop-down part") << QRect(30, 0, 16, 24) << 10;
+    QTest::newRow("wide") << QRect(0, 0, 60, 40) << 10;
+    QTest::newRow("the width without margins") << QRect(4, 6, 9, 30) << 7;
 }
 
 void tst_DStyleProxyIndicateur::taille()
 {
     QFETCH(QRect, rect);
+    QFETCH(int, cote);
 
     auto const appels = PeinsFleche(rect);
 
@@ -114,10 +117,14 @@ void tst_DStyleProxyIndicateur::taille()
     QCOMPARE(appel.drapeaux, 0x84);
     QVERIFY(rect.contains(appel.rect));
     QVERIFY(!appel.image.isNull());
-    QSizeF const taille = appel.image.deviceIndependentSize();
-    QVERIFY(taille.width() > 0.0 && taille.width() <= rect.width());
-    QCOMPARE(taille.width(), taille.height());
+    QCOMPARE(appel.image.deviceIndependentSize(), QSizeF(cote, cote));
     QCOMPARE(appel.image.toImage().pixelColor(0, 0), QColor(Qt::red));
+}
+
+void tst_DStyleProxyIndicateur::sansPlace()
+{
+    QVERIFY(PeinsFleche(QRect(0, 0, 2, 20)).isEmpty());
+    QVERIFY(PeinsFleche(QRect()).isEmpty());
 }
 
 void tst_DStyleProxyIndicateur::etatInerte()

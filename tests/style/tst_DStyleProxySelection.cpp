@@ -167,6 +167,9 @@ void tst_DStyleProxySelection::fondDuModele()
 
     QCOMPARE(image.pixelColor(kRect.center()), QColor(255, 255, 0));
     QCOMPARE(Encre(image), kRect);
+
+    option.state = kSelection;
+    QCOMPARE(PeinsPanneau(option, &vue).pixelColor(kRect.center()), QColor(0, 0, 0, 18));
 }
 
 void tst_DStyleProxySelection::marquePosition_data()

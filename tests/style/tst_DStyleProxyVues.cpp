@@ -278,8 +278,10 @@ void tst_DStyleProxyVues::listeDeCombo()
     combo.setProperty(DStyleProxy::DonneNomProprietePossedeRegleTexteRiche(), valeur);
     QStyleOptionViewItem const option = DonneOption(kSurvol | QStyle::State_Selected);
 
-    PeinsItem(option, combo.view());
+    QImage const image = PeinsItem(option, combo.view());
 
+    // The base, which sees no selection, would ask for no background.
+    QCOMPARE(image.pixelColor(kRect.center()), QColor(0, 0, 0, kAlphaFond));
     auto const appels = monBanc->espion->Donne(AppelStyle::kControle, QStyle::CE_ItemViewItem);
     QCOMPARE(appels.size(), 1);
     QCOMPARE(appels.first().option.state, kSurvol);

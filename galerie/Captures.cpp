@@ -27,18 +27,12 @@ public:
         monSucces = monDossier.mkpath(u"."_s);
     }
 
+    /// -1 for all pages.
     void Photographie(int page, QString const & variante, QString const & langue)
     {
-        DescriptionPage const & description = DonnePages().at(page);
-        QString const nom = u"%1-%2%3-%4.png"_s.arg(page + 1, 2, 10, QChar(u'0'))
-                                .arg(description.nom, variante, langue);
-        maFenetre.MontrePage(page);
-        QCoreApplication::processEvents(); // layouts settle on events
-        monSucces = maFenetre.grab().save(monDossier.filePath(nom)) && monSucces;
-        mesFigures += u"<figure lang=\"%1\"><figcaption>%2</figcaption><img src=\"%3\" alt=\"%2\" "
-                      "width=\"%4\"></figure>\n"_s
-                          .arg(langue, TraductionGalerie(description.titre).toHtmlEscaped(), nom)
-                          .arg(maFenetre.width());
+        for (int i = 0; i < DonnePages().size(); ++i)
+            if (page < 0 || i == page)
+                PhotographiePage(i, variante, langue);
     }
 
     bool EcrisIndex()
@@ -58,6 +52,20 @@ public:
     }
 
 private:
+    void PhotographiePage(int page, QString const & variante, QString const & langue)
+    {
+        DescriptionPage const & description = DonnePages().at(page);
+        QString const nom = u"%1-%2%3-%4.png"_s.arg(page + 1, 2, 10, QChar(u'0'))
+                                .arg(description.nom, variante, langue);
+        maFenetre.MontrePage(page);
+        QCoreApplication::processEvents(); // layouts settle on events
+        monSucces = maFenetre.grab().save(monDossier.filePath(nom)) && monSucces;
+        mesFigures += u"<figure lang=\"%1\"><figcaption>%2</figcaption><img src=\"%3\" alt=\"%2\" "
+                      "width=\"%4\"></figure>\n"_s
+                          .arg(langue, TraductionGalerie(description.titre).toHtmlEscaped(), nom)
+                          .arg(maFenetre.width());
+    }
+
     FenetreGalerie & maFenetre;
     QDir monDossier;
     QString mesFigures;
@@ -66,7 +74,8 @@ private:
 
 } // namespace
 
-bool EcrisCaptures(FenetreGalerie & fenetre, ThemeGalerie & theme, QString const & dossier)
+bool EcrisCaptures(FenetreGalerie & fenetre, ThemeGalerie & theme, QString const & dossier,
+                   int page)
 {
     Album album(fenetre, dossier);
     bool applique = true;
@@ -74,14 +83,12 @@ bool EcrisCaptures(FenetreGalerie & fenetre, ThemeGalerie & theme, QString const
         if (langue.langue == kLangueAnglaisCanada)
             continue; // its pictures would be those of English
         fenetre.MetsLangue(langue.langue);
-        for (int page = 0; page < DonnePages().size(); ++page)
-            album.Photographie(page, QString(), langue.code);
+        album.Photographie(page, QString(), langue.code);
 
         theme.Assombris();
         applique = theme.Applique() && applique;
         fenetre.RefaisPages();
-        for (int page = 0; page < DonnePages().size(); ++page)
-            album.Photographie(page, u"-sombre"_s, langue.code);
+        album.Photographie(page, u"-sombre"_s, langue.code);
         theme.Reinitialise();
         applique = theme.Applique() && applique;
     }

@@ -56,17 +56,15 @@ QList<QWidget *> DonneNommes(QWidget const & page)
     return nommes;
 }
 
-using Saisies = QHash<QString, QVariant>;
-
-Saisies DonneSaisies(QWidget const & page)
+QHash<QString, QVariant> DonneSaisies(QWidget const & page)
 {
-    Saisies saisies;
+    QHash<QString, QVariant> saisies;
     for (QWidget const * const widget : DonneNommes(page))
         saisies.insert(widget->objectName(), DonneSaisie(*widget).read(widget));
     return saisies;
 }
 
-void RemetsSaisies(QWidget const & page, Saisies const & saisies)
+void RemetsSaisies(QWidget const & page, QHash<QString, QVariant> const & saisies)
 {
     for (QWidget * const widget : DonneNommes(page))
         if (auto const saisie = saisies.find(widget->objectName()); saisie != saisies.end())
@@ -83,6 +81,12 @@ FenetreGalerie::FenetreGalerie(ThemeGalerie & theme)
     disposition->setContentsMargins({});
     disposition->setSpacing(0);
     maPile = new QStackedWidget;
+    for (int i = 0; i < DonnePages().size(); ++i) {
+        auto * const cadre = new QWidget;
+        (new QVBoxLayout(cadre))->setContentsMargins({});
+        maPile->addWidget(cadre);
+    }
+    mesPages.resize(DonnePages().size());
     disposition->addWidget(CreePanneau());
     disposition->addWidget(maPile, 1);
     setCentralWidget(centre);
@@ -91,7 +95,7 @@ FenetreGalerie::FenetreGalerie(ThemeGalerie & theme)
     QCoreApplication::installTranslator(&monTraducteurQt);
     MetsLangue(Traductions::DonneLanguePourApplicationCourante());
     MontrePage(0);
-    connect(maListe, &QListWidget::currentRowChanged, maPile, &QStackedWidget::setCurrentIndex,
+    connect(maListe, &QListWidget::currentRowChanged, this, &FenetreGalerie::MontrePage,
             Qt::UniqueConnection);
     connect(monChoixLangue, &QComboBox::currentIndexChanged, this,
             &FenetreGalerie::PriseLangueChoisie, Qt::UniqueConnection);
@@ -151,6 +155,9 @@ void FenetreGalerie::MetsLangue(eLangue langue)
 
 void FenetreGalerie::MontrePage(int indice)
 {
+    if (indice < 0 || indice >= mesPages.size())
+        return;
+    ConstruisPage(indice);
     maListe->setCurrentRow(indice);
     maPile->setCurrentIndex(indice);
 }
@@ -158,16 +165,26 @@ void FenetreGalerie::MontrePage(int indice)
 void FenetreGalerie::RefaisPages()
 {
     int const courante = maPile->currentIndex();
-    QList<Saisies> saisies;
-    while (QWidget * const page = maPile->widget(0)) {
-        saisies.append(DonneSaisies(*page));
-        delete page;
+    for (Page & page : mesPages) {
+        if (!page.widget)
+            continue;
+        page.saisies = DonneSaisies(*page.widget);
+        delete page.widget;
     }
-    for (DescriptionPage const & page : DonnePages())
-        maPile->addWidget(page.cree(monTheme));
-    for (int i = 0; i < saisies.size(); ++i)
-        RemetsSaisies(*maPile->widget(i), saisies.at(i));
+    ConstruisPage(courante);
     maPile->setCurrentIndex(courante);
+}
+
+// Most of what a page costs is its building: it is built when it is first shown.
+void FenetreGalerie::ConstruisPage(int indice)
+{
+    Page & page = mesPages[indice];
+    if (page.widget)
+        return;
+    page.widget = DonnePages().at(indice).cree(monTheme);
+    auto * const cadre = maPile->widget(indice);
+    cadre->layout()->addWidget(page.widget);
+    RemetsSaisies(*page.widget, page.saisies);
 }
 
 void FenetreGalerie::PriseLangueChoisie(int indice)

@@ -3,8 +3,12 @@
 
 #include "noyau/DLocale.h"
 
+#include <QHash>
+#include <QList>
 #include <QMainWindow>
+#include <QPointer>
 #include <QTranslator>
+#include <QVariant>
 
 class QComboBox;
 class QLabel;
@@ -27,12 +31,20 @@ public:
 
     /// Makes `langue` that of the application and builds the pages again.
     void MetsLangue(eLangue langue);
+    /// Does nothing without a page of that index.
     void MontrePage(int indice);
-    /// Builds the pages again, for what they show of the theme.
+    /// Builds the pages again, for what they show of the theme. What was entered stays.
     void RefaisPages();
 
 private:
+    struct Page
+    {
+        QPointer<QWidget> widget; // null until it is shown
+        QHash<QString, QVariant> saisies;
+    };
+
     QWidget * CreePanneau();
+    void ConstruisPage(int indice);
     void PriseLangueChoisie(int indice);
 
     ThemeGalerie & monTheme;
@@ -40,5 +52,6 @@ private:
     QListWidget * maListe = nullptr;
     QLabel * monEtiquetteLangue = nullptr;
     QComboBox * monChoixLangue = nullptr;
-    QStackedWidget * maPile = nullptr;
+    QStackedWidget * maPile = nullptr; // a frame for each page
+    QList<Page> mesPages;
 };

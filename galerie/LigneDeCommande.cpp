@@ -3,6 +3,7 @@
 
 #include "Affichage.h"
 #include "Langues.h"
+#include "Pages.h"
 
 #include <QApplication>
 #include <QCommandLineParser>
@@ -20,6 +21,7 @@ namespace {
 
 constexpr QLatin1StringView kOptionCaptures("captures");
 constexpr QLatin1StringView kOptionLangue("langue");
+constexpr QLatin1StringView kOptionPage("page");
 
 // In the offscreen platform's format. A position is taken as it stands, but a size is divided by
 // the scale factor.
@@ -59,7 +61,23 @@ std::unique_ptr<QCommandLineParser> CreeAnalyseur()
         codes.append(langue.code);
     analyseur->addOption({kOptionLangue, u"Language at the start: %1."_s.arg(codes.join(u", "_s)),
                           u"language"_s, codes.first()});
+    QStringList noms;
+    for (DescriptionPage const & page : DonnePages())
+        noms.append(page.nom);
+    analyseur->addOption(
+        {kOptionPage,
+         u"Page to begin with, and the only one that is rendered: %1."_s.arg(noms.join(u", "_s)),
+         u"page"_s});
     return analyseur;
+}
+
+// -1 for no such page.
+int DonneIndexPage(QString const & nom)
+{
+    auto const & pages = DonnePages();
+    auto const page = std::find_if(pages.begin(), pages.end(),
+                                   [&nom](auto const & candidate) { return candidate.nom == nom; });
+    return page == pages.end() ? -1 : static_cast<int>(page - pages.begin());
 }
 
 // "-platform" and "-display", with one dash or two as Qt reads them, and what stands behind them.
@@ -90,6 +108,7 @@ LigneDeCommande LisLigneDeCommande(int argc, char ** argv)
     analyseur->parse(arguments);
     LigneDeCommande commande;
     commande.langue = DonneLangueDuCode(analyseur->value(kOptionLangue)).value_or(kLangueFrancais);
+    commande.page = DonneIndexPage(analyseur->value(kOptionPage));
     commande.dossierCaptures = analyseur->value(kOptionCaptures);
     if (commande.dossierCaptures.isEmpty() && !PeutAfficher(arguments))
         commande.dossierCaptures = u"galerie-captures"_s;
@@ -103,6 +122,8 @@ void VerifieLigneDeCommande(QApplication const & application)
     QString erreur;
     if (!DonneLangueDuCode(analyseur->value(kOptionLangue)))
         erreur = u"Unknown language '%1'."_s.arg(analyseur->value(kOptionLangue));
+    else if (analyseur->isSet(kOptionPage) && DonneIndexPage(analyseur->value(kOptionPage)) < 0)
+        erreur = u"Unknown page '%1'."_s.arg(analyseur->value(kOptionPage));
     else if (analyseur->isSet(kOptionCaptures) && analyseur->value(kOptionCaptures).isEmpty())
         erreur = u"Empty directory name."_s;
     else if (!analyseur->positionalArguments().isEmpty())

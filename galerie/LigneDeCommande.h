@@ -12,6 +12,7 @@ struct LigneDeCommande
 {
     eLangue langue = kLangueFrancais;
     QString dossierCaptures; ///< empty for a window
+    int page = -1; ///< the page to begin with, and the only one in pictures; -1 without one
 };
 
 /// Reads the command line before there is an application object, since pictures need a platform of

@@ -53,6 +53,8 @@ QPalette DonnePalette()
         MetsCouleur(palette, QPalette::All, role, nom);
     for (auto const role : {QPalette::ButtonText, QPalette::Text, QPalette::WindowText})
         MetsCouleur(palette, QPalette::Disabled, role, u"couleurTexteGris"_s);
+    // The style paints a default button in this colour, also one that is disabled.
+    MetsCouleur(palette, QPalette::Disabled, QPalette::Highlight, u"couleurBordureGeneral"_s);
     return palette;
 }
 

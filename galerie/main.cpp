@@ -46,6 +46,8 @@ int Execute(ThemeGalerie & theme, LigneDeCommande const & commande)
     if (commande.dossierCaptures.isEmpty())
         NommeFichiersDesReponses();
     FenetreGalerie fenetre(theme);
+    if (commande.page >= 0)
+        fenetre.MontrePage(commande.page);
     if (commande.dossierCaptures.isEmpty()) {
         fenetre.resize(
             RoutinesFenetre::DonneTailleOptimaleFenetrePourEcran(QCursor::pos(), fenetre.size()));
@@ -54,7 +56,7 @@ int Execute(ThemeGalerie & theme, LigneDeCommande const & commande)
         return QApplication::exec();
     }
     QDir const dossier(commande.dossierCaptures);
-    if (!EcrisCaptures(fenetre, theme, dossier.path())) {
+    if (!EcrisCaptures(fenetre, theme, dossier.path(), commande.page)) {
         QTextStream(stderr) << dossier.absolutePath() << ": could not write the pictures\n";
         return EXIT_FAILURE;
     }

@@ -2,6 +2,7 @@
 #include "FenetreGalerie.h"
 
 #include "Langues.h"
+#include "Pages.h"
 #include "ThemeGalerie.h"
 #include "VueEcrans.h"
 
@@ -11,6 +12,17 @@
 #include <QtTest>
 
 using namespace Qt::StringLiterals;
+
+namespace {
+
+// A page is built when it is first shown.
+void MontreToutesLesPages(FenetreGalerie & fenetre)
+{
+    for (int i = 0; i < DonnePages().size(); ++i)
+        fenetre.MontrePage(i);
+}
+
+} // namespace
 
 class tst_FenetreGalerie : public QObject
 {
@@ -50,7 +62,7 @@ void tst_FenetreGalerie::langueRefaitLesPages()
     auto const * const liste = fenetre.findChild<QListWidget *>(u"listePages"_s);
     auto * const choix = fenetre.findChild<QComboBox *>(u"choixLangue"_s);
     fenetre.MontrePage(2);
-    QPointer<QWidget> const page = pile->currentWidget();
+    QPointer<QWidget> const page = pile->currentWidget()->findChild<QWidget *>();
     auto const titre = [&] {
         return pile->currentWidget()->findChild<QLabel *>(u"titrePage"_s)->text();
     };
@@ -73,6 +85,7 @@ void tst_FenetreGalerie::langueRefaitLesPages()
 void tst_FenetreGalerie::saisiesGardees()
 {
     FenetreGalerie fenetre(monTheme);
+    MontreToutesLesPages(fenetre);
     QString const feuille = u"QLabel { color: @couleurBordure; }"_s;
     QRect const rectangle(120, 60, 300, 200);
     fenetre.findChild<QPlainTextEdit *>(u"feuille"_s)->setPlainText(feuille);
@@ -87,6 +100,7 @@ void tst_FenetreGalerie::saisiesGardees()
     fenetre.findChild<QCheckBox *>(u"forcage"_s)->setChecked(false);
 
     fenetre.MetsLangue(kLangueAnglaisCanada);
+    MontreToutesLesPages(fenetre);
 
     QCOMPARE(fenetre.findChild<QPlainTextEdit *>(u"feuille"_s)->toPlainText(), feuille);
     QCOMPARE(fenetre.findChild<QLineEdit *>(u"filtreVariables"_s)->text(), u"bordure"_s);

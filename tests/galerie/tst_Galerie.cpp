@@ -166,7 +166,8 @@ void tst_Galerie::echelleDesCaptures()
         environnement.insert(u"QT_SCALE_FACTOR"_s, QString::number(echelle));
         QString const destination = dossier.filePath(QString::number(echelle));
         Execution const execution =
-            Execute({u"--captures"_s, destination}, dossier.path(), environnement);
+            Execute({u"--captures"_s, destination, u"--page"_s, u"ecrans"_s}, dossier.path(),
+                    environnement);
         QVERIFY2(execution.code == 0, qPrintable(execution.erreurs));
         pages[echelle - 1] = QImage(destination + u"/04-ecrans-fr.png"_s);
     }
@@ -223,10 +224,16 @@ void tst_Galerie::sansEcranLesCapturesSeFont()
     QProcessEnvironment environnement = DonneEnvironnementSansEcran();
     environnement.insert(variable, valeur);
 
-    Execution const execution = Execute(arguments, dossier.path(), environnement);
+    // One page: what is tested is where it is rendered.
+    Execution const execution =
+        Execute(arguments + QStringList{u"--page"_s, u"theme"_s}, dossier.path(), environnement);
 
     QVERIFY2(execution.code == 0, qPrintable(execution.erreurs));
-    QVERIFY(QFile::exists(dossier.filePath(u"galerie-captures/index.html"_s)));
+    QDir const captures(dossier.filePath(u"galerie-captures"_s));
+    QCOMPARE(captures.entryList({u"*.png"_s}),
+             (QStringList{u"01-theme-en.png"_s, u"01-theme-fr.png"_s, u"01-theme-sombre-en.png"_s,
+                          u"01-theme-sombre-fr.png"_s}));
+    QVERIFY(captures.exists(u"index.html"_s));
 }
 
 void tst_Galerie::refus_data()
@@ -235,6 +242,7 @@ void tst_Galerie::refus_data()
     QTest::newRow("a directory below a file") << QStringList{u"--captures"_s, u"fichier/sous"_s};
     QTest::newRow("no name of a directory") << QStringList{u"--captures"_s, u""_s};
     QTest::newRow("an unknown language") << QStringList{u"--langue"_s, u"de"_s};
+    QTest::newRow("an unknown page") << QStringList{u"--page"_s, u"inconnue"_s};
     QTest::newRow("an unknown option") << QStringList{u"--inconnue"_s};
     QTest::newRow("an argument that is no option") << QStringList{u"page"_s};
 }

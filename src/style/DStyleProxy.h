@@ -234,11 +234,10 @@ private:
     // The widget that drawControl was last called for. It may be gone: texts and pictures are also
     // drawn outside of it.
     mutable QPointer<QWidget const> monWidgetDessinay;
-    QPointer<DLabelElision> monLabelElision;
+    mutable QPointer<DLabelElision> monLabelElision;
     mutable bool monWidgetManque = true; // drawControl was last called without a widget, or never
-    // Of the item of a view that the base style is drawing.
-    mutable bool monItemEstDessinay = false;
-    mutable bool monFondItemPeint = false;
+    mutable bool monItemEstDessinay = false; // of a view, by drawControl
+    mutable bool monFondItemPeint = false;   // of that item
     mutable QIcon monChevron;
     std::unique_ptr<MemoirePalettes> maMemoirePalettes;
 };

@@ -132,6 +132,8 @@ int DStyleProxy::MesureTexteItemMenu(QStyleOptionMenuItem const & option,
     EnsembleRegles const regles = DonneInterpreteurPourContexte(DonneContexte(&option), widget);
     if (Interpreteur::PossedeReglesAAppliquer(texte, regles))
         return MesureTexteRiche(texte, option.font, regles).width();
+    if (!monLabelElision) // whoever deletes all windows took it
+        monLabelElision = new DLabelElision(nullptr);
     monLabelElision->PrendsPolice(option.font);
     monLabelElision->PrendsTexte(texte, true);
     monLabelElision->AjusteElision(QSize(QWIDGETSIZE_MAX, QWIDGETSIZE_MAX));

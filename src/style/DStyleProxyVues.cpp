@@ -80,6 +80,7 @@ void DStyleProxy::DessineItemVue(QStyleOptionViewItem const & option, QPainter *
     bool const fondPeint =
         surFondClair && (estListeDeCombo || qobject_cast<QTreeView const *>(widget));
 
+    QScopedValueRollback const dessin(monItemEstDessinay, true);
     peintre->setRenderHint(QPainter::Antialiasing);
     QStyleOptionViewItem copie(option);
     if (fondPeint)
@@ -94,7 +95,6 @@ void DStyleProxy::DessineItemVue(QStyleOptionViewItem const & option, QPainter *
         copie.text = u" "_s; // as good as none, but the check indicator stays at its place
     }
     {
-        QScopedValueRollback const item(monItemEstDessinay, true);
         QScopedValueRollback const fond(monFondItemPeint, fondPeint);
         QProxyStyle::drawControl(CE_ItemViewItem, &copie, peintre, widget);
     }

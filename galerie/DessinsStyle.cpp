@@ -4,7 +4,7 @@
 #include "DessinsElements.h"
 #include "TraductionGalerie.h"
 
-#include "style/InterpreteurChaineSemantique.h"
+#include "style/InterpreteurChaineSemantiqueT.h"
 
 #include <QCheckBox>
 #include <QComboBox>

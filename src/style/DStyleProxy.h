@@ -1,6 +1,7 @@
 // style/DStyleProxy.h
 #pragma once
 
+#include "style/InterpreteurChaineSemantiqueT.h" // makes its rules
 #include "style/MapDeRegles.h"
 
 #include "FabrelGuiExport.h"

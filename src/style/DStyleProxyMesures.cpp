@@ -3,7 +3,6 @@
 // Metrics, sizes, hints, and the parts of simple elements.
 #include "style/DStyleProxy.h"
 #include "style/GenreDeVue_p.h"
-#include "style/InterpreteurChaineSemantique.h"
 #include "style/LecturePropriete_p.h"
 #include "style/ProprietesStyle_p.h"
 #include "style/TexteDeLabel_p.h"

@@ -1,7 +1,6 @@
 // style/DStyleProxyTexteRiche.cpp
 #include "style/DStyleProxy.h"
 #include "style/GardePeintre_p.h"
-#include "style/InterpreteurChaineSemantique.h"
 #include "style/LecturePropriete_p.h"
 #include "style/ProprietesStyle_p.h"
 #include "style/ReglesDeBase_p.h"

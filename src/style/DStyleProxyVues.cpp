@@ -6,7 +6,6 @@
 #include "style/DStyleProxy.h"
 #include "style/GardePeintre_p.h"
 #include "style/GenreDeVue_p.h"
-#include "style/InterpreteurChaineSemantique.h"
 #include "style/LecturePropriete_p.h"
 #include "style/ProprietesStyle_p.h"
 

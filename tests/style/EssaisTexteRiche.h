@@ -2,7 +2,7 @@
 #pragma once
 
 #include "style/DStyleProxy.h"
-#include "style/InterpreteurChaineSemantique.h"
+#include "style/InterpreteurChaineSemantiqueT.h"
 
 #include <QApplication>
 #include <QImage>

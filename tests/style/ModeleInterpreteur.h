@@ -1,7 +1,7 @@
 // tests/style/ModeleInterpreteur.h
 #pragma once
 
-#include "style/InterpreteurChaineSemantique.h"
+#include "style/InterpreteurChaineSemantiqueT.h"
 
 #include <QString>
 

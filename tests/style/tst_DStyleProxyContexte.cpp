@@ -1,7 +1,7 @@
 // tests/style/tst_DStyleProxyContexte.cpp
 #include "style/DStyleProxy.h"
 
-#include "style/InterpreteurChaineSemantique.h"
+#include "style/InterpreteurChaineSemantiqueT.h"
 
 #include <QtTest>
 

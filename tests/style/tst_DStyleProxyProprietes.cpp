@@ -2,7 +2,7 @@
 #include "style/DStyleProxy.h"
 
 #include "foundation/Polices.h"
-#include "style/InterpreteurChaineSemantique.h"
+#include "style/InterpreteurChaineSemantiqueT.h"
 #include "style/StyleDeMesures.h"
 
 #include <QtTest>

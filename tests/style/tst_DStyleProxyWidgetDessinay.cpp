@@ -1,7 +1,7 @@
 // tests/style/tst_DStyleProxyWidgetDessinay.cpp
 #include "style/EssaisPeinture.h"
 
-#include "style/InterpreteurChaineSemantique.h"
+#include "style/InterpreteurChaineSemantiqueT.h"
 
 #include <QtTest>
 

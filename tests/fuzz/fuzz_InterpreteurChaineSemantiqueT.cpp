@@ -1,11 +1,11 @@
-// tests/fuzz/fuzz_InterpreteurChaineSemantique.cpp
+// tests/fuzz/fuzz_InterpreteurChaineSemantiqueT.cpp
 //
 // Any bytes as a text whose tags have rules: tags and the ranges given to rules lie within the
 // text, and nothing is thrown but what an unbalanced tag throws. Rules that only replace tags give
 // the same text in one pass as one by one.
 #include "fuzz/TexteDeFuzz.h"
 
-#include "style/InterpreteurChaineSemantique.h"
+#include "style/InterpreteurChaineSemantiqueT.h"
 
 #include <iostream>
 #include <optional>

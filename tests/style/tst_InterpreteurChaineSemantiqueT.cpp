@@ -1,5 +1,5 @@
-// tests/style/tst_InterpreteurChaineSemantique.cpp
-#include "style/InterpreteurChaineSemantique.h"
+// tests/style/tst_InterpreteurChaineSemantiqueT.cpp
+#include "style/InterpreteurChaineSemantiqueT.h"
 
 #include "style/CaptureErreurs.h"
 #include "style/DStyleProxy.h"
@@ -69,7 +69,7 @@ QString Ecrit(std::vector<Balise> const & balises)
 
 } // namespace
 
-class tst_InterpreteurChaineSemantique : public QObject
+class tst_InterpreteurChaineSemantiqueT : public QObject
 {
     Q_OBJECT
 
@@ -102,7 +102,7 @@ private Q_SLOTS:
     void grandTexte();
 };
 
-void tst_InterpreteurChaineSemantique::trouveBalises_data()
+void tst_InterpreteurChaineSemantiqueT::trouveBalises_data()
 {
     QTest::addColumn<QString>("texte");
     QTest::addColumn<QString>("balises");
@@ -132,13 +132,13 @@ void tst_InterpreteurChaineSemantique::trouveBalises_data()
     QTest::newRow("units of 16 bits") << u"\U0001F600<b>"_s << u"2+3"_s;
 }
 
-void tst_InterpreteurChaineSemantique::trouveBalises()
+void tst_InterpreteurChaineSemantiqueT::trouveBalises()
 {
     QFETCH(QString, texte);
     QTEST(Ecrit(Interpreteur::TrouveBalises(texte)), "balises");
 }
 
-void tst_InterpreteurChaineSemantique::possedeRegles_data()
+void tst_InterpreteurChaineSemantiqueT::possedeRegles_data()
 {
     QTest::addColumn<QString>("texte");
     QTest::addColumn<QString>("cle");
@@ -160,7 +160,7 @@ void tst_InterpreteurChaineSemantique::possedeRegles_data()
     QTest::newRow("rule of the document, empty tag") << u"<>"_s << QString() << false;
 }
 
-void tst_InterpreteurChaineSemantique::possedeRegles()
+void tst_InterpreteurChaineSemantiqueT::possedeRegles()
 {
     QFETCH(QString, texte);
     QFETCH(QString, cle);
@@ -169,7 +169,7 @@ void tst_InterpreteurChaineSemantique::possedeRegles()
     QVERIFY(!Interpreteur::PossedeReglesAAppliquer(texte, {}));
 }
 
-void tst_InterpreteurChaineSemantique::applique_data()
+void tst_InterpreteurChaineSemantiqueT::applique_data()
 {
     QTest::addColumn<QString>("texte");
     QTest::addColumn<QString>("resultat");
@@ -221,7 +221,7 @@ void tst_InterpreteurChaineSemantique::applique_data()
           u"\U0001F600é\U0001F600<strong>ß</strong>"_s);
 }
 
-void tst_InterpreteurChaineSemantique::applique()
+void tst_InterpreteurChaineSemantiqueT::applique()
 {
     QFETCH(QString, texte);
     CaptureErreurs const erreurs;
@@ -229,7 +229,7 @@ void tst_InterpreteurChaineSemantique::applique()
     QCOMPARE(erreurs.Texte(), QString());
 }
 
-void tst_InterpreteurChaineSemantique::desequilibre_data()
+void tst_InterpreteurChaineSemantiqueT::desequilibre_data()
 {
     QTest::addColumn<QString>("texte");
     QTest::newRow("alone") << u"<b>"_s;
@@ -251,7 +251,7 @@ void tst_InterpreteurChaineSemantique::desequilibre_data()
     QTest::newRow("after a balanced one") << u"<b>é</b><b>"_s;
 }
 
-void tst_InterpreteurChaineSemantique::desequilibre()
+void tst_InterpreteurChaineSemantiqueT::desequilibre()
 {
     QFETCH(QString, texte);
     for (EnsembleRegles const & regles : {Regles(), EnsembleRegles()}) {
@@ -263,7 +263,7 @@ void tst_InterpreteurChaineSemantique::desequilibre()
 }
 
 // What is written is the text as it came, whatever the rules have made of it by then.
-void tst_InterpreteurChaineSemantique::desequilibreApresUneRegle()
+void tst_InterpreteurChaineSemantiqueT::desequilibreApresUneRegle()
 {
     EnsembleRegles regles = Regles();
     regles[UniChaine()] = Remplace(u"<p>"_s, {});
@@ -273,7 +273,7 @@ void tst_InterpreteurChaineSemantique::desequilibreApresUneRegle()
     QCOMPARE(erreurs.Texte(), u"<b>1</b>&lt;<i>2\n"_s);
 }
 
-void tst_InterpreteurChaineSemantique::interieurAvantExterieur()
+void tst_InterpreteurChaineSemantiqueT::interieurAvantExterieur()
 {
     QString const texte = u"a<b>x<i>y</i></b><i>z</i>"_s;
     Appels appels;
@@ -287,7 +287,7 @@ void tst_InterpreteurChaineSemantique::interieurAvantExterieur()
                              {u"i"_s, texte, {17U, 3U}, {21U, 4U}}}));
 }
 
-void tst_InterpreteurChaineSemantique::plagesApresUneRegleQuiAllonge()
+void tst_InterpreteurChaineSemantiqueT::plagesApresUneRegleQuiAllonge()
 {
     Appels appels;
     EnsembleRegles const regles = {
@@ -304,7 +304,7 @@ void tst_InterpreteurChaineSemantique::plagesApresUneRegleQuiAllonge()
                              {u"b"_s, apres, {14U, 3U}, {18U, 4U}}}));
 }
 
-void tst_InterpreteurChaineSemantique::plagesApresUneRegleQuiRaccourcit()
+void tst_InterpreteurChaineSemantiqueT::plagesApresUneRegleQuiRaccourcit()
 {
     Appels appels;
     RegleTexteRiche const efface = [](UniChaine * texte, Balise & ouvrante, Balise & fermante) {
@@ -327,7 +327,7 @@ void tst_InterpreteurChaineSemantique::plagesApresUneRegleQuiRaccourcit()
                              {u"b"_s, resultat, {11U, 3U}, {15U, 4U}}}));
 }
 
-void tst_InterpreteurChaineSemantique::elementVideSansFermante()
+void tst_InterpreteurChaineSemantiqueT::elementVideSansFermante()
 {
     Appels appels;
     EnsembleRegles const regles = {{UniChaine("br/"), Note(u"br/"_s, appels)}};
@@ -338,7 +338,7 @@ void tst_InterpreteurChaineSemantique::elementVideSansFermante()
 }
 
 // The result is believed: it says how far everything behind the element has moved.
-void tst_InterpreteurChaineSemantique::decalageDApresLeResultat()
+void tst_InterpreteurChaineSemantiqueT::decalageDApresLeResultat()
 {
     Appels appels;
     RegleTexteRiche const menteuse = [](UniChaine *, Balise & ouvrante, Balise & fermante) {
@@ -351,7 +351,7 @@ void tst_InterpreteurChaineSemantique::decalageDApresLeResultat()
     QCOMPARE(appels, Appels({{u"b"_s, texte, {11U, 3U}, {15U, 4U}}}));
 }
 
-void tst_InterpreteurChaineSemantique::elementVideDecaleLesSuivants()
+void tst_InterpreteurChaineSemantiqueT::elementVideDecaleLesSuivants()
 {
     EnsembleRegles regles = Regles();
     // The closing text has no tag whose place it could take.
@@ -363,7 +363,7 @@ void tst_InterpreteurChaineSemantique::elementVideDecaleLesSuivants()
              u"<strong>[image1<br></strong>2"_s);
 }
 
-void tst_InterpreteurChaineSemantique::regleDuDocumentDAbord()
+void tst_InterpreteurChaineSemantiqueT::regleDuDocumentDAbord()
 {
     Appels appels;
     EnsembleRegles const regles = {{UniChaine("b"), Note(u"b"_s, appels)},
@@ -374,7 +374,7 @@ void tst_InterpreteurChaineSemantique::regleDuDocumentDAbord()
                              {u"b"_s, texte, {1U, 3U}, {5U, 4U}}}));
 }
 
-void tst_InterpreteurChaineSemantique::regleDuDocumentDecaleLesSuivants()
+void tst_InterpreteurChaineSemantiqueT::regleDuDocumentDecaleLesSuivants()
 {
     EnsembleRegles regles = Regles();
     // Deliberate: the document has no closing tag that the closing text could take the place of.
@@ -383,7 +383,7 @@ void tst_InterpreteurChaineSemantique::regleDuDocumentDecaleLesSuivants()
              u"<p>1<strong>2</strong><br>3"_s);
 }
 
-void tst_InterpreteurChaineSemantique::regleDuDocumentEntoure()
+void tst_InterpreteurChaineSemantiqueT::regleDuDocumentEntoure()
 {
     EnsembleRegles regles = Regles();
     regles[UniChaine()] = [](UniChaine * texte, Balise &, Balise &) {
@@ -394,14 +394,14 @@ void tst_InterpreteurChaineSemantique::regleDuDocumentEntoure()
              u"<p>1<strong>2</strong><br>3</p>"_s);
 }
 
-void tst_InterpreteurChaineSemantique::regleDuDocumentSurTexteVide()
+void tst_InterpreteurChaineSemantiqueT::regleDuDocumentSurTexteVide()
 {
     EnsembleRegles const regles = {{UniChaine(), Remplace(u"<p>"_s, {})}};
     QCOMPARE(QString(Interpreteur::AppliqueRegles({}, regles)), u"<p>"_s);
 }
 
 // The texts that rules put in are decoded with the rest, and what is decoded is no tag any more.
-void tst_InterpreteurChaineSemantique::entitesEnDernier()
+void tst_InterpreteurChaineSemantiqueT::entitesEnDernier()
 {
     EnsembleRegles regles = Regles();
     regles[UniChaine("q")] = Remplace(u"&lt;&quot;"_s, u"&quot;&gt;"_s);
@@ -409,7 +409,7 @@ void tst_InterpreteurChaineSemantique::entitesEnDernier()
              u"<\"<b>\">x</b>"_s);
 }
 
-void tst_InterpreteurChaineSemantique::remplaceLesDeuxBalises()
+void tst_InterpreteurChaineSemantiqueT::remplaceLesDeuxBalises()
 {
     RegleTexteRiche regle;
     {
@@ -430,7 +430,7 @@ void tst_InterpreteurChaineSemantique::remplaceLesDeuxBalises()
     QCOMPARE(QString(autre), u"[[]"_s);
 }
 
-void tst_InterpreteurChaineSemantique::remplaceSansFermante()
+void tst_InterpreteurChaineSemantiqueT::remplaceSansFermante()
 {
     UniChaine texte(u"1<br/>2"_s);
     Balise ouvrante(1U, 5U);
@@ -439,7 +439,7 @@ void tst_InterpreteurChaineSemantique::remplaceSansFermante()
     QCOMPARE(QString(texte), u"1<br>2"_s);
 }
 
-void tst_InterpreteurChaineSemantique::reglesDeBase()
+void tst_InterpreteurChaineSemantiqueT::reglesDeBase()
 {
     EnsembleRegles const regles = DStyleProxy::DonneReglesDeBase();
     QStringList cles;
@@ -458,7 +458,7 @@ void tst_InterpreteurChaineSemantique::reglesDeBase()
 }
 
 // Far deeper than a stack of 8 megabytes bears.
-void tst_InterpreteurChaineSemantique::imbricationProfonde()
+void tst_InterpreteurChaineSemantiqueT::imbricationProfonde()
 {
     constexpr int kNiveaux = 200'000;
     QString const texte = u"<b>"_s.repeated(kNiveaux) + u"x"_s + u"</b>"_s.repeated(kNiveaux);
@@ -477,7 +477,7 @@ void tst_InterpreteurChaineSemantique::imbricationProfonde()
                              Interpreteur::AppliqueRegles(texte.left(3 * kNiveaux), regles));
 }
 
-void tst_InterpreteurChaineSemantique::grandTexte_data()
+void tst_InterpreteurChaineSemantiqueT::grandTexte_data()
 {
     QTest::addColumn<QString>("motif");
     QTest::addColumn<QString>("fin");
@@ -491,7 +491,7 @@ void tst_InterpreteurChaineSemantique::grandTexte_data()
     QTest::newRow("empty tags") << u"<>"_s << u"<hr/>"_s << 0 << 1;
 }
 
-void tst_InterpreteurChaineSemantique::grandTexte()
+void tst_InterpreteurChaineSemantiqueT::grandTexte()
 {
     QFETCH(QString, motif);
     QFETCH(QString, fin);
@@ -505,5 +505,5 @@ void tst_InterpreteurChaineSemantique::grandTexte()
     QVERIFY(Interpreteur::AppliqueRegles(texte, Regles()) == texte);
 }
 
-QTEST_APPLESS_MAIN(tst_InterpreteurChaineSemantique)
-#include "tst_InterpreteurChaineSemantique.moc"
+QTEST_APPLESS_MAIN(tst_InterpreteurChaineSemantiqueT)
+#include "tst_InterpreteurChaineSemantiqueT.moc"

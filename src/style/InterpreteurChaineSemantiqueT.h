@@ -1,22 +1,13 @@
-// style/InterpreteurChaineSemantique.h
+// style/InterpreteurChaineSemantiqueT.h
 #pragma once
 
+#include "style/InterpreteurChaineSemantiqueErreur.h" // what it throws
 #include "style/RegleTexteRiche.h"
 
 #include "FabrelGuiExport.h"
 
-#include <stdexcept>
 #include <utility>
 #include <vector>
-
-/// Thrown for an opening tag that is not closed, or closed by another element's tag: a mistake in
-/// the application's own texts. Carries nothing to show.
-class FABRELGUI_EXPORT InterpreteurChaineSemantiqueErreur : public std::runtime_error
-{
-public:
-    InterpreteurChaineSemantiqueErreur();
-    ~InterpreteurChaineSemantiqueErreur() override;
-};
 
 template <typename Chaine>
 class InterpreteurChaineSemantiqueT;

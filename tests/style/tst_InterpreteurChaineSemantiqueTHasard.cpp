@@ -1,5 +1,5 @@
-// tests/style/tst_InterpreteurChaineSemantiqueHasard.cpp
-#include "style/InterpreteurChaineSemantique.h"
+// tests/style/tst_InterpreteurChaineSemantiqueTHasard.cpp
+#include "style/InterpreteurChaineSemantiqueT.h"
 
 #include "style/CaptureErreurs.h"
 #include "style/ModeleInterpreteur.h"
@@ -119,7 +119,7 @@ EnsembleRegles Regles(Journal & journal, bool avecDocument)
 
 } // namespace
 
-class tst_InterpreteurChaineSemantiqueHasard : public QObject
+class tst_InterpreteurChaineSemantiqueTHasard : public QObject
 {
     Q_OBJECT
 
@@ -141,7 +141,7 @@ private:
     int mesReussites = 0; // texts without an exception for which a rule was run
 };
 
-void tst_InterpreteurChaineSemantiqueHasard::commeLeModele_data()
+void tst_InterpreteurChaineSemantiqueTHasard::commeLeModele_data()
 {
     QTest::addColumn<bool>("equilibre");
     QTest::addColumn<int>("textes");
@@ -149,7 +149,7 @@ void tst_InterpreteurChaineSemantiqueHasard::commeLeModele_data()
     QTest::newRow("balanced elements") << true << kTextes / 5; // longer ones
 }
 
-void tst_InterpreteurChaineSemantiqueHasard::commeLeModele()
+void tst_InterpreteurChaineSemantiqueTHasard::commeLeModele()
 {
     QFETCH(bool, equilibre);
     QFETCH(int, textes);
@@ -171,7 +171,7 @@ void tst_InterpreteurChaineSemantiqueHasard::commeLeModele()
     QCOMPARE_GT(mesReussites, textes / 50); // else the texts say little
 }
 
-void tst_InterpreteurChaineSemantiqueHasard::Compare(QString const & texte, bool avecDocument)
+void tst_InterpreteurChaineSemantiqueTHasard::Compare(QString const & texte, bool avecDocument)
 {
     monAttendu = {};
     monJournal = {};
@@ -204,5 +204,5 @@ void tst_InterpreteurChaineSemantiqueHasard::Compare(QString const & texte, bool
     QCOMPARE(monJournal.faute, QString());
 }
 
-QTEST_APPLESS_MAIN(tst_InterpreteurChaineSemantiqueHasard)
-#include "tst_InterpreteurChaineSemantiqueHasard.moc"
+QTEST_APPLESS_MAIN(tst_InterpreteurChaineSemantiqueTHasard)
+#include "tst_InterpreteurChaineSemantiqueTHasard.moc"

@@ -1,5 +1,5 @@
-// style/InterpreteurChaineSemantique.cpp
-#include "style/InterpreteurChaineSemantique.h"
+// style/InterpreteurChaineSemantiqueT.cpp
+#include "style/InterpreteurChaineSemantiqueT.h"
 
 #include "noyau/RoutinesTexte.h"
 
@@ -222,13 +222,6 @@ qint64 ExecuteSurLeTexte(RegleTexteRiche const & regle, UniChaine & sortie)
 }
 
 } // namespace
-
-InterpreteurChaineSemantiqueErreur::InterpreteurChaineSemantiqueErreur()
-    : std::runtime_error("unbalanced tag")
-{
-}
-
-InterpreteurChaineSemantiqueErreur::~InterpreteurChaineSemantiqueErreur() = default;
 
 RegleTexteRiche InterpreteurChaineSemantiqueT<UniChaine>::CreeFonctionRemplacerBalisesAvecTexte(
     UniChaine const & ouvrant, UniChaine const & fermant)

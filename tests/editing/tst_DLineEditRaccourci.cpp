@@ -34,6 +34,21 @@ void Presse(QWidget & champ, int touche, Qt::KeyboardModifiers modificateurs, QS
     QApplication::sendEvent(&champ, &evenement);
 }
 
+// What the field of a modal dialog takes of a held key and of the next one.
+QString EcrisDansUnDialogue()
+{
+    QDialog dialogue;
+    auto * const autre = new QLineEdit(&dialogue);
+    QTimer::singleShot(0, &dialogue, [&dialogue, autre] {
+        Presse(*autre, Qt::Key_A, {}, u"a"_s, true);
+        for (bool const repetition : {false, true, true})
+            Presse(*autre, Qt::Key_B, {}, u"b"_s, repetition);
+        dialogue.accept();
+    });
+    dialogue.exec();
+    return autre->text();
+}
+
 } // namespace
 
 class tst_DLineEditRaccourci : public QObject
@@ -57,8 +72,10 @@ private Q_SLOTS:
     void raccourciDeLaFenetre_data();
     void raccourciDeLaFenetre();
     void toucheMaintenue();
-    void repetitionDeX11_data();
-    void repetitionDeX11();
+    void toucheMaintenueDansUnDialogue();
+    void touchesSansInstant();
+    void champDetruitParUnReceveur();
+    void champDetruitPlusTard();
     void dialogueResteOuvert();
     void tabulationQuitteLeChamp();
     void sourisSansEffet();
@@ -326,59 +343,82 @@ void tst_DLineEditRaccourci::raccourciDeLaFenetre()
 
 void tst_DLineEditRaccourci::toucheMaintenue()
 {
+    DLineEditRaccourci champ(nullptr);
+    QLineEdit autre;
+    QSignalSpy espion(&champ, &DLineEditRaccourci::SignalRaccourciEnregistray);
+    // A key that was down before the field got the focus.
+    Presse(champ, Qt::Key_A, Qt::AltModifier, u"a"_s, true);
+    QVERIFY(champ.text().isEmpty());
+
+    Presse(champ, Qt::Key_A, {}, u"a"_s);
+    Presse(champ, Qt::Key_A, {}, u"a"_s, true);
+    Presse(champ, Qt::Key_F1, {}, {}, true);
+    QCOMPARE(espion.count(), 1);
+    QCOMPARE(champ.text(), u"A"_s);
+
+    // Whoever has the focus next goes on with them.
+    Presse(autre, Qt::Key_A, {}, u"a"_s, true);
+    QCOMPARE(autre.text(), u"a"_s);
+}
+
+void tst_DLineEditRaccourci::toucheMaintenueDansUnDialogue()
+{
     QWidget fenetre;
     auto * champ = new DLineEditRaccourci(&fenetre);
-    auto * autre = new QLineEdit(&fenetre);
-    // A key that was down before the field got the focus.
-    Presse(*champ, Qt::Key_A, Qt::AltModifier, u"a"_s, true);
-    QVERIFY(champ->text().isEmpty());
-
-    QSignalSpy espion(champ, &DLineEditRaccourci::SignalRaccourciEnregistray);
-    Presse(*champ, Qt::Key_A, {}, u"a"_s);
-    QCOMPARE(espion.count(), 1);
-    for (int i = 0; i < 3; ++i) {
-        Presse(*champ, Qt::Key_A, {}, u"a"_s, true);
-        Presse(*autre, Qt::Key_A, {}, u"a"_s, true);
-    }
-    QCOMPARE(espion.count(), 1);
-    QVERIFY(autre->text().isEmpty());
-
-    QTest::keyRelease(autre, Qt::Key_A);
-    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-    // The next key writes again, and repeats.
-    Presse(*autre, Qt::Key_B, {}, u"b"_s);
-    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-    Presse(*autre, Qt::Key_B, {}, u"b"_s, true);
-    QCOMPARE(autre->text(), u"bb"_s);
-    QCOMPARE(champ->text(), u"A"_s);
+    QString texte;
+    connect(champ, &DLineEditRaccourci::SignalRaccourciEnregistray, this,
+            [&texte] { texte = EcrisDansUnDialogue(); });
+    fenetre.show();
+    QVERIFY(QTest::qWaitForWindowActive(&fenetre));
+    champ->setFocus();
+    QTRY_VERIFY(champ->hasFocus());
+    Presse(*champ, Qt::Key_A, Qt::ControlModifier, u"\x01"_s);
+    QCOMPARE(texte, u"abbb"_s);
+    QCOMPARE(champ->text(), u"Ctrl+A"_s);
 }
 
-void tst_DLineEditRaccourci::repetitionDeX11_data()
+// The keys of some platforms and of all programs have no time.
+void tst_DLineEditRaccourci::touchesSansInstant()
 {
-    QTest::addColumn<int>("code");
-    QTest::addColumn<int>("delai");
-    QTest::addColumn<QString>("texte");
-    QTest::newRow("a release and a press at once are a repetition") << 38 << 0 << u""_s;
-    QTest::newRow("later they are a new press") << 38 << 1 << u"a"_s;
-    QTest::newRow("a program presses as fast as it likes") << 0 << 0 << u"a"_s;
-}
-
-// There a key that stays down is released and pressed, which need not be marked as a repetition.
-void tst_DLineEditRaccourci::repetitionDeX11()
-{
-    QFETCH(int, code);
-    QFETCH(int, delai);
     DLineEditRaccourci champ(nullptr);
     QLineEdit autre;
     Presse(champ, Qt::Key_A, {}, u"a"_s);
-    auto const envoie = [&autre, code](QEvent::Type type, int instant) {
-        QKeyEvent evenement(type, Qt::Key_A, {}, quint32(code), 0, 0, u"a"_s);
-        evenement.setTimestamp(quint64(instant));
+    for (QEvent::Type const type : {QEvent::KeyPress, QEvent::KeyRelease, QEvent::KeyPress}) {
+        QKeyEvent evenement(type, Qt::Key_B, {}, 56, 0, 0, u"b"_s);
+        evenement.setTimestamp(0);
         QApplication::sendEvent(&autre, &evenement);
-    };
-    envoie(QEvent::KeyRelease, 1000);
-    envoie(QEvent::KeyPress, 1000 + delai);
-    QTEST(autre.text(), "texte");
+    }
+    QCOMPARE(autre.text(), u"bb"_s);
+}
+
+void tst_DLineEditRaccourci::champDetruitParUnReceveur()
+{
+    QWidget fenetre;
+    QPointer<DLineEditRaccourci> const champ = new DLineEditRaccourci(&fenetre);
+    fenetre.show();
+    QVERIFY(QTest::qWaitForWindowActive(&fenetre));
+    champ->setFocus();
+    QTRY_VERIFY(champ->hasFocus());
+    connect(champ, &DLineEditRaccourci::SignalFocusOut, this, [&champ] { delete champ.data(); });
+    Presse(*champ, Qt::Key_Escape, {}, {});
+    QVERIFY(!champ);
+    QVERIFY(fenetre.hasFocus());
+}
+
+void tst_DLineEditRaccourci::champDetruitPlusTard()
+{
+    QWidget fenetre;
+    QPointer<DLineEditRaccourci> const champ = new DLineEditRaccourci(&fenetre);
+    fenetre.show();
+    QVERIFY(QTest::qWaitForWindowActive(&fenetre));
+    champ->setFocus();
+    QTRY_VERIFY(champ->hasFocus());
+    QSignalSpy espion(champ, &DLineEditRaccourci::SignalRaccourciEnregistray);
+    // Qt does not survive more: clearing the focus ends with an accessible event of the field.
+    connect(champ, &DLineEditRaccourci::SignalFocusOut, champ, &QObject::deleteLater);
+    Presse(*champ, Qt::Key_F2, {}, {});
+    QCOMPARE(espion.count(), 1);
+    QTRY_VERIFY(!champ);
 }
 
 void tst_DLineEditRaccourci::dialogueResteOuvert()

@@ -191,6 +191,10 @@ void tst_DLineEdit::evenementsHorsErreur()
     Envoie(champ, QEvent::HoverEnter);
     champ.MetsErreur(true);
     QVERIFY(EstRouge(champ));
+    // The mouse still does not count when the focus goes.
+    Envoie(champ, QEvent::FocusIn);
+    Envoie(champ, QEvent::FocusOut);
+    QVERIFY(EstRouge(champ));
     // The mouse goes when there is no error any more: the next one is seen again.
     Envoie(champ, QEvent::HoverEnter);
     QVERIFY(!EstRouge(champ));

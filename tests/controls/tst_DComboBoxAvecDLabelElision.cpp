@@ -1,11 +1,14 @@
 // tests/controls/tst_DComboBoxAvecDLabelElision.cpp
 #include "controls/DComboBoxAvecDLabelElision.h"
+#include "controls/DLabelElision.h"
 
 #include "controls/Encre.h"
 #include "controls/EssaisComboElision.h"
 #include "controls/StyleTemoin.h"
 
 #include <QtTest>
+
+#include <algorithm>
 
 using namespace EssaisComboElision;
 using namespace Qt::StringLiterals;
@@ -32,8 +35,10 @@ private Q_SLOTS:
     void construction();
     void taillesSansLesTextes();
     void taillesSelonReglages();
+    void tailleSelonPremieresIcones();
     void comboFermay();
     void texteCourantRiche();
+    void policeDeFeuille();
     void texteCourantTropLong_data();
     void texteCourantTropLong();
     void iconeGardee();
@@ -41,6 +46,9 @@ private Q_SLOTS:
     void editable();
     void comboInactif();
     void labelsInvisibles();
+    void unSeulDeleguay();
+    void secondDeleguay();
+    void secondeVue();
 };
 
 void tst_DComboBoxAvecDLabelElision::cleanup()
@@ -95,6 +103,22 @@ void tst_DComboBoxAvecDLabelElision::taillesSelonReglages()
     QVERIFY(combo.sizeHint().height() >= 60);
 }
 
+void tst_DComboBoxAvecDLabelElision::tailleSelonPremieresIcones()
+{
+    constexpr int kExaminay = 100;
+    DComboBoxAvecDLabelElision combo;
+    for (int i = 0; i <= kExaminay; ++i)
+        combo.addItem(QString::number(i));
+    int const sansIcone = combo.sizeHint().width();
+    // Deliberate: the items behind the first hundred are not looked at.
+    combo.setItemIcon(kExaminay, Icone());
+    QCOMPARE(combo.sizeHint().width(), sansIcone);
+    combo.setItemIcon(kExaminay - 1, Icone());
+    QVERIFY(combo.sizeHint().width() > sansIcone);
+    combo.setItemIcon(kExaminay - 1, QIcon());
+    QCOMPARE(combo.sizeHint().width(), sansIcone);
+}
+
 void tst_DComboBoxAvecDLabelElision::comboFermay()
 {
     StyleTemoin style;
@@ -124,6 +148,22 @@ void tst_DComboBoxAvecDLabelElision::texteCourantRiche()
 
     combo.setCurrentIndex(1);
     QVERIFY(!Encre::BornesDe(combo.grab().toImage(), kVert).isValid());
+}
+
+void tst_DComboBoxAvecDLabelElision::policeDeFeuille()
+{
+    DComboBoxAvecDLabelElision combo;
+    combo.addItem(kRiche);
+    combo.resize(400, 100);
+    auto const hauteur = [&combo] {
+        return Encre::BornesDe(combo.grab().toImage(), kVert).height();
+    };
+    int const ordinaire = hauteur();
+    QVERIFY(ordinaire > 0);
+    combo.setStyleSheet(u"QComboBox { font-size: 60px }"_s);
+    QVERIFY(hauteur() > ordinaire + 20);
+    combo.setStyleSheet({});
+    QCOMPARE(hauteur(), ordinaire);
 }
 
 void tst_DComboBoxAvecDLabelElision::texteCourantTropLong_data()
@@ -215,6 +255,45 @@ void tst_DComboBoxAvecDLabelElision::labelsInvisibles()
         QVERIFY(!enfant->isVisible());
     QTest::mouseClick(&combo, Qt::LeftButton, {}, QPoint(5, 5));
     QTRY_VERIFY(combo.view()->isVisible());
+    combo.hidePopup();
+}
+
+void tst_DComboBoxAvecDLabelElision::unSeulDeleguay()
+{
+    DComboBoxAvecDLabelElision const combo;
+    auto const deleguays = combo.findChildren<QAbstractItemDelegate *>();
+    QCOMPARE(std::count_if(deleguays.begin(), deleguays.end(),
+                           [](auto const * d) { return d->inherits("DComboBoxDeleguay"); }),
+             1);
+}
+
+void tst_DComboBoxAvecDLabelElision::secondDeleguay()
+{
+    DComboBoxAvecDLabelElision combo;
+    combo.addItem(kRiche);
+    combo.resize(combo.sizeHint());
+    QPointer<QAbstractItemDelegate> const premier = combo.itemDelegate();
+    QCOMPARE(combo.findChildren<DLabelElision *>().size(), 2);
+
+    combo.setItemDelegate(new QStyledItemDelegate(&combo));
+    QVERIFY(premier); // another view may use it
+    delete premier;
+    QCOMPARE(combo.findChildren<DLabelElision *>().size(), 1);
+    QVERIFY(Encre::BornesDe(combo.grab().toImage(), kVert).isValid());
+    combo.show();
+    combo.showPopup();
+    QTRY_VERIFY(combo.view()->isVisible());
+    combo.hidePopup();
+}
+
+void tst_DComboBoxAvecDLabelElision::secondeVue()
+{
+    DComboBoxAvecDLabelElision combo;
+    combo.addItem(kRiche);
+    combo.setView(new QListView);
+    combo.show();
+    combo.showPopup();
+    QTRY_VERIFY(Encre::BornesDe(combo.view()->grab().toImage(), kVert).isValid());
     combo.hidePopup();
 }
 

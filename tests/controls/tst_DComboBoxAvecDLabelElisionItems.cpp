@@ -46,6 +46,7 @@ private Q_SLOTS:
     void couleurDesItems_data();
     void couleurDesItems();
     void texteHorsDuStyle();
+    void itemRiche_data();
     void itemRiche();
     void itemDroiteAGauche();
     void itemTropLong_data();
@@ -118,10 +119,20 @@ void tst_DComboBoxAvecDLabelElisionItems::texteHorsDuStyle()
     QVERIFY(Encre::BornesEncre(image).isValid());
 }
 
+void tst_DComboBoxAvecDLabelElisionItems::itemRiche_data()
+{
+    QTest::addColumn<QVariant>("alignement");
+    QTest::newRow("as the view has it") << QVariant();
+    // Deliberate: a label is one line, in the middle of the row.
+    QTest::newRow("at the top") << QVariant(int(Qt::AlignLeft | Qt::AlignTop));
+}
+
 void tst_DComboBoxAvecDLabelElisionItems::itemRiche()
 {
+    QFETCH(QVariant, alignement);
     DComboBoxAvecDLabelElision combo;
     combo.addItem(kRiche);
+    combo.setItemData(0, alignement, Qt::TextAlignmentRole);
     QImage const image = DessineItem(combo, 0, QStyle::State_Enabled | QStyle::State_Active);
     QRect const vert = Encre::BornesDe(image, kVert);
     QVERIFY(vert.isValid());

@@ -10,6 +10,7 @@
 #include <QFontMetrics>
 #include <QImage>
 #include <QPainter>
+#include <QPointer>
 #include <QStylePainter>
 
 #include <algorithm>
@@ -18,8 +19,9 @@ namespace {
 
 constexpr int kLettresMinimales = 7; // as an empty QComboBox
 constexpr int kLettresConseillees = 20;
-constexpr int kEcartIcone = 4;       // pixels between an icon and the text, as the styles take it
-constexpr int kMargeTexte = 1;       // pixels on either side of the text, as the styles take it
+constexpr int kItemsExaminay = 100;  // for an icon: a hint is asked for at each layout
+constexpr int kEcartIcone = 4;       // pixels between an icon and the text, as in QFusionStyle
+constexpr int kMargeTexte = 1;       // pixels on either side of the text, as in QFusionStyle
 constexpr int kHauteurMinimale = 14; // pixels; it and the next as in QComboBox
 constexpr int kMargeHauteur = 2;     // pixels
 
@@ -76,6 +78,7 @@ public:
         , monLabel(CreeLabelCachay(combo))
     {
     }
+    ~DeleguayAvecLabel() override { delete monLabel; }
 
     void paint(QPainter * peintre, QStyleOptionViewItem const & option,
                QModelIndex const & index) const override;
@@ -89,7 +92,8 @@ private:
     static QColor DonneCouleurTexte(QStyleOptionViewItem const & option);
     static bool EstSurligne(QStyleOptionViewItem const & option, QPalette::ColorGroup groupe);
 
-    DLabelElision * monLabel;
+    // Owned, and a child of the combo box, since a label without a parent would be a window.
+    QPointer<DLabelElision> monLabel;
 };
 
 void DeleguayAvecLabel::paint(QPainter * peintre, QStyleOptionViewItem const & option,
@@ -177,7 +181,9 @@ DComboBoxAvecDLabelElision::DComboBoxAvecDLabelElision(QWidget * parent)
     : DComboBox(parent)
     , monLabel(CreeLabelCachay(this))
 {
-    view()->setItemDelegate(new DeleguayAvecLabel(this, view()));
+    QAbstractItemDelegate const * const deleguayDeBase = itemDelegate();
+    setItemDelegate(new DeleguayAvecLabel(this, this));
+    delete deleguayDeBase;
     setProperty(ProprietesStyle::kTexteRiche, true);
 }
 
@@ -218,6 +224,8 @@ void DComboBoxAvecDLabelElision::paintEvent(QPaintEvent *)
     else
         rectangle.setLeft(rectangle.left() + icone);
     monLabel->PrendsTexte(texte);
+    if (monLabel->DonnePolice() != font()) // a style sheet gives its font to the combo box alone
+        monLabel->PrendsPolice(font());
     DessineTexte(peintre, *monLabel, rectangle, option.textAlignment);
 }
 
@@ -227,7 +235,7 @@ QSize DComboBoxAvecDLabelElision::DonneTaillePourLettres(int lettres) const
     int const nombre = std::max(lettres, minimumContentsLength());
     QSize contenu(nombre * mesures.horizontalAdvance(u'x'),
                   std::max(mesures.height(), kHauteurMinimale) + kMargeHauteur);
-    for (int i = 0; i < count(); ++i) {
+    for (int i = 0; i < std::min(count(), kItemsExaminay); ++i) {
         if (itemIcon(i).isNull())
             continue;
         contenu.rwidth() += iconSize().width() + kEcartIcone;

@@ -1,15 +1,13 @@
 // controls/DComboBoxDeleguay_p.h
 #pragma once
 
-#include "FabrelGuiExport.h"
-
 #include <QStyledItemDelegate>
 
 class QComboBox;
 
 /// Draws the separators of a combo box over the whole width of its list, and gives them their
 /// height.
-class FABRELGUI_EXPORT DComboBoxDeleguay : public QStyledItemDelegate
+class DComboBoxDeleguay : public QStyledItemDelegate
 {
     Q_OBJECT
 

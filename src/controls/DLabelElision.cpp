@@ -20,7 +20,9 @@ void MetsTexteDansLayout(QTextLayout & layout, QString const & texte, bool riche
         layout.setText(texte);
         return;
     }
-    static QTextDocument document; // one for all labels: making one costs more than the parsing
+    // One for all labels: making one costs more than the parsing. It may outlive the application,
+    // which takes the engines from all fonts when it goes.
+    static QTextDocument document;
     document.setHtml(texte);
     QTextBlock const bloc = document.firstBlock();
     layout.setText(bloc.text());

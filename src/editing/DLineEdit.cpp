@@ -44,7 +44,8 @@ bool DLineEdit::eventFilter(QObject * objet, QEvent * evenement)
 {
     if (objet != this)
         return QLineEdit::eventFilter(objet, evenement);
-    // Also out of error, or an error that ends under the mouse would leave the next one unseen.
+    // Deliberate: the mouse leaves out of error too, or an error that ends under it would leave the
+    // next one unseen; it comes in error only, so that an error found under the mouse is seen.
     if (evenement->type() == QEvent::HoverLeave)
         monSurvol = false;
     if (!monErreur)

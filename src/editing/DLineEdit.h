@@ -7,7 +7,8 @@
 #include <QPalette>
 
 /// A line edit that can show that what it holds is wrong: its text turns to the theme's colour
-/// "couleurErreurLineEdit" until the user comes to the field with the mouse or the focus.
+/// "couleurErreurLineEdit" until the user comes to the field with the mouse or the focus. A mouse
+/// that was over the field before the error does not count until it moves out and in again.
 ///
 /// The theme's colour is read when the field is made. All other colours are those that any line
 /// edit would have at its place, and follow the application's palette, its parents' palettes and
@@ -26,8 +27,8 @@ public:
     void MetsErreur(bool erreur);
 
     /// Takes the colours that the state asks for: those of an error when the field is in error and
-    /// has neither the mouse over it nor the focus, otherwise the normal ones. A style calls it
-    /// when it polishes the field.
+    /// has neither the focus nor the mouse over it, which counts if it came during the error;
+    /// otherwise the normal ones. A style calls it when it polishes the field.
     void MetsAJourPalette();
 
     /// Follows the mouse and the focus; consumes nothing.

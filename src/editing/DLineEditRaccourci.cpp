@@ -1,11 +1,11 @@
 // editing/DLineEditRaccourci.cpp
 #include "editing/DLineEditRaccourci.h"
 
-#include <QApplication>
 #include <QInputMethodEvent>
 #include <QKeyEvent>
 #include <QKeySequence>
 #include <QMouseEvent>
+#include <QPointer>
 
 using namespace Qt::StringLiterals;
 
@@ -31,48 +31,6 @@ QString DonneRaccourci(QKeyEvent const & evenement)
     return raccourci.toString(QKeySequence::NativeText);
 }
 
-// Takes the repetitions of a key that stays down from whoever has the focus next: the shortcut that
-// has just been recorded would fire. Destroys itself with the next key that is pressed.
-class AvaleurDeRepetitions : public QObject
-{
-public:
-    explicit AvaleurDeRepetitions(QObject * parent)
-        : QObject(parent)
-    {
-        qApp->installEventFilter(this);
-    }
-
-    bool eventFilter(QObject *, QEvent * evenement) override
-    {
-        QEvent::Type const type = evenement->type();
-        if (type != QEvent::KeyPress && type != QEvent::KeyRelease &&
-            type != QEvent::ShortcutOverride)
-            return false;
-        auto const & touche = *static_cast<QKeyEvent *>(evenement);
-        if (EstRepetition(touche)) {
-            evenement->accept();
-            return true;
-        }
-        if (type == QEvent::KeyRelease)
-            monRelachement = touche.timestamp();
-        else
-            deleteLater();
-        return false;
-    }
-
-private:
-    bool EstRepetition(QKeyEvent const & touche) const
-    {
-        // Qt does not always recognise those of X11, a release and a press at the same time. Keys
-        // that no keyboard has sent may well be as fast.
-        return touche.isAutoRepeat() ||
-               (touche.type() != QEvent::KeyRelease && touche.timestamp() == monRelachement &&
-                touche.nativeScanCode() != 0);
-    }
-
-    quint64 monRelachement = 0; // when, in ms
-};
-
 } // namespace
 
 DLineEditRaccourci::DLineEditRaccourci(QWidget * parent)
@@ -88,11 +46,12 @@ bool DLineEditRaccourci::eventFilter(QObject * objet, QEvent * evenement)
 {
     if (objet != this)
         return QLineEdit::eventFilter(objet, evenement);
+    QPointer<DLineEditRaccourci> const champ(this);
     if (evenement->type() == QEvent::FocusIn)
         Q_EMIT SignalFocusIn();
     else if (evenement->type() == QEvent::FocusOut)
         Q_EMIT SignalFocusOut();
-    return false;
+    return !champ; // destroyed by a receiver, the field can handle nothing any more
 }
 
 bool DLineEditRaccourci::event(QEvent * evenement)
@@ -122,14 +81,13 @@ void DLineEditRaccourci::keyPressEvent(QKeyEvent * evenement)
     }
     if (evenement->text().isEmpty() && !EstToucheFonction(evenement))
         return;
-    // A key that was pressed before the field had the focus, such as the one that brought it here.
+    // The key may have been pressed before the field had the focus, to bring it here.
     if (evenement->isAutoRepeat())
         return;
     QString const raccourci = DonneRaccourci(*evenement);
     if (raccourci.isEmpty())
         return;
 
-    new AvaleurDeRepetitions(this);
     setText(raccourci);
     clearFocus();
     Q_EMIT SignalRaccourciEnregistray();

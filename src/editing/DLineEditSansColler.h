@@ -23,7 +23,8 @@ Q_SIGNALS:
     void SignalColler(DLineEditSansColler * champ);
 
 public Q_SLOTS:
-    /// Emits `SignalColler` and pastes nothing.
+    /// Emits `SignalColler` and pastes nothing. The context menu comes here too, since QLineEdit
+    /// connects its action by the name of the slot.
     void paste();
 
 protected:

@@ -1,7 +1,6 @@
 // tests/controls/tst_DComboBox.cpp
 #include "controls/DComboBox.h"
 
-#include "controls/DComboBoxDeleguay_p.h"
 #include "controls/StyleTemoin.h"
 
 #include <QtTest>
@@ -24,6 +23,12 @@ protected:
     }
 };
 
+// The class of the delegate is not exported.
+bool EstDeleguayDeCombo(QAbstractItemDelegate const * deleguay)
+{
+    return deleguay && deleguay->inherits("DComboBoxDeleguay");
+}
+
 } // namespace
 
 class tst_DComboBox : public QObject
@@ -40,6 +45,10 @@ private Q_SLOTS:
     void hauteurDesSeparateurs();
     void separateurDansLaListeOuverte();
     void evenementsDeLaVueFiltres();
+    void vueRemplacay();
+    void vueRemplaceeParLaBase();
+    void vueIgnoray();
+    void deleguayDeLaVueRemplacay();
     void comboOrdinaire();
 };
 
@@ -53,7 +62,7 @@ void tst_DComboBox::construction()
     QWidget parent;
     DComboBox const combo(&parent);
     QCOMPARE(combo.parentWidget(), &parent);
-    QVERIFY(qobject_cast<DComboBoxDeleguay *>(combo.itemDelegate()));
+    QVERIFY(EstDeleguayDeCombo(combo.itemDelegate()));
     QCOMPARE(combo.view()->itemDelegate(), combo.itemDelegate());
     QCOMPARE(combo.count(), 0);
 }
@@ -173,6 +182,73 @@ void tst_DComboBox::evenementsDeLaVueFiltres()
     QCoreApplication::sendEvent(combo.view(), &evenement);
 
     QCOMPARE(combo.mesEvenements, QList<QEvent::Type>{QEvent::User});
+}
+
+void tst_DComboBox::vueRemplacay()
+{
+    StyleTemoin style;
+    ComboEspion combo;
+    combo.setStyle(&style);
+    combo.addItems({u"un"_s, u"deux"_s});
+    combo.insertSeparator(1);
+    QPointer<QAbstractItemView> const ancienne = combo.view();
+    QPointer<QAbstractItemDelegate> const deleguay = combo.itemDelegate();
+    auto * const vue = new QListView;
+
+    combo.setView(vue);
+
+    QVERIFY(!ancienne);
+    QCOMPARE(combo.view(), vue);
+    QCOMPARE(vue->model(), combo.model());
+    QVERIFY(EstDeleguayDeCombo(deleguay));
+    QCOMPARE(vue->itemDelegate(), deleguay.data());
+    combo.mesEvenements.clear();
+    QEvent evenement(QEvent::User);
+    QCoreApplication::sendEvent(vue, &evenement);
+    QCOMPARE(combo.mesEvenements, QList<QEvent::Type>{QEvent::User});
+
+    combo.show();
+    combo.showPopup();
+    QTRY_VERIFY(!style.mesSeparateurs.isEmpty());
+    combo.hidePopup();
+}
+
+void tst_DComboBox::vueRemplaceeParLaBase()
+{
+    ComboEspion combo;
+    auto * const vue = new QListView;
+    // Deliberate: the function hides that of the base and cannot override it.
+    static_cast<QComboBox &>(combo).setView(vue);
+    QCOMPARE(combo.view(), vue);
+    QVERIFY(!EstDeleguayDeCombo(combo.itemDelegate()));
+}
+
+void tst_DComboBox::vueIgnoray()
+{
+    DComboBox combo;
+    QPointer<QAbstractItemView> const vue = combo.view();
+    combo.setView(nullptr);
+    QCOMPARE(combo.view(), vue.data());
+    combo.setView(combo.view());
+    QVERIFY(vue);
+    QCOMPARE(combo.view(), vue.data());
+    QVERIFY(EstDeleguayDeCombo(combo.itemDelegate()));
+}
+
+void tst_DComboBox::deleguayDeLaVueRemplacay()
+{
+    DComboBox combo;
+    combo.setItemDelegate(new QStyledItemDelegate(&combo));
+    QAbstractItemDelegate * const deleguay = combo.itemDelegate();
+    combo.setView(new QListView);
+    QCOMPARE(combo.itemDelegate(), deleguay);
+
+    // One that goes with its view leaves the new view what it has.
+    combo.setItemDelegate(new QStyledItemDelegate(combo.view()));
+    auto * const vue = new QListView;
+    QAbstractItemDelegate * const deleguayDeLaVue = vue->itemDelegate();
+    combo.setView(vue);
+    QCOMPARE(combo.itemDelegate(), deleguayDeLaVue);
 }
 
 void tst_DComboBox::comboOrdinaire()

@@ -1,62 +1,19 @@
 // tests/controls/tst_DComboBoxAvecDLabelElision.cpp
 #include "controls/DComboBoxAvecDLabelElision.h"
+#include "controls/DLabelElision.h"
 
 #include "controls/Encre.h"
+#include "controls/EssaisComboElision.h"
 #include "controls/StyleTemoin.h"
 
 #include <QtTest>
 
+#include <algorithm>
+
+using namespace EssaisComboElision;
 using namespace Qt::StringLiterals;
 
 namespace {
-
-// Letters of which whole pixels have the colour of the pen, and single words for them.
-QString const kPleins = u"▇▇▇▇"_s;
-QString const kRiche = u"<span style='background-color:#00ff00'>W</span> et <b>gras</b>"_s;
-constexpr QColor kVert(0, 255, 0);
-QString const kTresLong = u"un texte bien trop long "_s.repeated(40);
-
-constexpr QRect kLigne(0, 0, 200, 30);
-
-QPalette FabriquePalette()
-{
-    QPalette palette;
-    palette.setColor(QPalette::Base, Qt::white);
-    palette.setColor(QPalette::Highlight, QColor(0, 0, 160));
-    palette.setColor(QPalette::HighlightedText, Qt::yellow);
-    palette.setColor(QPalette::Text, QColor(200, 0, 0));
-    palette.setColor(QPalette::Disabled, QPalette::Text, QColor(0, 120, 0));
-    palette.setColor(QPalette::PlaceholderText, QColor(200, 0, 200));
-    return palette;
-}
-
-QImage DessineItem(QComboBox const & combo, int ligne, QStyle::State etat,
-                   Qt::TextElideMode elision = Qt::ElideRight,
-                   Qt::LayoutDirection sens = Qt::LeftToRight)
-{
-    QStyleOptionViewItem option;
-    option.initFrom(combo.view());
-    option.rect = kLigne;
-    option.widget = combo.view();
-    option.font = combo.font();
-    option.decorationSize = combo.iconSize();
-    option.palette = FabriquePalette();
-    option.state = etat;
-    option.displayAlignment = Qt::AlignLeft | Qt::AlignVCenter;
-    option.textElideMode = elision;
-    option.direction = sens;
-    QImage image = Encre::ImageBlanche(kLigne.size());
-    QPainter peintre(&image);
-    combo.itemDelegate()->paint(&peintre, option, combo.model()->index(ligne, 0));
-    return image;
-}
-
-QIcon Icone()
-{
-    QPixmap pixmap(16, 16);
-    pixmap.fill(Qt::cyan);
-    return QIcon(pixmap);
-}
 
 QRect ChampTexte(QComboBox const & combo)
 {
@@ -76,20 +33,12 @@ class tst_DComboBoxAvecDLabelElision : public QObject
 private Q_SLOTS:
     void cleanup();
     void construction();
-    void couleurDesItems_data();
-    void couleurDesItems();
-    void texteHorsDuStyle();
-    void itemRiche();
-    void itemDroiteAGauche();
-    void itemTropLong_data();
-    void itemTropLong();
-    void itemAvecIcone();
-    void separateur();
-    void hauteurDesItems();
     void taillesSansLesTextes();
     void taillesSelonReglages();
+    void tailleSelonPremieresIcones();
     void comboFermay();
     void texteCourantRiche();
+    void policeDeFeuille();
     void texteCourantTropLong_data();
     void texteCourantTropLong();
     void iconeGardee();
@@ -97,6 +46,9 @@ private Q_SLOTS:
     void editable();
     void comboInactif();
     void labelsInvisibles();
+    void unSeulDeleguay();
+    void secondDeleguay();
+    void secondeVue();
 };
 
 void tst_DComboBoxAvecDLabelElision::cleanup()
@@ -111,156 +63,6 @@ void tst_DComboBoxAvecDLabelElision::construction()
     QCOMPARE(combo.parentWidget(), &parent);
     QCOMPARE(combo.property("DStyleProxyTexteRiche"), QVariant(true));
     QVERIFY(qobject_cast<DComboBox const *>(&combo));
-}
-
-void tst_DComboBoxAvecDLabelElision::couleurDesItems_data()
-{
-    QTest::addColumn<bool>("ombre");
-    QTest::addColumn<QStyle::State>("etat");
-    QTest::addColumn<QPalette::ColorGroup>("groupe");
-    QTest::addColumn<QPalette::ColorRole>("role");
-    auto const actif = QStyle::State_Enabled | QStyle::State_Active;
-    for (bool const ombre : {false, true}) {
-        char const * const style = ombre ? "a shading style" : "Fusion";
-        QTest::addRow("%s, normal", style) << ombre << actif << QPalette::Active << QPalette::Text;
-        QTest::addRow("%s, hovered", style)
-            << ombre << (actif | QStyle::State_MouseOver) << QPalette::Active << QPalette::Text;
-        QTest::addRow("%s, disabled", style)
-            << ombre << QStyle::State(QStyle::State_None) << QPalette::Disabled << QPalette::Text;
-        QTest::addRow("%s, selected", style)
-            << ombre << (actif | QStyle::State_Selected) << QPalette::Active
-            << (ombre ? QPalette::Text : QPalette::HighlightedText);
-    }
-}
-
-void tst_DComboBoxAvecDLabelElision::couleurDesItems()
-{
-    QFETCH(bool, ombre);
-    QFETCH(QStyle::State, etat);
-    QFETCH(QPalette::ColorGroup, groupe);
-    QFETCH(QPalette::ColorRole, role);
-    StyleTemoin style;
-    style.ombreLaSelection = ombre;
-    DComboBoxAvecDLabelElision combo;
-    combo.view()->setStyle(&style);
-    combo.addItem(kPleins);
-
-    QImage const image = DessineItem(combo, 0, etat);
-
-    QColor const attendue = FabriquePalette().color(groupe, role);
-    QVERIFY(Encre::BornesDe(image, attendue).isValid());
-    for (QColor const & autre :
-         {FabriquePalette().color(QPalette::Active, QPalette::Text),
-          FabriquePalette().color(QPalette::Disabled, QPalette::Text), QColor(Qt::yellow)})
-        if (autre != attendue)
-            QVERIFY(!Encre::BornesDe(image, autre).isValid());
-}
-
-void tst_DComboBoxAvecDLabelElision::texteHorsDuStyle()
-{
-    StyleTemoin style;
-    DComboBoxAvecDLabelElision combo;
-    combo.view()->setStyle(&style);
-    combo.addItem(u"un texte"_s);
-
-    QImage const image = DessineItem(combo, 0, QStyle::State_Enabled);
-
-    QVERIFY(!style.mesItems.isEmpty());
-    for (StyleTemoin::Item const & item : style.mesItems)
-        QCOMPARE(item.texte, QString());
-    QVERIFY(Encre::BornesEncre(image).isValid());
-}
-
-void tst_DComboBoxAvecDLabelElision::itemRiche()
-{
-    DComboBoxAvecDLabelElision combo;
-    combo.addItem(kRiche);
-    QImage const image = DessineItem(combo, 0, QStyle::State_Enabled | QStyle::State_Active);
-    QRect const vert = Encre::BornesDe(image, kVert);
-    QVERIFY(vert.isValid());
-    QVERIFY(qAbs(vert.center().y() - kLigne.center().y()) <= 2);
-}
-
-void tst_DComboBoxAvecDLabelElision::itemDroiteAGauche()
-{
-    DComboBoxAvecDLabelElision combo;
-    combo.addItem(kRiche);
-    auto const etat = QStyle::State_Enabled | QStyle::State_Active;
-    QRect const normal = Encre::BornesEncre(DessineItem(combo, 0, etat));
-    QRect const miroir =
-        Encre::BornesEncre(DessineItem(combo, 0, etat, Qt::ElideRight, Qt::RightToLeft));
-    QVERIFY(qAbs(miroir.width() - normal.width()) <= 1);
-    QVERIFY(normal.right() < kLigne.right() - 10);
-    QVERIFY(qAbs(kLigne.right() - miroir.right() - normal.left()) <= 2);
-}
-
-void tst_DComboBoxAvecDLabelElision::itemTropLong_data()
-{
-    QTest::addColumn<Qt::TextElideMode>("elision");
-    QTest::addColumn<bool>("debut");
-    QTest::newRow("right") << Qt::ElideRight << true;
-    QTest::newRow("middle, as right") << Qt::ElideMiddle << true;
-    QTest::newRow("none") << Qt::ElideNone << true;
-    QTest::newRow("left") << Qt::ElideLeft << false;
-}
-
-void tst_DComboBoxAvecDLabelElision::itemTropLong()
-{
-    QFETCH(Qt::TextElideMode, elision);
-    QFETCH(bool, debut);
-    DComboBoxAvecDLabelElision combo;
-    combo.addItem(kRiche + kTresLong);
-    QImage const image =
-        DessineItem(combo, 0, QStyle::State_Enabled | QStyle::State_Active, elision);
-    QCOMPARE(Encre::BornesDe(image, kVert).isValid(), debut);
-    QRect const encre = Encre::BornesEncre(image);
-    QVERIFY(encre.right() < kLigne.right());
-    QVERIFY(encre.right() > kLigne.right() - 2 * combo.fontMetrics().maxWidth());
-}
-
-void tst_DComboBoxAvecDLabelElision::itemAvecIcone()
-{
-    StyleTemoin style;
-    DComboBoxAvecDLabelElision combo;
-    combo.view()->setStyle(&style);
-    combo.addItem(Icone(), kRiche);
-    QImage const image = DessineItem(combo, 0, QStyle::State_Enabled | QStyle::State_Active);
-    QRect const icone = Encre::BornesDe(image, Qt::cyan);
-    QVERIFY(icone.isValid());
-    QVERIFY(Encre::BornesDe(image, kVert).left() > icone.right());
-}
-
-void tst_DComboBoxAvecDLabelElision::separateur()
-{
-    StyleTemoin style;
-    DComboBoxAvecDLabelElision combo;
-    combo.setStyle(&style);
-    combo.view()->setStyle(&style);
-    combo.addItem(u"un"_s);
-    combo.insertSeparator(1);
-    DessineItem(combo, 1, QStyle::State_None);
-    QCOMPARE(style.mesSeparateurs.size(), 1);
-    QVERIFY(style.mesItems.isEmpty());
-}
-
-void tst_DComboBoxAvecDLabelElision::hauteurDesItems()
-{
-    DComboBoxAvecDLabelElision combo;
-    combo.addItems({u"W et gras"_s, u"<b>W</b> et <i>gras</i>"_s});
-    combo.insertSeparator(2);
-    combo.addItem(u"fixe"_s);
-    combo.setItemData(3, QSize(70, 80), Qt::SizeHintRole);
-    QStyleOptionViewItem option;
-    option.initFrom(combo.view());
-    option.widget = combo.view();
-    option.font = combo.font();
-    auto const taille = [&](int ligne) {
-        return combo.itemDelegate()->sizeHint(option, combo.model()->index(ligne, 0));
-    };
-    QCOMPARE(taille(1), taille(0)); // the mark-up takes no room
-    QVERIFY(taille(0).height() >= combo.fontMetrics().height());
-    QVERIFY(taille(2).height() < taille(0).height());
-    QCOMPARE(taille(3), QSize(70, 80));
 }
 
 void tst_DComboBoxAvecDLabelElision::taillesSansLesTextes()
@@ -301,6 +103,22 @@ void tst_DComboBoxAvecDLabelElision::taillesSelonReglages()
     QVERIFY(combo.sizeHint().height() >= 60);
 }
 
+void tst_DComboBoxAvecDLabelElision::tailleSelonPremieresIcones()
+{
+    constexpr int kExaminay = 100;
+    DComboBoxAvecDLabelElision combo;
+    for (int i = 0; i <= kExaminay; ++i)
+        combo.addItem(QString::number(i));
+    int const sansIcone = combo.sizeHint().width();
+    // Deliberate: the items behind the first hundred are not looked at.
+    combo.setItemIcon(kExaminay, Icone());
+    QCOMPARE(combo.sizeHint().width(), sansIcone);
+    combo.setItemIcon(kExaminay - 1, Icone());
+    QVERIFY(combo.sizeHint().width() > sansIcone);
+    combo.setItemIcon(kExaminay - 1, QIcon());
+    QCOMPARE(combo.sizeHint().width(), sansIcone);
+}
+
 void tst_DComboBoxAvecDLabelElision::comboFermay()
 {
     StyleTemoin style;
@@ -330,6 +148,22 @@ void tst_DComboBoxAvecDLabelElision::texteCourantRiche()
 
     combo.setCurrentIndex(1);
     QVERIFY(!Encre::BornesDe(combo.grab().toImage(), kVert).isValid());
+}
+
+void tst_DComboBoxAvecDLabelElision::policeDeFeuille()
+{
+    DComboBoxAvecDLabelElision combo;
+    combo.addItem(kRiche);
+    combo.resize(400, 100);
+    auto const hauteur = [&combo] {
+        return Encre::BornesDe(combo.grab().toImage(), kVert).height();
+    };
+    int const ordinaire = hauteur();
+    QVERIFY(ordinaire > 0);
+    combo.setStyleSheet(u"QComboBox { font-size: 60px }"_s);
+    QVERIFY(hauteur() > ordinaire + 20);
+    combo.setStyleSheet({});
+    QCOMPARE(hauteur(), ordinaire);
 }
 
 void tst_DComboBoxAvecDLabelElision::texteCourantTropLong_data()
@@ -421,6 +255,45 @@ void tst_DComboBoxAvecDLabelElision::labelsInvisibles()
         QVERIFY(!enfant->isVisible());
     QTest::mouseClick(&combo, Qt::LeftButton, {}, QPoint(5, 5));
     QTRY_VERIFY(combo.view()->isVisible());
+    combo.hidePopup();
+}
+
+void tst_DComboBoxAvecDLabelElision::unSeulDeleguay()
+{
+    DComboBoxAvecDLabelElision const combo;
+    auto const deleguays = combo.findChildren<QAbstractItemDelegate *>();
+    QCOMPARE(std::count_if(deleguays.begin(), deleguays.end(),
+                           [](auto const * d) { return d->inherits("DComboBoxDeleguay"); }),
+             1);
+}
+
+void tst_DComboBoxAvecDLabelElision::secondDeleguay()
+{
+    DComboBoxAvecDLabelElision combo;
+    combo.addItem(kRiche);
+    combo.resize(combo.sizeHint());
+    QPointer<QAbstractItemDelegate> const premier = combo.itemDelegate();
+    QCOMPARE(combo.findChildren<DLabelElision *>().size(), 2);
+
+    combo.setItemDelegate(new QStyledItemDelegate(&combo));
+    QVERIFY(premier); // another view may use it
+    delete premier;
+    QCOMPARE(combo.findChildren<DLabelElision *>().size(), 1);
+    QVERIFY(Encre::BornesDe(combo.grab().toImage(), kVert).isValid());
+    combo.show();
+    combo.showPopup();
+    QTRY_VERIFY(combo.view()->isVisible());
+    combo.hidePopup();
+}
+
+void tst_DComboBoxAvecDLabelElision::secondeVue()
+{
+    DComboBoxAvecDLabelElision combo;
+    combo.addItem(kRiche);
+    combo.setView(new QListView);
+    combo.show();
+    combo.showPopup();
+    QTRY_VERIFY(Encre::BornesDe(combo.view()->grab().toImage(), kVert).isValid());
     combo.hidePopup();
 }
 

@@ -1,21 +1,17 @@
 // tests/controls/tst_DLabelElision.cpp
 #include "controls/DLabelElision.h"
 
-#include "foundation/TailleTexte.h"
+#include "controls/EssaisElision.h"
 
 #include <QtTest>
 
+using namespace EssaisElision;
 using namespace Qt::StringLiterals;
 
 namespace {
 
 QString const kLong = u"un chemin/vers un dossier/assez loin/du depart.txt"_s;
 QString const kMot = u"anticonstitutionnellement"_s;
-
-int LargeurEllipse(QWidget const & widget)
-{
-    return RoutinesGeneralesQt::DonneTailleTexteBrut(u"…"_s, widget.font()).width();
-}
 
 } // namespace
 
@@ -26,9 +22,6 @@ class tst_DLabelElision : public QObject
 private Q_SLOTS:
     void cleanup();
     void initialement();
-    void texteEtBalises_data();
-    void texteEtBalises();
-    void memeTexteIgnore();
     void elisionSelonLargeur_data();
     void elisionSelonLargeur();
     void sansModeJamaisEliday();
@@ -37,17 +30,11 @@ private Q_SLOTS:
     void tailleDonneeTientJusquAuRedimensionnement();
     void largeursExtremes_data();
     void largeursExtremes();
-    void texteAvecElision();
-    void texteAvecElisionDeLaSource();
-    void texteAvecElisionGardeLesPaires();
     void alignement();
     void police();
     void policeDuParent();
     void palette();
     void taillesConseillees();
-    void lectureEcran();
-    void separateurDeLignes();
-    void tresLongTexte();
 };
 
 void tst_DLabelElision::cleanup()
@@ -73,41 +60,6 @@ void tst_DLabelElision::initialement()
     QCOMPARE(int(DLabelElision::kSansElision), 0);
     QCOMPARE(int(DLabelElision::kElisionFin), 1);
     QCOMPARE(int(DLabelElision::kElisionDebut), 2);
-}
-
-void tst_DLabelElision::texteEtBalises_data()
-{
-    QTest::addColumn<QString>("source");
-    QTest::addColumn<QString>("texte");
-    QTest::newRow("empty") << QString() << QString();
-    QTest::newRow("plain") << u"un texte"_s << u"un texte"_s;
-    QTest::newRow("a lone bracket is plain") << u"a < b"_s << u"a < b"_s;
-    QTest::newRow("an entity without a tag is plain") << u"a &amp; b"_s << u"a &amp; b"_s;
-    QTest::newRow("bold") << u"un <b>mot</b> gras"_s << u"un mot gras"_s;
-    QTest::newRow("an entity beside a tag") << u"<i>a</i> &amp; b"_s << u"a & b"_s;
-    QTest::newRow("the first paragraph alone") << u"<p>un</p><p>deux</p>"_s << u"un"_s;
-    QTest::newRow("an open tag") << u"<b>un"_s << u"un"_s;
-}
-
-void tst_DLabelElision::texteEtBalises()
-{
-    QFETCH(QString, source);
-    QFETCH(QString, texte);
-    DLabelElision label(source, nullptr);
-    QCOMPARE(label.DonneTexte(), texte);
-}
-
-void tst_DLabelElision::memeTexteIgnore()
-{
-    DLabelElision label(kLong, nullptr);
-    label.AjusteElision(QSize(40, 20));
-    QVERIFY(label.EstEliday());
-
-    label.PrendsTexte(kLong, false); // would lay it out anew, at the size of the widget
-    QVERIFY(label.EstEliday());
-
-    label.PrendsTexte(kLong, true);
-    QVERIFY(!label.EstEliday());
 }
 
 void tst_DLabelElision::elisionSelonLargeur_data()
@@ -236,50 +188,6 @@ void tst_DLabelElision::largeursExtremes()
     }
 }
 
-void tst_DLabelElision::texteAvecElision()
-{
-    DLabelElision label(kLong, nullptr);
-    QFontMetrics const mesures(label.font());
-    label.AjusteElision(QSize(label.sizeHint().width(), 20));
-    QCOMPARE(label.DonneTexteAvecElision(10), kLong); // it fits
-
-    label.AjusteElision(QSize(40, 20));
-    int const ellipse = LargeurEllipse(label);
-    QCOMPARE(label.DonneTexteAvecElision(0), u"..."_s);
-    QCOMPARE(label.DonneTexteAvecElision(ellipse), u"..."_s);
-    int largeur = ellipse;
-    for (int i = 0; i < 8; ++i) {
-        largeur += mesures.horizontalAdvance(kLong.at(i));
-        QCOMPARE(label.DonneTexteAvecElision(largeur), kLong.first(i + 1) + u"..."_s);
-        QCOMPARE(label.DonneTexteAvecElision(largeur - 1), kLong.first(i) + u"..."_s);
-    }
-}
-
-void tst_DLabelElision::texteAvecElisionDeLaSource()
-{
-    // Deliberate: the mark-up is part of the text that is cut.
-    DLabelElision label(u"<b>abcdefghij</b>"_s, nullptr);
-    label.AjusteElision(QSize(LargeurEllipse(label), 20));
-    QFontMetrics const mesures(label.font());
-    int largeur = LargeurEllipse(label);
-    for (QChar const c : u"<b>ab"_s)
-        largeur += mesures.horizontalAdvance(c);
-
-    QCOMPARE(label.DonneTexteAvecElision(largeur), u"<b>ab..."_s);
-}
-
-void tst_DLabelElision::texteAvecElisionGardeLesPaires()
-{
-    DLabelElision label(u"😀😀😀😀"_s, nullptr);
-    label.AjusteElision(QSize(LargeurEllipse(label), 20));
-    QVERIFY(label.EstEliday());
-    for (int largeur = 0; largeur < label.sizeHint().width(); ++largeur) {
-        QString const texte = label.DonneTexteAvecElision(largeur);
-        QVERIFY2(texte.isValidUtf16(), qPrintable(texte));
-        QVERIFY(texte.endsWith(u"..."_s));
-    }
-}
-
 void tst_DLabelElision::alignement()
 {
     DLabelElision label;
@@ -358,47 +266,6 @@ void tst_DLabelElision::taillesConseillees()
     QVERIFY(label.sizeHint().width() < label.fontMetrics().horizontalAdvance(kLong));
     label.PrendsTexte(QString(), false);
     QCOMPARE(label.sizeHint(), QSize(0, label.fontMetrics().height()));
-}
-
-void tst_DLabelElision::lectureEcran()
-{
-    DLabelElision label(u"un <b>mot</b>"_s, nullptr);
-    QCOMPARE(label.accessibleName(), u"un mot"_s);
-    label.PrendsTexte(u"deux"_s, false);
-    QCOMPARE(label.accessibleName(), u"deux"_s);
-
-    label.setAccessibleName(u"nom"_s);
-    label.PrendsTexte(u"trois"_s, false);
-    QCOMPARE(label.accessibleName(), u"nom"_s);
-}
-
-void tst_DLabelElision::separateurDeLignes()
-{
-    DLabelElision label(u"abcdef<br>ghijkl"_s, nullptr);
-    QCOMPARE(label.DonneTexte(), u"abcdef\u2028ghijkl"_s);
-    int const premiere = label.sizeHint().width();
-    for (auto const mode : {DLabelElision::kElisionFin, DLabelElision::kElisionDebut}) {
-        label.PrendsModeElision(mode);
-        label.AjusteElision(QSize(premiere, 20));
-        QVERIFY(!label.EstEliday());
-        QCOMPARE(label.DonneLongueurLigne(), premiere);
-        label.AjusteElision(QSize(premiere - 1, 20));
-        QVERIFY(label.EstEliday());
-        QVERIFY(label.DonneLongueurLigne() > LargeurEllipse(label));
-        QVERIFY(label.DonneLongueurLigne() <= premiere);
-    }
-}
-
-void tst_DLabelElision::tresLongTexte()
-{
-    // Wider than the layouts of Qt can count: only the end of the work is asked for.
-    DLabelElision label(QString(1'500'000, u'W'), nullptr);
-    for (auto const mode : {DLabelElision::kElisionFin, DLabelElision::kElisionDebut}) {
-        label.PrendsModeElision(mode);
-        label.AjusteElision(QSize(200, 20));
-        QVERIFY(label.EstEliday());
-        QVERIFY(label.DonneLongueurLigne() <= 201);
-    }
 }
 
 QTEST_MAIN(tst_DLabelElision)

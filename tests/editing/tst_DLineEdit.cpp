@@ -1,40 +1,17 @@
 // tests/editing/tst_DLineEdit.cpp
 #include "editing/DLineEdit.h"
+
+#include "editing/EssaisLineEdit.h"
 #include "foundation/ThemesQt.h"
 
 #include <QtTest>
 
-#include <QHoverEvent>
 #include <QVBoxLayout>
 
-#include <memory>
-
+using namespace EssaisLineEdit;
 using namespace Qt::StringLiterals;
 
 namespace {
-
-const QColor kRouge(238, 0, 0);
-
-void Envoie(QWidget & champ, QEvent::Type type)
-{
-    switch (type) {
-    case QEvent::HoverEnter:
-    case QEvent::HoverLeave: {
-        QHoverEvent evenement(type, QPointF(1, 1), QPointF(1, 1), QPointF());
-        QApplication::sendEvent(&champ, &evenement);
-        break;
-    }
-    default: {
-        QFocusEvent evenement(type, Qt::OtherFocusReason);
-        QApplication::sendEvent(&champ, &evenement);
-    }
-    }
-}
-
-bool EstRouge(QWidget const & champ)
-{
-    return champ.palette().color(QPalette::Text) == kRouge;
-}
 
 // Counts what reaches the field.
 class ChampCompteur : public DLineEdit
@@ -66,10 +43,8 @@ class tst_DLineEdit : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void init();
     void cleanup();
     void normalAuDepart();
-    void erreurSeuleChangeLeTexte();
     void erreurSansChangement();
     void proprieteErreur();
     void evenements_data();
@@ -79,28 +54,12 @@ private Q_SLOTS:
     void rienNEstConsommay();
     void vraiFocus();
     void vraiSurvol();
-    void miseAJourSansEtat();
     void miseAJourRepetee();
     void changementDansUnChangement();
-    void couleurDuTheme();
-    void paletteDeLApplication_data();
-    void paletteDeLApplication();
-    void paletteDuParent();
-    void paletteDeLaClasse();
-    void paletteDuChampRemplacee();
-
-private:
-    QPalette maPalette;
 };
-
-void tst_DLineEdit::init()
-{
-    maPalette = QApplication::palette();
-}
 
 void tst_DLineEdit::cleanup()
 {
-    QApplication::setPalette(maPalette);
     ThemesQt::DetruisToi();
     QVERIFY(QApplication::topLevelWidgets().isEmpty());
 }
@@ -111,17 +70,6 @@ void tst_DLineEdit::normalAuDepart()
     QCOMPARE(champ.palette(), QApplication::palette(&champ));
     QVERIFY(!champ.property("erreur").isValid());
     champ.MetsAJourPalette();
-    QCOMPARE(champ.palette(), QApplication::palette(&champ));
-}
-
-void tst_DLineEdit::erreurSeuleChangeLeTexte()
-{
-    DLineEdit champ(nullptr);
-    champ.MetsErreur(true);
-    QPalette attendue = QApplication::palette(&champ);
-    attendue.setColor(QPalette::Text, kRouge);
-    QCOMPARE(champ.palette(), attendue);
-    champ.MetsErreur(false);
     QCOMPARE(champ.palette(), QApplication::palette(&champ));
 }
 
@@ -190,6 +138,10 @@ void tst_DLineEdit::evenementsHorsErreur()
     // Deliberate: an error that comes while the mouse is there already is seen at once.
     Envoie(champ, QEvent::HoverEnter);
     champ.MetsErreur(true);
+    QVERIFY(EstRouge(champ));
+    // The mouse still does not count when the focus goes.
+    Envoie(champ, QEvent::FocusIn);
+    Envoie(champ, QEvent::FocusOut);
     QVERIFY(EstRouge(champ));
     // The mouse goes when there is no error any more: the next one is seen again.
     Envoie(champ, QEvent::HoverEnter);
@@ -279,19 +231,6 @@ void tst_DLineEdit::vraiSurvol()
     QTRY_VERIFY(EstRouge(*champ));
 }
 
-void tst_DLineEdit::miseAJourSansEtat()
-{
-    DLineEdit champ(nullptr);
-    champ.MetsErreur(true);
-    champ.setPalette(QPalette(Qt::green));
-    champ.MetsAJourPalette();
-    QVERIFY(EstRouge(champ));
-    Envoie(champ, QEvent::HoverEnter);
-    champ.setPalette(QPalette(Qt::green));
-    champ.MetsAJourPalette();
-    QCOMPARE(champ.palette(), QApplication::palette(&champ));
-}
-
 void tst_DLineEdit::miseAJourRepetee()
 {
     ChampCompteur champ(nullptr);
@@ -331,98 +270,6 @@ void tst_DLineEdit::changementDansUnChangement()
     champ.MetsErreur(false);
     QVERIFY(!EstRouge(champ));
     QCOMPARE(champ.profondeurMax, 1);
-}
-
-void tst_DLineEdit::couleurDuTheme()
-{
-    ThemesQt::Instance()->AjouterVariable(u"couleurErreurLineEdit"_s, u"rgba(1,2,3,255)"_s);
-    DLineEdit champ(nullptr);
-    champ.MetsErreur(true);
-    QCOMPARE(champ.palette().color(QPalette::Text), QColor(1, 2, 3));
-    // The colour is read when the field is made.
-    ThemesQt::Instance()->AjouterVariable(u"couleurErreurLineEdit"_s, u"rgba(4,5,6,255)"_s);
-    champ.MetsErreur(false);
-    champ.MetsErreur(true);
-    QCOMPARE(champ.palette().color(QPalette::Text), QColor(1, 2, 3));
-}
-
-void tst_DLineEdit::paletteDeLApplication_data()
-{
-    QTest::addColumn<bool>("fenetre");
-    QTest::addColumn<bool>("erreur");
-    QTest::newRow("a window, normal") << true << false;
-    QTest::newRow("a window, in error") << true << true;
-    QTest::newRow("a child, normal") << false << false;
-    QTest::newRow("a child, in error") << false << true;
-}
-
-// From a dark palette, given role by role as applications do, to a light one.
-void tst_DLineEdit::paletteDeLApplication()
-{
-    QFETCH(bool, fenetre);
-    QFETCH(bool, erreur);
-    QPalette sombre(Qt::black);
-    for (auto const role : {QPalette::Window, QPalette::Base, QPalette::Button})
-        sombre.setColor(role, QColor(30, 30, 30));
-    for (auto const role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
-        sombre.setColor(role, Qt::white);
-    QApplication::setPalette(sombre);
-
-    QWidget parent;
-    std::unique_ptr<DLineEdit> const champ(new DLineEdit(fenetre ? nullptr : &parent));
-    champ->MetsErreur(erreur);
-    champ->MetsAJourPalette();
-    QCOMPARE(champ->palette().color(QPalette::Base), QColor(30, 30, 30));
-
-    QPalette clair(Qt::lightGray);
-    clair.setColor(QPalette::Base, Qt::white);
-    clair.setColor(QPalette::Text, Qt::black);
-    QApplication::setPalette(clair);
-    // Windows that have never been shown hear of it by a posted event.
-    QTRY_COMPARE(champ->palette().color(QPalette::Base), QColor(Qt::white));
-    QCOMPARE(champ->palette().color(QPalette::Text), erreur ? kRouge : QColor(Qt::black));
-    champ->MetsErreur(!erreur);
-    QCOMPARE(champ->palette().color(QPalette::Text), erreur ? QColor(Qt::black) : kRouge);
-    QCOMPARE(champ->palette().color(QPalette::Base), QColor(Qt::white));
-}
-
-void tst_DLineEdit::paletteDuParent()
-{
-    QWidget parent;
-    QPalette palette;
-    palette.setColor(QPalette::Base, Qt::darkBlue);
-    palette.setColor(QPalette::Text, Qt::yellow);
-    parent.setPalette(palette);
-    auto * champ = new DLineEdit(&parent);
-    champ->MetsErreur(true);
-    QVERIFY(EstRouge(*champ));
-    QCOMPARE(champ->palette().color(QPalette::Base), QColor(Qt::darkBlue));
-    champ->MetsErreur(false);
-    QCOMPARE(champ->palette().color(QPalette::Text), QColor(Qt::yellow));
-}
-
-void tst_DLineEdit::paletteDeLaClasse()
-{
-    QPalette palette;
-    palette.setColor(QPalette::Text, Qt::darkGreen);
-    QApplication::setPalette(palette, "DLineEdit");
-    DLineEdit champ(nullptr);
-    champ.MetsErreur(true);
-    QVERIFY(EstRouge(champ));
-    champ.MetsErreur(false);
-    QCOMPARE(champ.palette().color(QPalette::Text), QColor(Qt::darkGreen));
-}
-
-void tst_DLineEdit::paletteDuChampRemplacee()
-{
-    DLineEdit champ(nullptr);
-    QPalette palette;
-    palette.setColor(QPalette::Text, Qt::blue);
-    champ.setPalette(palette);
-    QCOMPARE(champ.palette().color(QPalette::Text), QColor(Qt::blue));
-    // Deliberate: the field's own palette belongs to its state.
-    champ.MetsAJourPalette();
-    QCOMPARE(champ.palette(), QApplication::palette(&champ));
 }
 
 QTEST_MAIN(tst_DLineEdit)

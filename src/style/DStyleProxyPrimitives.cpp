@@ -24,6 +24,7 @@ namespace {
 
 // Logical pixels.
 constexpr int kCoteIndicateur = 10;
+constexpr int kMargeIndicateur = 1; // on either side
 constexpr double kRayonBoutonOutil = 3.0;
 
 QColor DonneCouleurBoutonOutil(QStyle::State etat)
@@ -134,7 +135,7 @@ void DStyleProxy::DessinePanneauBoutonOutil(QStyleOption const & option, QPainte
 
 void DStyleProxy::DessineIndicateur(QPainter & peintre, QStyleOption const & option) const
 {
-    int const cote = std::min(kCoteIndicateur, option.rect.width());
+    int const cote = std::min(kCoteIndicateur, option.rect.width() - 2 * kMargeIndicateur);
     // The application's picture, which it may supply late. Deliberate: no slash behind the colon.
     QString const fichier = u":Images/chevron-DToolButton.svg"_s;
     if (monChevron.isNull() && QFile::exists(fichier)) // an icon without a file warns

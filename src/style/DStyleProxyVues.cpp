@@ -93,10 +93,8 @@ void DStyleProxy::DessineItemVue(QStyleOptionViewItem const & option, QPainter *
     } else if (suitRegles) {
         copie.text = u" "_s; // as good as none, but the check indicator stays at its place
     }
-    {
-        QScopedValueRollback const fond(monFondItemPeint, fondPeint);
-        QProxyStyle::drawControl(CE_ItemViewItem, &copie, peintre, widget);
-    }
+    QScopedValueRollback const fond(monFondItemPeint, fondPeint);
+    QProxyStyle::drawControl(CE_ItemViewItem, &copie, peintre, widget);
     bool const sansDelegue = estListeDeCombo && estRiche &&
                              !LisPropriete(decideur, ProprietesStyle::kEnsembleRegles).isNull();
     if (suitRegles || sansDelegue)

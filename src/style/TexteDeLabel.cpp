@@ -7,7 +7,11 @@ using namespace Qt::StringLiterals;
 
 bool OuvreUneBalise(QStringView reste)
 {
-    return reste.size() > 1 && (reste[1].isLetter() || reste[1] == u'/' || reste[1] == u'!');
+    if (reste.size() < 2 || !(reste[1].isLetter() || reste[1] == u'/' || reste[1] == u'!'))
+        return false;
+    qsizetype const fin = reste.indexOf(u'>');
+    qsizetype const suivante = reste.indexOf(u'<', 1);
+    return fin > 0 && (suivante < 0 || fin < suivante);
 }
 
 // The length of the entity that `reste` begins with, else 0.

@@ -124,6 +124,19 @@ inline QRect Encre(QImage const & image)
     return encre;
 }
 
+/// Where pixels of that colour lie.
+inline QRect Etendue(QImage const & image, QColor const & couleur)
+{
+    QRect etendue;
+    for (int y = 0; y < image.height(); ++y) {
+        for (int x = 0; x < image.width(); ++x) {
+            if (image.pixelColor(x, y) == couleur)
+                etendue |= QRect(x, y, 1, 1);
+        }
+    }
+    return etendue;
+}
+
 /// How many opaque pixels the ink of the rectangle would make.
 inline double Couverture(QImage const & image, QRect const & rect, int alphaPlein = 255)
 {

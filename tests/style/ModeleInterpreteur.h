@@ -102,7 +102,10 @@ private:
 
     static bool Ferme(QString const & fermant, QString const & ouvrant)
     {
-        return fermant == ouvrant || ouvrant.startsWith(fermant + u' ');
+        if (fermant == ouvrant)
+            return true;
+        QString const blancs = QStringLiteral(" \t\n");
+        return ouvrant.startsWith(fermant) && blancs.contains(ouvrant.at(fermant.size()));
     }
 
     void Lance(QString const & nom, Balise ouvrante, Balise fermante)

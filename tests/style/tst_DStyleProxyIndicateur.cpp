@@ -24,6 +24,10 @@ private Q_SLOTS:
     void taille();
     void sansPlace();
     void etatInerte();
+    void etatEnfoncay();
+    void imageTardive();
+    void ratio_data();
+    void ratio();
 
 private:
     QList<AppelStyle> PeinsFleche(QRect const & rect, QWidget const * widget = nullptr,
@@ -123,7 +127,9 @@ void tst_DStyleProxyIndicateur::taille()
 
 void tst_DStyleProxyIndicateur::sansPlace()
 {
-    QVERIFY(PeinsFleche(QRect(0, 0, 2, 20)).isEmpty());
+    for (int const largeur : {-3, 0, 1, 2})
+        QVERIFY(PeinsFleche(QRect(0, 0, largeur, 20)).isEmpty());
+    QCOMPARE(PeinsFleche(QRect(0, 0, 3, 20)).size(), 1);
     QVERIFY(PeinsFleche(QRect()).isEmpty());
 }
 
@@ -137,6 +143,66 @@ void tst_DStyleProxyIndicateur::etatInerte()
     QCOMPARE(actifs.size(), 1);
     QCOMPARE(inertes.size(), 1);
     QVERIFY(actifs.first().image.toImage() != inertes.first().image.toImage());
+}
+
+// No other picture: the file has one for all states.
+void tst_DStyleProxyIndicateur::etatEnfoncay()
+{
+    QRect const rect(0, 0, 16, 24);
+
+    auto const leves = PeinsFleche(rect);
+    auto const enfonces = PeinsFleche(rect, nullptr, QStyle::State_Enabled | QStyle::State_On);
+
+    QCOMPARE(leves.size(), 1);
+    QCOMPARE(enfonces.size(), 1);
+    QCOMPARE(enfonces.first().image.toImage(), leves.first().image.toImage());
+}
+
+// An application may load its resources when there are buttons already.
+void tst_DStyleProxyIndicateur::imageTardive()
+{
+    QTest::failOnWarning(QRegularExpression(QStringLiteral(".*")));
+    QRect const rect(0, 0, 16, 24);
+    Q_CLEANUP_RESOURCE(ChevronBouton);
+    bool const vides = PeinsFleche(rect).isEmpty() && PeinsFleche(rect).isEmpty();
+    Q_INIT_RESOURCE(ChevronBouton);
+    QVERIFY(vides);
+
+    auto const appels = PeinsFleche(rect);
+
+    QCOMPARE(appels.size(), 1);
+    QCOMPARE(appels.first().image.toImage().pixelColor(0, 0), QColor(Qt::red));
+}
+
+void tst_DStyleProxyIndicateur::ratio_data()
+{
+    QTest::addColumn<double>("ratio");
+    QTest::addColumn<int>("pixels"); // of the side of the picture
+    QTest::newRow("1") << 1.0 << 10;
+    QTest::newRow("1.25") << 1.25 << 13;
+    QTest::newRow("2") << 2.0 << 20;
+}
+
+// As sharp as what it is drawn on, and as big to the eye.
+void tst_DStyleProxyIndicateur::ratio()
+{
+    QFETCH(double, ratio);
+    QFETCH(int, pixels);
+    QStyleOption option;
+    option.rect = QRect(0, 0, 16, 24);
+    option.state = QStyle::State_Enabled;
+    Peins(
+        kTaille,
+        [&](QPainter & peintre) {
+            monBanc->style.drawPrimitive(QStyle::PE_IndicatorArrowDown, &option, &peintre);
+        },
+        ratio);
+
+    QCOMPARE(monBanc->espion->appels.size(), 1);
+    QPixmap const image = monBanc->espion->appels.first().image;
+    QCOMPARE(image.size(), QSize(pixels, pixels));
+    QVERIFY(qAbs(image.deviceIndependentSize().width() - 10.0) < 0.5);
+    QCOMPARE(image.toImage().pixelColor(0, 0), QColor(Qt::red));
 }
 
 QTEST_MAIN(tst_DStyleProxyIndicateur)

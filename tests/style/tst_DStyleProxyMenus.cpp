@@ -11,6 +11,12 @@ namespace {
 
 constexpr QRect kRect(0, 0, 200, 60);
 
+// Of menus and menu bars, but the item of a menu.
+constexpr QStyle::ControlElement kAutresElements[] = {
+    QStyle::CE_MenuBarItem,     QStyle::CE_MenuTearoff, QStyle::CE_MenuScroller,
+    QStyle::CE_MenuHMargin,     QStyle::CE_MenuVMargin, QStyle::CE_MenuEmptyArea,
+    QStyle::CE_MenuBarEmptyArea};
+
 QStyleOptionMenuItem DonneOption(QStyle::State etat = QStyle::State_Enabled)
 {
     QStyleOptionMenuItem option;
@@ -30,19 +36,6 @@ EnsembleRegles DonneRegles(QString const & couleur)
     return {{UniChaine("r"),
              InterpreteurChaineSemantiqueT<UniChaine>::CreeFonctionRemplacerBalisesAvecTexte(
                  ouvrant, u"</span>"_s)}};
-}
-
-// Where pixels of that colour lie.
-QRect Etendue(QImage const & image, QColor const & couleur)
-{
-    QRect etendue;
-    for (int y = 0; y < image.height(); ++y) {
-        for (int x = 0; x < image.width(); ++x) {
-            if (image.pixelColor(x, y) == couleur)
-                etendue |= QRect(x, y, 1, 1);
-        }
-    }
-    return etendue;
 }
 
 } // namespace
@@ -69,6 +62,7 @@ private Q_SLOTS:
     void richeSansRegle();
     void richeGriseMonochrome();
     void autresElementsDeMenu();
+    void autresElementsRiches();
     void optionDuMauvaisType();
 
 private:
@@ -297,14 +291,29 @@ void tst_DStyleProxyMenus::richeGriseMonochrome()
 
 void tst_DStyleProxyMenus::autresElementsDeMenu()
 {
-    for (auto const element :
-         {QStyle::CE_MenuBarItem, QStyle::CE_MenuTearoff, QStyle::CE_MenuScroller,
-          QStyle::CE_MenuHMargin, QStyle::CE_MenuVMargin, QStyle::CE_MenuEmptyArea,
-          QStyle::CE_MenuBarEmptyArea}) {
+    for (auto const element : kAutresElements) {
         QVERIFY(EstVide(PeinsItem(DonneOption(), element)));
         AppelStyle const appel = PrendsAppel();
         QCOMPARE(appel.element, int(element));
         QCOMPARE(appel.texte, DonneOption().text);
+    }
+}
+
+// The option alone tells an item: what else a menu draws has one without a text.
+void tst_DStyleProxyMenus::autresElementsRiches()
+{
+    monMenu->setProperty(DStyleProxy::DonneNomProprietePossedeRegleTexteRiche(), true);
+    QStyleOptionMenuItem sansTexte = DonneOption();
+    sansTexte.text.clear();
+    for (auto const element : kAutresElements) {
+        QImage const image = PeinsItem(DonneOption(), element);
+        AppelStyle const appel = PrendsAppel();
+        QCOMPARE(appel.element, int(element));
+        QCOMPARE(appel.texte, u"\tCtrl+X"_s);
+        QCOMPARE(Etendue(image, Qt::red).left(), 32);
+
+        QVERIFY(EstVide(PeinsItem(sansTexte, element)));
+        QCOMPARE(PrendsAppel().element, int(element));
     }
 }
 

@@ -2,7 +2,6 @@
 #include "style/DStyleProxy.h"
 
 #include "foundation/Polices.h"
-#include "style/CaptureErreurs.h"
 #include "style/EssaisTexteRiche.h"
 #include "style/StyleDeMesures.h"
 
@@ -10,8 +9,6 @@
 
 #include <QListView>
 #include <QTableView>
-
-#include <cmath>
 
 using namespace Qt::StringLiterals;
 using RoutinesGeneralesQt::ModulateurFont;
@@ -29,24 +26,6 @@ std::unique_ptr<QWidget> WidgetAvec(std::initializer_list<char const *> propriet
     return widget;
 }
 
-int LargeurRiche(QString const & html, QFont const & font)
-{
-    QLabel label;
-    label.setTextFormat(Qt::RichText);
-    label.setFont(font);
-    label.setText(html);
-    label.adjustSize();
-    return label.width();
-}
-
-QStyleOptionMenuItem ItemMenu(QString const & texte, int pixels = 16)
-{
-    QStyleOptionMenuItem option;
-    option.text = texte;
-    option.font.setPixelSize(pixels);
-    return option;
-}
-
 } // namespace
 
 class tst_DStyleProxyMesures : public QObject
@@ -62,18 +41,6 @@ private Q_SLOTS:
     void decalagesDuBouton();
     void autresMesures();
     void demandesTransmises();
-    void itemMenuRiche_data();
-    void itemMenuRiche();
-    void itemMenuSimple_data();
-    void itemMenuSimple();
-    void itemMenuSansRaccourci();
-    void itemMenuDansSaFont();
-    void itemMenuSelonLeContexte();
-    void itemMenuDesequilibre();
-    void itemMenuSansLaPropriete();
-    void hauteurPlafonnee_data();
-    void hauteurPlafonnee();
-    void itemBarreDeMenus();
     void itemDeVue_data();
     void itemDeVue();
     void autresTailles();
@@ -91,12 +58,6 @@ private Q_SLOTS:
     void optionNulle();
 
 private:
-    int LargeurItem(QStyleOptionMenuItem const & option, QWidget const & widget) const
-    {
-        return monStyle->sizeFromContents(QStyle::CT_MenuItem, &option, QSize(300, 20), &widget)
-            .width();
-    }
-
     StyleDeMesures * maBase = nullptr;
     std::unique_ptr<DStyleProxy> monStyle;
 };
@@ -236,152 +197,6 @@ void tst_DStyleProxyMesures::demandesTransmises()
     monStyle->subElementRect(QStyle::SE_ItemViewItemText, &element, widget.get());
     QCOMPARE(maBase->derniereOption, &element);
     QCOMPARE(maBase->dernierWidget, widget.get());
-}
-
-void tst_DStyleProxyMesures::itemMenuRiche_data()
-{
-    QTest::addColumn<QString>("texte");
-    QTest::addColumn<QString>("html"); // what the rules make of it
-    QTest::newRow("one element") << u"<q>x</q>"_s << u"[x]"_s;
-    QTest::newRow("text around") << u"Un <q>deux</q> trois"_s << u"Un [deux] trois"_s;
-    QTest::newRow("letters for Qt to make bold") << u"<q>x</q><b>yyyy</b>"_s << u"[x]<b>yyyy</b>"_s;
-    QTest::newRow("entities") << u"<q>x</q>&quot;&quot;"_s << u"[x]\"\""_s;
-    QTest::newRow("up to the tab") << u"<q>x</q>\tCtrl+Alt+F12"_s << u"[x]"_s;
-}
-
-void tst_DStyleProxyMesures::itemMenuRiche()
-{
-    QFETCH(QString, texte);
-    QFETCH(QString, html);
-    maBase->marges[QStyle::CT_MenuItem] = QSize(57, 9); // the room of its other columns
-    auto const widget = WidgetAvec({DStyleProxy::DonneNomProprietePossedeRegleTexteRiche()});
-    MetsRegle(*widget, "q");
-    QStyleOptionMenuItem const option = ItemMenu(texte);
-    QSize const taille =
-        monStyle->sizeFromContents(QStyle::CT_MenuItem, &option, QSize(300, 20), widget.get());
-    QCOMPARE(taille, QSize(LargeurRiche(html, option.font) + 57, 29));
-}
-
-void tst_DStyleProxyMesures::itemMenuSimple_data()
-{
-    QTest::addColumn<QString>("texte");
-    QTest::newRow("text") << u"Ouvrir un document"_s;
-    QTest::newRow("one letter") << u"i"_s;
-    QTest::newRow("lone bracket") << u"a < b"_s;
-    QTest::newRow("text with a shortcut") << u"Ouvrir\tCtrl+O"_s;
-}
-
-void tst_DStyleProxyMesures::itemMenuSimple()
-{
-    QFETCH(QString, texte);
-    maBase->marges[QStyle::CT_MenuItem] = QSize(57, 9);
-    auto const widget = WidgetAvec({DStyleProxy::DonneNomProprietePossedeRegleTexteRiche()});
-    MetsRegle(*widget, "q");
-    QStyleOptionMenuItem const option = ItemMenu(texte);
-    double const largeur = QFontMetricsF(option.font).horizontalAdvance(texte.section(u'\t', 0, 0));
-    QCOMPARE_LE(std::abs(LargeurItem(option, *widget) - 57 - largeur), 1.0); // what rounding adds
-}
-
-void tst_DStyleProxyMesures::itemMenuSansRaccourci()
-{
-    auto const widget = WidgetAvec({DStyleProxy::DonneNomProprietePossedeRegleTexteRiche()});
-    MetsRegle(*widget, "q");
-    maBase->marges[QStyle::CT_MenuItem] = QSize(0, 0);
-    for (QString const & texte : {u"Ouvrir"_s, u"<q>Ouvrir</q>"_s, QString()})
-        QCOMPARE(LargeurItem(ItemMenu(texte + u"\tCtrl+Alt+F12\tF1"_s), *widget),
-                 LargeurItem(ItemMenu(texte), *widget));
-}
-
-void tst_DStyleProxyMesures::itemMenuDansSaFont()
-{
-    auto const widget = WidgetAvec({DStyleProxy::DonneNomProprietePossedeRegleTexteRiche()});
-    MetsRegle(*widget, "q");
-    for (QString const & texte : {u"Ouvrir"_s, u"<q>Ouvrir</q>"_s}) {
-        int const petite = LargeurItem(ItemMenu(texte, 10), *widget);
-        QCOMPARE_GT(LargeurItem(ItemMenu(texte, 40), *widget), petite);
-        QCOMPARE(LargeurItem(ItemMenu(texte, 10), *widget), petite); // nothing of it stays
-    }
-}
-
-void tst_DStyleProxyMesures::itemMenuSelonLeContexte()
-{
-    maBase->marges[QStyle::CT_MenuItem] = QSize(0, 0);
-    auto const widget = WidgetAvec({DStyleProxy::DonneNomProprietePossedeRegleTexteRiche()});
-    MetsRegle(*widget, "q", kContexteMenuSelectionnay);
-    QStyleOptionMenuItem option = ItemMenu(u"<q>x</q>"_s);
-    int const brute = LargeurItem(option, *widget); // with its tags, which no rule takes out
-    option.state |= QStyle::State_Selected;
-    QCOMPARE(LargeurItem(option, *widget), LargeurRiche(u"[x]"_s, option.font));
-    QCOMPARE_LT(LargeurItem(option, *widget), brute);
-}
-
-void tst_DStyleProxyMesures::itemMenuDesequilibre()
-{
-    auto const widget = WidgetAvec({DStyleProxy::DonneNomProprietePossedeRegleTexteRiche()});
-    MetsRegle(*widget, "q");
-    CaptureErreurs const erreurs;
-    QVERIFY_THROWS_EXCEPTION(InterpreteurChaineSemantiqueErreur,
-                             LargeurItem(ItemMenu(u"<q>x\tF1"_s), *widget));
-    QCOMPARE(erreurs.Texte(), u"<q>x\n"_s);
-}
-
-void tst_DStyleProxyMesures::itemMenuSansLaPropriete()
-{
-    maBase->marges[QStyle::CT_MenuItem] = QSize(57, 9);
-    QWidget widget;
-    MetsRegle(widget, "q");
-    QStyleOptionMenuItem const option = ItemMenu(u"<q>x</q>"_s);
-    QCOMPARE(LargeurItem(option, widget), 357);
-    QCOMPARE(monStyle->sizeFromContents(QStyle::CT_MenuItem, &option, QSize(300, 20), nullptr),
-             QSize(357, 29));
-}
-
-void tst_DStyleProxyMesures::hauteurPlafonnee_data()
-{
-    QTest::addColumn<int>("type");
-    QTest::addColumn<bool>("propriete");
-    QTest::addColumn<int>("maximum");
-    QTest::addColumn<int>("hauteur");
-    for (auto const type : {QStyle::CT_Menu, QStyle::CT_MenuItem}) {
-        auto const ligne = [type](char const * nom, bool propriete, int maximum, int hauteur) {
-            QTest::addRow("%s, %s", type == QStyle::CT_Menu ? "menu" : "menu item", nom)
-                << int(type) << propriete << maximum << hauteur;
-        };
-        ligne("higher", true, 208, 208);
-        ligne("one unit higher", true, 208 - 1, 207);
-        ligne("as high", true, 209, 209);
-        ligne("lower", true, 210, 209);
-        ligne("no maximum", true, QWIDGETSIZE_MAX, 209);
-        ligne("higher, without the property", false, 208, 209);
-    }
-}
-
-void tst_DStyleProxyMesures::hauteurPlafonnee()
-{
-    QFETCH(int, type);
-    QFETCH(bool, propriete);
-    QFETCH(int, maximum);
-    QFETCH(int, hauteur);
-    maBase->marges[type] = QSize(50, 9);
-    QWidget widget;
-    widget.setMaximumHeight(maximum);
-    widget.setMaximumWidth(40); // of which there is no word
-    widget.setProperty(DStyleProxy::DonneNomAttributPourStyleScrolling(), propriete);
-    QStyleOptionMenuItem const option;
-    QCOMPARE(
-        monStyle->sizeFromContents(QStyle::ContentsType(type), &option, QSize(300, 200), &widget),
-        QSize(350, hauteur));
-}
-
-void tst_DStyleProxyMesures::itemBarreDeMenus()
-{
-    maBase->marges[QStyle::CT_MenuBarItem] = QSize(4, 5);
-    QWidget const widget;
-    QStyleOptionMenuItem const option;
-    QSize const attendue(60 + 4 + 26, 20 + 5 + 13);
-    for (QWidget const * const de : {&widget, static_cast<QWidget const *>(nullptr)})
-        QCOMPARE(monStyle->sizeFromContents(QStyle::CT_MenuBarItem, &option, QSize(60, 20), de),
-                 attendue);
 }
 
 void tst_DStyleProxyMesures::itemDeVue_data()

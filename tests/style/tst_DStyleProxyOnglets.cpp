@@ -58,6 +58,8 @@ private Q_SLOTS:
     void ordinaireSansBarre();
     void separateurs_data();
     void separateurs();
+    void separateursSansOngletCourant();
+    void separateursAutourDunOngletCachay();
     void separateurHorsDesOnglets();
     void separateurPlace_data();
     void separateurPlace();
@@ -65,6 +67,7 @@ private Q_SLOTS:
     void optionDuMauvaisType();
 
 private:
+    QList<int> DonneSepares(QTabBar & barre) const;
     QImage PeinsOnglet(QStyleOption const & option, QWidget const * widget = nullptr) const;
 
     std::unique_ptr<BancStyle> monBanc;
@@ -79,6 +82,25 @@ void tst_DStyleProxyOnglets::cleanup()
 {
     monBanc.reset();
     QVERIFY(QApplication::topLevelWidgets().isEmpty());
+}
+
+// The tabs of the bar that have a separator, each drawn at its place.
+QList<int> tst_DStyleProxyOnglets::DonneSepares(QTabBar & barre) const
+{
+    Montre(barre);
+    QList<int> separes;
+    for (int i = 0; i < barre.count(); ++i) {
+        if (!barre.isTabVisible(i))
+            continue;
+        QStyleOptionTab option = DonneOption({});
+        option.rect = barre.tabRect(i);
+        QImage const image = Peins(barre.size(), [&](QPainter & peintre) {
+            monBanc->style.drawControl(QStyle::CE_TabBarTabShape, &option, &peintre, &barre);
+        });
+        if (!EstVide(image))
+            separes.append(i);
+    }
+    return separes;
 }
 
 QImage tst_DStyleProxyOnglets::PeinsOnglet(QStyleOption const & option,
@@ -200,21 +222,38 @@ void tst_DStyleProxyOnglets::separateurs()
     for (int i = 0; i < nombre; ++i)
         barre.addTab(QStringLiteral("Onglet"));
     barre.setCurrentIndex(courant);
-    Montre(barre);
 
-    QList<int> separes;
-    for (int i = 0; i < nombre; ++i) {
-        QStyleOptionTab option = DonneOption({});
-        option.rect = barre.tabRect(i);
-        QImage const image = Peins(barre.size(), [&](QPainter & peintre) {
-            monBanc->style.drawControl(QStyle::CE_TabBarTabShape, &option, &peintre, &barre);
-        });
-        if (!EstVide(image))
-            separes.append(i);
-    }
-
-    QCOMPARE(separes, avecSeparateur);
+    QCOMPARE(DonneSepares(barre), avecSeparateur);
     QVERIFY(monBanc->espion->appels.isEmpty());
+}
+
+// Nothing is next to a tab that there isn't.
+void tst_DStyleProxyOnglets::separateursSansOngletCourant()
+{
+    QTabBar barre;
+    for (int i = 0; i < 5; ++i)
+        barre.addTab(QStringLiteral("Onglet"));
+    Montre(barre); // which would choose one
+    for (int i = 1; i < 5; ++i)
+        barre.setTabVisible(i, false); // none of them can take its place
+    barre.removeTab(0);
+    for (int i = 0; i < 4; ++i)
+        barre.setTabVisible(i, true);
+
+    QCOMPARE(DonneSepares(barre), (QList{0, 1, 2}));
+    QCOMPARE(barre.currentIndex(), -1);
+}
+
+// It keeps its place in the count: only the tab before it and the one behind it are its neighbours.
+void tst_DStyleProxyOnglets::separateursAutourDunOngletCachay()
+{
+    QTabBar barre;
+    for (int i = 0; i < 6; ++i)
+        barre.addTab(QStringLiteral("Onglet"));
+    barre.setCurrentIndex(0);
+    barre.setTabVisible(3, false);
+
+    QCOMPARE(DonneSepares(barre), (QList{2, 4}));
 }
 
 void tst_DStyleProxyOnglets::separateurHorsDesOnglets()

@@ -226,21 +226,29 @@ void tst_DStyleProxyOrdre::peintreRendu_data()
 {
     QTest::addColumn<int>("conduite");
     QTest::addColumn<bool>("monochrome");
-    QTest::newRow("the base draws nothing") << int(StyleEspion::kMuet) << false;
-    QTest::newRow("the base draws nothing, pale") << int(StyleEspion::kMuet) << true;
-    QTest::newRow("the base leaves the painter in disorder") << int(StyleEspion::kDerange) << false;
-    QTest::newRow("the base leaves the painter in disorder, pale")
-        << int(StyleEspion::kDerange) << true;
+    QTest::addColumn<bool>("actif");
+    for (bool const derange : {false, true}) {
+        for (bool const monochrome : {false, true}) {
+            for (bool const actif : {false, true})
+                QTest::addRow("the base %s%s%s",
+                              derange ? "leaves the painter in disorder" : "draws nothing",
+                              monochrome ? ", pale" : "", actif ? ", enabled" : ", disabled")
+                    << int(derange ? StyleEspion::kDerange : StyleEspion::kMuet) << monochrome
+                    << actif;
+        }
+    }
 }
 
 void tst_DStyleProxyOrdre::peintreRendu()
 {
     QFETCH(int, conduite);
     QFETCH(bool, monochrome);
+    QFETCH(bool, actif);
     monBanc = std::make_unique<BancStyle>(StyleEspion::eConduite(conduite));
     monWidget->setProperty(DStyleProxy::DonneNomAttributPourStyleMonochrome(), monochrome);
     QStyleOptionButton option;
     option.rect = kRect;
+    option.state.setFlag(QStyle::State_Enabled, actif);
     QPen const plume(Qt::green, 3.0);
     Peins(kRect.size(), [&](QPainter & peintre) {
         peintre.setPen(plume);

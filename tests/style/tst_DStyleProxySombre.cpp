@@ -157,7 +157,11 @@ void tst_DStyleProxySombre::ongletSelectionnay()
 
     auto const appels = monBanc->espion->Donne(AppelStyle::kControle, QStyle::CE_TabBarTabLabel);
     QCOMPARE(appels.size(), 1);
-    QCOMPARE(appels.first().palette.buttonText().color(), texte);
+    QPalette const recue = appels.first().palette;
+    QCOMPARE(recue.buttonText().color(), texte);
+    bool const noire = texte == QColor(Qt::black);
+    for (auto const role : {QPalette::WindowText, QPalette::Text})
+        QCOMPARE(recue.color(role), noire ? QColor(Qt::black) : palette.color(role));
     QCOMPARE(option.palette, palette);
 }
 

@@ -229,6 +229,9 @@ void tst_DStyleProxyWidgetDessinay::widgetDetruit()
     QCOMPARE(OpaciteImage(), 1.0);
     QVERIFY(EstVide(PeinsTexte(u"<r>A</r>"_s)));
     QVERIFY(EstVide(PeinsTexte(u"<b>A</b>"_s))); // nor by the rules for no widget
+
+    Retiens(nullptr);
+    QVERIFY(!EstVide(PeinsTexte(u"<b>A</b>"_s))); // those are for no widget, not for one that went
 }
 
 void tst_DStyleProxyWidgetDessinay::imagePale_data()

@@ -96,6 +96,7 @@ private Q_SLOTS:
     void entitesEnDernier();
     void remplaceLesDeuxBalises();
     void remplaceSansFermante();
+    void fonctionVide();
     void reglesDeBase();
     void imbricationProfonde();
     void grandTexte_data();
@@ -208,6 +209,10 @@ void tst_InterpreteurChaineSemantiqueT::applique_data()
           u"<span style=\"color:red\">1</span>2"_s);
     ligne("attributes, full closing tag", u"<span class=\"x\">1</span class=\"x\"><i>2</i>"_s,
           u"<span style=\"color:red\">1</span>2"_s);
+    ligne("attributes behind a tab", u"<span\tclass=\"x\">1</span><i>2</i>"_s,
+          u"<span\tclass=\"x\">1</span>2"_s);
+    ligne("attributes behind a line feed", u"<span\nclass=\"x\">1</span><i>2</i>"_s,
+          u"<span\nclass=\"x\">1</span>2"_s);
     ligne("other attributes have no rule", u"<span class=\"y\">1</span><i>2</i>"_s,
           u"<span class=\"y\">1</span>2"_s);
     ligne("up to a closing tag at the top", u"<i>1</i></x><i>2</i>"_s, u"1</x><i>2</i>"_s);
@@ -437,6 +442,18 @@ void tst_InterpreteurChaineSemantiqueT::remplaceSansFermante()
     Balise fermante(6U, 0U);
     QCOMPARE(Remplace(u"<br>"_s, {})(&texte, ouvrante, fermante), 4);
     QCOMPARE(QString(texte), u"1<br>2"_s);
+}
+
+// A map makes one for every key that somebody only asks for.
+void tst_InterpreteurChaineSemantiqueT::fonctionVide()
+{
+    EnsembleRegles regles = Regles();
+    for (char const * const cle : {"", "b", "br/"})
+        regles[UniChaine(cle)] = RegleTexteRiche();
+    QVERIFY(!Interpreteur::PossedeReglesAAppliquer(u"<b>1</b><br/>"_s, regles));
+    QVERIFY(Interpreteur::PossedeReglesAAppliquer(u"<b><i>1</i></b>"_s, regles));
+    QCOMPARE(QString(Interpreteur::AppliqueRegles(u"<b>1<i>2</i><br/></b>&lt;"_s, regles)),
+             u"<b>12<br/></b><"_s);
 }
 
 void tst_InterpreteurChaineSemantiqueT::reglesDeBase()

@@ -24,11 +24,12 @@ constexpr int kMorceauxMax = 24; // pieces of a text
 QStringList const & Morceaux()
 {
     static QStringList const morceaux = {
-        u"<"_s,       u">"_s,        u"/"_s,   u" "_s,          u"b"_s,
-        u"i"_s,       u"br/"_s,      u"\""_s,  u"&lt;"_s,       u"&amp;"_s,
-        u"&#62;"_s,   u"&"_s,        u"é"_s,   u"\U0001F600"_s, QString(QChar(0xD83D)),
-        u"<b>"_s,     u"</b>"_s,     u"<i>"_s, u"</i>"_s,       u"<br/>"_s,
-        u"<b i=\""_s, u"</b i=\""_s, u"<>"_s,  u"</>"_s,        QString(QChar(0xDE00)),
+        u"<"_s,       u">"_s,        u"/"_s,      u" "_s,          u"b"_s,
+        u"i"_s,       u"br/"_s,      u"\""_s,     u"&lt;"_s,       u"&amp;"_s,
+        u"&#62;"_s,   u"&"_s,        u"é"_s,      u"\U0001F600"_s, QString(QChar(0xD83D)),
+        u"<b>"_s,     u"</b>"_s,     u"<i>"_s,    u"</i>"_s,       u"<br/>"_s,
+        u"<b i=\""_s, u"</b i=\""_s, u"<>"_s,     u"</>"_s,        QString(QChar(0xDE00)),
+        u"\t"_s,      u"\n"_s,       u"<b\ti>"_s, u"<b\ni=\""_s,
     };
     return morceaux;
 }
@@ -44,9 +45,10 @@ QString TexteAuHasard(QRandomGenerator & hasard)
 // A text whose elements are closed, with pieces of text in between.
 QString ElementsAuHasard(QRandomGenerator & hasard, int niveaux)
 {
-    static QStringList const elements = {u"<b>%1</b>"_s,   u"<i>%1</i>"_s,     u"<u>%1</u>"_s,
-                                         u"<b i>%1</b>"_s, u"<b i>%1</b i>"_s, u"<br/>%1"_s,
-                                         u"< i>%1</>"_s,   u"a < %1"_s,        u"<>%1"_s};
+    static QStringList const elements = {
+        u"<b>%1</b>"_s,     u"<i>%1</i>"_s,    u"<u>%1</u>"_s,    u"<b i>%1</b>"_s,
+        u"<b i>%1</b i>"_s, u"<br/>%1"_s,      u"< i>%1</>"_s,    u"a < %1"_s,
+        u"<>%1"_s,          u"<b\ti>%1</b>"_s, u"<b\ni>%1</b>"_s, u"<b\ti>%1</b\ti>"_s};
     QString texte;
     for (int reste = hasard.bounded(4); reste > 0; --reste) {
         QString const dedans = niveaux > 0 ? ElementsAuHasard(hasard, niveaux - 1) : u"&lt;"_s;
@@ -95,6 +97,7 @@ EnsembleRegles ReglesSimples()
     return {{UniChaine("b"), Remplace(u"<strong>"_s, u"&lt;/strong&gt;"_s)},
             {UniChaine("i"), Remplace({}, {})},
             {UniChaine("b i"), Remplace(u"<i>"_s, u"</i></b>"_s)},
+            {UniChaine("b\ti"), Remplace(u"<i>"_s, u"</i>"_s)},
             {UniChaine("br/"), Remplace(u"<br>"_s, {})}};
 }
 
@@ -110,6 +113,7 @@ EnsembleRegles Regles(Journal & journal, bool avecDocument)
         {UniChaine("b"), Verifie(u"b"_s, journal, Remplace(u"<strong>"_s, u"&lt;/strong&gt;"_s))},
         {UniChaine("i"), Verifie(u"i"_s, journal, Remplace({}, {}))},
         {UniChaine("b i"), Verifie(u"b i"_s, journal, efface)},
+        {UniChaine("b\ti"), Verifie(u"b\ti"_s, journal, Remplace(u"<i>"_s, u"</i>"_s))},
         {UniChaine("br/"), Verifie(u"br/"_s, journal, Remplace(u"<br>"_s, {}))},
     };
     if (avecDocument)

@@ -9,9 +9,8 @@ bool OuvreUneBalise(QStringView reste)
 {
     if (reste.size() < 2 || !(reste[1].isLetter() || reste[1] == u'/' || reste[1] == u'!'))
         return false;
-    qsizetype const fin = reste.indexOf(u'>');
-    qsizetype const suivante = reste.indexOf(u'<', 1);
-    return fin > 0 && (suivante < 0 || fin < suivante);
+    qsizetype const suivant = reste.indexOf(u'<', 1);
+    return reste.first(suivant < 0 ? reste.size() : suivant).contains(u'>');
 }
 
 // The length of the entity that `reste` begins with, else 0.

@@ -164,3 +164,24 @@ inline bool SontProches(QColor const & a, QColor const & b, int tolerance = 2)
     return qAbs(a.red() - b.red()) <= tolerance && qAbs(a.green() - b.green()) <= tolerance &&
            qAbs(a.blue() - b.blue()) <= tolerance && qAbs(a.alpha() - b.alpha()) <= tolerance;
 }
+
+/// What the style paints of a complex control.
+inline QImage PeinsComplexe(BancStyle const & banc, QSize const & taille,
+                            QStyle::ComplexControl controle, QStyleOptionComplex const * option,
+                            QWidget const * widget)
+{
+    return Peins(taille, [&](QPainter & peintre) {
+        banc.style.drawComplexControl(controle, option, &peintre, widget);
+    });
+}
+
+/// The only call of the base for a complex control, which is then forgotten.
+inline AppelStyle PrendsAppel(BancStyle const & banc, QStyle::ComplexControl controle)
+{
+    auto const appels = banc.espion->Donne(AppelStyle::kComplexe, controle);
+    banc.espion->appels.clear();
+    if (appels.size() == 1)
+        return appels.first();
+    QTest::qFail("The base is not called once", __FILE__, __LINE__);
+    return {AppelStyle::kComplexe};
+}

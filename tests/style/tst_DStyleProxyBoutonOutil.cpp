@@ -43,10 +43,6 @@ private Q_SLOTS:
     void autreWidget();
 
 private:
-    QImage PeinsComplexe(QStyle::ComplexControl controle, QStyleOptionComplex const * option,
-                         QWidget const * widget) const;
-    AppelStyle PrendsAppel(QStyle::ComplexControl controle) const;
-
     std::unique_ptr<BancStyle> monBanc;
 };
 
@@ -59,26 +55,6 @@ void tst_DStyleProxyBoutonOutil::cleanup()
 {
     monBanc.reset();
     QVERIFY(QApplication::topLevelWidgets().isEmpty());
-}
-
-QImage tst_DStyleProxyBoutonOutil::PeinsComplexe(QStyle::ComplexControl controle,
-                                                 QStyleOptionComplex const * option,
-                                                 QWidget const * widget) const
-{
-    return Peins(kTaille, [&](QPainter & peintre) {
-        monBanc->style.drawComplexControl(controle, option, &peintre, widget);
-    });
-}
-
-// The only call of the base for the control.
-AppelStyle tst_DStyleProxyBoutonOutil::PrendsAppel(QStyle::ComplexControl controle) const
-{
-    auto const appels = monBanc->espion->Donne(AppelStyle::kComplexe, controle);
-    monBanc->espion->appels.clear();
-    if (appels.size() == 1)
-        return appels.first();
-    QTest::qFail("The base is not called once", __FILE__, __LINE__);
-    return {AppelStyle::kComplexe};
 }
 
 void tst_DStyleProxyBoutonOutil::enfonce_data()
@@ -102,9 +78,9 @@ void tst_DStyleProxyBoutonOutil::enfonce()
     bouton.setAutoRaise(releve);
     QStyleOptionToolButton const option = DonneOutil(kNormal | QStyle::State_On);
 
-    PeinsComplexe(QStyle::CC_ToolButton, &option, &bouton);
+    PeinsComplexe(*monBanc, kTaille, QStyle::CC_ToolButton, &option, &bouton);
 
-    AppelStyle const appel = PrendsAppel(QStyle::CC_ToolButton);
+    AppelStyle const appel = PrendsAppel(*monBanc, QStyle::CC_ToolButton);
     QCOMPARE(appel.option.state.testFlag(QStyle::State_On), coche);
     QCOMPARE(appel.option.state | QStyle::State_On, option.state);
     QCOMPARE(appel.sousControles, option.subControls);
@@ -124,9 +100,9 @@ void tst_DStyleProxyBoutonOutil::sansFleche()
     bouton.setProperty(DStyleProxy::DonneNomStyleDesactiveFlecheMenuBouton(), valeur);
     QStyleOptionToolButton const option = DonneOutil();
 
-    PeinsComplexe(QStyle::CC_ToolButton, &option, &bouton);
+    PeinsComplexe(*monBanc, kTaille, QStyle::CC_ToolButton, &option, &bouton);
 
-    AppelStyle const appel = PrendsAppel(QStyle::CC_ToolButton);
+    AppelStyle const appel = PrendsAppel(*monBanc, QStyle::CC_ToolButton);
     QCOMPARE(appel.sousControles.testFlag(QStyle::SC_ToolButtonMenu), !compte);
     QVERIFY(appel.sousControles.testFlag(QStyle::SC_ToolButton));
 }
@@ -154,7 +130,7 @@ void tst_DStyleProxyBoutonOutil::partieMenuPressee()
     QStyleOptionToolButton option = DonneOutil(etat);
     option.activeSubControls = actifs;
 
-    PeinsComplexe(QStyle::CC_ToolButton, &option, &bouton);
+    PeinsComplexe(*monBanc, kTaille, QStyle::CC_ToolButton, &option, &bouton);
 
     auto const appels =
         monBanc->espion->Donne(AppelStyle::kPrimitive, QStyle::PE_IndicatorButtonDropDown);
@@ -165,7 +141,8 @@ void tst_DStyleProxyBoutonOutil::partieMenuPressee()
                                                QStyle::SC_ToolButtonMenu, &bouton));
         QVERIFY(appels.first().option.state.testFlag(QStyle::State_Sunken));
     }
-    QVERIFY(PrendsAppel(QStyle::CC_ToolButton).sousControles.testFlag(QStyle::SC_ToolButtonMenu));
+    QVERIFY(PrendsAppel(*monBanc, QStyle::CC_ToolButton)
+                .sousControles.testFlag(QStyle::SC_ToolButtonMenu));
 }
 
 void tst_DStyleProxyBoutonOutil::trait_data()
@@ -216,9 +193,9 @@ void tst_DStyleProxyBoutonOutil::sansPartieMenu()
     option.features = {};
     option.subControls = QStyle::SC_ToolButton;
 
-    QVERIFY(EstVide(PeinsComplexe(QStyle::CC_ToolButton, &option, &bouton)));
+    QVERIFY(EstVide(PeinsComplexe(*monBanc, kTaille, QStyle::CC_ToolButton, &option, &bouton)));
 
-    QCOMPARE(PrendsAppel(QStyle::CC_ToolButton).sousControles, QStyle::SC_ToolButton);
+    QCOMPARE(PrendsAppel(*monBanc, QStyle::CC_ToolButton).sousControles, QStyle::SC_ToolButton);
 }
 
 void tst_DStyleProxyBoutonOutil::autreWidget()
@@ -229,9 +206,9 @@ void tst_DStyleProxyBoutonOutil::autreWidget()
     option.activeSubControls = QStyle::SC_ToolButtonMenu;
     for (QWidget const * widget :
          {static_cast<QWidget const *>(&autre), static_cast<QWidget const *>(nullptr)}) {
-        QVERIFY(EstVide(PeinsComplexe(QStyle::CC_ToolButton, &option, widget)));
+        QVERIFY(EstVide(PeinsComplexe(*monBanc, kTaille, QStyle::CC_ToolButton, &option, widget)));
         QCOMPARE(monBanc->espion->appels.size(), 1);
-        QCOMPARE(PrendsAppel(QStyle::CC_ToolButton).sousControles, option.subControls);
+        QCOMPARE(PrendsAppel(*monBanc, QStyle::CC_ToolButton).sousControles, option.subControls);
     }
 }
 

@@ -39,10 +39,6 @@ private Q_SLOTS:
     void peintreRendu();
 
 private:
-    QImage PeinsComplexe(QStyle::ComplexControl controle, QStyleOptionComplex const * option,
-                         QWidget const * widget) const;
-    AppelStyle PrendsAppel(QStyle::ComplexControl controle) const;
-
     std::unique_ptr<BancStyle> monBanc;
 };
 
@@ -55,26 +51,6 @@ void tst_DStyleProxyComplexes::cleanup()
 {
     monBanc.reset();
     QVERIFY(QApplication::topLevelWidgets().isEmpty());
-}
-
-QImage tst_DStyleProxyComplexes::PeinsComplexe(QStyle::ComplexControl controle,
-                                               QStyleOptionComplex const * option,
-                                               QWidget const * widget) const
-{
-    return Peins(kTaille, [&](QPainter & peintre) {
-        monBanc->style.drawComplexControl(controle, option, &peintre, widget);
-    });
-}
-
-// The only call of the base for the control.
-AppelStyle tst_DStyleProxyComplexes::PrendsAppel(QStyle::ComplexControl controle) const
-{
-    auto const appels = monBanc->espion->Donne(AppelStyle::kComplexe, controle);
-    monBanc->espion->appels.clear();
-    if (appels.size() == 1)
-        return appels.first();
-    QTest::qFail("The base is not called once", __FILE__, __LINE__);
-    return {AppelStyle::kComplexe};
 }
 
 void tst_DStyleProxyComplexes::comboSansCadre_data()
@@ -90,9 +66,9 @@ void tst_DStyleProxyComplexes::comboSansCadre()
     combo.setProperty(DStyleProxy::DonneNomStyleComboBoxSansFrame(), valeur);
     QStyleOptionComboBox const option = DonneCombo(kNormal | QStyle::State_MouseOver);
 
-    PeinsComplexe(QStyle::CC_ComboBox, &option, &combo);
+    PeinsComplexe(*monBanc, kTaille, QStyle::CC_ComboBox, &option, &combo);
 
-    AppelStyle const appel = PrendsAppel(QStyle::CC_ComboBox);
+    AppelStyle const appel = PrendsAppel(*monBanc, QStyle::CC_ComboBox);
     QCOMPARE(appel.option.state.testFlag(QStyle::State_MouseOver), !compte);
     QCOMPARE(appel.cadre, !compte);
     QCOMPARE(appel.sousControles.testFlag(QStyle::SC_ComboBoxFrame), !compte);
@@ -122,11 +98,13 @@ void tst_DStyleProxyComplexes::comboLigneDeFocus()
     QStyleOptionComboBox option = DonneCombo(etat);
     option.editable = modifiable;
 
-    QCOMPARE(!EstVide(PeinsComplexe(QStyle::CC_ComboBox, &option, &combo)), ligne);
-    PrendsAppel(QStyle::CC_ComboBox);
+    QCOMPARE(!EstVide(PeinsComplexe(*monBanc, kTaille, QStyle::CC_ComboBox, &option, &combo)),
+             ligne);
+    PrendsAppel(*monBanc, QStyle::CC_ComboBox);
 
     combo.setProperty(DStyleProxy::DonneNomStyleComboBoxSansFrame(), true);
-    QCOMPARE(!EstVide(PeinsComplexe(QStyle::CC_ComboBox, &option, &combo)), ligne);
+    QCOMPARE(!EstVide(PeinsComplexe(*monBanc, kTaille, QStyle::CC_ComboBox, &option, &combo)),
+             ligne);
 }
 
 void tst_DStyleProxyComplexes::comboLigneDeFocusPlace()
@@ -134,7 +112,7 @@ void tst_DStyleProxyComplexes::comboLigneDeFocusPlace()
     QComboBox combo;
     QStyleOptionComboBox const option = DonneCombo(kNormal | QStyle::State_HasFocus);
 
-    QImage const image = PeinsComplexe(QStyle::CC_ComboBox, &option, &combo);
+    QImage const image = PeinsComplexe(*monBanc, kTaille, QStyle::CC_ComboBox, &option, &combo);
 
     int const milieu = kRect.center().x();
     QCOMPARE(CouvertureColonne(image, milieu), 2.0);
@@ -156,11 +134,11 @@ void tst_DStyleProxyComplexes::regletteActive()
         option.palette.setCurrentColorGroup(groupe);
         auto const attendu = groupe == QPalette::Inactive ? QPalette::Active : groupe;
 
-        QVERIFY(EstVide(PeinsComplexe(QStyle::CC_Slider, &option, &reglette)));
-        QCOMPARE(PrendsAppel(QStyle::CC_Slider).palette.currentColorGroup(), attendu);
+        QVERIFY(EstVide(PeinsComplexe(*monBanc, kTaille, QStyle::CC_Slider, &option, &reglette)));
+        QCOMPARE(PrendsAppel(*monBanc, QStyle::CC_Slider).palette.currentColorGroup(), attendu);
 
-        PeinsComplexe(QStyle::CC_ScrollBar, &option, &reglette);
-        QCOMPARE(PrendsAppel(QStyle::CC_ScrollBar).palette.currentColorGroup(), groupe);
+        PeinsComplexe(*monBanc, kTaille, QStyle::CC_ScrollBar, &option, &reglette);
+        QCOMPARE(PrendsAppel(*monBanc, QStyle::CC_ScrollBar).palette.currentColorGroup(), groupe);
     }
 }
 
@@ -173,9 +151,9 @@ void tst_DStyleProxyComplexes::autresALaBase()
     option.state = kNormal | QStyle::State_MouseOver | QStyle::State_HasFocus;
     for (auto const controle : {QStyle::CC_SpinBox, QStyle::CC_ScrollBar, QStyle::CC_TitleBar,
                                 QStyle::CC_Dial, QStyle::CC_GroupBox, QStyle::CC_MdiControls}) {
-        QVERIFY(EstVide(PeinsComplexe(controle, &option, &widget)));
+        QVERIFY(EstVide(PeinsComplexe(*monBanc, kTaille, controle, &option, &widget)));
         QCOMPARE(monBanc->espion->appels.size(), 1);
-        AppelStyle const appel = PrendsAppel(controle);
+        AppelStyle const appel = PrendsAppel(*monBanc, controle);
         QCOMPARE(appel.option.state, option.state);
         QCOMPARE(appel.palette.currentColorGroup(), QPalette::Inactive);
         QCOMPARE(appel.typeOption, int(QStyleOption::SO_Slider));
@@ -194,8 +172,8 @@ void tst_DStyleProxyComplexes::optionDuMauvaisType()
          {&option, static_cast<QStyleOptionComplex *>(nullptr)}) {
         for (int controle = 0; controle <= int(QStyle::CC_MdiControls); ++controle) {
             auto const element = QStyle::ComplexControl(controle);
-            QVERIFY(EstVide(PeinsComplexe(element, donnee, &outil)));
-            QCOMPARE(PrendsAppel(element).avecOption, donnee != nullptr);
+            QVERIFY(EstVide(PeinsComplexe(*monBanc, kTaille, element, donnee, &outil)));
+            QCOMPARE(PrendsAppel(*monBanc, element).avecOption, donnee != nullptr);
         }
     }
 }

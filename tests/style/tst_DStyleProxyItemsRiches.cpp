@@ -42,6 +42,8 @@ private Q_SLOTS:
     void couleurDuTexte_data();
     void couleurDuTexte();
     void fontDeLItem();
+    void placeDuTexteSimple_data();
+    void placeDuTexteSimple();
     void indicateurACote_data();
     void indicateurACote();
     void deDroiteAGauche_data();
@@ -243,9 +245,34 @@ void tst_DStyleProxyItemsRiches::fontDeLItem()
     QStyleOptionViewItem petite = DonneOption(kNormal);
     petite.font.setPixelSize(9);
 
-    int const hauteur = Etendue(PeinsItem(DonneOption(kNormal), &vue), Qt::red).height();
+    int const largeur = Etendue(PeinsItem(DonneOption(kNormal), &vue), Qt::red).width();
 
-    QCOMPARE_GT(hauteur, Etendue(PeinsItem(petite, &vue), Qt::red).height());
+    QCOMPARE_GT(largeur, 2 * Etendue(PeinsItem(petite, &vue), Qt::red).width());
+}
+
+void tst_DStyleProxyItemsRiches::placeDuTexteSimple_data()
+{
+    autresContextesSansRegle_data();
+}
+
+// A text whose rules take out its tags begins where Fusion writes it without them.
+void tst_DStyleProxyItemsRiches::placeDuTexteSimple()
+{
+    QFETCH(QString, genre);
+    monBanc = std::make_unique<BancStyle>(StyleEspion::kDessine);
+    auto const vue = CreeVue(genre);
+    EnsembleRegles const regles = {
+        {UniChaine("r"),
+         InterpreteurChaineSemantiqueT<UniChaine>::CreeFonctionRemplacerBalisesAvecTexte({}, {})}};
+    MetsRegles(*vue, {{kContexteNormal, regles}});
+
+    QRect const riche = Encre(PeinsItem(DonneOption(kNormal), vue.get()));
+    QRect const simple = Encre(PeinsItem(DonneOption(kNormal, u"Mot"_s), vue.get()));
+
+    QVERIFY(!riche.isEmpty());
+    for (int const ecart : {riche.left() - simple.left(), riche.right() - simple.right(),
+                            riche.center().y() - simple.center().y()})
+        QVERIFY2(qAbs(ecart) <= 1, qPrintable(QString::number(ecart)));
 }
 
 void tst_DStyleProxyItemsRiches::indicateurACote_data()

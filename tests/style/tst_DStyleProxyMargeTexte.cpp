@@ -32,10 +32,10 @@ struct Fabrique
 
 std::vector<Fabrique> DonneFabriques()
 {
-    return {{"field", [] { return std::make_unique<QLineEdit>(u"MW"_s); }},
+    return {{"field", [] { return std::make_unique<QLineEdit>(u"jM"_s); }},
             {"field without a frame",
              [] {
-                 auto champ = std::make_unique<QLineEdit>(u"MW"_s);
+                 auto champ = std::make_unique<QLineEdit>(u"jM"_s);
                  champ->setFrame(false);
                  return champ;
              }},
@@ -49,7 +49,7 @@ std::vector<Fabrique> DonneFabriques()
             {"editable combo box", [] {
                  auto combo = std::make_unique<QComboBox>();
                  combo->setEditable(true);
-                 combo->setEditText(u"MW"_s);
+                 combo->setEditText(u"jM"_s);
                  return combo;
              }}};
 }
@@ -290,7 +290,8 @@ void tst_DStyleProxyMargeTexte::premiereLettreEntiere_data()
     ajouteeEtOtee_data();
 }
 
-// The letters are those that Fusion draws by itself, all of them.
+// The letters are those that Fusion draws by itself, all of them: also a "j", which reaches out to
+// the left.
 void tst_DStyleProxyMargeTexte::premiereLettreEntiere()
 {
     QFETCH(int, fabrique);

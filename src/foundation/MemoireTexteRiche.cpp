@@ -127,18 +127,18 @@ std::shared_ptr<PoliceTexteRiche const> MemoireTexteRiche::DonnePolice(QFont con
     return polices.front().police;
 }
 
-std::shared_ptr<RangTexteRiche const>
-MemoireTexteRiche::DonneRang(RangTexteRiche::Demande const & demande, QFont const & font)
+std::shared_ptr<RangTexteRiche const> MemoireTexteRiche::DonneRang(RangTexteRiche::Demande demande,
+                                                                   QFont const & font)
 {
     std::shared_ptr<PoliceTexteRiche const> const police = DonnePolice(font);
     if (!monContenu)
         return std::make_shared<RangTexteRiche>(demande, *police);
 
-    CleDeRang const cle{police.get(), demande};
+    CleDeRang const cle{police.get(), std::move(demande)};
     if (RangGarday const * const garday = monContenu->rangs.object(cle))
         return garday->rang;
-    auto const rang = std::make_shared<RangTexteRiche>(demande, *police);
-    monContenu->rangs.insert(cle, new RangGarday{police, rang}, DonneCout(demande));
+    auto const rang = std::make_shared<RangTexteRiche>(cle.demande, *police);
+    monContenu->rangs.insert(cle, new RangGarday{police, rang}, DonneCout(cle.demande));
     return rang;
 }
 

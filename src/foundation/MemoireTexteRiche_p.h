@@ -22,7 +22,7 @@ public:
     static MemoireTexteRiche & Instance();
 
     std::shared_ptr<PoliceTexteRiche const> DonnePolice(QFont const & font);
-    std::shared_ptr<RangTexteRiche const> DonneRang(RangTexteRiche::Demande const & demande,
+    std::shared_ptr<RangTexteRiche const> DonneRang(RangTexteRiche::Demande demande,
                                                     QFont const & font);
 
 private:

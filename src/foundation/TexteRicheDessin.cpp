@@ -46,7 +46,7 @@ void DessineTexteRicheAvecSource(QPainter & peintre, QRect const & rectangle, QF
     RangTexteRiche::Demande demande{std::move(texte), std::move(source), rectangle.width(),
                                     deuxLignes ? rectangle.height() : 0, deuxLignes};
     demande.surlignementEnNoir = DemandeSurlignementEnNoir(peintre, demande.texte, demande.source);
-    auto const rang = MemoireTexteRiche::Instance().DonneRang(demande, font);
+    auto const rang = MemoireTexteRiche::Instance().DonneRang(std::move(demande), font);
     // Leaves the painter as it was, without the cost of saving it.
     rang->Dessine(peintre, rectangle.topLeft());
 }

@@ -174,10 +174,12 @@ void tst_TexteRicheDessinFormats::surlignementAvecSaCouleur()
 
 void tst_TexteRicheDessinFormats::surlignementDeLaSource()
 {
-    QVERIFY(ContientCouleur(DessineAuCrayon(Qt::white, u"a"_s, Surligne(kBloc)), Qt::black));
-    QImage const image = DessineAuCrayon(Qt::blue, u"a"_s, Surligne(kBloc));
-    QVERIFY(ContientCouleur(image, QColor(kJaune)));
-    QVERIFY(!ContientCouleur(image, Qt::black));
+    QString const source = Surligne(u" %1 "_s.arg(kBloc));
+    for (QColor const & crayon : {QColor(Qt::white), QColor(0, 0, 128)}) {
+        QImage const image = DessineAuCrayon(crayon, u"a"_s, source);
+        QVERIFY(ContientCouleur(image, QColor(kJaune)));
+        QCOMPARE(ContientCouleur(image, Qt::black), crayon == QColor(Qt::white));
+    }
 }
 
 // Black is a matter of drawing: whoever asks for the formats has them without.

@@ -3,7 +3,12 @@
 
 #include "foundation/TexteRiche.h"
 
+#include <QStringView>
+
 class PoliceTexteRiche;
+
+/// What the tag of a highlighted text begins with.
+inline constexpr QStringView kDebutSurlignement = u"<span class=\"surlignement\"";
 
 /// Reads the tags of `source` in time that grows with its length, however they are nested or
 /// broken.

@@ -26,17 +26,12 @@ constexpr double kTailleDUnPouce = 72.0; // points, which are as many pixels as 
 struct CleDeRang
 {
     PoliceTexteRiche const * police;
-    UniChaine texte;
-    UniChaine source;
-    int largeur;
-    int hauteur;
-    bool deuxLignes;
+    RangTexteRiche::Demande demande;
 
     friend bool operator==(CleDeRang const & a, CleDeRang const & b) = default;
     friend size_t qHash(CleDeRang const & cle, size_t graine)
     {
-        return qHashMulti(graine, cle.police, cle.texte, cle.source, cle.largeur, cle.hauteur,
-                          cle.deuxLignes);
+        return qHashMulti(graine, cle.police, cle.demande);
     }
 };
 
@@ -124,6 +119,7 @@ std::shared_ptr<PoliceTexteRiche const> MemoireTexteRiche::DonnePolice(QFont con
         if (trouvee == polices.end())
             trouvee = polices.insert(polices.end(), {font, resolution, modulateur,
                                                      std::make_shared<PoliceTexteRiche>(font)});
+        trouvee->font = font; // the copy that the next rows of the list come with
     }
     polices.splice(polices.begin(), polices, trouvee);
     if (polices.size() > kNombreMaxDePolices)
@@ -131,23 +127,18 @@ std::shared_ptr<PoliceTexteRiche const> MemoireTexteRiche::DonnePolice(QFont con
     return polices.front().police;
 }
 
-std::shared_ptr<RangTexteRiche const>
-MemoireTexteRiche::DonneRang(RangTexteRiche::Demande const & demande, QFont const & font)
+std::shared_ptr<RangTexteRiche const> MemoireTexteRiche::DonneRang(RangTexteRiche::Demande demande,
+                                                                   QFont const & font)
 {
     std::shared_ptr<PoliceTexteRiche const> const police = DonnePolice(font);
     if (!monContenu)
         return std::make_shared<RangTexteRiche>(demande, *police);
 
-    CleDeRang const cle{police.get(),
-                        demande.texte,
-                        demande.source,
-                        demande.largeur,
-                        demande.deuxLignes ? demande.hauteur : 0,
-                        demande.deuxLignes};
+    CleDeRang const cle{police.get(), std::move(demande)};
     if (RangGarday const * const garday = monContenu->rangs.object(cle))
         return garday->rang;
-    auto const rang = std::make_shared<RangTexteRiche>(demande, *police);
-    monContenu->rangs.insert(cle, new RangGarday{police, rang}, DonneCout(demande));
+    auto const rang = std::make_shared<RangTexteRiche>(cle.demande, *police);
+    monContenu->rangs.insert(cle, new RangGarday{police, rang}, DonneCout(cle.demande));
     return rang;
 }
 
@@ -167,11 +158,14 @@ bool MemoireTexteRiche::Prepare()
     if (!application)
         return false;
     monContenu = new Contenu;
+    // Rows hold fonts, which are to go while the application and its font database are there.
     qAddPostRoutine(PriseFinApplication);
     // A font that is added may be the better one for what is remembered.
     maConnexion = QObject::connect(application, &QGuiApplication::fontDatabaseChanged, application,
                                    [this] { Vide(); });
-    // What Qt needs to free fonts has to be there first, to be gone last.
+    // Statics are destroyed in the reverse order of their making. Where no application ends before
+    // the process does, the rows go with the static below, and what Qt frees fonts with, which the
+    // first look at a font makes, has to outlive it: so that comes first.
     DonneResolution(QFont());
     static FinDeLaBibliotheque const fin;
     return true;

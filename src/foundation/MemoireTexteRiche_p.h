@@ -13,14 +13,16 @@ class QFont;
 /// Remembers the rows and the fonts that were last used, so that scrolling and repainting lay out
 /// nothing twice. Nothing but the clock tells whether a row was remembered.
 ///
-/// Holds nothing after the end of the application object, whose fonts it would outlive.
+/// Holds nothing after the end of the application object, whose fonts it would outlive. Forgets all
+/// when a font is added or removed; `QFont::insertSubstitution` tells nobody, so what it changes is
+/// seen in new rows only. GUI thread only: nothing is locked.
 class MemoireTexteRiche
 {
 public:
     static MemoireTexteRiche & Instance();
 
     std::shared_ptr<PoliceTexteRiche const> DonnePolice(QFont const & font);
-    std::shared_ptr<RangTexteRiche const> DonneRang(RangTexteRiche::Demande const & demande,
+    std::shared_ptr<RangTexteRiche const> DonneRang(RangTexteRiche::Demande demande,
                                                     QFont const & font);
 
 private:

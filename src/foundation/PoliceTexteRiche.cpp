@@ -3,6 +3,7 @@
 
 #include "foundation/Polices.h"
 #include "foundation/TexteMisEnPage_p.h"
+#include "foundation/TexteRiche.h"
 
 #include <QColor>
 #include <QFontMetrics>
@@ -15,29 +16,11 @@ using RoutinesGeneralesQt::ModulateurFont;
 
 namespace {
 
-constexpr double kTailleLosange = 7.0;  // points
-constexpr double kTailleMinimale = 1.0; // points, and pixels: Qt knows no smaller font
+constexpr double kTailleLosange = 7.0; // points
+// Qt knows no smaller font.
+constexpr double kTailleMinimale = 1.0; // points
+constexpr int kPixelsMin = 1;
 constexpr QRgb kCouleurSurlignement = qRgba(250, 250, 0, 255);
-
-// A format in another size.
-struct FormatDePolice
-{
-    PoliceTexteRiche::eFormat quel;
-    double proportion; // of the pixels, truncated
-    double difference; // points, added then
-    bool italique;
-    QTextCharFormat::VerticalAlignment alignement;
-};
-
-constexpr FormatDePolice kFormatsDePolice[] = {
-    {PoliceTexteRiche::kPetitesCapitales, 0.8, 1.0, false, QTextCharFormat::AlignNormal},
-    {PoliceTexteRiche::kEmphase, 1.0, 1.0, true, QTextCharFormat::AlignNormal},
-    {PoliceTexteRiche::kEmphaseRomaine, 1.0, 1.0, false, QTextCharFormat::AlignNormal},
-    {PoliceTexteRiche::kMention, 0.7, 1.0, true, QTextCharFormat::AlignNormal},
-    {PoliceTexteRiche::kMentionRomaine, 0.7, 1.0, false, QTextCharFormat::AlignNormal},
-    {PoliceTexteRiche::kIndice, 1.0, -2.0, false, QTextCharFormat::AlignSubScript},
-    {PoliceTexteRiche::kExposant, 1.0, 0.0, false, QTextCharFormat::AlignSuperScript},
-};
 
 // A format that says nothing of weight and slant where the font has the usual ones, which would
 // take away the bold or the italics of the other tags around the text.
@@ -82,7 +65,8 @@ int PoliceTexteRiche::DonneLargeurMoyenne() const
 std::shared_ptr<TexteMisEnPage const> const & PoliceTexteRiche::PretePoints() const
 {
     if (!mesPoints) {
-        auto points = std::make_shared<TexteMisEnPage>(u"…"_s, maFont);
+        auto points = std::make_shared<TexteMisEnPage>(
+            RoutinesGeneralesQt::TexteAvecFormat{{}, u"…"_s}, maFont);
         points->AjouteLigne().setLineWidth(TexteMisEnPage::kLargeurIllimitee);
         points->Termine();
         mesPoints = std::move(points);
@@ -93,26 +77,43 @@ std::shared_ptr<TexteMisEnPage const> const & PoliceTexteRiche::PretePoints() co
 QTextCharFormat PoliceTexteRiche::FabriqueFormat(eFormat quel) const
 {
     QTextCharFormat format;
-    for (FormatDePolice const & description : kFormatsDePolice) {
-        if (description.quel != quel)
-            continue;
-        format = FabriqueFormatDeFont(FabriqueFont(description.proportion, description.difference));
-        if (description.italique)
-            format.setFontItalic(true);
-        if (description.alignement != QTextCharFormat::AlignNormal)
-            format.setVerticalAlignment(description.alignement);
-    }
-    if (quel == kItalique)
+    switch (quel) {
+    case kItalique:
         format.setFontItalic(true);
-    else if (quel == kGras)
+        break;
+    case kGras:
         format.setFontWeight(QFont::Bold);
-    else if (quel == kPetitesCapitales)
+        break;
+    case kPetitesCapitales:
+        format = FabriqueFormatDeFont(FabriqueFont(0.8, 1.0));
         format.setFontCapitalization(QFont::SmallCaps);
-    else if (quel == kSurlignement)
+        break;
+    case kEmphaseRomaine:
+        return FabriqueFormatDeFont(FabriqueFont(1.0, 1.0));
+    case kMentionRomaine:
+        return FabriqueFormatDeFont(FabriqueFont(0.7, 1.0));
+    case kEmphase:
+    case kMention:
+        format = DonneFormat(quel == kEmphase ? kEmphaseRomaine : kMentionRomaine);
+        format.setFontItalic(true);
+        break;
+    case kIndice:
+        format = FabriqueFormatDeFont(FabriqueFont(1.0, -2.0));
+        format.setVerticalAlignment(QTextCharFormat::AlignSubScript);
+        break;
+    case kExposant:
+        format = FabriqueFormatDeFont(FabriqueFont(1.0, 0.0));
+        format.setVerticalAlignment(QTextCharFormat::AlignSuperScript);
+        break;
+    case kSurlignement:
         format.setBackground(QColor::fromRgba(kCouleurSurlignement));
-    else if (quel == kLosange)
-        format = FabriqueFormatDeFont(
+        break;
+    case kLosange:
+        return FabriqueFormatDeFont(
             ModulateurFont::Instance()->DonneFontPointVersPixels(kTailleLosange, maFont));
+    case kNombreDeFormats:
+        break;
+    }
     return format;
 }
 
@@ -124,8 +125,7 @@ QFont PoliceTexteRiche::FabriqueFont(double proportion, double difference) const
     if (proportion != 1.0) {
         // A font in points has the pixels that it is drawn with.
         int const pixels = modulateur.DonnePixelSizeDeFont(font, false);
-        font.setPixelSize(
-            std::max(static_cast<int>(pixels * proportion), static_cast<int>(kTailleMinimale)));
+        font.setPixelSize(std::max(static_cast<int>(pixels * proportion), kPixelsMin));
     }
     double const points = modulateur.DonnePointSizeFDeFont(font, true) + difference;
     return modulateur.DonneFontPointVersPixels(std::max(points, kTailleMinimale), font);

@@ -16,14 +16,6 @@ namespace {
 constexpr int kCaracteresReserves = 5;
 constexpr int kNombreMaxDeLignes = 2;
 
-std::shared_ptr<TexteMisEnPage> MetsEnPage(TexteAvecFormat const & analyse,
-                                           PoliceTexteRiche const & police)
-{
-    QFont const & font = police.DonneFont();
-    return std::make_shared<TexteMisEnPage>(
-        analyse.texte, font, TexteMisEnPage::DonneFormatsImbriques(analyse.formats, font));
-}
-
 double DonneLargeurPoints(PoliceTexteRiche const & police)
 {
     return police.PretePoints()->DonneLigne(0).naturalTextWidth();
@@ -64,7 +56,8 @@ double RangTexteRiche::AjouteSource(Demande const & demande, PoliceTexteRiche co
     TexteAvecFormat analyse = AnalyseTexteRiche(UniChaine(u" —"_s) + demande.source, police);
     analyse.formats.append({0, static_cast<int>(analyse.texte.Longueur()),
                             police.DonneFormat(PoliceTexteRiche::kItalique)});
-    auto const source = MetsEnPage(analyse, police);
+    auto const source =
+        std::make_shared<TexteMisEnPage>(analyse, police.DonneFont(), demande.surlignementEnNoir);
     source->MetsRetour(QTextOption::WrapAnywhere);
     QTextLine ligne = source->AjouteLigne();
     bool const coupee = CoupeLigne(ligne, demande.largeur, police);
@@ -81,9 +74,12 @@ double RangTexteRiche::AjouteSource(Demande const & demande, PoliceTexteRiche co
 void RangTexteRiche::AjouteTexte(Demande const & demande, PoliceTexteRiche const & police,
                                  double largeurSource)
 {
-    auto const texte = MetsEnPage(AnalyseTexteRiche(demande.texte, police), police);
+    auto const texte = std::make_shared<TexteMisEnPage>(
+        AnalyseTexteRiche(demande.texte, police), police.DonneFont(), demande.surlignementEnNoir);
     int const interligne = police.DonneInterligne();
     double const libre = demande.largeur - kCaracteresReserves * police.DonneLargeurMoyenne();
+    // Deliberate: a rectangle that has no room for the second line has the whole text on one line,
+    // cut with "…", rather than the words of the first of two.
     bool const surDeuxLignes =
         demande.deuxLignes && libre > largeurSource && interligne <= demande.hauteur - interligne;
     // A word that is longer than the line goes on in the second one rather than out of the row.
@@ -106,7 +102,6 @@ void RangTexteRiche::AjouteTexte(Demande const & demande, PoliceTexteRiche const
             ligne.setPosition(coin +
                               AjoutePoints(ligne, coin, texte->EstDeDroiteAGauche(), police));
         texte->MetsRetour(QTextOption::WrapAnywhere);
-        maLargeurDuTexte = numero == 0 ? ligne.naturalTextWidth() : maLargeurDuTexte;
     }
     texte->Termine();
     mesPieces.push_back({texte, QPointF()});

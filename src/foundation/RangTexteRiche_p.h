@@ -3,6 +3,7 @@
 
 #include "noyau/UniChaine.h"
 
+#include <QHashFunctions>
 #include <QPointF>
 
 #include <memory>
@@ -25,6 +26,14 @@ public:
         int largeur = 0; ///< pixels
         int hauteur = 0; ///< pixels; plays no part on one line
         bool deuxLignes = false;
+        bool surlignementEnNoir = false; ///< whatever the pen
+
+        friend bool operator==(Demande const & a, Demande const & b) = default;
+        friend size_t qHash(Demande const & demande, size_t graine = 0)
+        {
+            return qHashMulti(graine, demande.texte, demande.source, demande.largeur,
+                              demande.hauteur, demande.deuxLignes, demande.surlignementEnNoir);
+        }
     };
 
     RangTexteRiche(Demande const & demande, PoliceTexteRiche const & police);
@@ -33,8 +42,6 @@ public:
 
     /// Leaves the pen of the painter as it was.
     void Dessine(QPainter & peintre, QPointF const & coin) const;
-    /// The width that the letters of the first line take, in pixels.
-    double DonneLargeurDuTexte() const { return maLargeurDuTexte; }
 
 private:
     struct Piece
@@ -50,5 +57,4 @@ private:
                          PoliceTexteRiche const & police);
 
     std::vector<Piece> mesPieces;
-    double maLargeurDuTexte = 0.0;
 };

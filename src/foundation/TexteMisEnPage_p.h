@@ -10,6 +10,10 @@
 
 class QPainter;
 
+namespace RoutinesGeneralesQt {
+struct TexteAvecFormat;
+}
+
 /// Rich text in lines, to be drawn any number of times with any painter.
 class TexteMisEnPage
 {
@@ -17,13 +21,11 @@ public:
     static constexpr int kLargeurIllimitee =
         2147483647; // pixels; the layout takes what it can hold
 
-    TexteMisEnPage(QString const & texte, QFont const & font,
-                   QList<QTextLayout::FormatRange> const & formats = {});
+    /// Highlighted text that has no colour of its own is black with `surlignementEnNoir`, else in
+    /// the colour of the pen.
+    TexteMisEnPage(RoutinesGeneralesQt::TexteAvecFormat const & texte, QFont const & font,
+                   bool surlignementEnNoir = false);
     Q_DISABLE_COPY_MOVE(TexteMisEnPage)
-
-    /// Ranges as a layout has to have them for the inner ones to add to the outer ones.
-    static QList<QTextLayout::FormatRange>
-    DonneFormatsImbriques(QList<QTextLayout::FormatRange> const & formats, QFont const & font);
 
     void MetsRetour(QTextOption::WrapMode retour);
     bool CoupePartout() const;
@@ -45,12 +47,16 @@ private:
         bool colore = false;
     };
 
-    void PrepareGlyphes();
-    void AjouteGlyphes(QTextLine const & ligne, int debut, int longueur);
+    void PrepareGlyphes() const;
+    bool AjouteGlyphes(QTextLine const & ligne, int debut, int longueur) const;
     bool PeutDessinerGlyphes(QPainter const & peintre) const;
 
     QTextLayout monLayout;
-    QList<QTextLayout::FormatRange> mesCouleurs; // the ranges with a colour, the outer ones first
-    std::vector<Glyphes> mesGlyphes;
-    bool monDessinParGlyphes = false;
+    // Those that glyphs do not tell: the colours, and what stands above or below the line. The
+    // outer ones first.
+    QList<QTextLayout::FormatRange> mesPlages;
+    // Made when the text is first drawn on a device that takes them.
+    mutable std::vector<Glyphes> mesGlyphes;
+    mutable bool mesGlyphesPrets = false;
+    mutable bool monDessinParGlyphes = false;
 };

@@ -38,23 +38,30 @@ struct Balise
     bool estDebut; // of the token, which may go on
     eEffet effet;
     PoliceTexteRiche::eFormat format;
-    PoliceTexteRiche::eFormat formatDansNomPropre;
 };
 
 using Police = PoliceTexteRiche;
 
 constexpr Balise kBalises[] = {
-    {u"<i>", false, kFormat, Police::kItalique, Police::kItalique},
-    {u"<b>", false, kFormat, Police::kGras, Police::kGras},
-    {u"<s>", false, kFormatMajuscule, Police::kPetitesCapitales, Police::kPetitesCapitales},
-    {u"<em>", false, kFormat, Police::kEmphase, Police::kEmphaseRomaine},
-    {u"<m>", false, kFormatMajuscule, Police::kMention, Police::kMentionRomaine},
-    {u"<sub>", false, kFormat, Police::kIndice, Police::kIndice},
-    {u"<sup>", false, kFormat, Police::kExposant, Police::kExposant},
-    {u"<span class=\"surlignement\"", true, kFormat, Police::kSurlignement, Police::kSurlignement},
-    {u"<pn>", false, kNomPropre, {}, {}},
-    {kDebutCouleur, true, kCouleur, {}, {}},
+    {u"<i>", false, kFormat, Police::kItalique},
+    {u"<b>", false, kFormat, Police::kGras},
+    {u"<s>", false, kFormatMajuscule, Police::kPetitesCapitales},
+    {u"<em>", false, kFormat, Police::kEmphase},
+    {u"<m>", false, kFormatMajuscule, Police::kMention},
+    {u"<sub>", false, kFormat, Police::kIndice},
+    {u"<sup>", false, kFormat, Police::kExposant},
+    {kDebutSurlignement, true, kFormat, Police::kSurlignement},
+    {u"<pn>", false, kNomPropre, {}},
+    {kDebutCouleur, true, kCouleur, {}},
 };
+
+// In a proper name emphasis and mentions are upright.
+Police::eFormat DonneFormatDansNomPropre(Police::eFormat format)
+{
+    if (format == Police::kEmphase)
+        return Police::kEmphaseRomaine;
+    return format == Police::kMention ? Police::kMentionRomaine : format;
+}
 
 // A tag, or the text up to the next one.
 struct Jeton
@@ -166,8 +173,8 @@ private:
             monDemandeDeMajuscules = true;
             [[fallthrough]];
         case kFormat:
-            format = maPolice.DonneFormat(monDansNomPropre ? balise->formatDansNomPropre
-                                                           : balise->format);
+            format = maPolice.DonneFormat(
+                monDansNomPropre ? DonneFormatDansNomPropre(balise->format) : balise->format);
             break;
         case kCouleur:
             format = DonneFormatCouleur(jeton);

@@ -31,17 +31,24 @@ struct TexteAvecFormat
 /// <span class="surlignement">; every other tag goes away. The sizes are built on `font`.
 ///
 /// A tag that is never closed formats nothing. A range that lies in another one comes before it;
-/// for the tags to add up in a layout, the outer range has to be applied first.
+/// for the tags to add up in a layout, the outer range has to be applied first. The line feed of a
+/// <br/>, and the letters that capitals add ("ß" becomes "SS"), belong to the ranges around them.
 FABRELGUI_EXPORT TexteAvecFormat DonneTexteAvecFormat(UniChaine texte, QFont font);
 
 /// Draws one line at the top left of `rectangle`, with "…" where it is cut.
+///
+/// In the colour of the pen, where the text has none of its own. A highlighted text is black
+/// under a light pen, which could not be read on yellow.
 FABRELGUI_EXPORT void DessineTexteRiche(QPainter & peintre, QRect const & rectangle, QFont font,
                                         UniChaine texte);
-/// Draws up to two lines, where `rectangle` is high enough for them.
+/// Draws up to two lines, of which the second one ends in "…" where it is cut. A word that is
+/// longer than the first line is broken. Where `rectangle` has room for one line only, in height or
+/// beside a source, it is that of `DessineTexteRiche`, cut with "…".
 FABRELGUI_EXPORT void DessineTexteRicheSurDeuxLignes(QPainter & peintre, QRect const & rectangle,
                                                      QFont font, UniChaine texte);
 /// Draws `texte`, and at the right edge of its first line `source`, in italics behind a dash. With
-/// `deuxLignes` the text may go on in a second line. The painter is left as it was.
+/// `deuxLignes` the text may go on in a second line. A source that leaves no room for "…" beside it
+/// hides the text. The painter is left as it was.
 FABRELGUI_EXPORT void DessineTexteRicheAvecSource(QPainter & peintre, QRect const & rectangle,
                                                   QFont font, UniChaine texte, UniChaine source,
                                                   bool deuxLignes);

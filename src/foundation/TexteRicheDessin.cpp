@@ -1,7 +1,9 @@
 // foundation/TexteRicheDessin.cpp
 //
 // Drawing and measuring.
+#include "foundation/AnalyseTexteRiche_p.h"
 #include "foundation/MemoireTexteRiche_p.h"
+#include "foundation/PoliceTexteRiche_p.h"
 #include "foundation/TexteMisEnPage_p.h"
 #include "foundation/TexteRiche.h"
 
@@ -13,6 +15,19 @@
 // NOLINTBEGIN(performance-unnecessary-value-param): by value is the interface
 
 namespace RoutinesGeneralesQt {
+
+namespace {
+
+constexpr int kClarteDuCrayonMax = 127; // of 255; a lighter pen is hard to read on yellow
+
+bool DemandeSurlignementEnNoir(QPainter const & peintre, QString const & texte,
+                               QString const & source)
+{
+    return peintre.pen().color().lightness() > kClarteDuCrayonMax &&
+           (texte.contains(kDebutSurlignement) || source.contains(kDebutSurlignement));
+}
+
+} // namespace
 
 void DessineTexteRiche(QPainter & peintre, QRect const & rectangle, QFont font, UniChaine texte)
 {
@@ -28,9 +43,10 @@ void DessineTexteRicheSurDeuxLignes(QPainter & peintre, QRect const & rectangle,
 void DessineTexteRicheAvecSource(QPainter & peintre, QRect const & rectangle, QFont font,
                                  UniChaine texte, UniChaine source, bool deuxLignes)
 {
-    auto const rang = MemoireTexteRiche::Instance().DonneRang(
-        {std::move(texte), std::move(source), rectangle.width(), rectangle.height(), deuxLignes},
-        font);
+    RangTexteRiche::Demande demande{std::move(texte), std::move(source), rectangle.width(),
+                                    deuxLignes ? rectangle.height() : 0, deuxLignes};
+    demande.surlignementEnNoir = DemandeSurlignementEnNoir(peintre, demande.texte, demande.source);
+    auto const rang = MemoireTexteRiche::Instance().DonneRang(std::move(demande), font);
     // Leaves the painter as it was, without the cost of saving it.
     rang->Dessine(peintre, rectangle.topLeft());
 }
@@ -44,9 +60,15 @@ void DessineUniChaineFormatee(UniChaineFormatee const &, QPainter & peintre, QRe
 
 double DonneLongueurTexteRiche(UniChaine const & texte, QFont const & font)
 {
-    return MemoireTexteRiche::Instance()
-        .DonneRang({texte, {}, TexteMisEnPage::kLargeurIllimitee, 0, false}, font)
-        ->DonneLargeurDuTexte();
+    // Laid out for itself and forgotten: remembered, measures would drive out the rows that are
+    // drawn.
+    auto const police = MemoireTexteRiche::Instance().DonnePolice(font);
+    TexteMisEnPage miseEnPage(AnalyseTexteRiche(texte, *police), police->DonneFont());
+    QTextLine ligne = miseEnPage.AjouteLigne();
+    if (!ligne.isValid())
+        return 0.0;
+    ligne.setLineWidth(TexteMisEnPage::kLargeurIllimitee);
+    return ligne.naturalTextWidth();
 }
 
 } // namespace RoutinesGeneralesQt

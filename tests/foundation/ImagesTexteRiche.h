@@ -4,6 +4,7 @@
 #include "foundation/TexteRiche.h"
 
 #include <QApplication>
+#include <QFontMetrics>
 #include <QImage>
 #include <QPainter>
 
@@ -12,12 +13,29 @@
 // Rich text on white images, and what can be seen there.
 
 constexpr QSize kTailleImage(420, 80); // logical pixels
+constexpr QRect kLarge(3, 5, 400, 30);
+constexpr QRect kEtroit(3, 5, 120, 30);
+
+inline QString TexteLong()
+{
+    return QStringLiteral("Les chats dorment souvent sur le tapis du grand salon");
+}
 
 inline QFont DonneFontDImage()
 {
     QFont font = QApplication::font();
     font.setPixelSize(18);
     return font;
+}
+
+inline double Longueur(QString const & texte)
+{
+    return RoutinesGeneralesQt::DonneLongueurTexteRiche(texte, DonneFontDImage());
+}
+
+inline int DonneInterligne()
+{
+    return QFontMetrics(DonneFontDImage()).lineSpacing();
 }
 
 inline QImage DessineImage(std::function<void(QPainter &)> const & dessin, double ratio = 1.0)

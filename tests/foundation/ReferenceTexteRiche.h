@@ -8,8 +8,9 @@
 #include <QPainter>
 #include <QTextLayout>
 
-// The plain way to draw rich text: a layout for each call, drawn by itself, nothing remembered. For
-// rows where no tag stands in another one.
+#include <algorithm>
+
+// The plain way to draw rich text: a layout for each call, drawn by itself, nothing remembered.
 
 struct RangDemande
 {
@@ -52,9 +53,9 @@ inline double CoupeParReference(QPainter & peintre, QTextLine ligne, double larg
 }
 
 inline void PrepareReference(QTextLayout & layout, QString texte,
-                             QList<QTextLayout::FormatRange> const & formats,
-                             QTextOption::WrapMode retour)
+                             QList<QTextLayout::FormatRange> formats, QTextOption::WrapMode retour)
 {
+    std::reverse(formats.begin(), formats.end()); // a layout gives the last word to the last one
     layout.setText(texte.replace(u'\n', QChar(QChar::LineSeparator)));
     layout.setFormats(formats);
     QTextOption option;

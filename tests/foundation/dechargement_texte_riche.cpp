@@ -1,13 +1,15 @@
 // tests/foundation/dechargement_texte_riche.cpp
 //
-// Loads the library named by its argument, measures rich text with it, and unloads it again while
-// the application goes on.
+// Loads the library named by its argument, measures and draws rich text with it, and unloads it
+// again while the application goes on.
 #include "noyau/UniChaine.h"
 
 #include <QApplication>
 #include <QFile>
 #include <QFont>
+#include <QImage>
 #include <QLibrary>
+#include <QPainter>
 
 #include <cstdio>
 
@@ -21,9 +23,17 @@ int main(int nombre, char ** arguments)
     auto const donneLongueur =
         reinterpret_cast<double (*)(UniChaine const &, QFont const &)>(bibliotheque.resolve(
             "_ZN19RoutinesGeneralesQt23DonneLongueurTexteRicheERK9UniChaineRK5QFont"));
-    if (!donneLongueur) {
+    auto const dessine = reinterpret_cast<void (*)(QPainter &, QRect const &, QFont, UniChaine)>(
+        bibliotheque.resolve("_ZN19RoutinesGeneralesQt17DessineTexteRicheER8QPainterRK5QRect5"
+                             "QFont9UniChaine"));
+    if (!donneLongueur || !dessine) {
         std::fprintf(stderr, "%s\n", qPrintable(bibliotheque.errorString()));
         return 1;
+    }
+    {
+        QImage image(100, 20, QImage::Format_ARGB32_Premultiplied);
+        QPainter peintre(&image);
+        dessine(peintre, image.rect(), QFont(), "<b>a</b>");
     }
     std::puts(donneLongueur("<b>a</b>", QFont()) > 0.0 ? "measured" : "no width");
     bool const decharge =

@@ -1,4 +1,6 @@
 // tests/foundation/tst_TexteRicheDessin.cpp
+//
+// Drawn as a layout draws it, on whatever painter.
 #include "foundation/ImagesTexteRiche.h"
 #include "foundation/Polices.h"
 #include "foundation/ReferenceTexteRiche.h"
@@ -16,36 +18,6 @@ class UniChaineFormatee // whatever it is
 {
 };
 
-namespace {
-
-constexpr QRect kLarge(3, 5, 400, 30);
-constexpr QRect kEtroit(3, 5, 120, 30);
-QString const & TexteLong()
-{
-    static QString const texte = u"Les chats dorment souvent sur le tapis du grand salon"_s;
-    return texte;
-}
-
-double Longueur(QString const & texte)
-{
-    return DonneLongueurTexteRiche(texte, DonneFontDImage());
-}
-
-int DonneInterligne()
-{
-    return QFontMetrics(DonneFontDImage()).lineSpacing();
-}
-
-QImage DessinePoints(QPoint const & ou)
-{
-    return DessineImage([&](QPainter & peintre) {
-        peintre.setFont(DonneFontDImage());
-        peintre.drawText(ou, u"…"_s);
-    });
-}
-
-} // namespace
-
 class tst_TexteRicheDessin : public QObject
 {
     Q_OBJECT
@@ -57,35 +29,12 @@ private Q_SLOTS:
     void commeUnLayout();
     void commeUnLayoutTransformay();
     void formesCourtes();
-    void pointsQuandCoupe();
-    void pasDePointsQuandTientJuste();
-    void pointsAGaucheDeDroiteAGauche();
-    void uneSeuleLigne();
-    void deuxLignes();
-    void deuxLignesMaisTexteCourt();
-    void deuxLignesSansHauteur_data();
-    void deuxLignesSansHauteur();
-    void deuxLignesSansLargeur();
-    void jamaisTroisLignes();
-    void motPlusLongQueLaLigne();
-    void sourceADroite();
-    void sourceItalique();
-    void sourceTropLongue();
-    void sourceSansPlacePourLeTexte();
-    void sautDeLigne();
-    void balisesImbriquees_data();
-    void balisesImbriquees();
-    void losangeDansEmphase();
-    void couleurDuCrayon();
-    void couleurDuTexte();
     void peintreIntact();
     void decoupeEtOpacite();
     void autresPeripheriques();
     void rectanglesVides_data();
     void rectanglesVides();
     void chaineFormatee();
-    void longueur_data();
-    void longueur();
 };
 
 void tst_TexteRicheDessin::cleanup()
@@ -109,6 +58,27 @@ void tst_TexteRicheDessin::commeUnLayout_data()
     QTest::newRow("tags") << court << u""_s << false;
     QTest::newRow("sizes") << u"<s>ab</s>c<m>de</m><em>fg</em>h"_s << u""_s << false;
     QTest::newRow("indices") << u"H<sub>2</sub>O, m<sup>3</sup>"_s << u""_s << false;
+    QTest::newRow("index in bold")
+        << u"<b>m<sup>2</sup></b> et <sub><b>n</b></sub>"_s << u""_s << false;
+    QTest::newRow("index in an index") << u"a<sup>b<sub>c</sub>d</sup>e"_s << u""_s << false;
+    QTest::newRow("index in emphasis")
+        << u"<em>a<sup>b</sup></em><m>x<sub>y</sub></m>"_s << u""_s << false;
+    QTest::newRow("emphasis in an index")
+        << u"a<sup>b<em>c</em><s>de</s></sup>"_s << u""_s << false;
+    QTest::newRow("index in colour")
+        << u"a<sub>b"_s + rouge + u"c</font>d</sub>"_s << u""_s << false;
+    QTest::newRow("index, cut") << u"<sup>Les</sup> chats<sub> dorment souvent sur le tapis</sub>"_s
+                                << u""_s << false;
+    QTest::newRow("index, two lines")
+        << u"<sub>"_s + TexteLong() + u"</sub>, m<sup>2</sup>"_s << u""_s << true;
+    QTest::newRow("index of letters of other families")
+        << u"a<sup>2\u4e2d\u05d0\U0001f600</sup>b<sub>\u4e2d</sub>"_s << u""_s << false;
+    QTest::newRow("index right to left")
+        << u"\u05e9\u05dc<sup>\u05d5 2</sup>\u05dd"_s << u""_s << false;
+    QTest::newRow("index and highlight")
+        << u"<span class=\"surlignement\">m<sup>2</sup></span> <sub>3</sub>"_s << u""_s << false;
+    QTest::newRow("index in the source") << u"Le chat"_s << u"p. 3<sup>e</sup>"_s << false;
+    QTest::newRow("many indices") << u"a<sup>b</sup>"_s.repeated(40) << u""_s << false;
     QTest::newRow("colour") << u"a "_s + rouge + u"rouge</font> b"_s << u""_s << false;
     QTest::newRow("colour, cut") << rouge + TexteLong() + u"</font>"_s << u""_s << false;
     QTest::newRow("highlight") << u"<span class=\"surlignement\">mot</span> clef"_s << u""_s
@@ -182,248 +152,6 @@ void tst_TexteRicheDessin::formesCourtes()
     });
     QCOMPARE(surDeux, DessineRang(rectangle, TexteLong(), {}, true));
     QVERIFY(surDeux != DessineRang(rectangle, TexteLong()));
-}
-
-void tst_TexteRicheDessin::pointsQuandCoupe()
-{
-    QImage const coupe = DessineRang(kEtroit, TexteLong());
-    QRect const encre = DonneEncre(coupe);
-    QVERIFY(encre.right() <= kEtroit.right());
-
-    // Behind the last letter there is what "…" looks like, and nothing else.
-    QFontMetrics const mesures(DonneFontDImage());
-    QRect const fin(encre.right() + 1 - mesures.tightBoundingRect(u"…"_s).width(), 0,
-                    mesures.tightBoundingRect(u"…"_s).width(), kTailleImage.height());
-    QImage const points = DessinePoints({0, kEtroit.top() + mesures.ascent()});
-    QCOMPARE(DonneEncre(coupe, fin).height(), DonneEncre(points).height());
-    QCOMPARE(DonneEncre(coupe, fin).bottom(), DonneEncre(points).bottom());
-    // The uncut text has letters there.
-    QVERIFY(DonneEncre(DessineRang(kLarge, TexteLong()), fin).height() >
-            DonneEncre(points).height());
-}
-
-void tst_TexteRicheDessin::pasDePointsQuandTientJuste()
-{
-    int const largeur = static_cast<int>(std::ceil(Longueur(TexteLong().left(20))));
-    QImage const large = DessineRang({0, 0, 400, 30}, TexteLong().left(20));
-    QCOMPARE(DessineRang({0, 0, largeur, 30}, TexteLong().left(20)), large);
-    QVERIFY(DessineRang({0, 0, largeur - 1, 30}, TexteLong().left(20)) != large);
-}
-
-void tst_TexteRicheDessin::pointsAGaucheDeDroiteAGauche()
-{
-    QString const hebreu = QString(40, QChar(0x05d0));
-    QImage const coupe = DessineRang(kEtroit, hebreu);
-    QFontMetrics const mesures(DonneFontDImage());
-    int const ligneDeBase = kEtroit.top() + mesures.ascent();
-    QRect const debut(kEtroit.left(), 0, mesures.horizontalAdvance(u'…'), kTailleImage.height());
-    QCOMPARE(DonneEncre(coupe, debut),
-             DonneEncre(DessinePoints({kEtroit.left(), ligneDeBase}), debut));
-    QVERIFY(DonneEncre(coupe).right() <= kEtroit.right() + 1);
-}
-
-void tst_TexteRicheDessin::uneSeuleLigne()
-{
-    QRect const haut(0, 0, 120, 80);
-    QVERIFY(DonneEncre(DessineRang(haut, TexteLong())).bottom() < DonneInterligne());
-}
-
-void tst_TexteRicheDessin::deuxLignes()
-{
-    QRect const haut(0, 0, 120, 80);
-    QRect const encre = DonneEncre(DessineRang(haut, TexteLong(), {}, true));
-    QVERIFY(encre.bottom() > DonneInterligne());
-    QVERIFY(encre.bottom() < 2 * DonneInterligne());
-    QVERIFY(encre.right() <= haut.right());
-    // The first line breaks at a word and has no "…": it is the text of its words.
-    QRect const premiere(0, 0, kTailleImage.width(), DonneInterligne());
-    QCOMPARE(DessineRang(haut, TexteLong(), {}, true).copy(premiere),
-             DessineRang(haut, u"Les chats"_s).copy(premiere));
-}
-
-void tst_TexteRicheDessin::deuxLignesMaisTexteCourt()
-{
-    QRect const haut(0, 0, 400, 80);
-    QImage const image = DessineRang(haut, u"Le chat"_s, {}, true);
-    QVERIFY(DonneEncre(image).bottom() < DonneInterligne());
-    QCOMPARE(image, DessineRang(haut, u"Le chat"_s));
-}
-
-void tst_TexteRicheDessin::deuxLignesSansHauteur_data()
-{
-    QTest::addColumn<int>("manque");
-    QTest::addColumn<bool>("attendues");
-    QTest::newRow("two line spacings are enough") << 0 << true;
-    QTest::newRow("one pixel less is not") << 1 << false;
-}
-
-void tst_TexteRicheDessin::deuxLignesSansHauteur()
-{
-    QFETCH(int, manque);
-    QFETCH(bool, attendues);
-    QRect const rectangle(0, 0, 120, 2 * DonneInterligne() - manque);
-    QImage const image = DessineRang(rectangle, TexteLong(), {}, true);
-    QCOMPARE(DonneEncre(image).bottom() > DonneInterligne(), attendues);
-    // One line that ends in "…", then: the text goes on.
-    QCOMPARE(image == DessineRang(rectangle, TexteLong()), !attendues);
-}
-
-void tst_TexteRicheDessin::deuxLignesSansLargeur()
-{
-    // Five average characters have to fit beside the source.
-    int const reserve = 5 * QFontMetrics(DonneFontDImage()).averageCharWidth();
-    QString const source = u"Hugo"_s;
-    int const prise = static_cast<int>(std::ceil(Longueur(u"<i> —Hugo</i>"_s)));
-    for (int const marge : {-1, 1}) {
-        QRect const rectangle(0, 0, prise + reserve + marge, 80);
-        QRect const encre = DonneEncre(DessineRang(rectangle, TexteLong(), source, true));
-        QCOMPARE(encre.bottom() > DonneInterligne(), marge > 0);
-    }
-}
-
-void tst_TexteRicheDessin::jamaisTroisLignes()
-{
-    QFont petite = DonneFontDImage();
-    petite.setPixelSize(10);
-    QImage const image = DessineImage([&](QPainter & peintre) {
-        DessineTexteRicheSurDeuxLignes(peintre, {0, 0, 90, 80}, petite, TexteLong() + TexteLong());
-    });
-    QVERIFY(DonneEncre(image).bottom() <= 2 * QFontMetrics(petite).lineSpacing());
-}
-
-void tst_TexteRicheDessin::motPlusLongQueLaLigne()
-{
-    QRect const rectangle(0, 0, 120, 80);
-    QRect const encre = DonneEncre(DessineRang(rectangle, QString(60, u'm'), u"Hugo"_s, true));
-    QVERIFY(encre.right() <= rectangle.right());
-    QVERIFY(encre.bottom() > DonneInterligne());
-}
-
-void tst_TexteRicheDessin::sourceADroite()
-{
-    QImage const image = DessineRang(kLarge, u"Le chat"_s, u"Hugo"_s);
-    int const prise = static_cast<int>(std::ceil(Longueur(u"<i> —Hugo</i>"_s)));
-    QRect const texte(0, 0, kLarge.right() - prise, kTailleImage.height());
-    QRect const source(texte.right() + 1, 0, prise + 10, kTailleImage.height());
-    QCOMPARE(image.copy(texte), DessineRang(kLarge, u"Le chat"_s).copy(texte));
-    QVERIFY(!DonneEncre(image, source).isNull());
-    QVERIFY(kLarge.right() - DonneEncre(image).right() <= 3); // the side bearing of the last letter
-    // A longer text stops before it.
-    QImage const coupe = DessineRang(kLarge, TexteLong() + TexteLong(), u"Hugo"_s);
-    QRect const bord(kLarge.right() - prise + 8, 0, prise, kTailleImage.height());
-    QCOMPARE(coupe.copy(bord), image.copy(bord));
-}
-
-void tst_TexteRicheDessin::sourceItalique()
-{
-    QCOMPARE(DessineRang(kLarge, {}, u"Hugo"_s), DessineRang(kLarge, {}, u"<i>Hugo</i>"_s));
-    QVERIFY(DessineRang(kLarge, {}, u"Hugo"_s) != DessineRang(kLarge, {}, u"<b>Hugo</b>"_s));
-    // In a name, where emphasis alone is upright, too.
-    QCOMPARE(DessineRang(kLarge, {}, u"<pn>Hugo</pn>"_s),
-             DessineRang(kLarge, {}, u"<i><pn>Hugo</pn></i>"_s));
-}
-
-void tst_TexteRicheDessin::sourceTropLongue()
-{
-    QRect const encre = DonneEncre(DessineRang(kEtroit, {}, TexteLong()));
-    QVERIFY(encre.left() >= kEtroit.left());
-    QVERIFY(encre.right() <= kEtroit.right());
-    QVERIFY(encre.width() > kEtroit.width() / 2);
-    QImage const coupee = DessineRang(kEtroit, {}, TexteLong());
-    QImage const entiere = DessineRang(kLarge, {}, TexteLong().left(15));
-    QVERIFY(coupee != entiere);
-}
-
-void tst_TexteRicheDessin::sourceSansPlacePourLeTexte()
-{
-    QCOMPARE(DessineRang(kEtroit, TexteLong(), TexteLong()), DessineRang(kEtroit, {}, TexteLong()));
-}
-
-void tst_TexteRicheDessin::sautDeLigne()
-{
-    QRect const haut(0, 0, 400, 80);
-    QImage const image = DessineRang(haut, u"un<br/>deux"_s, {}, true);
-    QRect const premiere(0, 0, kTailleImage.width(), DonneInterligne());
-    QCOMPARE(image.copy(premiere), DessineRang(haut, u"un"_s).copy(premiere));
-    QCOMPARE(image.copy(premiere.translated(0, DonneInterligne())),
-             DessineRang(haut, u"deux"_s).copy(premiere));
-    // On one line only what stands before it, and it is not cut: it ends there.
-    QCOMPARE(DessineRang(haut, u"un<br/>deux"_s), DessineRang(haut, u"un"_s));
-}
-
-void tst_TexteRicheDessin::balisesImbriquees_data()
-{
-    QTest::addColumn<QString>("texte");
-    QTest::addColumn<QString>("pareil");
-    QTest::newRow("italics in small capitals")
-        << u"<s>AB<i>CD</i></s>"_s << u"<s>AB</s><i><s>CD</s></i>"_s;
-    QTest::newRow("bold in a mention") << u"<m>AB<b>CD</b></m>"_s << u"<m>AB</m><b><m>CD</m></b>"_s;
-    QTest::newRow("bold around emphasis")
-        << u"<b>ab<em>cd</em></b>"_s << u"<b>ab</b><em><b>cd</b></em>"_s;
-    QTest::newRow("a tag without effect between")
-        << u"<b><zut><i>ab</i></zut></b>"_s << u"<i><b>ab</b></i>"_s;
-    QTest::newRow("the inner size wins")
-        << u"<em>ab<sub>2</sub></em>"_s << u"<em>ab</em><i><sub>2</sub></i>"_s;
-    QTest::newRow("the inner colour wins")
-        << u"<font color =\"#ff0000\">a<font color =\"#0000ff\">b</font></font>"_s
-        << u"<font color =\"#ff0000\">a</font><font color =\"#0000ff\">b</font>"_s;
-}
-
-void tst_TexteRicheDessin::balisesImbriquees()
-{
-    QFETCH(QString, texte);
-    QFETCH(QString, pareil);
-    QFont moyenne = DonneFontDImage();
-    moyenne.setWeight(QFont::Medium);
-    for (QFont const & font : {DonneFontDImage(), moyenne}) {
-        QImage const images[] = {DessineImage([&](QPainter & peintre) {
-                                     DessineTexteRiche(peintre, kLarge, font, texte);
-                                 }),
-                                 DessineImage([&](QPainter & peintre) {
-                                     DessineTexteRiche(peintre, kLarge, font, pareil);
-                                 })};
-        QCOMPARE(images[0], images[1]);
-    }
-    QVERIFY(DessineRang(kLarge, texte) !=
-            DessineRang(kLarge, QString(texte).remove(QRegularExpression(u"<[^>]*>"_s))));
-}
-
-void tst_TexteRicheDessin::losangeDansEmphase()
-{
-    // The diamond is as small as anywhere else.
-    double const losange = Longueur(u"x</pn>x"_s) - Longueur(u"xx"_s);
-    QVERIFY(losange > 0.0);
-    double const dansEmphase =
-        Longueur(u"<em><pn>x</pn>x</em>"_s) - Longueur(u"<em>x<i></i>x</em>"_s);
-    QVERIFY2(std::abs(dansEmphase - losange) < 1.0,
-             qPrintable(u"%1 and %2"_s.arg(dansEmphase).arg(losange)));
-}
-
-void tst_TexteRicheDessin::couleurDuCrayon()
-{
-    for (QColor const & couleur : {QColor(200, 0, 0), QColor(0, 0, 200)}) {
-        QImage const image = DessineImage([&](QPainter & peintre) {
-            peintre.setPen(couleur);
-            DessineTexteRicheAvecSource(peintre, kEtroit, DonneFontDImage(),
-                                        QString(50, QChar(0x2588)), u"\u2588"_s, false);
-        });
-        QVERIFY(ContientCouleur(image, couleur)); // of full blocks
-        QVERIFY(!ContientCouleur(image, Qt::black));
-    }
-}
-
-void tst_TexteRicheDessin::couleurDuTexte()
-{
-    QString const blocs(2, QChar(0x2588));
-    QImage const image = DessineImage([&](QPainter & peintre) {
-        peintre.setPen(Qt::blue);
-        DessineTexteRiche(peintre, kLarge, DonneFontDImage(),
-                          u"<font color =\"#ff0000\">"_s + blocs + u"</font>"_s + blocs +
-                              u"<span class=\"surlignement\">i</span>"_s);
-    });
-    QVERIFY(ContientCouleur(image, Qt::red));
-    QVERIFY(ContientCouleur(image, Qt::blue));
-    QVERIFY(ContientCouleur(image, QColor(250, 250, 0)));
 }
 
 void tst_TexteRicheDessin::peintreIntact()
@@ -512,33 +240,6 @@ void tst_TexteRicheDessin::chaineFormatee()
         QCOMPARE(peintre.pen().color(), QColor(Qt::magenta));
     });
     QVERIFY(DonneEncre(image).isNull());
-}
-
-void tst_TexteRicheDessin::longueur_data()
-{
-    QTest::addColumn<QString>("texte");
-    QTest::newRow("empty") << u""_s;
-    QTest::newRow("blanks at the end") << u"abc   "_s;
-    QTest::newRow("blanks alone") << u"   "_s;
-    QTest::newRow("long") << TexteLong().repeated(50);
-    QTest::newRow("tags") << u"a<b>bc</b><em>d</em><s>e</s><sup>2</sup></pn>"_s;
-    QTest::newRow("line feed") << u"un<br/>deux"_s;
-    QTest::newRow("right to left") << u"\u05e9\u05dc\u05d5\u05dd abc"_s;
-}
-
-void tst_TexteRicheDessin::longueur()
-{
-    QFETCH(QString, texte);
-    QFont const font = DonneFontDImage();
-    auto const analyse = DonneTexteAvecFormat(texte, font);
-    QTextLayout layout(QString(analyse.texte).replace(u'\n', QChar(QChar::LineSeparator)), font);
-    layout.setFormats(analyse.formats);
-    layout.beginLayout();
-    QTextLine ligne = layout.createLine();
-    if (ligne.isValid())
-        ligne.setLineWidth(2147483647);
-    layout.endLayout();
-    QCOMPARE(DonneLongueurTexteRiche(texte, font), ligne.naturalTextWidth());
 }
 
 QTEST_MAIN(tst_TexteRicheDessin)

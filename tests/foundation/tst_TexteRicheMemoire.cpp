@@ -3,11 +3,14 @@
 // Rows that were drawn before are drawn from memory. Whatever changes, nobody may see it: each
 // image is compared with one that is drawn without the library's memory.
 #include "foundation/ImagesTexteRiche.h"
+#include "foundation/PoliceDEssaiTexteRiche.h"
 #include "foundation/Polices.h"
-#include "foundation/ProgrammeEnfant.h"
 #include "foundation/ReferenceTexteRiche.h"
 
 #include <QtTest>
+
+#include <QFontDatabase>
+#include <QPicture>
 
 #include <memory>
 
@@ -15,9 +18,6 @@ using namespace Qt::StringLiterals;
 using namespace RoutinesGeneralesQt;
 
 namespace {
-
-constexpr char kOptionDeuxApplications[] = "--two-applications";
-constexpr char kOptionApplicationOubliee[] = "--leaked-application";
 
 struct Dessin
 {
@@ -67,13 +67,11 @@ private Q_SLOTS:
     void modulateurACalculer();
     void aucunModulateurSansTailles();
     void resolutionDuPeripherique();
+    void imageApresDessinEnregistray();
     void policesAjoutees();
     void beaucoupDAutres();
     void beaucoupDePolices();
     void texteEnorme();
-    void finDeLApplication_data();
-    void finDeLApplication();
-    void bibliothequeDechargee();
 };
 
 void tst_TexteRicheMemoire::cleanup()
@@ -88,6 +86,7 @@ void tst_TexteRicheMemoire::secondeFois_data()
     QTest::addColumn<bool>("deuxLignes");
     QTest::newRow("one line, cut") << Dessin().texte << false;
     QTest::newRow("two lines") << Dessin().texte << true;
+    QTest::newRow("index") << u"a<sup>2</sup><sub>3</sub>"_s << false;
     QTest::newRow("index and highlight")
         << u"<span class=\"surlignement\">a</span><sup>2</sup>"_s << false;
     QTest::newRow("colour") << u"<font color =\"#ff0000\">a</font>b"_s << false;
@@ -208,28 +207,61 @@ void tst_TexteRicheMemoire::resolutionDuPeripherique()
             QCOMPARE(DessineParMemoire(ecran), DessineSansMemoire(ecran));
             QVERIFY(DessineParMemoire(papier) != DessineParMemoire(ecran));
         }
+        // Without sizes of its own the text is what a bare layout makes of the font.
+        for (Dessin * const dessin : {&ecran, &papier}) {
+            dessin->texte = u"abc"_s;
+            dessin->source.clear();
+        }
+        for (Dessin const & dessin : {ecran, papier, ecran, papier})
+            QCOMPARE(DessineParMemoire(dessin), DessineSansMemoire(dessin));
+        QCOMPARE(DessineParMemoire(papier) == DessineParMemoire(ecran), !enPoints);
+    }
+}
+
+// A picture takes letters and an image glyphs, of the same row.
+void tst_TexteRicheMemoire::imageApresDessinEnregistray()
+{
+    Dessin dessin;
+    dessin.texte += u"<sup>2</sup>"_s;
+    for (int fois = 0; fois < 2; ++fois) {
+        QPicture enregistray;
+        {
+            QPainter peintre(&enregistray);
+            DessineTexteRicheAvecSource(peintre, dessin.rectangle, dessin.font, dessin.texte,
+                                        dessin.source, dessin.deuxLignes);
+        }
+        QVERIFY(QByteArrayView(enregistray.data(), enregistray.size())
+                    .contains(QByteArray("\0L\0e\0s", 6)));
+        QCOMPARE(DessineParMemoire(dessin), DessineSansMemoire(dessin));
     }
 }
 
 void tst_TexteRicheMemoire::policesAjoutees()
 {
-    Dessin const dessin;
+    Dessin dessin;
+    dessin.texte = u"abc"_s;
+    dessin.font.setFamily(DonneFamilleDEssai());
     QImage const avant = DessineParMemoire(dessin);
-    Q_EMIT qApp->fontDatabaseChanged();
-    QCOMPARE(DessineParMemoire(dessin), avant);
-    Q_EMIT qApp->fontDatabaseChanged();
-    Q_EMIT qApp->fontDatabaseChanged();
-    QCOMPARE(DessineParMemoire(dessin), avant);
+    QCOMPARE(avant, DessineSansMemoire(dessin));
+
+    int const police = QFontDatabase::addApplicationFontFromData(DonnePoliceDEssai());
+    QVERIFY(police >= 0);
+    QImage const pendant = DessineParMemoire(dessin);
+    QVERIFY(pendant != avant);
+    QCOMPARE(pendant, DessineSansMemoire(dessin));
+
+    QVERIFY(QFontDatabase::removeApplicationFont(police));
+    QCOMPARE(DessineParMemoire(dessin), DessineSansMemoire(dessin));
 }
 
 void tst_TexteRicheMemoire::beaucoupDAutres()
 {
     Dessin dessin;
     QImage const avant = DessineParMemoire(dessin);
-    for (int i = 0; i < 10'000; ++i) {
-        UniChaine const autre(u"<b>rang</b> %1"_s.arg(i));
-        DonneLongueurTexteRiche(autre, dessin.font);
-    }
+    DessineImage([&](QPainter & peintre) {
+        for (int i = 0; i < 3'000; ++i) // more than are kept
+            DessineTexteRiche(peintre, dessin.rectangle, dessin.font, u"<b>rang</b> %1"_s.arg(i));
+    });
     QCOMPARE(DessineParMemoire(dessin), avant);
     QCOMPARE(DessineParMemoire(dessin), DessineSansMemoire(dessin));
 }
@@ -246,6 +278,7 @@ void tst_TexteRicheMemoire::beaucoupDePolices()
     QCOMPARE(DessineParMemoire(dessin), avant);
 }
 
+// That it is drawn right. That its time grows with its length is for the benchmark to see.
 void tst_TexteRicheMemoire::texteEnorme()
 {
     Dessin dessin;
@@ -254,61 +287,5 @@ void tst_TexteRicheMemoire::texteEnorme()
     QCOMPARE(DessineParMemoire(dessin), DessineSansMemoire(dessin));
 }
 
-void tst_TexteRicheMemoire::finDeLApplication_data()
-{
-    QTest::addColumn<QString>("option");
-    QTest::addColumn<QString>("reponse");
-    QTest::newRow("two applications, one after the other")
-        << QString::fromLatin1(kOptionDeuxApplications) << u"same width"_s;
-    QTest::newRow("an application that is never destroyed")
-        << QString::fromLatin1(kOptionApplicationOubliee) << u"some width"_s;
-}
-
-void tst_TexteRicheMemoire::finDeLApplication()
-{
-    QFETCH(QString, option);
-    QTEST(LanceEnfant({option}, {}), "reponse");
-}
-
-void tst_TexteRicheMemoire::bibliothequeDechargee()
-{
-    QProcess aide;
-    aide.start(QStringLiteral(DECHARGEMENT_PROGRAMME), {QStringLiteral(DECHARGEMENT_BIBLIOTHEQUE)});
-    QVERIFY(aide.waitForFinished());
-    QCOMPARE(aide.exitStatus(), QProcess::NormalExit);
-    QCOMPARE(aide.exitCode(), 0);
-    QCOMPARE(QString::fromUtf8(aide.readAllStandardOutput()), u"measured\nunloaded\n"_s);
-}
-
-static int DessineAvecDeuxApplications(int nombre, char ** arguments)
-{
-    double largeurs[2] = {};
-    for (double & largeur : largeurs) {
-        QApplication const application(nombre, arguments);
-        DessineParMemoire({});
-        largeur = DonneLongueurTexteRiche(Dessin().texte, DonneFontDImage());
-    }
-    return Imprime(largeurs[0] > 0.0 && largeurs[0] == largeurs[1] ? u"same width"_s
-                                                                   : u"other width"_s);
-}
-
-static int DessineAvecApplicationOubliee(int nombre, char ** arguments)
-{
-    static QApplication * const application = new QApplication(nombre, arguments);
-    DessineParMemoire({});
-    double const largeur = DonneLongueurTexteRiche(Dessin().texte, application->font());
-    return Imprime(largeur > 0.0 ? u"some width"_s : u"no width"_s);
-}
-
-int main(int nombre, char ** arguments)
-{
-    if (nombre == 2 && qstrcmp(arguments[1], kOptionDeuxApplications) == 0)
-        return DessineAvecDeuxApplications(nombre, arguments);
-    if (nombre == 2 && qstrcmp(arguments[1], kOptionApplicationOubliee) == 0)
-        return DessineAvecApplicationOubliee(nombre, arguments);
-    QApplication const application(nombre, arguments);
-    tst_TexteRicheMemoire test;
-    return QTest::qExec(&test, nombre, arguments);
-}
-
+QTEST_MAIN(tst_TexteRicheMemoire)
 #include "tst_TexteRicheMemoire.moc"

@@ -1,10 +1,10 @@
-// bench/bench_InterpreteurChaineSemantique.cpp
+// bench/bench_InterpreteurChaineSemantiqueT.cpp
 //
 // The base rules applied to tagged texts of 1,000 to 1,000,000 characters, beside a chain of
 // QString::replace, which reads no element and so finds no mistake, and beside one
 // QRegularExpression over the tags. Exits with 1 when the time does not grow linearly.
 #include "style/DStyleProxy.h"
-#include "style/InterpreteurChaineSemantique.h"
+#include "style/InterpreteurChaineSemantiqueT.h"
 
 #include <QCoreApplication>
 #include <QElapsedTimer>

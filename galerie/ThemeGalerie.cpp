@@ -54,7 +54,7 @@ QPalette DonnePalette()
     for (auto const role : {QPalette::ButtonText, QPalette::Text, QPalette::WindowText})
         MetsCouleur(palette, QPalette::Disabled, role, u"couleurTexteGris"_s);
     // The style paints a default button in this colour, also one that is disabled.
-    MetsCouleur(palette, QPalette::Disabled, QPalette::Highlight, u"couleurBordureGeneral"_s);
+    MetsCouleur(palette, QPalette::Disabled, QPalette::Highlight, u"couleurFondBoutonHover"_s);
     return palette;
 }
 

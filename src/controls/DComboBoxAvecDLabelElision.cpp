@@ -15,6 +15,8 @@
 
 #include <algorithm>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr int kLettresMinimales = 7; // as an empty QComboBox
@@ -120,7 +122,9 @@ void DeleguayAvecLabel::paint(QPainter * peintre, QStyleOptionViewItem const & o
         monLabel->PrendsPolice(sansTexte.font);
     monLabel->PrendsModeElision(DonneModeElision(sansTexte.textElideMode));
     monLabel->setLayoutDirection(sansTexte.direction);
-    sansTexte.text.clear();
+    // A style may put the check of an item without any text in the middle.
+    bool const coche = sansTexte.features & QStyleOptionViewItem::HasCheckIndicator;
+    sansTexte.text = coche && !sansTexte.text.isEmpty() ? u" "_s : QString();
     style->drawControl(QStyle::CE_ItemViewItem, &sansTexte, peintre, sansTexte.widget);
 
     peintre->save();

@@ -40,6 +40,9 @@ class QStyleOptionViewItem;
 /// with an unbalanced tag throws `InterpreteurChaineSemantiqueErreur` out of its drawing and
 /// measuring. A rich menu item shows no mnemonic.
 ///
+/// Rich texts are drawn by a hidden `QLabel`, so rules of the application's style sheet for every
+/// `QLabel` also apply to them.
+///
 /// One picture is the application's to supply: ":Images/chevron-DToolButton.svg", the arrow of
 /// buttons, without which none is drawn.
 ///
@@ -91,7 +94,7 @@ public:
     static char const * DonneNomStyleComboBoxSansFrame();
     /// The style does not read it.
     static char const * DonneNomStyleCouleurBordure();
-    /// A push button without a bevel.
+    /// A push button without a bevel; the label of a default one has its usual colour then.
     static char const * DonneNomStyleDesactiveBevelBouton();
     /// A button without an arrow for its menu. Any true value.
     static char const * DonneNomStyleDesactiveFlecheMenuBouton();

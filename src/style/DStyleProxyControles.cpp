@@ -268,7 +268,7 @@ void DStyleProxy::DessineTexteBouton(QStyleOptionButton const & option, QPainter
     if (widget && EstDefaut(copie)) {
         if (copie.state & State_Sunken)
             copie.state |= State_On;
-        else if (!EstBooleenVrai(widget, ProprietesStyle::kBoutonSansBevel))
+        else if (!EstBooleenVrai(widget, ProprietesStyle::kBoutonSansBevel)) // on the accent only
             copie.palette =
                 maMemoirePalettes->Donne(copie.palette, QPalette::ButtonText, Qt::white);
     }

@@ -47,9 +47,19 @@ void EcrisSurFondClair(QPalette & palette)
         palette.setBrush(groupe, QPalette::HighlightedText, palette.brush(groupe, QPalette::Text));
 }
 
+// The base shall not write the text. One that was there leaves a blank beside a check indicator,
+// which would go to the middle of an item without a text.
+void EffaceTexte(QStyleOptionViewItem & option)
+{
+    bool const coche = option.features & QStyleOptionViewItem::HasCheckIndicator;
+    option.text = coche && !option.text.isEmpty() ? u" "_s : QString();
+}
+
 // What a model asks for behind its item, as the base styles paint it.
 void DessineFondDuModele(QStyleOptionViewItem const & option, QPainter & peintre)
 {
+    if (option.backgroundBrush.style() == Qt::NoBrush || option.state & QStyle::State_Selected)
+        return;
     GardePeintre const garde(&peintre);
     peintre.setBrushOrigin(option.rect.topLeft());
     peintre.fillRect(option.rect, option.backgroundBrush);
@@ -82,16 +92,19 @@ void DStyleProxy::DessineItemVue(QStyleOptionViewItem const & option, QPainter *
     QScopedValueRollback const dessin(monItemEstDessinay, true);
     peintre->setRenderHint(QPainter::Antialiasing);
     QStyleOptionViewItem copie(option);
-    if (fondPeint)
+    if (fondPeint) {
+        DessineFondDuModele(option, *peintre);
+        copie.backgroundBrush = Qt::NoBrush; // the panel comes later, and would cover what follows
         DessineFondItem(option, peintre, widget);
+    }
     if (surFondClair)
         EcrisSurFondClair(copie.palette);
     if (estListeDeCombo) {
         copie.state &= ~State_Selected;
         if (estRiche)
-            copie.text.clear(); // its delegate writes it, or what follows
+            EffaceTexte(copie); // its delegate writes it, or what follows
     } else if (suitRegles) {
-        copie.text = u" "_s; // as good as none, but the check indicator stays at its place
+        EffaceTexte(copie);
     }
     QScopedValueRollback const fond(monFondItemPeint, fondPeint);
     QProxyStyle::drawControl(CE_ItemViewItem, &copie, peintre, widget);
@@ -105,6 +118,7 @@ void DStyleProxy::DessineItemVue(QStyleOptionViewItem const & option, QPainter *
 void DStyleProxy::DessineSansExtras(ControlElement element, QStyleOption const * option,
                                     QPainter * peintre, QWidget const * widget) const
 {
+    QScopedValueRollback const dessin(monItemEstDessinay, element == CE_ItemViewItem);
     auto const * const item = qstyleoption_cast<QStyleOptionViewItem const *>(option);
     if (element != CE_ItemViewItem || !item || EstTable(widget) || !EstMisEnValeur(*item)) {
         QProxyStyle::drawControl(element, option, peintre, widget);
@@ -201,8 +215,7 @@ QPainterPath DStyleProxy::DonneRectArondi(QRect const & rect, int hautGauche, in
 bool DStyleProxy::DessinePanneauItem(QStyleOptionViewItem const & option, QPainter * peintre,
                                      QWidget const * widget) const
 {
-    if (option.backgroundBrush.style() != Qt::NoBrush && !(option.state & State_Selected))
-        DessineFondDuModele(option, *peintre);
+    DessineFondDuModele(option, *peintre);
     if (!monFondItemPeint && EstMisEnValeur(option))
         DessineFondItem(option, peintre, widget);
     bool const portMarque = option.viewItemPosition == QStyleOptionViewItem::Beginning ||

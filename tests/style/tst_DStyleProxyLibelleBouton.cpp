@@ -26,6 +26,8 @@ private Q_SLOTS:
     void parDefaut_data();
     void parDefaut();
     void parDefautSansWidget();
+    void parDefautSansBiseau_data();
+    void parDefautSansBiseau();
     void homographeParDefaut();
     void deStyle();
 
@@ -157,6 +159,25 @@ void tst_DStyleProxyLibelleBouton::parDefautSansWidget()
 
     AppelStyle const presse = Libelle(DonneOption(kNormal | QStyle::State_Sunken, true));
     QVERIFY(!presse.option.state.testFlag(QStyle::State_On));
+}
+
+void tst_DStyleProxyLibelleBouton::parDefautSansBiseau_data()
+{
+    AjouteValeurs(kBooleenSeul);
+}
+
+// White is for the accent colour of the bevel.
+void tst_DStyleProxyLibelleBouton::parDefautSansBiseau()
+{
+    QFETCH(QVariant, valeur);
+    QFETCH(bool, compte);
+    monBanc->bouton->setProperty(DStyleProxy::DonneNomStyleDesactiveBevelBouton(), valeur);
+    QStyleOptionButton option = DonneOption(kNormal, true);
+    option.palette.setColor(QPalette::ButtonText, kTexte);
+
+    QColor const couleur = Libelle(option).palette.buttonText().color();
+
+    QCOMPARE(couleur, compte ? kTexte : QColor(Qt::white));
 }
 
 void tst_DStyleProxyLibelleBouton::homographeParDefaut()

@@ -19,6 +19,7 @@ private Q_SLOTS:
     void parLaCombo();
     void sansRegle();
     void sansEnsemble();
+    void cocheGardeSaPlace();
     void parSonConteneur();
 
 private:
@@ -107,6 +108,25 @@ void tst_DStyleProxyListeDeCombo::sansEnsemble()
         QVERIFY(monBanc->espion->Donne(AppelStyle::kTexte).isEmpty());
         QCOMPARE(PrendsTexteDeLaBase(), QString());
     }
+}
+
+// Not in the middle, where it would be of an item that had no text before.
+void tst_DStyleProxyListeDeCombo::cocheGardeSaPlace()
+{
+    QComboBox combo;
+    MetsRegles(combo);
+    QStyleOptionViewItem option = DonneOption(kNormal, u"Mot"_s);
+    option.features |= QStyleOptionViewItem::HasCheckIndicator;
+
+    PeinsItem(option, combo.view());
+    option.text = PrendsTexteDeLaBase();
+
+    QCOMPARE(option.text, u" "_s);
+    QRect const coche =
+        monBanc->style.subElementRect(QStyle::SE_ItemViewItemCheckIndicator, &option, combo.view());
+    QRect const texte =
+        monBanc->style.subElementRect(QStyle::SE_ItemViewItemText, &option, combo.view());
+    QVERIFY(!coche.intersects(texte));
 }
 
 void tst_DStyleProxyListeDeCombo::parSonConteneur()

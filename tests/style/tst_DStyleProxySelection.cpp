@@ -56,6 +56,8 @@ private Q_SLOTS:
     void fondDeListe_data();
     void fondDeListe();
     void fondDuModele();
+    void fondDuModeleSousLeVoile_data();
+    void fondDuModeleSousLeVoile();
     void marquePosition_data();
     void marquePosition();
     void marquePlace_data();
@@ -170,6 +172,43 @@ void tst_DStyleProxySelection::fondDuModele()
 
     option.state = kSelection;
     QCOMPARE(PeinsPanneau(option, &vue).pixelColor(kRect.center()), QColor(0, 0, 0, 18));
+}
+
+void tst_DStyleProxySelection::fondDuModeleSousLeVoile_data()
+{
+    QTest::addColumn<bool>("liste");
+    QTest::addColumn<QStyle::State>("etat");
+    QTest::addColumn<QColor>("attendue");
+    QColor const jauneVoile(237, 237, 0); // under black of alpha 18
+    QStyle::State const survol = QStyle::State_Enabled | QStyle::State_MouseOver;
+    QTest::newRow("tree, under the mouse") << false << survol << jauneVoile;
+    QTest::newRow("tree, selected") << false << kSelection << QColor(0, 0, 0, 18);
+    QTest::newRow("combo box, under the mouse") << true << survol << jauneVoile;
+    QTest::newRow("combo box, selected") << true << kSelection << QColor(0, 0, 0, 18);
+    QTest::newRow("tree, neither")
+        << false << QStyle::State(QStyle::State_Enabled) << QColor(255, 255, 0);
+}
+
+// The base paints the panel after the row's background, and without the selection in the list of a
+// combo box.
+void tst_DStyleProxySelection::fondDuModeleSousLeVoile()
+{
+    QFETCH(bool, liste);
+    QFETCH(QStyle::State, etat);
+    QFETCH(QColor, attendue);
+    DStyleProxy const style(QStyleFactory::create(u"Fusion"_s));
+    QTreeView arbre;
+    QComboBox combo;
+    QStyleOptionViewItem option = DonneOption(etat);
+    option.backgroundBrush = QColor(255, 255, 0);
+    option.text.clear();
+
+    QImage const image = Peins(kTaille, [&](QPainter & peintre) {
+        style.drawControl(QStyle::CE_ItemViewItem, &option, &peintre,
+                          liste ? static_cast<QWidget *>(combo.view()) : &arbre);
+    });
+
+    QCOMPARE(image.pixelColor(kRect.center()), attendue);
 }
 
 void tst_DStyleProxySelection::marquePosition_data()

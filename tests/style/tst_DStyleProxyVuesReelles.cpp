@@ -122,12 +122,16 @@ void tst_DStyleProxyVuesReelles::cellule_data()
     QTest::addColumn<bool>("image");
     QTest::addColumn<bool>("coche");
     QTest::addColumn<Qt::LayoutDirection>("sens");
-    for (auto const sens : {Qt::LeftToRight, Qt::RightToLeft}) {
-        char const * const suite = sens == Qt::RightToLeft ? ", right to left" : "";
-        QTest::addRow("text%s", suite) << false << false << sens;
-        QTest::addRow("picture%s", suite) << true << false << sens;
-        QTest::addRow("check%s", suite) << false << true << sens;
-        QTest::addRow("both%s", suite) << true << true << sens;
+    QTest::addColumn<bool>("deStyle");
+    for (bool const deStyle : {false, true}) {
+        for (auto const sens : {Qt::LeftToRight, Qt::RightToLeft}) {
+            QByteArray const suite = QByteArray(sens == Qt::RightToLeft ? ", right to left" : "") +
+                                     (deStyle ? ", DStyleProxy" : "");
+            QTest::addRow("text%s", suite.data()) << false << false << sens << deStyle;
+            QTest::addRow("picture%s", suite.data()) << true << false << sens << deStyle;
+            QTest::addRow("check%s", suite.data()) << false << true << sens << deStyle;
+            QTest::addRow("both%s", suite.data()) << true << true << sens << deStyle;
+        }
     }
 }
 
@@ -137,7 +141,9 @@ void tst_DStyleProxyVuesReelles::cellule()
     QFETCH(bool, image);
     QFETCH(bool, coche);
     QFETCH(Qt::LayoutDirection, sens);
+    QFETCH(bool, deStyle);
     QTableWidget table(1, 1);
+    table.setProperty(DStyleProxy::DonneNomAttributPourStyle(), deStyle);
     table.setStyle(monStyle.get());
     table.setLayoutDirection(sens);
     table.setIconSize(QSize(16, 16));

@@ -4,8 +4,12 @@
 #include "controls/Encre.h"
 #include "controls/EssaisComboElision.h"
 #include "controls/StyleTemoin.h"
+#include "style/DStyleProxy.h"
 
 #include <QtTest>
+
+#include <algorithm>
+#include <memory>
 
 using namespace EssaisComboElision;
 using namespace Qt::StringLiterals;
@@ -52,6 +56,8 @@ private Q_SLOTS:
     void itemTropLong_data();
     void itemTropLong();
     void itemAvecIcone();
+    void itemAvecCoche_data();
+    void itemAvecCoche();
     void separateur();
     void hauteurDesItems();
 };
@@ -186,6 +192,44 @@ void tst_DComboBoxAvecDLabelElisionItems::itemAvecIcone()
     QRect const icone = Encre::BornesDe(image, Qt::cyan);
     QVERIFY(icone.isValid());
     QVERIFY(Encre::BornesDe(image, kVert).left() > icone.right());
+}
+
+void tst_DComboBoxAvecDLabelElisionItems::itemAvecCoche_data()
+{
+    QTest::addColumn<bool>("proxy");
+    QTest::newRow("Fusion") << false;
+    QTest::newRow("the style proxy") << true;
+}
+
+void tst_DComboBoxAvecDLabelElisionItems::itemAvecCoche()
+{
+    QFETCH(bool, proxy);
+    std::unique_ptr<QStyle> style(QStyleFactory::create(u"Fusion"_s));
+    if (proxy)
+        style = std::make_unique<DStyleProxy>(style.release());
+    DComboBoxAvecDLabelElision combo(nullptr);
+    combo.addItem(u" "_s);
+    combo.setItemData(0, Qt::Checked, Qt::CheckStateRole);
+    combo.view()->setStyle(style.get());
+    QImage const coche = DessineItem(combo, 0, QStyle::State_Enabled);
+    combo.setItemText(0, kPleins);
+    QImage const avecTexte = DessineItem(combo, 0, QStyle::State_Enabled);
+    combo.view()->setStyle(nullptr);
+
+    // The text begins behind the check, which stays where it was.
+    int finCoche = -1;
+    int debutTexte = kLigne.width();
+    for (int y = 0; y < kLigne.height(); ++y) {
+        for (int x = 0; x < kLigne.width(); ++x) {
+            if (coche.pixelColor(x, y) != Qt::white)
+                finCoche = std::max(finCoche, x);
+            if (coche.pixel(x, y) != avecTexte.pixel(x, y))
+                debutTexte = std::min(debutTexte, x);
+        }
+    }
+    QVERIFY(finCoche >= 0);
+    QVERIFY(debutTexte < kLigne.width());
+    QVERIFY(finCoche < debutTexte);
 }
 
 void tst_DComboBoxAvecDLabelElisionItems::separateur()

@@ -60,8 +60,9 @@ bool EstDefaut(QStyleOptionButton const & option)
 
 QColor MelangeSur(QColor const & fond, QColor const & couche)
 {
-    auto const melange = [&couche](int dessous, int dessus) {
-        return static_cast<int>(std::lround(dessous + (dessus - dessous) * couche.alphaF()));
+    double const part = couche.alphaF();
+    auto const melange = [part](int dessous, int dessus) {
+        return static_cast<int>(std::lround(dessous + (dessus - dessous) * part));
     };
     return {melange(fond.red(), couche.red()), melange(fond.green(), couche.green()),
             melange(fond.blue(), couche.blue())};

@@ -53,3 +53,22 @@ inline QStyleOptionViewItem DonneOption(QStyle::State etat,
     option.viewItemPosition = QStyleOptionViewItem::OnlyOne;
     return option;
 }
+
+/// What the style paints of an item.
+inline QImage PeinsItem(BancStyle const & banc, QStyleOption const & option, QWidget const * widget)
+{
+    return Peins(kTaille, [&](QPainter & peintre) {
+        banc.style.drawControl(QStyle::CE_ItemViewItem, &option, &peintre, widget);
+    });
+}
+
+/// What the base was given to write in its only call for an item, which is then forgotten.
+inline QString PrendsTexteDeLaBase(BancStyle const & banc)
+{
+    auto const appels = banc.espion->Donne(AppelStyle::kControle, QStyle::CE_ItemViewItem);
+    banc.espion->appels.clear();
+    if (appels.size() == 1)
+        return appels.first().texte;
+    QTest::qFail("The base is not called once", __FILE__, __LINE__);
+    return {};
+}

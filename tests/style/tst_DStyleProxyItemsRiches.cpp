@@ -53,9 +53,6 @@ private Q_SLOTS:
     void baliseNonFermeeMesuree();
 
 private:
-    QImage PeinsItem(QStyleOption const & option, QWidget const * widget) const;
-    QString PrendsTexteDeLaBase() const;
-
     std::unique_ptr<BancStyle> monBanc;
 };
 
@@ -68,25 +65,6 @@ void tst_DStyleProxyItemsRiches::cleanup()
 {
     monBanc.reset();
     QVERIFY(QApplication::topLevelWidgets().isEmpty());
-}
-
-QImage tst_DStyleProxyItemsRiches::PeinsItem(QStyleOption const & option,
-                                             QWidget const * widget) const
-{
-    return Peins(kTaille, [&](QPainter & peintre) {
-        monBanc->style.drawControl(QStyle::CE_ItemViewItem, &option, &peintre, widget);
-    });
-}
-
-// What the base was given to write, in its only call.
-QString tst_DStyleProxyItemsRiches::PrendsTexteDeLaBase() const
-{
-    auto const appels = monBanc->espion->Donne(AppelStyle::kControle, QStyle::CE_ItemViewItem);
-    monBanc->espion->appels.clear();
-    if (appels.size() == 1)
-        return appels.first().texte;
-    QTest::qFail("The base is not called once", __FILE__, __LINE__);
-    return {};
 }
 
 void tst_DStyleProxyItemsRiches::contextes_data()
@@ -115,9 +93,9 @@ void tst_DStyleProxyItemsRiches::contextes()
     MetsRegles(*vue);
     QStyleOptionViewItem const option = DonneOption(etat);
 
-    QImage const image = PeinsItem(option, vue.get());
+    QImage const image = PeinsItem(*monBanc, option, vue.get());
 
-    QCOMPARE(PrendsTexteDeLaBase().trimmed(), QString());
+    QCOMPARE(PrendsTexteDeLaBase(*monBanc).trimmed(), QString());
     for (QColor const & essayee : {QColor(Qt::red), QColor(Qt::green), QColor(Qt::blue)})
         QCOMPARE(!Etendue(image, essayee).isEmpty(), essayee == couleur);
     QVERIFY(kRect.contains(Etendue(image, couleur)));
@@ -138,11 +116,11 @@ void tst_DStyleProxyItemsRiches::autresContextesSansRegle()
     auto const vue = CreeVue(genre);
     MetsRegles(*vue, {{kContexteNormal, DonneRegles(u"#ff0000"_s)}});
 
-    QVERIFY(!Etendue(PeinsItem(DonneOption(kNormal), vue.get()), Qt::red).isEmpty());
-    QCOMPARE(PrendsTexteDeLaBase().trimmed(), QString());
+    QVERIFY(!Etendue(PeinsItem(*monBanc, DonneOption(kNormal), vue.get()), Qt::red).isEmpty());
+    QCOMPARE(PrendsTexteDeLaBase(*monBanc).trimmed(), QString());
     for (auto const etat : {kSelection, kSurvol}) {
-        QVERIFY(Etendue(PeinsItem(DonneOption(etat), vue.get()), Qt::red).isEmpty());
-        QCOMPARE(PrendsTexteDeLaBase(), u"<r>Mot</r>"_s);
+        QVERIFY(Etendue(PeinsItem(*monBanc, DonneOption(etat), vue.get()), Qt::red).isEmpty());
+        QCOMPARE(PrendsTexteDeLaBase(*monBanc), u"<r>Mot</r>"_s);
     }
 }
 
@@ -160,10 +138,10 @@ void tst_DStyleProxyItemsRiches::propriete()
         MetsRegles(*vue);
         vue->setProperty(DStyleProxy::DonneNomProprietePossedeRegleTexteRiche(), valeur);
 
-        QImage const image = PeinsItem(DonneOption(kNormal), vue.get());
+        QImage const image = PeinsItem(*monBanc, DonneOption(kNormal), vue.get());
 
         QCOMPARE(!Etendue(image, Qt::red).isEmpty(), compte);
-        QCOMPARE(PrendsTexteDeLaBase() == u"<r>Mot</r>"_s, !compte);
+        QCOMPARE(PrendsTexteDeLaBase(*monBanc) == u"<r>Mot</r>"_s, !compte);
     }
 }
 
@@ -173,8 +151,8 @@ void tst_DStyleProxyItemsRiches::proprieteSeule()
     QListView vue;
     vue.setProperty(DStyleProxy::DonneNomProprietePossedeRegleTexteRiche(), true);
 
-    QVERIFY(EstVide(PeinsItem(DonneOption(kNormal, u"<b>Mot</b>"_s), &vue)));
-    QCOMPARE(PrendsTexteDeLaBase(), u"<b>Mot</b>"_s);
+    QVERIFY(EstVide(PeinsItem(*monBanc, DonneOption(kNormal, u"<b>Mot</b>"_s), &vue)));
+    QCOMPARE(PrendsTexteDeLaBase(*monBanc), u"<b>Mot</b>"_s);
 }
 
 void tst_DStyleProxyItemsRiches::texteSansRegle()
@@ -182,8 +160,8 @@ void tst_DStyleProxyItemsRiches::texteSansRegle()
     QListView vue;
     MetsRegles(vue);
     for (QString const & texte : {u"Mot"_s, u"a < b"_s, u"<z>Mot</z>"_s, u"<z>Mot"_s, QString()}) {
-        QVERIFY(EstVide(PeinsItem(DonneOption(kNormal, texte), &vue)));
-        QCOMPARE(PrendsTexteDeLaBase(), texte);
+        QVERIFY(EstVide(PeinsItem(*monBanc, DonneOption(kNormal, texte), &vue)));
+        QCOMPARE(PrendsTexteDeLaBase(*monBanc), texte);
     }
 }
 
@@ -192,8 +170,8 @@ void tst_DStyleProxyItemsRiches::fonctionVide()
     QListView vue;
     MetsRegles(vue, {{kContexteNormal, {{UniChaine("r"), RegleTexteRiche()}}}});
 
-    QVERIFY(EstVide(PeinsItem(DonneOption(kNormal), &vue)));
-    QCOMPARE(PrendsTexteDeLaBase(), u"<r>Mot</r>"_s);
+    QVERIFY(EstVide(PeinsItem(*monBanc, DonneOption(kNormal), &vue)));
+    QCOMPARE(PrendsTexteDeLaBase(*monBanc), u"<r>Mot</r>"_s);
 }
 
 void tst_DStyleProxyItemsRiches::couleurDuTexte_data()
@@ -232,7 +210,7 @@ void tst_DStyleProxyItemsRiches::couleurDuTexte()
     option.palette.setColor(QPalette::Disabled, QPalette::Text, QColor(1, 130, 2));
     option.palette.setColor(QPalette::All, QPalette::HighlightedText, QColor(130, 2, 1));
 
-    QImage const image = PeinsItem(option, vue.get());
+    QImage const image = PeinsItem(*monBanc, option, vue.get());
 
     for (QColor const & essayee : {QColor(1, 2, 130), QColor(130, 2, 1), QColor(1, 130, 2)})
         QCOMPARE(!Etendue(image, essayee).isEmpty(), essayee == couleur);
@@ -245,9 +223,9 @@ void tst_DStyleProxyItemsRiches::fontDeLItem()
     QStyleOptionViewItem petite = DonneOption(kNormal);
     petite.font.setPixelSize(9);
 
-    int const largeur = Etendue(PeinsItem(DonneOption(kNormal), &vue), Qt::red).width();
+    int const largeur = Etendue(PeinsItem(*monBanc, DonneOption(kNormal), &vue), Qt::red).width();
 
-    QCOMPARE_GT(largeur, 2 * Etendue(PeinsItem(petite, &vue), Qt::red).width());
+    QCOMPARE_GT(largeur, 2 * Etendue(PeinsItem(*monBanc, petite, &vue), Qt::red).width());
 }
 
 void tst_DStyleProxyItemsRiches::placeDuTexteSimple_data()
@@ -266,8 +244,8 @@ void tst_DStyleProxyItemsRiches::placeDuTexteSimple()
          InterpreteurChaineSemantiqueT<UniChaine>::CreeFonctionRemplacerBalisesAvecTexte({}, {})}};
     MetsRegles(*vue, {{kContexteNormal, regles}});
 
-    QRect const riche = Encre(PeinsItem(DonneOption(kNormal), vue.get()));
-    QRect const simple = Encre(PeinsItem(DonneOption(kNormal, u"Mot"_s), vue.get()));
+    QRect const riche = Encre(PeinsItem(*monBanc, DonneOption(kNormal), vue.get()));
+    QRect const simple = Encre(PeinsItem(*monBanc, DonneOption(kNormal, u"Mot"_s), vue.get()));
 
     QVERIFY(!riche.isEmpty());
     for (int const ecart : {riche.left() - simple.left(), riche.right() - simple.right(),
@@ -307,9 +285,9 @@ void tst_DStyleProxyItemsRiches::indicateurACote()
         return appels.size() == 1 ? appels.first().rect : QRect();
     };
 
-    PeinsItem(option(u"Mot"_s), vue.get());
+    PeinsItem(*monBanc, option(u"Mot"_s), vue.get());
     QRect const attendu = prendsIndicateur();
-    QImage const image = PeinsItem(option(u"<r>Mot</r>"_s), vue.get());
+    QImage const image = PeinsItem(*monBanc, option(u"<r>Mot</r>"_s), vue.get());
 
     QVERIFY(!attendu.isEmpty());
     QCOMPARE(prendsIndicateur(), attendu);
@@ -333,11 +311,11 @@ void tst_DStyleProxyItemsRiches::deDroiteAGauche()
     auto const vue = CreeVue(genre);
     MetsRegles(*vue);
     QStyleOptionViewItem option = DonneOption(kNormal);
-    QRect const aGauche = Etendue(PeinsItem(option, vue.get()), Qt::red);
+    QRect const aGauche = Etendue(PeinsItem(*monBanc, option, vue.get()), Qt::red);
     vue->setLayoutDirection(Qt::RightToLeft);
     option.direction = Qt::RightToLeft;
 
-    QRect const aDroite = Etendue(PeinsItem(option, vue.get()), Qt::red);
+    QRect const aDroite = Etendue(PeinsItem(*monBanc, option, vue.get()), Qt::red);
 
     QVERIFY(!aGauche.isEmpty());
     QCOMPARE_LE(aGauche.left() - kRect.left(), 8);
@@ -376,7 +354,7 @@ void tst_DStyleProxyItemsRiches::baliseNonFermee()
     // As if nothing had been drawn.
     QCOMPARE(monBanc->style.subElementRect(QStyle::SE_ItemViewItemText, &iconique, vue.get()),
              texteAvant);
-    QVERIFY(!Etendue(PeinsItem(DonneOption(kNormal), vue.get()), Qt::red).isEmpty());
+    QVERIFY(!Etendue(PeinsItem(*monBanc, DonneOption(kNormal), vue.get()), Qt::red).isEmpty());
 }
 
 void tst_DStyleProxyItemsRiches::baliseNonFermeeMesuree()

@@ -23,9 +23,6 @@ private Q_SLOTS:
     void parSonConteneur();
 
 private:
-    QImage PeinsItem(QStyleOption const & option, QWidget const * widget) const;
-    QString PrendsTexteDeLaBase() const;
-
     std::unique_ptr<BancStyle> monBanc;
 };
 
@@ -38,25 +35,6 @@ void tst_DStyleProxyListeDeCombo::cleanup()
 {
     monBanc.reset();
     QVERIFY(QApplication::topLevelWidgets().isEmpty());
-}
-
-QImage tst_DStyleProxyListeDeCombo::PeinsItem(QStyleOption const & option,
-                                              QWidget const * widget) const
-{
-    return Peins(kTaille, [&](QPainter & peintre) {
-        monBanc->style.drawControl(QStyle::CE_ItemViewItem, &option, &peintre, widget);
-    });
-}
-
-// What the base was given to write, in its only call.
-QString tst_DStyleProxyListeDeCombo::PrendsTexteDeLaBase() const
-{
-    auto const appels = monBanc->espion->Donne(AppelStyle::kControle, QStyle::CE_ItemViewItem);
-    monBanc->espion->appels.clear();
-    if (appels.size() == 1)
-        return appels.first().texte;
-    QTest::qFail("The base is not called once", __FILE__, __LINE__);
-    return {};
 }
 
 void tst_DStyleProxyListeDeCombo::parLaCombo_data()
@@ -76,9 +54,9 @@ void tst_DStyleProxyListeDeCombo::parLaCombo()
     QComboBox combo;
     MetsRegles(combo);
 
-    QImage const image = PeinsItem(DonneOption(etat), combo.view());
+    QImage const image = PeinsItem(*monBanc, DonneOption(etat), combo.view());
 
-    QCOMPARE(PrendsTexteDeLaBase(), QString());
+    QCOMPARE(PrendsTexteDeLaBase(*monBanc), QString());
     for (QColor const & essayee : {QColor(Qt::red), QColor(Qt::green), QColor(Qt::blue)})
         QCOMPARE(!Etendue(image, essayee).isEmpty(), essayee == couleur);
 }
@@ -89,12 +67,12 @@ void tst_DStyleProxyListeDeCombo::sansRegle()
     QComboBox combo;
     MetsRegles(combo);
     for (QString const & texte : {u"Mot"_s, u"<z>o</z>"_s}) {
-        PeinsItem(DonneOption(kNormal, texte), combo.view());
+        PeinsItem(*monBanc, DonneOption(kNormal, texte), combo.view());
         auto const textes = monBanc->espion->Donne(AppelStyle::kTexte);
         QCOMPARE(textes.size(), 1);
         QCOMPARE(textes.first().texte, texte);
         QVERIFY(kRect.contains(textes.first().rect));
-        QCOMPARE(PrendsTexteDeLaBase(), QString());
+        QCOMPARE(PrendsTexteDeLaBase(*monBanc), QString());
     }
 }
 
@@ -104,9 +82,9 @@ void tst_DStyleProxyListeDeCombo::sansEnsemble()
     QComboBox combo;
     combo.setProperty(DStyleProxy::DonneNomProprietePossedeRegleTexteRiche(), true);
     for (QString const & texte : {u"Mot"_s, u"<b>Mot</b>"_s}) {
-        QVERIFY(EstVide(PeinsItem(DonneOption(kNormal, texte), combo.view())));
+        QVERIFY(EstVide(PeinsItem(*monBanc, DonneOption(kNormal, texte), combo.view())));
         QVERIFY(monBanc->espion->Donne(AppelStyle::kTexte).isEmpty());
-        QCOMPARE(PrendsTexteDeLaBase(), QString());
+        QCOMPARE(PrendsTexteDeLaBase(*monBanc), QString());
     }
 }
 
@@ -118,8 +96,8 @@ void tst_DStyleProxyListeDeCombo::cocheGardeSaPlace()
     QStyleOptionViewItem option = DonneOption(kNormal, u"Mot"_s);
     option.features |= QStyleOptionViewItem::HasCheckIndicator;
 
-    PeinsItem(option, combo.view());
-    option.text = PrendsTexteDeLaBase();
+    PeinsItem(*monBanc, option, combo.view());
+    option.text = PrendsTexteDeLaBase(*monBanc);
 
     QCOMPARE(option.text, u" "_s);
     QRect const coche =
@@ -136,9 +114,9 @@ void tst_DStyleProxyListeDeCombo::parSonConteneur()
     QVERIFY(conteneur->inherits("QComboBoxPrivateContainer"));
     MetsRegles(*conteneur);
 
-    QImage const image = PeinsItem(DonneOption(kSelection), combo.view());
+    QImage const image = PeinsItem(*monBanc, DonneOption(kSelection), combo.view());
 
-    QCOMPARE(PrendsTexteDeLaBase(), QString());
+    QCOMPARE(PrendsTexteDeLaBase(*monBanc), QString());
     QVERIFY(!Etendue(image, Qt::green).isEmpty());
 }
 

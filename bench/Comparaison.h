@@ -5,6 +5,7 @@
 #include <chrono>
 #include <cstdio>
 #include <functional>
+#include <limits>
 #include <utility>
 #include <vector>
 
@@ -76,4 +77,24 @@ template <typename T>
 void Garde(T const & valeur)
 {
     asm volatile("" : : "g"(&valeur) : "memory");
+}
+
+/// Nanoseconds of one call of `fonction`, in the fastest of some rounds: what is left when nothing
+/// else disturbs it, so that the growth with the size of its work can be read from it.
+template <typename Fonction>
+double MeilleureDuree(int repetitions, Fonction const & fonction)
+{
+    constexpr int kTours = 15;
+
+    fonction(); // so that the allocator and the caches know its sizes
+    double meilleure = std::numeric_limits<double>::infinity();
+    for (int tour = 0; tour < kTours; ++tour) {
+        auto const debut = std::chrono::steady_clock::now();
+        for (int i = 0; i < repetitions; ++i)
+            fonction();
+        std::chrono::duration<double, std::nano> const duree =
+            std::chrono::steady_clock::now() - debut;
+        meilleure = std::min(meilleure, duree.count() / repetitions);
+    }
+    return meilleure;
 }

@@ -3,24 +3,20 @@
 // The base rules applied to tagged texts of 1,000 to 1,000,000 characters, beside a chain of
 // QString::replace, which reads no element and so finds no mistake, and beside one
 // QRegularExpression over the tags. Exits with 1 when the time does not grow linearly.
+#include "Comparaison.h"
 #include "style/DStyleProxy.h"
 #include "style/InterpreteurChaineSemantiqueT.h"
 
 #include <QCoreApplication>
-#include <QElapsedTimer>
 #include <QRegularExpression>
 
-#include <algorithm>
 #include <cstdio>
-#include <limits>
 
 using namespace Qt::StringLiterals;
 
 using Interpreteur = InterpreteurChaineSemantiqueT<UniChaine>;
 
 namespace {
-
-constexpr int kEssais = 15; // of which the fastest counts
 
 // Ten times the text may take this many times as long: ten, and as much again for what the larger
 // one loses to the caches and the allocator. Quadratic time would take a hundred times as long.
@@ -69,22 +65,6 @@ QString RemplaceParExpression(QString const & texte)
     return resultat;
 }
 
-// Nanoseconds per call, in the fastest of some rounds.
-template <typename Fonction>
-double Mesure(int repetitions, Fonction const & fonction)
-{
-    fonction(); // so that the allocator and the caches know its sizes
-    double meilleure = std::numeric_limits<double>::infinity();
-    for (int essai = 0; essai < kEssais; ++essai) {
-        QElapsedTimer chrono;
-        chrono.start();
-        for (int i = 0; i < repetitions; ++i)
-            fonction();
-        meilleure = std::min(meilleure, static_cast<double>(chrono.nsecsElapsed()) / repetitions);
-    }
-    return meilleure;
-}
-
 } // namespace
 
 int main(int nombre, char ** arguments)
@@ -105,9 +85,10 @@ int main(int nombre, char ** arguments)
         }
         int const repetitions = static_cast<int>(1'000'000 / taille);
         double const duree =
-            Mesure(repetitions, [&] { Interpreteur::AppliqueRegles(texte, regles); });
-        double const boucle = Mesure(repetitions, [&] { RemplaceParBoucle(texte); });
-        double const expression = Mesure(repetitions, [&] { RemplaceParExpression(texte); });
+            MeilleureDuree(repetitions, [&] { Interpreteur::AppliqueRegles(texte, regles); });
+        double const boucle = MeilleureDuree(repetitions, [&] { RemplaceParBoucle(texte); });
+        double const expression =
+            MeilleureDuree(repetitions, [&] { RemplaceParExpression(texte); });
         double const croissance = precedente > 0.0 ? duree / precedente : 0.0;
         bool const depasse = croissance > kCroissanceMax;
         std::printf("%-10lld %14.0f %16.0f %16.0f %8.1f%s\n", static_cast<long long>(taille), duree,

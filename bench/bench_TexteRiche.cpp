@@ -34,7 +34,6 @@ constexpr double kApresMesuresMax = 0.4;
 constexpr double kMesureMax = 1.3;      // times the layout with ready formats: the tags are read
 constexpr double kCroissanceMax = 20.0; // for ten times the text; quadratic time takes a hundred
 
-constexpr int kEssais = 15; // of the tag scan, of which the fastest counts
 constexpr int kRangsVisibles = 50;
 constexpr int kRangs = 5'000; // more than are remembered
 constexpr int kMesuresEntreDessins = 3'000;
@@ -202,22 +201,6 @@ bool MesureDessinApresMesures(Genre const & genre)
     std::printf("again after %d measures, QTextDocument %20.2f%s\n", kMesuresEntreDessins,
                 rapports[kTours / 2], depasse ? "  above the limit" : "");
     return !depasse;
-}
-
-// Nanoseconds per call, in the fastest of some rounds.
-template <typename Fonction>
-double MeilleureDuree(int repetitions, Fonction const & fonction)
-{
-    fonction(); // so that the allocator and the caches know its sizes
-    double meilleure = std::numeric_limits<double>::infinity();
-    for (int essai = 0; essai < kEssais; ++essai) {
-        QElapsedTimer chrono;
-        chrono.start();
-        for (int i = 0; i < repetitions; ++i)
-            fonction();
-        meilleure = std::min(meilleure, static_cast<double>(chrono.nsecsElapsed()) / repetitions);
-    }
-    return meilleure;
 }
 
 // True when the time grows with the text.

@@ -10,20 +10,17 @@
 
 #include <QApplication>
 #include <QColor>
-#include <QElapsedTimer>
 #include <QHash>
 #include <QStringList>
 
 #include <algorithm>
 #include <cstdio>
-#include <limits>
 
 using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int kEcart = 50;  // characters from one variable to the next, on average
-constexpr int kEssais = 15; // of which the fastest counts
+constexpr int kEcart = 50; // characters from one variable to the next, on average
 
 // Ten times the text may take this many times as long: ten, and as much again for what the larger
 // one loses to the caches and the allocator. Quadratic time would take a hundred times as long.
@@ -52,22 +49,6 @@ QString RemplaceParBoucle(QString feuille)
     for (VariableParDefaut const & variable : kVariablesParDefaut)
         feuille.replace(u'@' + variable.nom.toString() + u';', variable.valeur.toString() + u';');
     return feuille;
-}
-
-// Nanoseconds per call, in the fastest of many rounds.
-template <typename Fonction>
-double Mesure(int repetitions, Fonction const & fonction)
-{
-    fonction(); // so that the allocator and the caches know its sizes
-    double meilleur = std::numeric_limits<double>::infinity();
-    for (int essai = 0; essai < kEssais; ++essai) {
-        QElapsedTimer chrono;
-        chrono.start();
-        for (int i = 0; i < repetitions; ++i)
-            fonction();
-        meilleur = std::min(meilleur, static_cast<double>(chrono.nsecsElapsed()) / repetitions);
-    }
-    return meilleur;
 }
 
 // All names of the table in turn, those of fonts and lengths too.
@@ -111,8 +92,9 @@ int main(int nombre, char ** arguments)
             reussi = false;
         }
         int const repetitions = static_cast<int>(1'000'000 / taille);
-        double const duree = Mesure(repetitions, [&] { themes.AppliquerVariable(feuille); });
-        double const boucle = Mesure(repetitions, [&] { RemplaceParBoucle(feuille); });
+        double const duree =
+            MeilleureDuree(repetitions, [&] { themes.AppliquerVariable(feuille); });
+        double const boucle = MeilleureDuree(repetitions, [&] { RemplaceParBoucle(feuille); });
         double const croissance = precedente > 0.0 ? duree / precedente : 0.0;
         std::printf("%-10lld %10lld %16.0f %16.0f", static_cast<long long>(taille),
                     static_cast<long long>(variables), duree, boucle);

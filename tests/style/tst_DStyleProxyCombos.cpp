@@ -18,7 +18,8 @@ enum eGenre
     kOrdinaire,
     kSansFleche,
     kSansFrame,
-    kSansLesDeux
+    kSansLesDeux,
+    kCadreEnleve ///< by QComboBox::setFrame
 };
 
 void MetsGenre(QComboBox & combo, int genre)
@@ -58,8 +59,9 @@ private Q_SLOTS:
 
 private:
     // Twice: beside a picture that it makes anew, Fusion has other pens.
-    QImage PeinsCombo(int genre, QStyleOptionComboBox const & option) const
+    QImage PeinsCombo(int genre, QStyleOptionComboBox option) const
     {
+        option.frame = genre != kCadreEnleve;
         QComboBox combo;
         MetsGenre(combo, genre);
         QImage image;
@@ -108,7 +110,7 @@ void tst_DStyleProxyCombos::imagesNonPartagees()
     QFETCH(bool, editable);
     QFETCH(QStyle::State, etat);
     QStyleOptionComboBox const option = DonneOption(editable, etat);
-    QList<int> ordre = {kOrdinaire, kSansFleche, kSansFrame, kSansLesDeux};
+    QList<int> ordre = {kOrdinaire, kSansFleche, kSansFrame, kSansLesDeux, kCadreEnleve};
     QList<QImage> attendues;
     for (int const genre : std::as_const(ordre)) {
         QPixmapCache::clear();
@@ -117,6 +119,8 @@ void tst_DStyleProxyCombos::imagesNonPartagees()
     QVERIFY(attendues.at(kOrdinaire) != attendues.at(kSansFleche));
     QVERIFY(attendues.at(kOrdinaire) != attendues.at(kSansFrame));
     QVERIFY(attendues.at(kSansFleche) != attendues.at(kSansFrame));
+    if (!editable) // which alone has a bevel without a frame
+        QVERIFY(attendues.at(kCadreEnleve) != attendues.at(kSansFrame));
     do {
         QPixmapCache::clear();
         for (int const genre : std::as_const(ordre))

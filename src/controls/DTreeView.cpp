@@ -1,6 +1,9 @@
 // controls/DTreeView.cpp
 #include "controls/DTreeView.h"
 
+#include "touch/DDefileurTactile.h"
+#include "touch/DZoomTactile.h"
+
 #include <QHeaderView>
 #include <QPainter>
 #include <QResizeEvent>
@@ -75,6 +78,13 @@ bool DTreeView::GereDrawPrimitive(QStyle::PrimitiveElement, QStyleOption const *
 
 void DTreeView::showEvent(QShowEvent * evenement)
 {
+    if (!monDefileurEstCree) {
+        monDefileurEstCree = true;
+        new DDefileurTactile(this);
+        auto const * const zoom = new DZoomTactile(viewport());
+        connect(zoom, &DZoomTactile::SignalZoomTactile, this, &DTreeView::SignalZoomTactile,
+                Qt::UniqueConnection);
+    }
     QTreeView::showEvent(evenement);
 }
 
@@ -172,7 +182,7 @@ void DTreeView::RepartisPixels(int delta)
         rang %= tour.size();
         int const colonne = tour[rang];
         int & largeur = largeurs[colonne];
-        // A width outside the limits, which may have been set later, goes to the limit at once.
+        // A width outside the limits, as one of 0 is, goes to the limit at once.
         int const pas = sens * (std::max(minimum, std::min(largeur + sens, maximum)) - largeur);
         if (pas <= 0 || pas > reste) {
             tour.removeAt(rang);

@@ -99,13 +99,14 @@ void DTreeView::paintEvent(QPaintEvent * evenement)
 void DTreeView::resizeEvent(QResizeEvent * evenement)
 {
     int const ancienne = evenement->oldSize().width();
-    if (!monRedimensionnementActif || header()->isVisible() || ancienne < 0) {
+    int const delta = evenement->size().width() - ancienne;
+    if (!monRedimensionnementActif || header()->isVisible() || ancienne < 0 || delta == 0) {
         QTreeView::resizeEvent(evenement);
         return;
     }
     QList<int> const avant = DonneLargeurs();
     QTreeView::resizeEvent(evenement);
-    RepartisPixels(evenement->size().width() - ancienne, DonneLargeursSansEtirement(avant));
+    RepartisPixels(delta, DonneLargeursSansEtirement(avant));
 }
 
 void DTreeView::scrollContentsBy(int dx, int dy)
@@ -200,6 +201,6 @@ void DTreeView::RedimensionneColonnes(QList<int> const & largeurs)
 {
     SansMiseAJour const garde(*header());
     for (int colonne = 0; colonne < largeurs.size(); ++colonne)
-        if (PeutChanger(*header(), colonne))
+        if (!header()->isSectionHidden(colonne))
             header()->resizeSection(colonne, largeurs[colonne]);
 }

@@ -90,6 +90,7 @@ private Q_SLOTS:
     void horsLimites();
     void colonnesDeplacees();
     void derniereDeplacee();
+    void derniereFixe();
     void sectionsEtirees();
     void uneFoisParColonne();
     void barreQuiApparait();
@@ -389,6 +390,17 @@ void tst_DTreeViewColonnes::derniereDeplacee()
         QCOMPARE(DonneLargeurs(banc.vue), attendues);
     }
     QCOMPARE(espion.count(), 7); // one for each column, and the base has widened the last once
+}
+
+// What Qt stretches is no exception for a column that keeps its width.
+void tst_DTreeViewColonnes::derniereFixe()
+{
+    Banc banc({100, 100, 100}, true);
+    banc.vue.header()->setSectionResizeMode(2, QHeaderView::Fixed);
+    banc.Change(30);
+    QCOMPARE(DonneLargeurs(banc.vue), (Largeurs{115, 115, 100}));
+    QCoreApplication::processEvents();
+    QCOMPARE(DonneLargeurs(banc.vue), (Largeurs{115, 115, 100}));
 }
 
 void tst_DTreeViewColonnes::sectionsEtirees()

@@ -335,23 +335,24 @@ void tst_DListViewClique::tabulation()
     QCOMPARE(liste.nextInFocusChain(), static_cast<QWidget const *>(liste.viewport()));
 }
 
-using SignalIndex = void (QAbstractItemView::*)(QModelIndex const &);
-Q_DECLARE_METATYPE(SignalIndex)
-
 void tst_DListViewClique::destruction_data()
 {
-    QTest::addColumn<SignalIndex>("signalRecu");
-    QTest::newRow("pressed") << SignalIndex(&QAbstractItemView::pressed);
-    QTest::newRow("clicked") << SignalIndex(&QAbstractItemView::clicked);
+    QTest::addColumn<bool>("auClic");
+    QTest::newRow("pressed") << false;
+    QTest::newRow("clicked") << true;
 }
 
 void tst_DListViewClique::destruction()
 {
-    QFETCH(SignalIndex, signalRecu);
+    QFETCH(bool, auClic);
     QPointer<DListViewClique> const liste = new DListViewClique;
     liste->addItem(u"un"_s);
     liste->show();
-    connect(liste, signalRecu, this, [liste] { delete liste; });
+    auto const detruis = [liste] { delete liste; };
+    if (auClic)
+        connect(liste, &DListViewClique::clicked, this, detruis);
+    else
+        connect(liste, &DListViewClique::pressed, this, detruis);
     QPointF const position = liste->visualItemRect(liste->item(0)).center();
     for (auto const type : {QEvent::MouseButtonPress, QEvent::MouseButtonRelease}) {
         QMouseEvent evenement(type, position, position, Qt::LeftButton, Qt::LeftButton, {});

@@ -3,10 +3,14 @@
 #include "touch/DDefileurTactile.h"
 #include "touch/DZoomTactile.h"
 
+#include "touch/EssaisTactiles.h"
+
 #include <QGestureEvent>
 #include <QPinchGesture>
 #include <QStandardItemModel>
 #include <QtTest>
+
+using EssaisTactiles::DonneEcranTactile;
 
 namespace {
 
@@ -45,6 +49,8 @@ private Q_SLOTS:
     void miseEnIcone();
     void defilementParPixel();
     void pincement();
+    void deuxDoigts();
+    void unDoigt();
     void pincementAvantAffichage();
     void destructionParLeReceveur();
 };
@@ -142,6 +148,45 @@ void tst_DTreeViewTactile::pincement()
     vue.show();
     EnvoiePincement(vue.viewport(), 0.5);
     QCOMPARE(espion.count(), 2);
+}
+
+// From the touch itself, which the scroller and the taps see too.
+void tst_DTreeViewTactile::deuxDoigts()
+{
+    DTreeView vue;
+    vue.resize(300, 300);
+    vue.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&vue));
+    QSignalSpy espion(&vue, &DTreeView::SignalZoomTactile);
+    QWidget * const cible = vue.viewport();
+    auto const doigts = [cible] { return QTest::touchEvent(cible, DonneEcranTactile()); };
+    doigts().press(0, QPoint(130, 100), cible).press(1, QPoint(170, 100), cible);
+    for (int ecart = 30; ecart <= 90; ecart += 20)
+        doigts()
+            .move(0, QPoint(150 - ecart, 100), cible)
+            .move(1, QPoint(150 + ecart, 100), cible);
+    doigts().release(0, QPoint(60, 100), cible).release(1, QPoint(240, 100), cible);
+    QVERIFY(espion.count() > 0);
+    for (auto const & arguments : espion)
+        QVERIFY(arguments.at(0).toDouble() > 1.0);
+}
+
+void tst_DTreeViewTactile::unDoigt()
+{
+    QStandardItemModel modele(3, 1);
+    DTreeView vue;
+    vue.setModel(&modele);
+    vue.resize(300, 300);
+    vue.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&vue));
+    QSignalSpy const zooms(&vue, &DTreeView::SignalZoomTactile);
+    QSignalSpy const clics(&vue, &DTreeView::clicked);
+    QPoint const position = vue.visualRect(modele.index(1, 0)).center();
+    QTest::touchEvent(vue.viewport(), DonneEcranTactile()).press(0, position, vue.viewport());
+    QTest::touchEvent(vue.viewport(), DonneEcranTactile()).release(0, position, vue.viewport());
+    QCOMPARE(clics.count(), 1);
+    QCOMPARE(vue.currentIndex(), modele.index(1, 0));
+    QCOMPARE(zooms.count(), 0);
 }
 
 void tst_DTreeViewTactile::pincementAvantAffichage()

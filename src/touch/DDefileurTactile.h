@@ -58,6 +58,7 @@ private:
     void DesactiveSurlignement();
     QSet<QObject *> * DonneParents();
     void SuisViewport();
+    void TraiteTablette(QTabletEvent * evenement);
     void SuspendsAncetres();
     void RetablisAncetres();
 

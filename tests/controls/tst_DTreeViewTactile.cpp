@@ -162,9 +162,7 @@ void tst_DTreeViewTactile::deuxDoigts()
     auto const doigts = [cible] { return QTest::touchEvent(cible, DonneEcranTactile()); };
     doigts().press(0, QPoint(130, 100), cible).press(1, QPoint(170, 100), cible);
     for (int ecart = 30; ecart <= 90; ecart += 20)
-        doigts()
-            .move(0, QPoint(150 - ecart, 100), cible)
-            .move(1, QPoint(150 + ecart, 100), cible);
+        doigts().move(0, QPoint(150 - ecart, 100), cible).move(1, QPoint(150 + ecart, 100), cible);
     doigts().release(0, QPoint(60, 100), cible).release(1, QPoint(240, 100), cible);
     QVERIFY(espion.count() > 0);
     for (auto const & arguments : espion)

@@ -129,14 +129,12 @@ void DDefileurTactile::PriseAncetreDetruit(QObject * ancetre)
 
 void DDefileurTactile::PriseFinDuToucher()
 {
-    if (maVeille || !monViewport || !monAire->property(kTactile).toBool())
-        return; // a finger is down again, or nothing is left to do
+    if (maVeille || !monViewport)
+        return; // a finger is down again
     QScroller * const defileur = QScroller::scroller(monViewport);
-    // A touch that was cancelled, or whose fingers left together, is never told to the scroller.
+    // A touch that was taken away, or whose fingers left together, is never told to the scroller.
     if (defileur->state() == QScroller::Pressed || defileur->state() == QScroller::Dragging)
         defileur->stop();
-    else if (defileur->state() == QScroller::Inactive)
-        ActiveSurlignement();
 }
 
 void DDefileurTactile::AjouteQScroller(QWidget * widget)
@@ -176,13 +174,18 @@ void DDefileurTactile::DesactiveSurlignement()
     if (maVeille)
         return;
     maVeille = new VeilleToucher(
-        monAire,
-        [this] {
-            maVeille->deleteLater();
-            maVeille = nullptr;
-            PriseFinDuToucher();
-        },
-        this);
+        monAire, [this] { FinisToucher(); }, this);
+}
+
+void DDefileurTactile::FinisToucher()
+{
+    maVeille->deleteLater();
+    maVeille = nullptr;
+    // A view that has nothing to scroll in the direction of the finger has stayed inactive.
+    if (QScroller::scroller(monAire->viewport())->state() == QScroller::Inactive)
+        ActiveSurlignement();
+    else // the touch has yet to reach the scroller
+        QMetaObject::invokeMethod(this, &DDefileurTactile::PriseFinDuToucher, Qt::QueuedConnection);
 }
 
 QSet<QObject *> * DDefileurTactile::DonneParents()

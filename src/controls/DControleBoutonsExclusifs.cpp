@@ -8,7 +8,6 @@
 #include <QButtonGroup>
 #include <QHBoxLayout>
 #include <QPainter>
-#include <QPushButton>
 #include <QStyle>
 
 using namespace Qt::StringLiterals;
@@ -33,8 +32,9 @@ public:
 protected:
     void paintEvent(QPaintEvent *) override
     {
-        QPainter peintre(this);
-        peintre.fillRect(rect(), ThemesQt::Instance()->DonneCouleur(u"couleurSeparateur"_s));
+        QColor const couleur = ThemesQt::Instance()->DonneCouleur(u"couleurSeparateur"_s);
+        if (couleur.isValid())
+            QPainter(this).fillRect(rect(), couleur);
     }
 };
 
@@ -124,8 +124,7 @@ QAbstractButton * DControleBoutonsExclusifs::CreeControle(UniChaine const & text
                                                           QVariant const & identifiant, bool cochay,
                                                           bool avecMenu)
 {
-    auto * const avecPartieMenu = avecMenu ? new DBoutonAvecMenu(texte, this) : nullptr;
-    QPushButton * const bouton = avecMenu ? avecPartieMenu : new QPushButton(texte, this);
+    auto * const bouton = new DBoutonAvecMenu(texte, avecMenu, this);
     bouton->setProperty(kIdentifiant, identifiant);
     bouton->setProperty(kEtiquette, QString(texte));
     bouton->setCheckable(true);
@@ -135,9 +134,8 @@ QAbstractButton * DControleBoutonsExclusifs::CreeControle(UniChaine const & text
     bouton->setChecked(cochay);
     connect(bouton, &QAbstractButton::toggled, this, &DControleBoutonsExclusifs::toggled,
             Qt::UniqueConnection);
-    if (avecPartieMenu)
-        connect(avecPartieMenu, &DBoutonAvecMenu::menuCliquay, this,
-                &DControleBoutonsExclusifs::menuCliquay, Qt::UniqueConnection);
+    connect(bouton, &DBoutonAvecMenu::menuCliquay, this, &DControleBoutonsExclusifs::menuCliquay,
+            Qt::UniqueConnection);
     return bouton;
 }
 

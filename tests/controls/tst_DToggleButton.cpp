@@ -1,7 +1,7 @@
 #include "controls/DToggleButton.h"
 #include "controls/GeometrieBascule_p.h"
 
-#include "EssaisBoutons.h"
+#include "controls/RenduBoutons.h"
 
 #include <QAccessible>
 #include <QButtonGroup>
@@ -69,7 +69,7 @@ private:
 void tst_DToggleButton::init()
 {
     maBascule = std::make_unique<DToggleButton>(kPiste, kPouce);
-    EssaisBoutons::Dispose(*maBascule, maBascule->sizeHint());
+    RenduBoutons::Dispose(*maBascule, maBascule->sizeHint());
 }
 
 void tst_DToggleButton::cleanup()

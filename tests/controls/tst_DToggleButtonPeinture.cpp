@@ -1,12 +1,12 @@
 #include "controls/DToggleButton.h"
 
-#include "EssaisBoutons.h"
+#include "controls/RenduBoutons.h"
 
 #include <QEnterEvent>
 #include <QtTest>
 
-using EssaisBoutons::Dispose;
-using EssaisBoutons::Rendu;
+using RenduBoutons::Dispose;
+using RenduBoutons::Rendu;
 
 namespace {
 

@@ -1,11 +1,11 @@
 #pragma once
 
-#include "Encre.h"
+#include "controls/Encre.h"
 
 #include <QWidget>
 
 // What the tests of the buttons share.
-namespace EssaisBoutons {
+namespace RenduBoutons {
 
 /// The widget alone on white, at its size, without the background of a window.
 inline QImage Rendu(QWidget & widget, double ratio = 1.0)
@@ -15,7 +15,7 @@ inline QImage Rendu(QWidget & widget, double ratio = 1.0)
     return image;
 }
 
-/// The widget gets its own size, and the event of it, as if a layout gave it.
+/// Gives the widget a size, and the event of it, as a layout would.
 inline void Dispose(QWidget & widget, QSize const & taille)
 {
     widget.setAttribute(Qt::WA_DontShowOnScreen);
@@ -23,4 +23,4 @@ inline void Dispose(QWidget & widget, QSize const & taille)
     widget.show();
 }
 
-} // namespace EssaisBoutons
+} // namespace RenduBoutons

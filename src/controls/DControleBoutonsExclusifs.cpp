@@ -48,6 +48,7 @@ DControleBoutonsExclusifs::DControleBoutonsExclusifs(std::vector<InfosBouton> bo
     , monStyleDroite(u"ADroite"_s)
     , mesBoutons(std::move(boutons))
 {
+    setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed); // as high as its buttons
     monGroupe->setExclusive(true);
     auto * const disposition = new QHBoxLayout(this);
     RoutinesGeneralesQt::EnleveMargesDuLayout(disposition);

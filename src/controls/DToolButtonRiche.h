@@ -16,6 +16,7 @@ class QTextDocument;
 class FABRELGUI_EXPORT DToolButtonRiche : public QToolButton
 {
     Q_OBJECT
+    Q_PROPERTY(QString text READ text WRITE setText)
 
 public:
     explicit DToolButtonRiche(QWidget * parent = nullptr);

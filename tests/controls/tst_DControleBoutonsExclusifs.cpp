@@ -380,6 +380,7 @@ void tst_DControleBoutonsExclusifs::disposition()
     QCOMPARE(rangee->count(), 5); // with a separator between neighbours
     for (auto * const bouton : Boutons(controle))
         QVERIFY(!qobject_cast<QPushButton *>(bouton)->autoDefault());
+    QCOMPARE(controle.sizePolicy().verticalPolicy(), QSizePolicy::Fixed);
 }
 
 QTEST_MAIN(tst_DControleBoutonsExclusifs)

@@ -50,6 +50,7 @@ private Q_SLOTS:
     void textes_data();
     void textes();
     void texteOrdinaire();
+    void proprieteTexte();
     void raccourciOublie();
     void tailleDuDocument_data();
     void tailleDuDocument();
@@ -113,6 +114,16 @@ void tst_DToolButtonRiche::texteOrdinaire()
     bouton.setText({});
     QCOMPARE(bouton.text(), QString());
     QCOMPARE(NomAccessible(bouton), QString());
+}
+
+void tst_DToolButtonRiche::proprieteTexte()
+{
+    DToolButtonRiche bouton;
+    bouton.setHtml(u"<b>a &amp; b</b>"_s);
+    QCOMPARE(bouton.property("text").toString(), u"a & b"_s);
+    QVERIFY(bouton.setProperty("text", u"<b>"_s));
+    QCOMPARE(bouton.text(), u"<b>"_s);
+    QVERIFY(!TexteTransparent(bouton));
 }
 
 void tst_DToolButtonRiche::raccourciOublie()

@@ -123,7 +123,7 @@ void tst_DToolButtonRichePeinture::texteDeLaBaseCachay()
     DToolButtonRiche bouton;
     bouton.setPalette(Qt::white);
     bouton.setStyleSheet(u"QToolButton { color: #00ff00; border: none; }"_s);
-    bouton.setHtml(Boite());
+    bouton.setHtml(u"<span style=\"color:#ff0000; font-size:3px\">MMM</span>"_s); // covers little
     bouton.resize(200, 60);
     QImage const image = Rendu(bouton);
     QVERIFY(EstVide(Encre::Bornes(image, EstVert)));

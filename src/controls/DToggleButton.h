@@ -19,6 +19,8 @@ class QPropertyAnimation;
 class FABRELGUI_EXPORT DToggleButton : public QAbstractButton
 {
     Q_OBJECT
+    // For the animation alone: nobody waits for the thumb.
+    // clazy:excludeall=qproperty-without-notify
     Q_PROPERTY(int mOffset READ offset WRITE setOffset)
 
 public:

@@ -53,7 +53,7 @@ QSize DToggleButton::sizeHint() const
 
 QSize DToggleButton::minimumSizeHint() const
 {
-    return CalculeGeometrieBascule(monRayonPiste, monRayonPouce).taille;
+    return sizeHint();
 }
 
 int DToggleButton::offset() const
@@ -237,7 +237,7 @@ void DToggleButton::DessineFocus(QPainter & peintre) const
 
 QRectF DToggleButton::DonneRectPiste() const
 {
-    QRect rect = CalculeGeometrieBascule(monRayonPiste, monRayonPouce).piste;
-    rect.moveTop(monCentreVertical - monRayonPiste);
-    return rect;
+    QRect rect(QPoint(), CalculeGeometrieBascule(monRayonPiste, monRayonPouce).taille);
+    rect.moveTop(monCentreVertical - rect.height() / 2);
+    return rect.adjusted(maMarge, maMarge, -maMarge, -maMarge);
 }

@@ -1,0 +1,45 @@
+// controls/DBoutonAvecMenu_p.h
+#pragma once
+
+#include "FabrelGuiExport.h"
+
+#include <QPushButton>
+#include <QVariant>
+
+/// A button of a `DControleBoutonsExclusifs`: filled with the accent while it is checked, and where
+/// it is made so with a part at its end, in the direction of the layout, that asks for a menu.
+///
+/// A press on that part, Alt+Down or F4 emits `menuCliquay` and presses nothing else.
+class FABRELGUI_EXPORT DBoutonAvecMenu : public QPushButton
+{
+    Q_OBJECT
+
+public:
+    DBoutonAvecMenu(QString const & texte, bool avecMenu, QWidget * parent = nullptr);
+
+    /// Without effect on a button that was made without the part.
+    void AfficheMenu(bool visible);
+    bool MenuEstAffichay() const;
+    /// Where the part is; null while it is hidden.
+    QRect DonneRectMenu() const;
+
+    QSize sizeHint() const override;
+    QSize minimumSizeHint() const override;
+
+Q_SIGNALS:
+    /// With the button's dynamic property "identifiant".
+    void menuCliquay(QVariant id);
+
+protected:
+    void initStyleOption(QStyleOptionButton * option) const override;
+    bool hitButton(QPoint const & position) const override;
+    void mousePressEvent(QMouseEvent * evenement) override;
+    void keyPressEvent(QKeyEvent * evenement) override;
+    void paintEvent(QPaintEvent * evenement) override;
+
+private:
+    void DessineMenu(QPainter & peintre, QBrush const & pinceau) const;
+
+    bool const monAvecMenu;
+    bool monMenuAffichay;
+};

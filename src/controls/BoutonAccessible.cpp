@@ -22,6 +22,12 @@ QAccessibleInterface * CreeInterface(QString const & classe, QObject * objet)
     return widget ? new BoutonAccessible(widget) : nullptr;
 }
 
+void Annonce(DBoutonAbstrait & controle, QAccessible::State etats)
+{
+    QAccessibleStateChangeEvent evenement(&controle, etats);
+    QAccessible::updateAccessibility(&evenement);
+}
+
 } // namespace
 
 BoutonAccessible::BoutonAccessible(QWidget * widget)
@@ -43,10 +49,18 @@ void BoutonAccessible::LibereFabrique()
         QAccessible::removeFactory(&CreeInterface);
 }
 
-void BoutonAccessible::Annonce(DBoutonAbstrait & controle, QAccessible::State etats)
+void BoutonAccessible::AnnonceCochage(DBoutonAbstrait & controle)
 {
-    QAccessibleStateChangeEvent evenement(&controle, etats);
-    QAccessible::updateAccessibility(&evenement);
+    QAccessible::State etats;
+    etats.checked = true;
+    Annonce(controle, etats);
+}
+
+void BoutonAccessible::AnnonceActivation(DBoutonAbstrait & controle)
+{
+    QAccessible::State etats;
+    etats.disabled = true;
+    Annonce(controle, etats);
 }
 
 int BoutonAccessible::childCount() const

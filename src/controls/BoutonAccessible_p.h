@@ -18,8 +18,10 @@ public:
     /// Makes these interfaces for all controls, until each call is matched by a `LibereFabrique`.
     static void PrendsFabrique();
     static void LibereFabrique();
-    /// Tells readers that these states of the control have changed.
-    static void Annonce(DBoutonAbstrait & controle, QAccessible::State etats);
+
+    /// Tell readers of a change of the control; Qt itself tells them of one of the indicator.
+    static void AnnonceCochage(DBoutonAbstrait & controle);
+    static void AnnonceActivation(DBoutonAbstrait & controle);
 
     int childCount() const override;
     QAccessibleInterface * child(int index) const override;

@@ -1,6 +1,7 @@
 // controls/BoutonSurvolable_p.h
 #pragma once
 
+#include <QScopedValueRollback>
 #include <QStyleOptionButton>
 #include <QStylePainter>
 
@@ -18,7 +19,23 @@ public:
         this->update();
     }
 
+    /// True while Qt changes the state of the button: it still uses the button behind the signals.
+    bool EstOccupay() const { return monOccupation; }
+
+    void ChangeCochage(bool cochay)
+    {
+        QScopedValueRollback<bool> const garde(monOccupation, true);
+        this->setChecked(cochay);
+    }
+
 protected:
+    // By a click, or because another button of the group is checked.
+    void nextCheckState() override
+    {
+        QScopedValueRollback<bool> const garde(monOccupation, true);
+        Bouton::nextCheckState();
+    }
+
     void paintEvent(QPaintEvent *) override
     {
         QStylePainter peintre(this);
@@ -33,4 +50,5 @@ protected:
 
 private:
     bool monSurvol = false;
+    bool monOccupation = false;
 };

@@ -1,6 +1,7 @@
 // controls/DCheckBox.cpp
 #include "controls/DCheckBox.h"
 
+#include "controls/BoutonAccessible_p.h"
 #include "controls/BoutonSurvolable_p.h"
 #include "controls/RoutinesBouton_p.h"
 #include "style/ProprietesStyle_p.h"
@@ -28,8 +29,8 @@ DCheckBox::DCheckBox(QString const & texte, QWidget * parent, bool cochay)
 
 DCheckBox::~DCheckBox()
 {
-    // A receiver of one of its signals deletes the control: Qt still uses the box behind that.
-    if (sender() == maCase)
+    // Deleted by a receiver of a signal: Qt still uses the indicator behind that.
+    if (maCase->EstOccupay() || sender() == maCase)
         RoutinesBouton::Detache(*maCase);
 }
 
@@ -46,14 +47,22 @@ bool DCheckBox::EstCochay() const
 void DCheckBox::MetsCochay(bool cochay)
 {
     if (maCase->isChecked() != cochay)
-        maCase->setChecked(cochay);
+        maCase->ChangeCochage(cochay);
     else
         Q_EMIT maCase->toggled(cochay); // Deliberate: listeners hear the value in all cases.
 }
 
 void DCheckBox::MetsUtilisateurPeutChangerValeur(bool peut)
 {
+    bool const pouvait = !maCase->testAttribute(Qt::WA_ForceDisabled);
+    if (peut == pouvait)
+        return;
     maCase->setEnabled(peut);
+    // Else a click on the label would give the focus to the disabled box.
+    if (!peut)
+        maPolitiqueFocus = focusPolicy();
+    setFocusPolicy(peut ? maPolitiqueFocus : Qt::NoFocus);
+    BoutonAccessible::AnnonceActivation(*this);
 }
 
 bool DCheckBox::eventFilter(QObject * objet, QEvent * evenement)
@@ -85,6 +94,9 @@ void DCheckBox::hideEvent(QHideEvent * evenement)
 
 void DCheckBox::Branche()
 {
+    // Not by toggled, which is heard without a change too.
+    connect(maCase, &QCheckBox::stateChanged, this,
+            [this] { BoutonAccessible::AnnonceCochage(*this); });
     connect(maCase, &QCheckBox::toggled, this, &DCheckBox::SignalCochageChangay,
             Qt::UniqueConnection);
     connect(maCase, &QCheckBox::stateChanged, this, &DCheckBox::stateChanged, Qt::UniqueConnection);

@@ -48,4 +48,5 @@ private:
 
     CheckBoxHover * maCase = nullptr;
     QLabel * monLibelle = nullptr;
+    Qt::FocusPolicy maPolitiqueFocus = Qt::NoFocus; // of when the value is not frozen
 };

@@ -1,6 +1,7 @@
 // controls/DRadioButton.cpp
 #include "controls/DRadioButton.h"
 
+#include "controls/BoutonAccessible_p.h"
 #include "controls/BoutonSurvolable_p.h"
 #include "controls/RoutinesBouton_p.h"
 
@@ -29,8 +30,8 @@ DRadioButton::DRadioButton(QString const & texte, QWidget * parent, bool cochay,
 
 DRadioButton::~DRadioButton()
 {
-    // A receiver of one of its signals deletes the control: Qt still uses the button behind that.
-    if (sender() == monBouton)
+    // Deleted by a receiver of a signal: Qt still uses the indicator behind that.
+    if (monBouton->EstOccupay() || sender() == monBouton)
         RoutinesBouton::Detache(*monBouton);
 }
 
@@ -46,7 +47,7 @@ bool DRadioButton::EstCochay() const
 
 void DRadioButton::MetsCochay(bool cochay)
 {
-    monBouton->setChecked(cochay);
+    monBouton->ChangeCochage(cochay);
 }
 
 void DRadioButton::AssocierAuGroupe(QButtonGroup * groupe)
@@ -84,6 +85,8 @@ void DRadioButton::hideEvent(QHideEvent * evenement)
 
 void DRadioButton::Branche()
 {
+    connect(monBouton, &QRadioButton::toggled, this,
+            [this] { BoutonAccessible::AnnonceCochage(*this); });
     connect(monBouton, &QRadioButton::toggled, this, &DRadioButton::SignalCochageChangay,
             Qt::UniqueConnection);
 }

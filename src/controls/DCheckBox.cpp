@@ -94,6 +94,7 @@ void DCheckBox::hideEvent(QHideEvent * evenement)
 
 void DCheckBox::Branche()
 {
+    monLibelle->installEventFilter(this);
     // Not by toggled, which is heard without a change too.
     connect(maCase, &QCheckBox::stateChanged, this,
             [this] { BoutonAccessible::AnnonceCochage(*this); });

@@ -85,6 +85,7 @@ void DRadioButton::hideEvent(QHideEvent * evenement)
 
 void DRadioButton::Branche()
 {
+    monLibelle->installEventFilter(this);
     connect(monBouton, &QRadioButton::toggled, this,
             [this] { BoutonAccessible::AnnonceCochage(*this); });
     connect(monBouton, &QRadioButton::toggled, this, &DRadioButton::SignalCochageChangay,

@@ -6,16 +6,7 @@
 #include "controls/RoutinesBouton_p.h"
 #include "style/ProprietesStyle_p.h"
 
-#include <QCheckBox>
 #include <QLabel>
-
-class CheckBoxHover : public BoutonSurvolable<QCheckBox, QStyle::CE_CheckBox>
-{
-    Q_OBJECT // its name tells the indicator of a control from others
-
-public:
-    using BoutonSurvolable::BoutonSurvolable;
-};
 
 DCheckBox::DCheckBox(QString const & texte, QWidget * parent, bool cochay)
     : DBoutonAbstrait(parent)
@@ -106,5 +97,3 @@ void DCheckBox::Branche()
     connect(maCase, &QCheckBox::released, this, &DCheckBox::released, Qt::UniqueConnection);
     connect(maCase, &QCheckBox::toggled, this, &DCheckBox::toggled, Qt::UniqueConnection);
 }
-
-#include "DCheckBox.moc"

@@ -2,7 +2,6 @@
 #include "controls/EssaisBouton.h"
 #include "style/StyleEspion.h"
 
-
 using namespace Qt::StringLiterals;
 using namespace EssaisBouton;
 

@@ -65,8 +65,8 @@ void DPopUpMenu::AfficheToi(QPoint const & position, QSize const & taille)
         move(position);
     }
     Replace();
-    show();
     maDernierePlace = pos();
+    show();
 }
 
 void DPopUpMenu::moveEvent(QMoveEvent * evenement)
@@ -93,6 +93,7 @@ void DPopUpMenu::Replace()
     if (monReplacementEnCours)
         return;
     QScopedValueRollback const enCours(monReplacementEnCours, true);
+    bool const placeParNous = pos() == maDernierePlace;
     QRect const ancre(maPosition, maTaille);
     QRect const popup = rect().translated(pos());
     RoutinesFenetre::DeplaceFenetreSiSorsDeLecranOuSurRect(this, popup, ancre, QRect(), QRect(),
@@ -101,4 +102,6 @@ void DPopUpMenu::Replace()
     QScreen const * const ecran = RoutinesGeneralesQt::EcranLePlusProche(popup.topLeft());
     if (ecran && !ecran->availableGeometry().contains(rect().translated(pos())))
         move(PlaceAilleurs(ecran->availableGeometry(), ancre, popup).topLeft());
+    if (placeParNous)
+        maDernierePlace = pos();
 }

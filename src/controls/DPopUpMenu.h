@@ -37,6 +37,6 @@ private:
 
     QPoint maPosition; // of the rectangle to keep clear of
     QSize maTaille;
-    QPoint maDernierePlace; // where the last call of AfficheToi left it
+    QPoint maDernierePlace; // where it is if its host has not moved it since
     bool monReplacementEnCours = false;
 };

@@ -21,11 +21,8 @@ namespace {
 class SansIntervalle
 {
 public:
-    SansIntervalle() { QApplication::setKeyboardInputInterval(-1); }
-    ~SansIntervalle() { QApplication::setKeyboardInputInterval(monIntervalle); }
-
-private:
-    int monIntervalle = QApplication::keyboardInputInterval();
+    SansIntervalle() { QApplication::setKeyboardInputInterval(0); }
+    ~SansIntervalle() { QApplication::setKeyboardInputInterval(-1); } // as the platform has it
 };
 
 void Desactive(QComboBox & combo, int ligne)
@@ -356,7 +353,7 @@ void tst_DComboBoxPremierCachay::lettres()
 void tst_DComboBoxPremierCachay::lettresEnsemble()
 {
     QApplication::setKeyboardInputInterval(60000); // so that no pause parts them
-    auto const retablis = qScopeGuard([] { QApplication::setKeyboardInputInterval(400); });
+    auto const retablis = qScopeGuard([] { QApplication::setKeyboardInputInterval(-1); });
     DComboBox combo;
     combo.addItems({u"la fin"_s, u"la nuit"_s, u"le jour"_s, u"lent"_s});
     combo.CachePremierElement();
@@ -371,7 +368,7 @@ void tst_DComboBoxPremierCachay::lettresEnsemble()
 void tst_DComboBoxPremierCachay::lettreRepetee()
 {
     QApplication::setKeyboardInputInterval(60000);
-    auto const retablis = qScopeGuard([] { QApplication::setKeyboardInputInterval(400); });
+    auto const retablis = qScopeGuard([] { QApplication::setKeyboardInputInterval(-1); });
     DComboBox combo;
     combo.addItems({u"a0"_s, u"a1"_s, u"b"_s, u"a3"_s, u"a4"_s});
     combo.CachePremierElement();

@@ -83,7 +83,9 @@ private Q_SLOTS:
     void sansPlace();
     void nombreDeLignes_data();
     void nombreDeLignes();
+    void espacement_data();
     void espacement();
+    void listeAuDessus();
     void espacementEnMenu();
     void touches_data();
     void touches();
@@ -120,12 +122,12 @@ private:
 
 void tst_DComboBoxPremierCachayListe::init()
 {
-    QApplication::setKeyboardInputInterval(-1);
+    QApplication::setKeyboardInputInterval(0);
 }
 
 void tst_DComboBoxPremierCachayListe::cleanup()
 {
-    QApplication::setKeyboardInputInterval(400);
+    QApplication::setKeyboardInputInterval(-1); // as the platform has it
     QVERIFY(QApplication::topLevelWidgets().isEmpty());
 }
 
@@ -164,10 +166,11 @@ void tst_DComboBoxPremierCachayListe::sansPlace()
     QCOMPARE(DonneLignesVisibles(combo), QList<int>({1, 2, 3, 4}));
     QCOMPARE(combo.view()->visualRect(combo.model()->index(1, 0)).top(), 0);
     QCOMPARE(DonneLignesSousLaSouris(*combo.view()), QSet<int>({1, 2, 3, 4}));
-    // The rows fill the list.
+    // The rows fill the list, but for the room that QComboBox leaves to the grid of a table.
     QRect const derniere = combo.view()->visualRect(combo.model()->index(4, 0));
     int const reste = combo.view()->viewport()->height() - derniere.bottom() - 1;
-    QVERIFY2(reste >= 0 && reste <= 1, qPrintable(QString::number(reste))); // a line of the grid
+    QVERIFY2(reste >= 0 && reste <= (genre == "table"_L1 ? 2 : 0),
+             qPrintable(QString::number(reste)));
     QCOMPARE(combo.view()->verticalScrollBar()->maximum(), 0);
     combo.hidePopup();
 }
@@ -196,7 +199,35 @@ void tst_DComboBoxPremierCachayListe::nombreDeLignes()
     combo.hidePopup();
 }
 
+void tst_DComboBoxPremierCachayListe::espacement_data()
+{
+    Genres();
+}
+
 void tst_DComboBoxPremierCachayListe::espacement()
+{
+    QFETCH(QString, genre);
+    DComboBox combo;
+    Prepare(combo, genre);
+    QComboBox reference;
+    reference.setStyle(&monStyle);
+    reference.addItems(DonneTextes().mid(1));
+    if (QAbstractItemView * const vue = CreeVue(genre)) {
+        reference.setView(vue);
+        vue->setItemDelegate(combo.itemDelegate());
+    }
+    reference.show();
+    for (QComboBox * const une : {static_cast<QComboBox *>(&combo), &reference}) {
+        if (auto * const liste = qobject_cast<QListView *>(une->view()))
+            liste->setSpacing(7);
+        une->showPopup();
+    }
+    QCOMPARE(combo.view()->height(), reference.view()->height());
+    combo.hidePopup();
+    reference.hidePopup();
+}
+
+void tst_DComboBoxPremierCachayListe::listeAuDessus()
 {
     DComboBox combo;
     Prepare(combo, {});
@@ -204,13 +235,18 @@ void tst_DComboBoxPremierCachayListe::espacement()
     reference.setStyle(&monStyle);
     reference.addItems(DonneTextes().mid(1));
     reference.show();
-    for (QComboBox * const une : {static_cast<QComboBox *>(&combo), &reference}) {
+    QRect const ecran = combo.screen()->availableGeometry();
+    QList<QRect> cadres;
+    for (QComboBox * const une : {&reference, static_cast<QComboBox *>(&combo)}) {
         qobject_cast<QListView *>(une->view())->setSpacing(7);
+        une->resize(150, 30);
+        une->move(ecran.left() + 20, ecran.bottom() - 30);
         une->showPopup();
+        cadres << une->view()->parentWidget()->geometry();
+        une->hidePopup();
     }
-    QCOMPARE(combo.view()->height(), reference.view()->height());
-    combo.hidePopup();
-    reference.hidePopup();
+    QVERIFY(cadres.at(0).top() < reference.y());
+    QCOMPARE(cadres.at(1), cadres.at(0));
 }
 
 void tst_DComboBoxPremierCachayListe::espacementEnMenu()
@@ -243,7 +279,6 @@ void tst_DComboBoxPremierCachayListe::touches_data()
         int arrivee;
     };
     QList<Cas> const cas = {
-        {"down from none", -1, {}, Qt::Key_Down, 1},
         {"home from none", -1, {}, Qt::Key_Home, 1},
         {"down from the hidden one", 0, {}, Qt::Key_Down, 1},
         {"home from the hidden one", 0, {}, Qt::Key_Home, 1},
@@ -363,7 +398,7 @@ void tst_DComboBoxPremierCachayListe::lettresEtEspace()
     combo.hidePopup();
 
     combo.setItemText(2, u"la paix"_s);
-    QApplication::setKeyboardInputInterval(-1); // begins anew
+    QApplication::setKeyboardInputInterval(0); // begins anew
     combo.showPopup();
     QTest::keyClick(combo.view(), Qt::Key_L);
     QApplication::setKeyboardInputInterval(60000);
@@ -436,7 +471,8 @@ void tst_DComboBoxPremierCachayListe::courantCachay()
     QVERIFY(surlignay.isEmpty());
     QTest::keyClick(combo.view(), Qt::Key_Up);
     QCOMPARE(combo.view()->currentIndex().row(), 1);
-    QCOMPARE(surlignay.count(), 1);
+    if (genre.isEmpty()) // QComboBox knows of the selection of no other view
+        QCOMPARE(surlignay.count(), 1);
     combo.hidePopup();
 }
 

@@ -20,7 +20,9 @@ constexpr int kColonnes = 2; // label and widget
 
 bool PrendLeFocusAuClavier(QWidget const & widget)
 {
-    return (widget.focusPolicy() & Qt::TabFocus) && widget.isVisible() && widget.isEnabled();
+    // The field of a spin box hands the focus back to it.
+    return (widget.focusPolicy() & Qt::TabFocus) && !widget.focusProxy() && widget.isVisible() &&
+           widget.isEnabled();
 }
 
 } // namespace

@@ -88,13 +88,21 @@ void DPopUpMenu::closeEvent(QCloseEvent * evenement)
     Q_EMIT SignalPopupEnFermeture();
 }
 
+QRect DPopUpMenu::DonneAncre() const
+{
+    if (maTaille.width() <= 0 && maTaille.height() <= 0)
+        return {};
+    // Nothing intersects a rectangle without width or height, such as that of a text cursor.
+    return {maPosition, maTaille.expandedTo(QSize(1, 1))};
+}
+
 void DPopUpMenu::Replace()
 {
     if (monReplacementEnCours)
         return;
     QScopedValueRollback const enCours(monReplacementEnCours, true);
     bool const placeParNous = pos() == maDernierePlace;
-    QRect const ancre(maPosition, maTaille);
+    QRect const ancre = DonneAncre();
     QRect const popup = rect().translated(pos());
     RoutinesFenetre::DeplaceFenetreSiSorsDeLecranOuSurRect(this, popup, ancre, QRect(), QRect(),
                                                            kEcart, RoutinesFenetre::kAuDessusForce);

@@ -111,11 +111,13 @@ private Q_SLOTS:
     void espaceOuvreLaListe();
     void indiceZeroParLeCode();
     void modelesSuivis();
+    void modeleDetruit();
     void racine();
     void sansElementOuUnSeul();
     void editableAuxTouches();
     void editableCompletion();
     void completeurEtranger();
+    void completeurQuiSurvit();
     void completionEnListe();
     void editableCompletionSuitLeModele();
     void editableTexteEntier();
@@ -552,6 +554,37 @@ void tst_DComboBoxPremierCachay::completeurEtranger()
     QVERIFY(PrendLeFocus(combo));
     QCOMPARE(Complete(combo, Qt::Key_A), u"abeille"_s);
     QCOMPARE(completeur->model(), &autre);
+}
+
+void tst_DComboBoxPremierCachay::completeurQuiSurvit()
+{
+    QStringListModel modele({u"abricot"_s, u"avocat"_s});
+    QCompleter completeur(&modele);
+    {
+        DComboBox combo;
+        combo.setEditable(true);
+        combo.setModel(&modele);
+        combo.setCompleter(&completeur);
+        combo.CachePremierElement();
+        QCOMPARE(completeur.model()->rowCount(), 1);
+    }
+    modele.setStringList({u"x"_s, u"y"_s, u"z"_s});
+    QCOMPARE(completeur.model()->rowCount(), 3);
+}
+
+void tst_DComboBoxPremierCachay::modeleDetruit()
+{
+    auto modele = std::make_unique<QStringListModel>(QStringList{u"a"_s, u"b"_s, u"c"_s});
+    DComboBox combo;
+    combo.setModel(modele.get());
+    combo.CachePremierElement();
+    QTest::keyClick(&combo, Qt::Key_End);
+    modele.reset();
+    QTest::keyClick(&combo, Qt::Key_Home);
+    combo.addItems({u"x"_s, u"y"_s});
+    QTest::keyClick(&combo, Qt::Key_End);
+    QTest::keyClick(&combo, Qt::Key_Home);
+    QCOMPARE(combo.currentText(), u"y"_s);
 }
 
 void tst_DComboBoxPremierCachay::completionEnListe()

@@ -495,7 +495,13 @@ void tst_DMenuAction::feuilleDeStyle()
     cadre.AjouteWidget(label, new QLineEdit);
     QVERIFY(cadre.styleSheet().contains(u"QFrame{background-color:transparent;}"_s));
     QVERIFY(cadre.styleSheet().contains(u"QFrame>QLabel { color: gray; font-weight: bold; }"_s));
+    cadre.AjouteSeparateur();
+    auto * const separateur = cadre.findChild<QFrame *>(u"Separateur"_s);
     PendantQuIlEstOuvert(cadre, [&] {
+        QImage const image = PreteMenu(cadre)->grab().toImage();
+        QPoint const coin = separateur->mapTo(PreteMenu(cadre), QPoint(0, 0));
+        QColor const fond = image.pixelColor(coin - QPoint(0, 3));
+        QVERIFY(image.pixelColor(coin) != fond); // a line is seen
         QVERIFY(label->font().bold());
         QCOMPARE(label->palette().color(QPalette::WindowText), QColor(u"gray"_s));
     });

@@ -2,11 +2,11 @@
 #include "controls/DComboBox.h"
 #include "controls/DComboBoxAvecDLabelElision.h"
 
-#include <QCompleter>
-#include <QLineEdit>
 #include <QListView>
+#include <QProxyStyle>
 #include <QSignalSpy>
 #include <QStandardItemModel>
+#include <QStringListModel>
 #include <QtTest>
 
 #include <memory>
@@ -37,22 +37,6 @@ void Roule(QComboBox & combo, int delta)
                           Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase, false);
     QCoreApplication::sendEvent(&combo, &evenement);
     QVERIFY(evenement.isAccepted());
-}
-
-// Inline completion needs the focus.
-bool PrendLeFocus(QComboBox & combo)
-{
-    combo.show();
-    combo.activateWindow();
-    combo.setFocus();
-    return QTest::qWaitForWindowActive(&combo) && combo.hasFocus();
-}
-
-QString Complete(QComboBox & combo, Qt::Key lettre)
-{
-    combo.lineEdit()->clear();
-    QTest::keyClick(&combo, lettre);
-    return combo.lineEdit()->text();
 }
 
 class StyleSansRoulette : public QProxyStyle
@@ -103,25 +87,11 @@ private Q_SLOTS:
     void roulette_data();
     void roulette();
     void rouletteDuStyle();
-    void lettres_data();
-    void lettres();
-    void lettresEnsemble();
-    void lettreRepetee();
-    void lettresDUneAutreColonne();
-    void espaceOuvreLaListe();
     void indiceZeroParLeCode();
     void modelesSuivis();
-    void modeleDetruit();
     void racine();
     void sansElementOuUnSeul();
-    void editableAuxTouches();
-    void editableCompletion();
-    void completeurEtranger();
-    void completeurQuiSurvit();
-    void completionEnListe();
-    void editableCompletionSuitLeModele();
-    void editableTexteEntier();
-    void editableSansDeleguay();
+    void modeleDetruit();
     void detruitParUnReceveur();
     void avecLabel();
 };
@@ -319,102 +289,6 @@ void tst_DComboBoxPremierCachay::rouletteDuStyle()
     QCOMPARE(combo.currentIndex(), 0);
 }
 
-void tst_DComboBoxPremierCachay::lettres_data()
-{
-    QTest::addColumn<int>("depart");
-    QTest::addColumn<Qt::Key>("lettre");
-    QTest::addColumn<int>("arrivee");
-    // abricot (hidden), avocat, banane, disabled, separator, Ananas
-    QTest::newRow("from none") << -1 << Qt::Key_A << 1;
-    QTest::newRow("from the hidden one") << 0 << Qt::Key_A << 1;
-    QTest::newRow("to the next one") << 1 << Qt::Key_A << 5;
-    QTest::newRow("around, over the hidden one") << 5 << Qt::Key_A << 1;
-    QTest::newRow("the only one") << 1 << Qt::Key_B << 2;
-    QTest::newRow("the only one again") << 2 << Qt::Key_B << 2;
-    QTest::newRow("a disabled one") << 1 << Qt::Key_C << 1;
-    QTest::newRow("none") << 2 << Qt::Key_Z << 2;
-    QTest::newRow("none, from the hidden one") << 0 << Qt::Key_Z << 0;
-}
-
-void tst_DComboBoxPremierCachay::lettres()
-{
-    QFETCH(int, depart);
-    QFETCH(Qt::Key, lettre);
-    QFETCH(int, arrivee);
-    SansIntervalle const sansIntervalle;
-    DComboBox combo;
-    combo.addItems({u"abricot"_s, u"avocat"_s, u"banane"_s, u"cerise"_s, u"Ananas"_s});
-    combo.insertSeparator(4);
-    Desactive(combo, 3);
-    combo.CachePremierElement();
-    combo.setCurrentIndex(depart);
-    QTest::keyClick(&combo, lettre);
-    QCOMPARE(combo.currentIndex(), arrivee);
-}
-
-void tst_DComboBoxPremierCachay::lettresEnsemble()
-{
-    QApplication::setKeyboardInputInterval(60000); // so that no pause parts them
-    auto const retablis = qScopeGuard([] { QApplication::setKeyboardInputInterval(-1); });
-    DComboBox combo;
-    combo.addItems({u"la fin"_s, u"la nuit"_s, u"le jour"_s, u"lent"_s});
-    combo.CachePremierElement();
-    QTest::keyClicks(&combo, u"le"_s);
-    QCOMPARE(combo.currentIndex(), 2);
-    QTest::keyClick(&combo, Qt::Key_N);
-    QCOMPARE(combo.currentIndex(), 3);
-    QTest::keyClick(&combo, Qt::Key_Z); // no such item: stays
-    QCOMPARE(combo.currentIndex(), 3);
-}
-
-void tst_DComboBoxPremierCachay::lettreRepetee()
-{
-    QApplication::setKeyboardInputInterval(60000);
-    auto const retablis = qScopeGuard([] { QApplication::setKeyboardInputInterval(-1); });
-    DComboBox combo;
-    combo.addItems({u"a0"_s, u"a1"_s, u"b"_s, u"a3"_s, u"a4"_s});
-    combo.CachePremierElement();
-    QList<int> chemin;
-    for (int i = 0; i < 4; ++i) {
-        QTest::keyClick(&combo, Qt::Key_A);
-        chemin << combo.currentIndex();
-    }
-    QCOMPARE(chemin, QList<int>({1, 3, 4, 1}));
-}
-
-void tst_DComboBoxPremierCachay::lettresDUneAutreColonne()
-{
-    SansIntervalle const sansIntervalle;
-    QStandardItemModel modele(3, 2);
-    for (int i = 0; i < 3; ++i) {
-        modele.setItem(i, 0, new QStandardItem(u"x"_s));
-        modele.setItem(i, 1, new QStandardItem(QString(QChar(u'a' + i))));
-    }
-    DComboBox combo;
-    combo.setModel(&modele);
-    combo.setModelColumn(1);
-    combo.CachePremierElement();
-    combo.setCurrentIndex(-1);
-    QTest::keyClick(&combo, Qt::Key_C);
-    QCOMPARE(combo.currentText(), u"c"_s);
-    QTest::keyClick(&combo, Qt::Key_A);
-    QCOMPARE(combo.currentText(), u"c"_s);
-    QTest::keyClick(&combo, Qt::Key_X);
-    QCOMPARE(combo.currentText(), u"c"_s);
-}
-
-void tst_DComboBoxPremierCachay::espaceOuvreLaListe()
-{
-    DComboBox combo;
-    combo.addItems({u"a"_s, u" b"_s});
-    combo.CachePremierElement();
-    combo.show();
-    QTest::keyClick(&combo, Qt::Key_Space);
-    QTRY_VERIFY(combo.view()->isVisible());
-    QCOMPARE(combo.currentIndex(), 0);
-    combo.hidePopup();
-}
-
 void tst_DComboBoxPremierCachay::indiceZeroParLeCode()
 {
     DComboBox combo;
@@ -504,74 +378,6 @@ void tst_DComboBoxPremierCachay::sansElementOuUnSeul()
     QCOMPARE(combo.currentIndex(), -1);
 }
 
-void tst_DComboBoxPremierCachay::editableAuxTouches()
-{
-    DComboBox combo;
-    combo.setEditable(true);
-    combo.addItems({u"a"_s, u"b"_s, u"c"_s});
-    combo.CachePremierElement();
-    combo.setCurrentIndex(2);
-    QTest::keyClick(&combo, Qt::Key_Up);
-    QTest::keyClick(&combo, Qt::Key_Up);
-    QCOMPARE(combo.currentIndex(), 1);
-    QCOMPARE(combo.lineEdit()->text(), u"b"_s);
-    QTest::keyClick(&combo, Qt::Key_Home); // moves the text cursor
-    QCOMPARE(combo.currentIndex(), 1);
-    QCOMPARE(combo.lineEdit()->cursorPosition(), 0);
-    QTest::keyClick(&combo, Qt::Key_X);
-    QCOMPARE(combo.lineEdit()->text(), u"xb"_s);
-}
-
-void tst_DComboBoxPremierCachay::editableCompletion()
-{
-    DComboBox combo;
-    combo.setEditable(true);
-    combo.addItems({u"abricot"_s, u"avocat"_s, u"banane"_s});
-    QVERIFY(PrendLeFocus(combo));
-    QCOMPARE(Complete(combo, Qt::Key_A), u"abricot"_s);
-    combo.CachePremierElement();
-    QCOMPARE(Complete(combo, Qt::Key_A), u"avocat"_s);
-    QCOMPARE(combo.lineEdit()->selectedText(), u"vocat"_s);
-    combo.lineEdit()->clear();
-    QTest::keyClicks(&combo, u"ab"_s);
-    QCOMPARE(combo.lineEdit()->text(), u"ab"_s);
-
-    combo.setEditable(false);
-    combo.setEditable(true); // with a completer of its own again
-    QCOMPARE(Complete(combo, Qt::Key_A), u"avocat"_s);
-}
-
-void tst_DComboBoxPremierCachay::completeurEtranger()
-{
-    QStringListModel autre({u"abeille"_s});
-    DComboBox combo;
-    combo.setEditable(true);
-    combo.addItems({u"abricot"_s, u"avocat"_s});
-    combo.CachePremierElement();
-    auto * const completeur = new QCompleter(&autre, &combo);
-    completeur->setCompletionMode(QCompleter::InlineCompletion);
-    combo.setCompleter(completeur);
-    QVERIFY(PrendLeFocus(combo));
-    QCOMPARE(Complete(combo, Qt::Key_A), u"abeille"_s);
-    QCOMPARE(completeur->model(), &autre);
-}
-
-void tst_DComboBoxPremierCachay::completeurQuiSurvit()
-{
-    QStringListModel modele({u"abricot"_s, u"avocat"_s});
-    QCompleter completeur(&modele);
-    {
-        DComboBox combo;
-        combo.setEditable(true);
-        combo.setModel(&modele);
-        combo.setCompleter(&completeur);
-        combo.CachePremierElement();
-        QCOMPARE(completeur.model()->rowCount(), 1);
-    }
-    modele.setStringList({u"x"_s, u"y"_s, u"z"_s});
-    QCOMPARE(completeur.model()->rowCount(), 3);
-}
-
 void tst_DComboBoxPremierCachay::modeleDetruit()
 {
     auto modele = std::make_unique<QStringListModel>(QStringList{u"a"_s, u"b"_s, u"c"_s});
@@ -585,73 +391,6 @@ void tst_DComboBoxPremierCachay::modeleDetruit()
     QTest::keyClick(&combo, Qt::Key_End);
     QTest::keyClick(&combo, Qt::Key_Home);
     QCOMPARE(combo.currentText(), u"y"_s);
-}
-
-void tst_DComboBoxPremierCachay::completionEnListe()
-{
-    DComboBox combo;
-    combo.setEditable(true);
-    combo.addItems({u"abricot"_s, u"avocat"_s, u"banane"_s});
-    combo.completer()->setCompletionMode(QCompleter::PopupCompletion);
-    combo.CachePremierElement();
-    QVERIFY(PrendLeFocus(combo));
-    Complete(combo, Qt::Key_A);
-    QAbstractItemView * const liste = combo.completer()->popup();
-    QTRY_VERIFY(liste->isVisible());
-    QCOMPARE(liste->model()->rowCount(), 1);
-    QSignalSpy espion(&combo, &QComboBox::activated);
-    QTest::keyClick(liste, Qt::Key_Down);
-    QTest::keyClick(liste, Qt::Key_Return);
-    QCOMPARE(combo.currentIndex(), 1);
-    QVERIFY(!espion.isEmpty());
-    for (QList<QVariant> const & arguments : espion)
-        QCOMPARE(arguments.at(0).toInt(), 1);
-}
-
-void tst_DComboBoxPremierCachay::editableCompletionSuitLeModele()
-{
-    DComboBox combo;
-    combo.setEditable(true);
-    combo.addItems({u"abricot"_s, u"avocat"_s});
-    combo.CachePremierElement();
-    QVERIFY(PrendLeFocus(combo));
-    QCOMPARE(Complete(combo, Qt::Key_A), u"avocat"_s);
-    combo.insertItem(0, u"zeste"_s);
-    QCOMPARE(Complete(combo, Qt::Key_A), u"abricot"_s);
-    QCOMPARE(Complete(combo, Qt::Key_Z), u"z"_s);
-    combo.removeItem(0);
-    QCOMPARE(Complete(combo, Qt::Key_A), u"avocat"_s);
-    QStringListModel modele({u"poire"_s, u"pomme"_s});
-    combo.setModel(&modele);
-    QCOMPARE(Complete(combo, Qt::Key_P), u"pomme"_s);
-    modele.setStringList({u"menthe"_s, u"melon"_s});
-    QCOMPARE(Complete(combo, Qt::Key_M), u"melon"_s);
-}
-
-void tst_DComboBoxPremierCachay::editableTexteEntier()
-{
-    DComboBox combo;
-    combo.setEditable(true);
-    combo.setInsertPolicy(QComboBox::NoInsert);
-    combo.addItems({u"abricot"_s, u"avocat"_s});
-    combo.CachePremierElement();
-    combo.setCurrentIndex(1);
-    combo.lineEdit()->clear();
-    QTest::keyClicks(&combo, u"abricot"_s);
-    QTest::keyClick(&combo, Qt::Key_Return);
-    QCOMPARE(combo.currentIndex(), 0);
-}
-
-void tst_DComboBoxPremierCachay::editableSansDeleguay()
-{
-    DComboBox combo;
-    combo.setEditable(true);
-    combo.addItems({u"abricot"_s, u"banane"_s});
-    combo.CachePremierElement();
-    combo.setItemDelegate(new QStyledItemDelegate(&combo));
-    QVERIFY(PrendLeFocus(combo));
-    QCOMPARE(Complete(combo, Qt::Key_A), u"abricot"_s);
-    QCOMPARE(combo.completer()->model(), combo.model());
 }
 
 void tst_DComboBoxPremierCachay::detruitParUnReceveur()

@@ -140,6 +140,12 @@ void DComboBox::wheelEvent(QWheelEvent * evenement)
     evenement->accept();
 }
 
+void DComboBox::inputMethodEvent(QInputMethodEvent * evenement)
+{
+    monMasqueur->Synchronise();
+    QComboBox::inputMethodEvent(evenement);
+}
+
 // The base gives the hidden row no height, but the space between it and the next one.
 void DComboBox::RetireEspaceDuCachay()
 {

@@ -27,6 +27,7 @@ private Q_SLOTS:
     void tailleSuitLaRangee();
     void tailleSuitFermay();
     void tailleSuitUnTexte();
+    void resteDansLEcran();
     void feuilleDeStyle();
 };
 
@@ -236,6 +237,26 @@ void tst_DMenuAction::tailleSuitUnTexte()
         label->setMinimumWidth(label->width() + 100);
         QTRY_COMPARE(PreteMenu(cadre)->width(), avant + 100);
     });
+}
+
+void tst_DMenuAction::resteDansLEcran()
+{
+    MenuTemoin cadre;
+    auto * const widget = new QWidget;
+    widget->setFixedSize(300, 200);
+    cadre.AjouteWidget(new QLabel(u"Titre"_s), new QLineEdit);
+    cadre.AjouteWidget(new QLabel(u"Titre"_s), widget);
+    cadre.AfficherRangeeDuWidget(widget, false);
+    QMenu & menu = *PreteMenu(cadre);
+    QRect const ecran = cadre.screen()->availableGeometry();
+    QTimer::singleShot(0, &cadre, [&] {
+        int const avant = menu.height();
+        cadre.AfficherRangeeDuWidget(widget, true);
+        QTRY_COMPARE(menu.height(), avant + 200 + 7);
+        QVERIFY(ecran.contains(menu.frameGeometry()));
+        menu.hide();
+    });
+    cadre.OuvrirMenuALaPosition(ecran.bottomRight() - QPoint(300, 90));
 }
 
 void tst_DMenuAction::feuilleDeStyle()

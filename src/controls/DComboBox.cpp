@@ -99,10 +99,8 @@ void DComboBox::showPopup()
 
 bool DComboBox::eventFilter(QObject * objet, QEvent * evenement)
 {
-    // A view lays itself out on a timer, or has to before it can follow a key.
     bool const dansLaVue = objet == view();
-    if (dansLaVue &&
-        (evenement->type() == QEvent::Timer || evenement->type() == QEvent::ShortcutOverride))
+    if (dansLaVue && evenement->type() == QEvent::Timer) // on which it lays itself out anew
         monMasqueur->Synchronise();
     if (dansLaVue && evenement->type() == QEvent::KeyPress && PremierElementCachay()) {
         monMasqueur->Synchronise();

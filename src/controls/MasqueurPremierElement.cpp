@@ -152,8 +152,6 @@ void MasqueurPremierElement::SuisModele()
         return;
     if (monModele)
         disconnect(monModele, nullptr, this, nullptr);
-    if (maVue != monCombo->view())
-        maLigne = QPersistentModelIndex();
     maVue = monCombo->view();
     monModele = modele;
     auto const suis = [this, modele](auto signal) {

@@ -93,9 +93,9 @@ void tst_DComboBoxPremierCachayEditable::completionDUneMethodeDeSaisie()
     DComboBox combo;
     combo.addItems({u"abricot"_s, u"avocat"_s, u"banane"_s});
     combo.CachePremierElement();
+    QVERIFY(PrendLeFocus(combo));
     combo.setEditable(true);
     combo.completer()->setCompletionMode(QCompleter::PopupCompletion);
-    QVERIFY(PrendLeFocus(combo));
     combo.lineEdit()->clear();
     QInputMethodEvent evenement;
     evenement.setCommitString(u"a"_s);

@@ -24,7 +24,8 @@ DTableView::DTableView(QWidget * parent)
 void DTableView::mouseDoubleClickEvent(QMouseEvent * evenement)
 {
     QPointer<DTableView> const garde(this);
-    QModelIndex const index = indexAt(evenement->position().toPoint());
+    QPoint const position = evenement->position().toPoint();
+    QPersistentModelIndex const index = indexAt(position);
     bool const estCochable = index.data(Qt::CheckStateRole).isValid();
     if (estCochable) {
         auto presse = DonneCopie(*evenement, QEvent::MouseButtonPress, evenement->button());
@@ -32,11 +33,16 @@ void DTableView::mouseDoubleClickEvent(QMouseEvent * evenement)
     }
     if (!garde)
         return;
+    // Qt makes a press of a double click on a disabled item, or on another than the one pressed:
+    // its release is a click already. Only the left button clicks.
+    bool const relacheEstPerdu = estCochable && evenement->button() == Qt::LeftButton &&
+                                 index.flags().testFlag(Qt::ItemIsEnabled) &&
+                                 indexAt(position) == index;
     QTableView::mouseDoubleClickEvent(evenement);
-    if (!garde || !estCochable || state() == EditingState)
+    if (!garde || !relacheEstPerdu || state() == EditingState)
         return;
     // Qt takes the first release after a double click for no click, so the box would not change:
-    // this one is that release. It has no button, and changes nothing by itself.
+    // this one is that release. It has no button, so that no delegate answers it.
     auto relache = DonneCopie(*evenement, QEvent::MouseButtonRelease, Qt::NoButton);
     QTableView::mouseReleaseEvent(&relache);
 }

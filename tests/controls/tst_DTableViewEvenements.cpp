@@ -47,6 +47,33 @@ private:
     std::vector<std::unique_ptr<QEvent>> mesEvenements;
 };
 
+/// What the items receive of the mouse.
+class DelegueTemoin : public QStyledItemDelegate
+{
+public:
+    struct Recu
+    {
+        QEvent::Type type;
+        Qt::MouseButton bouton;
+        int rangee;
+
+        bool operator==(Recu const &) const = default;
+    };
+
+    bool editorEvent(QEvent * evenement, QAbstractItemModel * modele,
+                     QStyleOptionViewItem const & option, QModelIndex const & index) override
+    {
+        auto const type = evenement->type();
+        if (type >= QEvent::MouseButtonPress && type <= QEvent::MouseButtonDblClick)
+            mesRecus.append({type, static_cast<QMouseEvent *>(evenement)->button(), index.row()});
+        return QStyledItemDelegate::editorEvent(evenement, modele, option, index);
+    }
+
+    QList<Recu> mesRecus;
+};
+
+using Recus = QList<DelegueTemoin::Recu>;
+
 /// Destroys a view when a press comes.
 class Destructeur : public QObject
 {
@@ -80,6 +107,9 @@ private Q_SLOTS:
     void evenementsEnvoyes();
     void memeEvenement();
     void positionArrondie();
+    void itemDesactive();
+    void itemDesactiveALaPresse();
+    void rangeesDeplacees();
     void destructionPendantLaPresse();
 };
 
@@ -143,6 +173,64 @@ void tst_DTableViewEvenements::positionArrondie()
     }
     QCOMPARE(temoin.DonneTypes(), QList<QEvent::Type>{QEvent::MouseButtonPress});
     QCOMPARE(temoin.Donne(0).position().x(), rect.left() - 0.6);
+}
+
+// For which Qt makes a press of the double click by itself: what follows is a release as any other.
+void tst_DTableViewEvenements::itemDesactive()
+{
+    Banc<QTableView> plain;
+    Banc<DTableView> banc;
+    DelegueTemoin delegue;
+    banc.vue.setItemDelegate(&delegue);
+    plain.modele.item(1, kColonneCase)->setEnabled(false);
+    banc.modele.item(1, kColonneCase)->setEnabled(false);
+    Espions const espionsDeQt(plain.vue, plain.modele);
+    Espions const espions(banc.vue, banc.modele);
+    plain.DoubleClique(plain.Case(1));
+    banc.DoubleClique(banc.Case(1));
+    QCOMPARE(espions.Comptes(), espionsDeQt.Comptes());
+    QCOMPARE(delegue.mesRecus, (Recus{{QEvent::MouseButtonPress, Qt::LeftButton, 1},
+                                      {QEvent::MouseButtonRelease, Qt::LeftButton, 1},
+                                      {QEvent::MouseButtonPress, Qt::LeftButton, 1},
+                                      {QEvent::MouseButtonPress, Qt::LeftButton, 1},
+                                      {QEvent::MouseButtonRelease, Qt::LeftButton, 1}}));
+}
+
+void tst_DTableViewEvenements::itemDesactiveALaPresse()
+{
+    Banc<DTableView> banc;
+    DelegueTemoin delegue;
+    QTest::mouseClick(banc.vue.viewport(), Qt::LeftButton, {}, banc.Texte(1));
+    banc.vue.setItemDelegate(&delegue);
+    connect(&banc.vue, &DTableView::pressed, this,
+            [&banc] { banc.modele.item(1, kColonneCase)->setEnabled(false); });
+    QTest::mouseDClick(banc.vue.viewport(), Qt::LeftButton, {}, banc.Texte(1));
+    QTest::mouseRelease(banc.vue.viewport(), Qt::LeftButton, {}, banc.Texte(1));
+    QCOMPARE(delegue.mesRecus, (Recus{{QEvent::MouseButtonPress, Qt::LeftButton, 1},
+                                      {QEvent::MouseButtonPress, Qt::LeftButton, 1},
+                                      {QEvent::MouseButtonRelease, Qt::LeftButton, 1}}));
+}
+
+// A receiver of the second press has moved another item under the mouse, which Qt presses then.
+void tst_DTableViewEvenements::rangeesDeplacees()
+{
+    Banc<DTableView> banc;
+    DelegueTemoin delegue;
+    QPoint const position = banc.Texte(1);
+    QTest::mouseClick(banc.vue.viewport(), Qt::LeftButton, {}, position);
+    banc.vue.setItemDelegate(&delegue);
+    connect(
+        &banc.vue, &DTableView::pressed, this,
+        [&banc] { banc.modele.insertRow(3, banc.modele.takeRow(0)); }, Qt::SingleShotConnection);
+    QSignalSpy const clics(&banc.vue, &DTableView::clicked);
+    QSignalSpy const doubles(&banc.vue, &DTableView::doubleClicked);
+    QTest::mouseDClick(banc.vue.viewport(), Qt::LeftButton, {}, position);
+    QTest::mouseRelease(banc.vue.viewport(), Qt::LeftButton, {}, position);
+    QCOMPARE(delegue.mesRecus, (Recus{{QEvent::MouseButtonPress, Qt::LeftButton, 1},
+                                      {QEvent::MouseButtonPress, Qt::LeftButton, 1},
+                                      {QEvent::MouseButtonRelease, Qt::LeftButton, 1}}));
+    QCOMPARE(clics.count(), 1);
+    QCOMPARE(doubles.count(), 0);
 }
 
 // Qt does not bear the end of a view in `pressed` or `doubleClicked`, but there are other ways.

@@ -7,10 +7,10 @@
 
 namespace {
 
-QMouseEvent DonneCopie(QMouseEvent const & modele, QEvent::Type type, Qt::MouseButton bouton)
+QMouseEvent DonneCopie(QMouseEvent const & modele, QEvent::Type type)
 {
     return QMouseEvent(type, modele.position(), modele.scenePosition(), modele.globalPosition(),
-                       bouton, modele.buttons(), modele.modifiers(), modele.source(),
+                       modele.button(), modele.buttons(), modele.modifiers(), modele.source(),
                        modele.pointingDevice());
 }
 
@@ -28,7 +28,7 @@ void DTableView::mouseDoubleClickEvent(QMouseEvent * evenement)
     QPersistentModelIndex const index = indexAt(position);
     bool const estCochable = index.data(Qt::CheckStateRole).isValid();
     if (estCochable) {
-        auto presse = DonneCopie(*evenement, QEvent::MouseButtonPress, evenement->button());
+        auto presse = DonneCopie(*evenement, QEvent::MouseButtonPress);
         QCoreApplication::sendEvent(viewport(), &presse);
     }
     if (!garde)
@@ -42,7 +42,7 @@ void DTableView::mouseDoubleClickEvent(QMouseEvent * evenement)
     if (!garde || !relacheEstPerdu || state() == EditingState)
         return;
     // Qt takes the first release after a double click for no click, so the box would not change:
-    // this one is that release. It has no button, so that no delegate answers it.
-    auto relache = DonneCopie(*evenement, QEvent::MouseButtonRelease, Qt::NoButton);
+    // this one is that release, of which no item hears.
+    auto relache = DonneCopie(*evenement, QEvent::MouseButtonRelease);
     QTableView::mouseReleaseEvent(&relache);
 }

@@ -19,9 +19,11 @@ Cellules DonneSelection(QTableView const & vue)
 /// was selected before or not.
 template <typename Vue>
 Cellules SelectionneParDoubleClic(QAbstractItemView::SelectionMode mode, int colonne,
-                                  Qt::KeyboardModifiers touches, bool estSelectionnay)
+                                  Qt::KeyboardModifiers touches, bool estSelectionnay,
+                                  bool glissable = false)
 {
     Banc<Vue> banc;
+    banc.vue.setDragEnabled(glissable);
     banc.vue.setSelectionMode(mode);
     auto * const selection = banc.vue.selectionModel();
     selection->setCurrentIndex(banc.modele.index(0, colonne), QItemSelectionModel::Select);
@@ -90,10 +92,15 @@ void tst_DTableViewSelection::deuxFois_data()
 {
     QTest::addColumn<int>("mode");
     QTest::addColumn<Qt::KeyboardModifiers>("touches");
-    QTest::newRow("Ctrl") << static_cast<int>(QAbstractItemView::ExtendedSelection)
-                          << Qt::KeyboardModifiers(Qt::ControlModifier);
-    QTest::newRow("multi selection")
-        << static_cast<int>(QAbstractItemView::MultiSelection) << Qt::KeyboardModifiers();
+    QTest::addColumn<bool>("glissable");
+    for (bool const glissable : {false, true}) {
+        char const * const fin = glissable ? " of items that can be dragged" : "";
+        QTest::addRow("Ctrl%s", fin) << static_cast<int>(QAbstractItemView::ExtendedSelection)
+                                     << Qt::KeyboardModifiers(Qt::ControlModifier) << glissable;
+        QTest::addRow("multi selection%s", fin)
+            << static_cast<int>(QAbstractItemView::MultiSelection) << Qt::KeyboardModifiers()
+            << glissable;
+    }
 }
 
 // Deliberate: the press of the second click counts for the selection as well, which Qt toggles
@@ -102,13 +109,16 @@ void tst_DTableViewSelection::deuxFois()
 {
     QFETCH(int, mode);
     QFETCH(Qt::KeyboardModifiers, touches);
+    QFETCH(bool, glissable);
     auto const modeDeVue = static_cast<QAbstractItemView::SelectionMode>(mode);
     Cellules const sans{{0, kColonneCase}};
     Cellules const avec{{0, kColonneCase}, {1, kColonneCase}};
     for (bool const avant : {false, true}) {
-        QCOMPARE(SelectionneParDoubleClic<QTableView>(modeDeVue, kColonneCase, touches, avant),
+        QCOMPARE(SelectionneParDoubleClic<QTableView>(modeDeVue, kColonneCase, touches, avant,
+                                                      glissable),
                  avant ? sans : avec);
-        QCOMPARE(SelectionneParDoubleClic<DTableView>(modeDeVue, kColonneCase, touches, avant),
+        QCOMPARE(SelectionneParDoubleClic<DTableView>(modeDeVue, kColonneCase, touches, avant,
+                                                      glissable),
                  avant ? avec : sans);
     }
 }

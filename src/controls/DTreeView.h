@@ -48,8 +48,10 @@ protected:
     void paintEvent(QPaintEvent * evenement) override;
     void resizeEvent(QResizeEvent * evenement) override;
     void scrollContentsBy(int dx, int dy) override;
+    void setupViewport(QWidget * viewport) override;
 
 private:
+    void CreeZoom(QWidget & viewport);
     bool MontreMessage() const;
     void DessineMessage();
     QList<int> DonneLargeurs() const;

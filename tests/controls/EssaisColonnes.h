@@ -32,6 +32,8 @@ inline int Somme(DTreeView const & vue)
 }
 
 /// A shown tree without a header, whose viewport is as wide as its columns.
+///
+/// It is no window, to which the window system could give another size.
 struct Banc
 {
     explicit Banc(Largeurs const & largeurs, bool etireLaDerniere = false)
@@ -45,7 +47,7 @@ struct Banc
         vue.header()->setMinimumSectionSize(kMinimum);
         vue.header()->setStretchLastSection(etireLaDerniere);
         vue.resize(std::accumulate(largeurs.begin(), largeurs.end(), 0), kHauteur);
-        vue.show();
+        fenetre.show();
         for (int colonne = 0; colonne < largeurs.size(); ++colonne)
             vue.header()->resizeSection(colonne, largeurs[colonne]);
         vue.MetsRedimensionnementAvecResizeEvent(true);
@@ -54,7 +56,8 @@ struct Banc
     void Change(int delta) { vue.resize(vue.width() + delta, kHauteur); }
 
     QStandardItemModel modele;
-    DTreeView vue;
+    QWidget fenetre;
+    DTreeView vue{&fenetre};
 };
 
 /// What each column of 100 pixels becomes when the width of three changes.

@@ -69,7 +69,6 @@ struct Banc
         palette.setColor(QPalette::Base, Qt::white);
         vue.setPalette(palette);
         vue.setFrameShape(QFrame::NoFrame);
-        vue.setRootIsDecorated(false); // some styles draw the branches of items without children
         vue.setHeaderHidden(true);
         vue.header()->setFont(DonneFont());
         vue.resize(kTaille);
@@ -83,7 +82,8 @@ struct Banc
         return image;
     }
     QRect Encre() { return Encre::BornesEncre(Peins()); }
-    bool MontreMessage() { return Encre().isValid(); }
+    /// By its color: a style may draw branches, the focus or the row under the mouse.
+    bool MontreMessage() { return Encre::BornesDe(Peins(), Qt::gray).isValid(); }
 
     DTreeView vue;
 };

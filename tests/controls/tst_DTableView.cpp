@@ -71,6 +71,8 @@ void tst_DTableView::doubleClic()
     QCOMPARE(espions.Comptes(), comptes);
     QCOMPARE(espions.doubles.at(0).at(0).toModelIndex(), banc.modele.index(1, colonne));
     QCOMPARE(espions.activations.count(), espionsDeQt.activations.count());
+    QCOMPARE(banc.vue.currentIndex().row(), plain.vue.currentIndex().row());
+    QCOMPARE(banc.vue.currentIndex().column(), plain.vue.currentIndex().column());
 }
 
 void tst_DTableView::deuxFoisLaCase()

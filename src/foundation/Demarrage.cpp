@@ -15,6 +15,7 @@
 #include "foundation/AccessibiliteQt.h"
 #include "foundation/TraductionGui.h"
 #include "style/ReglesDeBase_p.h"
+#include "touch/DDefileurTactile.h"
 
 #include "noyau/UniChemin.h"
 
@@ -45,6 +46,8 @@ std::map<DDialogue::eTypStockeur, std::pair<UniChaine, QSettings::Format>>
 std::map<DDialogue::eTypStockeur, StockageReponse *> StockageReponse::laListeStockeurDefaut;
 
 UniChaine DFrameProxy::monIdProxy;
+
+QSet<QWidget *> DDefileurTactile::mesWidgetsAvecDefileursTactile;
 
 EnsembleRegles reglesDeBase;
 

@@ -1,0 +1,224 @@
+// touch/DDefileurTactile.cpp
+#include "touch/DDefileurTactile.h"
+
+#include "touch/DGestionnaireTapGesture.h"
+
+#include <QAbstractItemView>
+#include <QAbstractScrollArea>
+#include <QCoreApplication>
+#include <QHoverEvent>
+#include <QPointingDevice>
+#include <QScrollerProperties>
+#include <QStyle>
+#include <QTabletEvent>
+
+#include <functional>
+#include <utility>
+
+namespace {
+
+constexpr char kTactile[] = "tactile";
+
+// Calls back once, when the last finger leaves the window or the system takes the touch away.
+//
+// Qt tells neither to the area nor to its viewport, since both let the begin of the touch pass.
+class VeilleToucher : public QObject
+{
+public:
+    VeilleToucher(QWidget * aire, std::function<void()> fin, QObject * parent)
+        : QObject(parent)
+        , monAire(aire)
+        , maFin(std::move(fin))
+    {
+        QCoreApplication::instance()->installEventFilter(this);
+    }
+
+    bool eventFilter(QObject * objet, QEvent * evenement) override
+    {
+        if ((evenement->type() == QEvent::TouchEnd || evenement->type() == QEvent::TouchCancel) &&
+            (objet->isWindowType() || objet == monAire)) {
+            QCoreApplication::instance()->removeEventFilter(this);
+            maFin();
+        }
+        return false;
+    }
+
+private:
+    QWidget * monAire;
+    std::function<void()> maFin;
+};
+
+void Repolis(QWidget & widget)
+{
+    widget.style()->unpolish(&widget);
+    widget.style()->polish(&widget);
+}
+
+} // namespace
+
+DDefileurTactile::DDefileurTactile(QAbstractScrollArea * aire)
+    : DGestionnaireGestureAbs(aire)
+    , monAire(aire)
+{
+    if (!aire)
+        return;
+    aire->setAttribute(Qt::WA_AcceptTouchEvents);
+    AjouteQScroller(aire->viewport());
+    aire->installEventFilter(this);
+    auto * const vue = qobject_cast<QAbstractItemView *>(aire);
+    monEstItemView = vue != nullptr;
+    SuisViewport();
+    if (vue) {
+        vue->setProperty(kTactile, false);
+        vue->setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);
+    }
+}
+
+DDefileurTactile::~DDefileurTactile()
+{
+    // The area may be half destroyed: its viewport is known here without asking it.
+    if (monViewport)
+        mesWidgetsAvecDefileursTactile.remove(monViewport);
+}
+
+bool DDefileurTactile::eventFilter(QObject * objet, QEvent * evenement)
+{
+    if (objet == monAire) {
+        switch (evenement->type()) {
+        case QEvent::TouchBegin:
+            if (monEstItemView)
+                DesactiveSurlignement();
+            break;
+        case QEvent::FocusIn:
+            SuspendsAncetres();
+            break;
+        case QEvent::FocusOut:
+            RetablisAncetres();
+            break;
+        case QEvent::ChildAdded:
+            if (monAire->viewport() != monViewport) {
+                AjouteQScroller(monAire->viewport());
+                SuisViewport();
+            }
+            break;
+        default:
+            break;
+        }
+    }
+    bool const ignore = DoitIgnorerEvenement(evenement);
+    if (EstEvenementTablet(evenement))
+        TraiteEvenementTablet(static_cast<QTabletEvent *>(evenement), monAire);
+    return ignore;
+}
+
+void DDefileurTactile::PriseChangementEtatQScroller(QScroller::State state)
+{
+    if (state == QScroller::Inactive)
+        ActiveSurlignement();
+}
+
+void DDefileurTactile::PriseAncetreDetruit(QObject * ancetre)
+{
+    mesAncetresSuspendus.removeAll(ancetre);
+}
+
+void DDefileurTactile::PriseFinDuToucher()
+{
+    if (maVeille || !monViewport || !monAire->property(kTactile).toBool())
+        return; // a finger is down again, or nothing is left to do
+    QScroller * const defileur = QScroller::scroller(monViewport);
+    // A touch that was cancelled, or whose fingers left together, is never told to the scroller.
+    if (defileur->state() == QScroller::Pressed || defileur->state() == QScroller::Dragging)
+        defileur->stop();
+    else if (defileur->state() == QScroller::Inactive)
+        ActiveSurlignement();
+}
+
+void DDefileurTactile::AjouteQScroller(QWidget * widget)
+{
+    widget->setAttribute(Qt::WA_AcceptTouchEvents);
+    widget->grabGesture(Qt::TapGesture);
+    QScroller::grabGesture(widget, QScroller::TouchGesture);
+    QScroller * const defileur = QScroller::scroller(widget);
+    QScrollerProperties proprietes = defileur->scrollerProperties();
+    proprietes.setScrollMetric(QScrollerProperties::VerticalOvershootPolicy,
+                               QVariant::fromValue(QScrollerProperties::OvershootAlwaysOff));
+    proprietes.setScrollMetric(QScrollerProperties::AxisLockThreshold, 1);
+    defileur->setScrollerProperties(proprietes);
+    if (!mesWidgetsAvecDefileursTactile.contains(widget)) {
+        mesWidgetsAvecDefileursTactile.insert(widget);
+        connect(widget, &QObject::destroyed, widget,
+                [widget] { mesWidgetsAvecDefileursTactile.remove(widget); });
+    }
+    connect(defileur, &QScroller::stateChanged, this, &DDefileurTactile::SignalChangementEtat,
+            Qt::UniqueConnection);
+}
+
+void DDefileurTactile::ActiveSurlignement()
+{
+    monAire->setProperty(kTactile, false);
+    QCoreApplication::postEvent(monAire->viewport(),
+                                new QHoverEvent(QEvent::HoverLeave, QPointF(), QPointF(), QPointF(),
+                                                Qt::NoModifier,
+                                                QPointingDevice::primaryPointingDevice()));
+    Repolis(*monAire);
+}
+
+void DDefileurTactile::DesactiveSurlignement()
+{
+    monAire->setProperty(kTactile, true);
+    Repolis(*monAire);
+    if (maVeille)
+        return;
+    maVeille = new VeilleToucher(
+        monAire,
+        [this] {
+            maVeille->deleteLater();
+            maVeille = nullptr;
+            PriseFinDuToucher();
+        },
+        this);
+}
+
+QSet<QObject *> * DDefileurTactile::DonneParents()
+{
+    auto parents = std::make_unique<QSet<QObject *>>();
+    for (QObject * objet = monAire->parent(); objet; objet = objet->parent())
+        parents->insert(objet);
+    return parents.release();
+}
+
+// The viewport gets what it needs besides its scroller.
+void DDefileurTactile::SuisViewport()
+{
+    monViewport = monAire->viewport();
+    new DGestionnaireTapGesture(monViewport);
+    if (monEstItemView)
+        connect(QScroller::scroller(monViewport.data()), &QScroller::stateChanged, this,
+                &DDefileurTactile::PriseChangementEtatQScroller, Qt::UniqueConnection);
+}
+
+void DDefileurTactile::SuspendsAncetres()
+{
+    for (QObject * objet = monAire->parent(); objet; objet = objet->parent()) {
+        if (!objet->isWidgetType() || mesAncetresSuspendus.contains(objet) ||
+            !mesWidgetsAvecDefileursTactile.contains(static_cast<QWidget *>(objet)))
+            continue;
+        mesAncetresSuspendus.append(objet);
+        QScroller::ungrabGesture(objet);
+        connect(objet, &QObject::destroyed, this, &DDefileurTactile::PriseAncetreDetruit,
+                Qt::UniqueConnection);
+    }
+}
+
+void DDefileurTactile::RetablisAncetres()
+{
+    if (mesAncetresSuspendus.isEmpty())
+        return;
+    std::unique_ptr<QSet<QObject *>> const parents(DonneParents());
+    for (QObject * const ancetre : std::exchange(mesAncetresSuspendus, {})) {
+        // Deliberate: an area that is no longer around this one gets no scroller back.
+        if (parents->contains(ancetre))
+            AjouteQScroller(static_cast<QWidget *>(ancetre));
+    }
+}

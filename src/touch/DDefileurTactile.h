@@ -1,0 +1,70 @@
+// touch/DDefileurTactile.h
+#pragma once
+
+#include "FabrelGuiExport.h"
+
+#include "touch/DGestionnaireGestureAbs.h"
+
+#include <QList>
+#include <QPointer>
+#include <QScroller>
+#include <QSet>
+#include <QTime>
+
+class QAbstractScrollArea;
+
+/// Gives a scroll area kinetic scrolling by finger, taps that click, and a pen that acts as a
+/// mouse.
+///
+/// The area owns the object; one per area. Among nested areas that have one, the area with the
+/// keyboard focus takes the finger: the areas around it lose their scrollers until the focus
+/// leaves. An item view scrolls by pixel from then on, and carries the dynamic property "tactile",
+/// true while a finger is on it or the scrolling that it began goes on: style sheets can take the
+/// colour of the row under the mouse away meanwhile.
+///
+/// Only on the GUI thread.
+class FABRELGUI_EXPORT DDefileurTactile : public DGestionnaireGestureAbs
+{
+    Q_OBJECT
+
+public:
+    /// Does nothing for null.
+    explicit DDefileurTactile(QAbstractScrollArea * aire);
+
+    /// The scroller of the viewport stays, with the default hand-over no longer.
+    ~DDefileurTactile() override;
+
+    bool eventFilter(QObject * objet, QEvent * evenement) override;
+
+    /// Every widget that an object of this class gave a scroller to, suspended or not. None stays
+    /// here after its destruction.
+    static QSet<QWidget *> mesWidgetsAvecDefileursTactile;
+
+Q_SIGNALS:
+    /// The new state of a scroller that this object has added: of the viewport, or of an area
+    /// around it that got its scroller back.
+    void SignalChangementEtat(QScroller::State etat);
+
+protected Q_SLOTS:
+    void PriseChangementEtatQScroller(QScroller::State state);
+
+private Q_SLOTS:
+    void PriseAncetreDetruit(QObject * ancetre);
+    void PriseFinDuToucher();
+
+private:
+    void AjouteQScroller(QWidget * widget);
+    void ActiveSurlignement();
+    void DesactiveSurlignement();
+    QSet<QObject *> * DonneParents();
+    void SuisViewport();
+    void SuspendsAncetres();
+    void RetablisAncetres();
+
+    QAbstractScrollArea * monAire;
+    QTime monTemps; // kept null
+    QList<QObject *> mesAncetresSuspendus;
+    bool monEstItemView = false;
+    QPointer<QWidget> monViewport;
+    QPointer<QObject> maVeille; // looks for the end of the touch; null when no finger is down
+};

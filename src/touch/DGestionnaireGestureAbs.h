@@ -1,0 +1,41 @@
+// touch/DGestionnaireGestureAbs.h
+#pragma once
+
+#include "FabrelGuiExport.h"
+
+#include <QObject>
+
+#include <memory>
+
+class QEvent;
+class QMouseEvent;
+class QTabletEvent;
+class QWidget;
+
+/// What the event filters for finger and pen share: which mouse events to keep from a widget, and
+/// mouse events made from those of a pen.
+///
+/// The widget owns its manager.
+class FABRELGUI_EXPORT DGestionnaireGestureAbs : public QObject
+{
+    Q_OBJECT
+
+public:
+    explicit DGestionnaireGestureAbs(QWidget * widget);
+
+protected:
+    /// True for a press, release or move of the mouse that the system or Qt made from a touch: what
+    /// acts on the touch itself would do the work a second time. False for a double click.
+    bool DoitIgnorerEvenement(QEvent * evenement) const;
+
+    /// True for a press, release or move of any tablet tool.
+    bool EstEvenementTablet(QEvent * evenement) const;
+
+    /// The mouse event, of the primary pointing device and without modifiers, that says the same as
+    /// a pen's press, release or move at its local position; null for other tools and events.
+    std::unique_ptr<QMouseEvent> DonneEvenementSouris(QTabletEvent * evenement) const;
+
+    /// Sends what `DonneEvenementSouris` makes of it to `widget`, if anything, before it returns.
+    /// The receiver may destroy `widget`.
+    void TraiteEvenementTablet(QTabletEvent * evenement, QWidget * widget) const;
+};

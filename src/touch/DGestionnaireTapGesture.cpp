@@ -1,0 +1,78 @@
+// touch/DGestionnaireTapGesture.cpp
+#include "touch/DGestionnaireTapGesture.h"
+
+#include <QCoreApplication>
+#include <QGestureEvent>
+#include <QGuiApplication>
+#include <QMouseEvent>
+#include <QPointer>
+#include <QPointingDevice>
+#include <QStyleHints>
+#include <QTabletEvent>
+#include <QTapGesture>
+#include <QWidget>
+
+DGestionnaireTapGesture::DGestionnaireTapGesture(QWidget * widget)
+    : DGestionnaireGestureAbs(widget)
+    , monWidget(widget)
+{
+    if (!widget)
+        return;
+    widget->setAttribute(Qt::WA_AcceptTouchEvents);
+    widget->grabGesture(Qt::TapGesture);
+    widget->installEventFilter(this);
+}
+
+bool DGestionnaireTapGesture::eventFilter(QObject *, QEvent * evenement)
+{
+    if (evenement->type() == QEvent::Gesture) {
+        auto const * const tap = static_cast<QTapGesture *>(
+            static_cast<QGestureEvent *>(evenement)->gesture(Qt::TapGesture));
+        if (tap && TraiteTap(*tap))
+            return true; // the widget and this object may be gone
+    }
+    // Qt makes a double click of the second of two quick touches when the finger comes down, and
+    // the tap makes another when it leaves.
+    if (evenement->type() == QEvent::MouseButtonDblClick && monTapEnCours &&
+        static_cast<QMouseEvent *>(evenement)->source() != Qt::MouseEventNotSynthesized)
+        return true;
+
+    bool const ignore = DoitIgnorerEvenement(evenement);
+    if (EstEvenementTablet(evenement))
+        TraiteEvenementTablet(static_cast<QTabletEvent *>(evenement), monWidget);
+    return ignore;
+}
+
+// True when the tap is finished, and has become a click.
+bool DGestionnaireTapGesture::TraiteTap(QTapGesture const & tap)
+{
+    monTapEnCours = tap.state() == Qt::GestureStarted || tap.state() == Qt::GestureUpdated;
+    if (tap.state() != Qt::GestureFinished)
+        return false;
+    QEvent::Type premier = QEvent::MouseButtonPress;
+    if (monAttenteDoubleTap &&
+        monChrono.elapsed() < QGuiApplication::styleHints()->mouseDoubleClickInterval()) {
+        monAttenteDoubleTap = false;
+        premier = QEvent::MouseButtonDblClick;
+    } else {
+        monAttenteDoubleTap = true;
+        monChrono.start();
+    }
+    Clique(premier, tap.position());
+    return true;
+}
+
+void DGestionnaireTapGesture::Clique(QEvent::Type premier, QPointF const & position)
+{
+    QPointer<QWidget> const widget =
+        monWidget; // what the click does may destroy it, and us with it
+    for (QEvent::Type const type : {premier, QEvent::MouseButtonRelease}) {
+        if (!widget)
+            return;
+        // Deliberate: the release, too, has the left button in its buttons.
+        QMouseEvent souris(type, position, widget->mapToGlobal(position), Qt::LeftButton,
+                           Qt::LeftButton, Qt::NoModifier,
+                           QPointingDevice::primaryPointingDevice());
+        QCoreApplication::sendEvent(widget, &souris);
+    }
+}

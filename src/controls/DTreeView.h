@@ -3,10 +3,14 @@
 
 #include "FabrelGuiExport.h"
 
+#include <QList>
 #include <QStyle>
 #include <QTreeView>
 
-/// A `QTreeView` whose subclasses may draw single elements of it in the style's place.
+/// A `QTreeView` with touch scrolling, a message for the time when it is empty, and columns that
+/// follow its width; subclasses may draw single elements of it in the style's place.
+///
+/// Touch scrolling comes with the first show, which also makes it scroll vertically by pixels.
 class FABRELGUI_EXPORT DTreeView : public QTreeView
 {
     Q_OBJECT
@@ -14,8 +18,49 @@ class FABRELGUI_EXPORT DTreeView : public QTreeView
 public:
     explicit DTreeView(QWidget * parent = nullptr);
 
+    /// From now on, writes `message` in the view while there is no model, or no row under the root
+    /// index. The text is in gray and in the font of the header, at the left and at the top, and
+    /// wraps at the width of the view. An empty `message` leaves an empty view.
+    void AfficheMessageSiVide(QString const & message);
+
+    /// Whether the columns share what the width of the view gains or loses, pixel by pixel and in
+    /// the order of their logical indexes; off at first.
+    ///
+    /// Only while the header is hidden. Columns that are hidden, or whose resize mode is neither
+    /// `Interactive` nor `Stretch`, keep their widths, as does one that has reached the smallest or
+    /// the largest width of a section. Pixels that no column can take are dropped. Each column
+    /// that changes is resized once per event, so that `sectionResized` tells its whole change. Qt
+    /// lays out the sections that it stretches once more, in the room that the others leave.
+    void MetsRedimensionnementAvecResizeEvent(bool actif);
+
     /// Asked by the style before it draws one of the elements that it leaves to the view. True
     /// means that the view has drawn it, and the style draws nothing; always false here.
     virtual bool GereDrawPrimitive(QStyle::PrimitiveElement element, QStyleOption const * option,
                                    QPainter * peintre, QWidget const * widget) const;
+
+Q_SIGNALS:
+    /// Two fingers spread or close over the view, once it has been shown: the factor since the
+    /// step before, never 1.
+    void SignalZoomTactile(double facteur);
+
+protected:
+    void showEvent(QShowEvent * evenement) override;
+    void paintEvent(QPaintEvent * evenement) override;
+    void resizeEvent(QResizeEvent * evenement) override;
+    void scrollContentsBy(int dx, int dy) override;
+
+private:
+    bool MontreMessage() const;
+    void DessineMessage();
+    QList<int> DonneLargeurs() const;
+    QList<int> DonneTourDesColonnes() const;
+    void RepartisPixels(int delta);
+    void RedimensionneColonnes(QList<int> const & largeurs);
+
+    bool monDefileurEstCree = false;
+    bool monRedimensionnementActif = false;
+    bool monMessageActif = false;
+    QString monMessage;
+    int maProchaineColonne = 0;   // the first that the next pixel is offered to
+    QList<int> mesLargeursDepart; // of the columns, while a resize event is handled
 };

@@ -1,0 +1,109 @@
+// controls/DCheckBox.cpp
+#include "controls/DCheckBox.h"
+
+#include "controls/BoutonAccessible_p.h"
+#include "controls/BoutonSurvolable_p.h"
+#include "controls/RoutinesBouton_p.h"
+#include "style/ProprietesStyle_p.h"
+
+#include <QCheckBox>
+#include <QLabel>
+
+class CheckBoxHover : public BoutonSurvolable<QCheckBox, QStyle::CE_CheckBox>
+{
+    Q_OBJECT // its name tells the indicator of a control from others
+
+public:
+    using BoutonSurvolable::BoutonSurvolable;
+};
+
+DCheckBox::DCheckBox(QString const & texte, QWidget * parent, bool cochay)
+    : DBoutonAbstrait(parent)
+    , maCase(new CheckBoxHover(this))
+{
+    maCase->setProperty(ProprietesStyle::kPourStyle, true);
+    monLibelle = RoutinesBouton::Assemble(*this, *maCase, texte);
+    maCase->setChecked(cochay);
+    Branche(); // last: nobody hears of the initial state
+}
+
+DCheckBox::~DCheckBox()
+{
+    // Deleted by a receiver of a signal: Qt still uses the indicator behind that.
+    if (maCase->EstOccupay() || sender() == maCase)
+        RoutinesBouton::Detache(*maCase);
+}
+
+UniChaine DCheckBox::DonneTexte() const
+{
+    return monLibelle->text();
+}
+
+bool DCheckBox::EstCochay() const
+{
+    return maCase->isChecked();
+}
+
+void DCheckBox::MetsCochay(bool cochay)
+{
+    if (maCase->isChecked() != cochay)
+        maCase->ChangeCochage(cochay);
+    else
+        Q_EMIT maCase->toggled(cochay); // Deliberate: listeners hear the value in all cases.
+}
+
+void DCheckBox::MetsUtilisateurPeutChangerValeur(bool peut)
+{
+    bool const pouvait = !maCase->testAttribute(Qt::WA_ForceDisabled);
+    if (peut == pouvait)
+        return;
+    maCase->setEnabled(peut);
+    // Else a click on the label would give the focus to the disabled box.
+    if (!peut)
+        maPolitiqueFocus = focusPolicy();
+    setFocusPolicy(peut ? maPolitiqueFocus : Qt::NoFocus);
+    BoutonAccessible::AnnonceActivation(*this);
+}
+
+bool DCheckBox::eventFilter(QObject * objet, QEvent * evenement)
+{
+    if (!RoutinesBouton::EstBascule(*maCase, *monLibelle, objet, *evenement))
+        return DBoutonAbstrait::eventFilter(objet, evenement);
+    MetsCochay(!EstCochay());
+    return true;
+}
+
+void DCheckBox::enterEvent(QEnterEvent * evenement)
+{
+    maCase->MetsSurvolay(true);
+    DBoutonAbstrait::enterEvent(evenement);
+}
+
+void DCheckBox::leaveEvent(QEvent * evenement)
+{
+    maCase->MetsSurvolay(false);
+    DBoutonAbstrait::leaveEvent(evenement);
+}
+
+// The mouse need not leave a control that goes away under it.
+void DCheckBox::hideEvent(QHideEvent * evenement)
+{
+    maCase->MetsSurvolay(false);
+    DBoutonAbstrait::hideEvent(evenement);
+}
+
+void DCheckBox::Branche()
+{
+    // Not by toggled, which is heard without a change too.
+    connect(maCase, &QCheckBox::stateChanged, this,
+            [this] { BoutonAccessible::AnnonceCochage(*this); });
+    connect(maCase, &QCheckBox::toggled, this, &DCheckBox::SignalCochageChangay,
+            Qt::UniqueConnection);
+    connect(maCase, &QCheckBox::stateChanged, this, &DCheckBox::stateChanged, Qt::UniqueConnection);
+    connect(maCase, &QCheckBox::clicked, this, &DCheckBox::clicked, Qt::UniqueConnection);
+    connect(maCase, &QCheckBox::pressed, this, &DCheckBox::pressed, Qt::UniqueConnection);
+    connect(maCase, &QCheckBox::released, this, &DCheckBox::released, Qt::UniqueConnection);
+    connect(maCase, &QCheckBox::toggled, this, &DCheckBox::toggled, Qt::UniqueConnection);
+}
+
+#include "DCheckBox.moc"

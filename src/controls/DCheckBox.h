@@ -1,0 +1,52 @@
+// controls/DCheckBox.h
+#pragma once
+
+#include "controls/DBoutonAbstrait.h"
+
+class CheckBoxHover;
+class QLabel;
+
+/// A check box whose label is rich text, with links if need be, and wraps where it has no room.
+///
+/// A release of the mouse on the label toggles the box. There is no third state. Whoever hears one
+/// of the signals may delete the control.
+class FABRELGUI_EXPORT DCheckBox : public DBoutonAbstrait
+{
+    Q_OBJECT
+
+public:
+    /// `texte` is HTML; without one the label is hidden. `cochay` is the initial state.
+    explicit DCheckBox(QString const & texte, QWidget * parent = nullptr, bool cochay = false);
+    ~DCheckBox() override;
+
+    UniChaine DonneTexte() const override;
+    bool EstCochay() const override;
+    /// Emits `toggled` and `SignalCochageChangay` even when the box has this state already.
+    void MetsCochay(bool cochay) override;
+
+    /// False freezes the value: the indicator is disabled, the label is not, but does not toggle.
+    /// `MetsCochay` still changes it.
+    void MetsUtilisateurPeutChangerValeur(bool peut);
+
+Q_SIGNALS:
+    void stateChanged(int etat);
+    void clicked(bool cochay);
+    void pressed();
+    void released();
+    void toggled(bool cochay);
+
+public:
+    bool eventFilter(QObject * objet, QEvent * evenement) override;
+
+protected:
+    void enterEvent(QEnterEvent * evenement) override;
+    void leaveEvent(QEvent * evenement) override;
+    void hideEvent(QHideEvent * evenement) override;
+
+private:
+    void Branche();
+
+    CheckBoxHover * maCase = nullptr;
+    QLabel * monLibelle = nullptr;
+    Qt::FocusPolicy maPolitiqueFocus = Qt::NoFocus; // of when the value is not frozen
+};

@@ -1,0 +1,25 @@
+// controls/RoutinesBouton_p.h
+#pragma once
+
+class QAbstractButton;
+class QEvent;
+class QLabel;
+class QObject;
+class QString;
+class QWidget;
+
+/// What a control made of an indicator and a label needs, be it a check box or a radio button.
+namespace RoutinesBouton {
+
+/// Lays the indicator `bouton` and a new label out in `controle`, which filters the events of the
+/// label and gets the focus by the indicator.
+QLabel * Assemble(QWidget & controle, QAbstractButton & bouton, QString const & texte);
+
+/// True for the event of the label that toggles the control.
+bool EstBascule(QAbstractButton const & bouton, QLabel const & libelle, QObject const * objet,
+                QEvent const & evenement);
+
+/// Lets the indicator live until the next turn of the event loop, out of its control and group.
+void Detache(QAbstractButton & bouton);
+
+} // namespace RoutinesBouton

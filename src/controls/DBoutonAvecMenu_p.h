@@ -1,0 +1,41 @@
+// controls/DBoutonAvecMenu_p.h
+#pragma once
+
+#include "FabrelGuiExport.h"
+
+#include <QPushButton>
+#include <QVariant>
+
+/// A push button with a part at its end, in the direction of the layout, that asks for a menu.
+///
+/// A press on that part, Alt+Down or F4 emits `menuCliquay` and presses nothing else.
+class FABRELGUI_EXPORT DBoutonAvecMenu : public QPushButton
+{
+    Q_OBJECT
+
+public:
+    explicit DBoutonAvecMenu(QString const & texte, QWidget * parent = nullptr);
+
+    void AfficheMenu(bool visible);
+    bool MenuEstAffichay() const;
+    /// Where the part is; null while it is hidden.
+    QRect DonneRectMenu() const;
+
+    QSize sizeHint() const override;
+    QSize minimumSizeHint() const override;
+
+Q_SIGNALS:
+    /// With the button's dynamic property "identifiant".
+    void menuCliquay(QVariant id);
+
+protected:
+    bool hitButton(QPoint const & position) const override;
+    void mousePressEvent(QMouseEvent * evenement) override;
+    void keyPressEvent(QKeyEvent * evenement) override;
+    void paintEvent(QPaintEvent * evenement) override;
+
+private:
+    void DessineMenu(QPainter & peintre) const;
+
+    bool monMenuAffichay = true;
+};

@@ -1,0 +1,147 @@
+// controls/DControleBoutonsExclusifs.cpp
+#include "controls/DControleBoutonsExclusifs.h"
+
+#include "controls/DBoutonAvecMenu_p.h"
+#include "foundation/Layouts.h"
+#include "foundation/ThemesQt.h"
+
+#include <QButtonGroup>
+#include <QHBoxLayout>
+#include <QPainter>
+#include <QPushButton>
+#include <QStyle>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr char const * kIdentifiant = "identifiant";
+constexpr char const * kEtiquette = "etiquette";
+constexpr int kLargeurSeparateur = 1; // logical pixels
+
+/// Asks for its colour at each painting: the theme does not tell of changes.
+class SeparateurBoutons : public QWidget
+{
+public:
+    explicit SeparateurBoutons(QWidget * parent)
+        : QWidget(parent)
+    {
+        setFixedWidth(kLargeurSeparateur);
+        setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Expanding);
+    }
+
+protected:
+    void paintEvent(QPaintEvent *) override
+    {
+        QPainter peintre(this);
+        peintre.fillRect(rect(), ThemesQt::Instance()->DonneCouleur(u"couleurSeparateur"_s));
+    }
+};
+
+} // namespace
+
+DControleBoutonsExclusifs::DControleBoutonsExclusifs(std::vector<InfosBouton> boutons,
+                                                     QWidget * parent)
+    : QFrame(parent)
+    , monGroupe(new QButtonGroup(this))
+    , monStyleGauche(u"AGauche"_s)
+    , monStyleDroite(u"ADroite"_s)
+    , mesBoutons(std::move(boutons))
+{
+    monGroupe->setExclusive(true);
+    auto * const disposition = new QHBoxLayout(this);
+    RoutinesGeneralesQt::EnleveMargesDuLayout(disposition);
+    disposition->setSpacing(0);
+    bool estPremier = true;
+    for (auto const & infos : mesBoutons) {
+        if (!std::exchange(estPremier, false))
+            disposition->addWidget(CreeSeparateur());
+        bool const cochay = infos.cochay && !monGroupe->checkedButton();
+        disposition->addWidget(
+            CreeControle(infos.texte, infos.identifiant, cochay, infos.avecMenu));
+    }
+    AppliqueProprieteStyleBoutons();
+}
+
+void DControleBoutonsExclusifs::AppliqueProprieteStyleBoutons(char const * nom)
+{
+    if (!nom || !*nom)
+        return;
+    auto const boutons = monGroupe->buttons();
+    for (auto * const bouton : boutons) {
+        QString place = u""_s;
+        if (bouton == boutons.first())
+            place = monStyleGauche;
+        else if (bouton == boutons.last())
+            place = monStyleDroite;
+        bouton->setProperty(nom, place);
+        bouton->style()->unpolish(bouton);
+        bouton->style()->polish(bouton);
+    }
+}
+
+QAbstractButton * DControleBoutonsExclusifs::DonneBouton(QVariant const & identifiant) const
+{
+    auto const boutons = monGroupe->buttons();
+    for (auto * const bouton : boutons)
+        if (bouton->property(kIdentifiant) == identifiant)
+            return bouton;
+    return nullptr;
+}
+
+QVariant DControleBoutonsExclusifs::DonneIdentifiant(QAbstractButton const * bouton) const
+{
+    bool const estDuGroupe = bouton && bouton->group() == monGroupe;
+    return estDuGroupe ? bouton->property(kIdentifiant) : QVariant();
+}
+
+QVariant DControleBoutonsExclusifs::DonneIdentifiantCochay() const
+{
+    return DonneIdentifiant(monGroupe->checkedButton());
+}
+
+void DControleBoutonsExclusifs::MetsCochay(QVariant const & identifiant, bool cochay)
+{
+    if (auto * const bouton = DonneBouton(identifiant))
+        bouton->setChecked(cochay);
+}
+
+void DControleBoutonsExclusifs::MetsTooltipSurBouton(QVariant const & identifiant,
+                                                     UniChaine const & texte)
+{
+    if (auto * const bouton = DonneBouton(identifiant))
+        bouton->setToolTip(texte);
+}
+
+void DControleBoutonsExclusifs::AjusterAffichageMenuBoutons(QVariant const & identifiant,
+                                                            bool visible)
+{
+    if (auto * const bouton = qobject_cast<DBoutonAvecMenu *>(DonneBouton(identifiant)))
+        bouton->AfficheMenu(visible);
+}
+
+QAbstractButton * DControleBoutonsExclusifs::CreeControle(UniChaine const & texte,
+                                                          QVariant const & identifiant, bool cochay,
+                                                          bool avecMenu)
+{
+    auto * const avecPartieMenu = avecMenu ? new DBoutonAvecMenu(texte, this) : nullptr;
+    QPushButton * const bouton = avecMenu ? avecPartieMenu : new QPushButton(texte, this);
+    bouton->setProperty(kIdentifiant, identifiant);
+    bouton->setProperty(kEtiquette, QString(texte));
+    bouton->setCheckable(true);
+    bouton->setAutoDefault(false);
+    bouton->setAutoExclusive(true); // only for assistive technologies: the group rules
+    monGroupe->addButton(bouton);
+    bouton->setChecked(cochay);
+    connect(bouton, &QAbstractButton::toggled, this, &DControleBoutonsExclusifs::toggled,
+            Qt::UniqueConnection);
+    if (avecPartieMenu)
+        connect(avecPartieMenu, &DBoutonAvecMenu::menuCliquay, this,
+                &DControleBoutonsExclusifs::menuCliquay, Qt::UniqueConnection);
+    return bouton;
+}
+
+QWidget * DControleBoutonsExclusifs::CreeSeparateur()
+{
+    return new SeparateurBoutons(this);
+}

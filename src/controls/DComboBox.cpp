@@ -2,15 +2,52 @@
 #include "controls/DComboBox.h"
 
 #include "controls/DComboBoxDeleguay_p.h"
+#include "controls/MasqueurPremierElement_p.h"
 
 #include <QAbstractItemView>
+#include <QCompleter>
+#include <QKeyEvent>
+#include <QListView>
 #include <QPointer>
+#include <QSignalBlocker>
+#include <QStyleOptionComboBox>
+#include <QWheelEvent>
+
+#include <optional>
+
+namespace {
+
+bool EstUneLettre(QKeyEvent const & evenement)
+{
+    return !evenement.text().isEmpty() && evenement.text().at(0).isPrint() &&
+           !(evenement.modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier));
+}
+
+} // namespace
 
 DComboBox::DComboBox(QWidget * parent)
     : QComboBox(parent)
+    , monMasqueur(new MasqueurPremierElement(this))
 {
     view()->setItemDelegate(new DComboBoxDeleguay(this, this)); // a view may go before it
     view()->installEventFilter(this);
+}
+
+DComboBox::~DComboBox()
+{
+    delete monMasqueur; // before the model may tell of its rows once more
+}
+
+void DComboBox::CachePremierElement()
+{
+    if (auto * const deleguay = qobject_cast<DComboBoxDeleguay *>(itemDelegate()))
+        deleguay->CachePremierElement();
+    monMasqueur->Synchronise();
+}
+
+bool DComboBox::PremierElementCachay() const
+{
+    return monMasqueur->EstActif();
 }
 
 void DComboBox::setView(QAbstractItemView * vue)
@@ -24,4 +61,144 @@ void DComboBox::setView(QAbstractItemView * vue)
     if (deleguay) // unless the former view had it as a child
         vue->setItemDelegate(deleguay);
     vue->installEventFilter(this);
+    monMasqueur->Synchronise();
+}
+
+void DComboBox::setModel(QAbstractItemModel * modele)
+{
+    QComboBox::setModel(modele);
+    monMasqueur->Synchronise();
+}
+
+void DComboBox::showPopup()
+{
+    monMasqueur->Synchronise();
+    if (!PremierElementCachay()) {
+        QComboBox::showPopup();
+        return;
+    }
+    if (count() < 2)
+        return;
+    int const lignes = maxVisibleItems();
+    setMaxVisibleItems(lignes + 1); // the base counts the hidden row too
+    {
+        // The base highlights the current item, which may be the hidden one.
+        std::optional<QSignalBlocker> muet;
+        if (currentIndex() == 0)
+            muet.emplace(this);
+        QComboBox::showPopup();
+    }
+    setMaxVisibleItems(lignes);
+    if (monMasqueur->EstCachay(view()->currentIndex())) {
+        monMasqueur->OublieCourantCachay();
+        view()->scrollToTop();
+    }
+}
+
+bool DComboBox::eventFilter(QObject * objet, QEvent * evenement)
+{
+    // A view lays itself out on a timer, or has to before it can follow a key.
+    bool const dansLaVue = objet == view();
+    if (dansLaVue &&
+        (evenement->type() == QEvent::Timer || evenement->type() == QEvent::ShortcutOverride))
+        monMasqueur->Synchronise();
+    if (dansLaVue && evenement->type() == QEvent::KeyPress && PremierElementCachay()) {
+        monMasqueur->Synchronise();
+        if (TraiteToucheDeLaListe(*static_cast<QKeyEvent *>(evenement)))
+            return true;
+    }
+    return QComboBox::eventFilter(objet, evenement);
+}
+
+void DComboBox::keyPressEvent(QKeyEvent * evenement)
+{
+    monMasqueur->Synchronise();
+    QCompleter const * const completeur = completer();
+    bool const completion = completeur && completeur->popup() && completeur->popup()->isVisible();
+    if (PremierElementCachay() && !completion && TraiteTouche(*evenement))
+        evenement->accept();
+    else
+        QComboBox::keyPressEvent(evenement);
+}
+
+void DComboBox::wheelEvent(QWheelEvent * evenement)
+{
+    QStyleOptionComboBox option;
+    initStyleOption(&option);
+    if (!PremierElementCachay() || view()->isVisible() ||
+        !style()->styleHint(QStyle::SH_ComboBox_AllowWheelScrolling, &option, this)) {
+        QComboBox::wheelEvent(evenement);
+        return;
+    }
+    int const delta = evenement->angleDelta().y();
+    if (delta > 0)
+        Active(monMasqueur->DonneLigneSuivante(currentIndex(), -1));
+    else if (delta < 0)
+        Active(monMasqueur->DonneLigneSuivante(std::max(currentIndex(), 0), 1));
+    evenement->accept();
+}
+
+// The keys with which QComboBox could make row 0 the current one; it looks at the flags of the
+// model only.
+bool DComboBox::TraiteTouche(QKeyEvent const & evenement)
+{
+    bool const controle = evenement.modifiers() & Qt::ControlModifier;
+    bool const alt = evenement.modifiers() & Qt::AltModifier;
+    switch (evenement.key()) {
+    case Qt::Key_Up:
+    case Qt::Key_PageUp:
+        if (controle && evenement.key() == Qt::Key_Up)
+            return false;
+        Active(monMasqueur->DonneLigneSuivante(currentIndex(), -1));
+        return true;
+    case Qt::Key_Down:
+    case Qt::Key_PageDown:
+        if ((alt || controle) && evenement.key() == Qt::Key_Down)
+            return false;
+        Active(monMasqueur->DonneLigneSuivante(std::max(currentIndex(), 0), 1));
+        return true;
+    case Qt::Key_Home:
+    case Qt::Key_End: {
+        if (isEditable())
+            return false;
+        bool const debut = evenement.key() == Qt::Key_Home;
+        Active(monMasqueur->DonneLigneSuivante(debut ? 0 : count(), debut ? 1 : -1));
+        return true;
+    }
+    case Qt::Key_Space: // opens the list
+    case Qt::Key_Select:
+        return false;
+    default:
+        break;
+    }
+    if (isEditable() || evenement.text().isEmpty() || !evenement.text().at(0).isPrint())
+        return false;
+    Active(monMasqueur->ChercheLigne(evenement.text()));
+    return true;
+}
+
+bool DComboBox::TraiteToucheDeLaListe(QKeyEvent const & evenement)
+{
+    QModelIndex cible;
+    if (EstUneLettre(evenement))
+        cible = monMasqueur->ChercheDansLaListe(evenement.text());
+    else if (evenement.key() == Qt::Key_Home && qobject_cast<QListView *>(view()))
+        cible = monMasqueur->DonnePremierDeLaListe(); // QListView goes to row 0, hidden or not
+    else
+        return false;
+    if (cible.isValid())
+        view()->setCurrentIndex(cible);
+    return true;
+}
+
+void DComboBox::Active(int ligne)
+{
+    if (ligne < 1 || ligne == currentIndex())
+        return;
+    QPointer<DComboBox> const vivant(this);
+    setCurrentIndex(ligne);
+    if (vivant)
+        Q_EMIT activated(currentIndex());
+    if (vivant)
+        Q_EMIT textActivated(itemText(currentIndex()));
 }

@@ -12,6 +12,16 @@ DComboBoxDeleguay::DComboBoxDeleguay(QComboBox * combo, QObject * parent)
 {
 }
 
+void DComboBoxDeleguay::CachePremierElement()
+{
+    monPremierCachay = true;
+}
+
+bool DComboBoxDeleguay::PremierElementCachay() const
+{
+    return monPremierCachay;
+}
+
 void DComboBoxDeleguay::paint(QPainter * peintre, QStyleOptionViewItem const & option,
                               QModelIndex const & index) const
 {
@@ -41,7 +51,6 @@ QSize DComboBoxDeleguay::sizeHint(QStyleOptionViewItem const & option,
     return {epaisseur, epaisseur};
 }
 
-// As QComboBox::insertSeparator marks them.
 bool DComboBoxDeleguay::EstSeparateur(QModelIndex const & index)
 {
     return index.data(Qt::AccessibleDescriptionRole).toString() == "separator"_L1;

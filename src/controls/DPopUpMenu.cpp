@@ -1,0 +1,104 @@
+// controls/DPopUpMenu.cpp
+#include "controls/DPopUpMenu.h"
+
+#include "foundation/GeometrieEcran.h"
+
+#include <QScopedValueRollback>
+#include <QScreen>
+
+#include <algorithm>
+#include <array>
+
+namespace {
+
+constexpr int kEcart = 10; // pixels between the pop-up and the rectangle
+
+QRect RameneDans(QRect const & limites, QRect rect)
+{
+    rect.moveLeft(
+        std::max(std::min(rect.left(), limites.right() - rect.width() + 1), limites.left()));
+    rect.moveTop(
+        std::max(std::min(rect.top(), limites.bottom() - rect.height() + 1), limites.top()));
+    return rect;
+}
+
+// For a rectangle with no room above it. Along the edge that the pop-up goes to, it stays as near
+// as the screen allows to where it is.
+QRect PlaceAilleurs(QRect const & limites, QRect const & ancre, QRect const & popup)
+{
+    QRect const dansLEcran = RameneDans(limites, popup);
+    int const enDessous = ancre.bottom() + 1 + kEcart;
+    int const aDroite = ancre.right() + 1 + kEcart;
+    int const aGauche = ancre.left() - kEcart - popup.width();
+    std::array const places = {
+        QPoint(dansLEcran.left(), enDessous),
+        QPoint(aDroite, dansLEcran.top()),
+        QPoint(aGauche, dansLEcran.top()),
+    };
+    for (QPoint const & place : places) {
+        QRect const rect(place, popup.size());
+        if (limites.contains(rect))
+            return rect;
+    }
+    return dansLEcran;
+}
+
+} // namespace
+
+DPopUpMenu::DPopUpMenu(QWidget * parent)
+    : QFrame(parent, Qt::Popup | Qt::FramelessWindowHint | Qt::WindowDoesNotAcceptFocus)
+{
+}
+
+void DPopUpMenu::AfficheToi(QPoint const & position, QSize const & taille)
+{
+    maPosition = position;
+    maTaille = taille;
+    if (!testAttribute(Qt::WA_Resized)) {
+        // As the first show would do, but before the place is looked for.
+        adjustSize();
+        setAttribute(Qt::WA_Resized, false);
+    }
+    bool const placeParHote = testAttribute(Qt::WA_Moved) && pos() != maDernierePlace;
+    if (!placeParHote) {
+        QScopedValueRollback const enCours(monReplacementEnCours, true);
+        move(position);
+    }
+    Replace();
+    show();
+    maDernierePlace = pos();
+}
+
+void DPopUpMenu::moveEvent(QMoveEvent * evenement)
+{
+    QFrame::moveEvent(evenement);
+    Replace();
+}
+
+void DPopUpMenu::resizeEvent(QResizeEvent * evenement)
+{
+    QFrame::resizeEvent(evenement);
+    if (isVisible())
+        Replace();
+}
+
+void DPopUpMenu::closeEvent(QCloseEvent * evenement)
+{
+    QFrame::closeEvent(evenement);
+    Q_EMIT SignalPopupEnFermeture();
+}
+
+void DPopUpMenu::Replace()
+{
+    if (monReplacementEnCours)
+        return;
+    QScopedValueRollback const enCours(monReplacementEnCours, true);
+    QRect const ancre(maPosition, maTaille);
+    QRect const popup = rect().translated(pos());
+    RoutinesFenetre::DeplaceFenetreSiSorsDeLecranOuSurRect(this, popup, ancre, QRect(), QRect(),
+                                                           kEcart, RoutinesFenetre::kAuDessusForce);
+    // Above the rectangle the pop-up may be off the screen, and would be sent back and forth.
+    QScreen const * const ecran = RoutinesGeneralesQt::EcranLePlusProche(popup.topLeft());
+    if (ecran && !ecran->availableGeometry().contains(rect().translated(pos())))
+        move(PlaceAilleurs(ecran->availableGeometry(), ancre, popup).topLeft());
+}

@@ -86,6 +86,11 @@ bool DDefileurTactile::eventFilter(QObject * objet, QEvent * evenement)
     if (objet == monAire) {
         switch (evenement->type()) {
         case QEvent::TouchBegin:
+            // Qt offers the touch to the parents of the viewport with the answer "accepted"
+            // prepared, and the answer of the window counts: the gestures of the viewport would get
+            // no more.
+            if (monAire->isWindow())
+                evenement->ignore();
             if (monEstItemView)
                 DesactiveSurlignement();
             break;
@@ -105,9 +110,9 @@ bool DDefileurTactile::eventFilter(QObject * objet, QEvent * evenement)
             break;
         }
     }
-    bool const ignore = DoitIgnorerEvenement(evenement);
+    bool const ignore = DoitIgnorerEvenement(evenement); // asked first: a receiver may destroy this
     if (EstEvenementTablet(evenement))
-        TraiteEvenementTablet(static_cast<QTabletEvent *>(evenement), monAire);
+        TraiteTablette(static_cast<QTabletEvent *>(evenement));
     return ignore;
 }
 
@@ -124,14 +129,12 @@ void DDefileurTactile::PriseAncetreDetruit(QObject * ancetre)
 
 void DDefileurTactile::PriseFinDuToucher()
 {
-    if (maVeille || !monViewport || !monAire->property(kTactile).toBool())
-        return; // a finger is down again, or nothing is left to do
+    if (maVeille || !monViewport)
+        return; // a finger is down again
     QScroller * const defileur = QScroller::scroller(monViewport);
-    // A touch that was cancelled, or whose fingers left together, is never told to the scroller.
+    // A touch that was taken away, or whose fingers left together, is never told to the scroller.
     if (defileur->state() == QScroller::Pressed || defileur->state() == QScroller::Dragging)
         defileur->stop();
-    else if (defileur->state() == QScroller::Inactive)
-        ActiveSurlignement();
 }
 
 void DDefileurTactile::AjouteQScroller(QWidget * widget)
@@ -171,13 +174,18 @@ void DDefileurTactile::DesactiveSurlignement()
     if (maVeille)
         return;
     maVeille = new VeilleToucher(
-        monAire,
-        [this] {
-            maVeille->deleteLater();
-            maVeille = nullptr;
-            PriseFinDuToucher();
-        },
-        this);
+        monAire, [this] { FinisToucher(); }, this);
+}
+
+void DDefileurTactile::FinisToucher()
+{
+    maVeille->deleteLater();
+    maVeille = nullptr;
+    // A view that has nothing to scroll in the direction of the finger has stayed inactive.
+    if (QScroller::scroller(monAire->viewport())->state() == QScroller::Inactive)
+        ActiveSurlignement();
+    else // the touch has yet to reach the scroller
+        QMetaObject::invokeMethod(this, &DDefileurTactile::PriseFinDuToucher, Qt::QueuedConnection);
 }
 
 QSet<QObject *> * DDefileurTactile::DonneParents()
@@ -198,6 +206,18 @@ void DDefileurTactile::SuisViewport()
                 &DDefileurTactile::PriseChangementEtatQScroller, Qt::UniqueConnection);
 }
 
+void DDefileurTactile::TraiteTablette(QTabletEvent * evenement)
+{
+    // The area ignores the mouse, and the widgets around it would be pressed a second time: the
+    // viewport, which has its own manager, has been pressed by the same pen before.
+    QPointer<QWidget> const aire = monAire;
+    bool const arret = aire->testAttribute(Qt::WA_NoMousePropagation);
+    aire->setAttribute(Qt::WA_NoMousePropagation);
+    TraiteEvenementTablet(evenement, aire);
+    if (aire)
+        aire->setAttribute(Qt::WA_NoMousePropagation, arret);
+}
+
 void DDefileurTactile::SuspendsAncetres()
 {
     for (QObject * objet = monAire->parent(); objet; objet = objet->parent()) {
@@ -205,7 +225,12 @@ void DDefileurTactile::SuspendsAncetres()
             !mesWidgetsAvecDefileursTactile.contains(static_cast<QWidget *>(objet)))
             continue;
         mesAncetresSuspendus.append(objet);
+        QScroller * const defileur = QScroller::scroller(objet);
         QScroller::ungrabGesture(objet);
+        // The touch that brings the focus has pressed this scroller too, which will not hear the
+        // end.
+        if (defileur->state() == QScroller::Pressed || defileur->state() == QScroller::Dragging)
+            defileur->stop();
         connect(objet, &QObject::destroyed, this, &DDefileurTactile::PriseAncetreDetruit,
                 Qt::UniqueConnection);
     }

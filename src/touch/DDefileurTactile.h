@@ -31,7 +31,7 @@ public:
     /// Does nothing for null.
     explicit DDefileurTactile(QAbstractScrollArea * aire);
 
-    /// The scroller of the viewport stays, with the default hand-over no longer.
+    /// The viewport keeps its scroller, which takes part in no hand-over from then on.
     ~DDefileurTactile() override;
 
     bool eventFilter(QObject * objet, QEvent * evenement) override;
@@ -56,8 +56,10 @@ private:
     void AjouteQScroller(QWidget * widget);
     void ActiveSurlignement();
     void DesactiveSurlignement();
+    void FinisToucher();
     QSet<QObject *> * DonneParents();
     void SuisViewport();
+    void TraiteTablette(QTabletEvent * evenement);
     void SuspendsAncetres();
     void RetablisAncetres();
 

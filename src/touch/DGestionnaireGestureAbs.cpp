@@ -24,6 +24,20 @@ QEvent::Type TypeSouris(QEvent::Type typeTablet)
     }
 }
 
+bool EstPlume(QPointingDevice const * appareil)
+{
+    return appareil && appareil->pointerType() == QPointingDevice::PointerType::Pen;
+}
+
+bool EstSynthetique(QMouseEvent const & souris)
+{
+    Qt::MouseEventSource const source = souris.source();
+    // Of a tablet event that nobody takes, Qt makes a mouse event that it does not call
+    // synthesised; the device is still the pen.
+    return source == Qt::MouseEventSynthesizedBySystem || source == Qt::MouseEventSynthesizedByQt ||
+           EstPlume(souris.pointingDevice());
+}
+
 } // namespace
 
 DGestionnaireGestureAbs::DGestionnaireGestureAbs(QWidget * widget)
@@ -36,13 +50,10 @@ bool DGestionnaireGestureAbs::DoitIgnorerEvenement(QEvent * evenement) const
     switch (evenement->type()) {
     case QEvent::MouseButtonPress:
     case QEvent::MouseButtonRelease:
-    case QEvent::MouseMove: {
+    case QEvent::MouseMove:
         // Deliberate: a synthesised double click passes. Qt makes one of two quick presses of a
         // pen, which are translated into presses alone.
-        Qt::MouseEventSource const source = static_cast<QMouseEvent *>(evenement)->source();
-        return source == Qt::MouseEventSynthesizedBySystem ||
-               source == Qt::MouseEventSynthesizedByQt;
-    }
+        return EstSynthetique(*static_cast<QMouseEvent *>(evenement));
     default:
         return false;
     }
@@ -56,8 +67,7 @@ bool DGestionnaireGestureAbs::EstEvenementTablet(QEvent * evenement) const
 std::unique_ptr<QMouseEvent>
 DGestionnaireGestureAbs::DonneEvenementSouris(QTabletEvent * evenement) const
 {
-    QPointingDevice const * const appareil = evenement->pointingDevice();
-    if (!appareil || appareil->pointerType() != QPointingDevice::PointerType::Pen)
+    if (!EstPlume(evenement->pointingDevice()))
         return nullptr;
     QEvent::Type const type = TypeSouris(evenement->type());
     if (type == QEvent::None)

@@ -24,8 +24,9 @@ public:
     explicit DGestionnaireGestureAbs(QWidget * widget);
 
 protected:
-    /// True for a press, release or move of the mouse that the system or Qt made from a touch: what
-    /// acts on the touch itself would do the work a second time. False for a double click.
+    /// True for a press, release or move of the mouse that the system or Qt made from a touch or a
+    /// pen: what acts on the touch and the pen themselves would do the work a second time. False
+    /// for a double click.
     bool DoitIgnorerEvenement(QEvent * evenement) const;
 
     /// True for a press, release or move of any tablet tool.

@@ -58,7 +58,8 @@ bool DGestionnaireTapGesture::TraiteTap(QTapGesture const & tap)
         monAttenteDoubleTap = true;
         monChrono.start();
     }
-    Clique(premier, tap.position());
+    // The position is in the coordinates of the child that the finger touched, if there is one.
+    Clique(premier, tap.hasHotSpot() ? monWidget->mapFromGlobal(tap.hotSpot()) : tap.position());
     return true;
 }
 

@@ -1,0 +1,436 @@
+// tests/touch/tst_DDefileurTactile.cpp
+#include "touch/DDefileurTactile.h"
+
+#include "touch/DGestionnaireTapGesture.h"
+
+#include "touch/EssaisTactiles.h"
+
+using namespace EssaisTactiles;
+using namespace Qt::StringLiterals;
+using Metrique = QScrollerProperties::ScrollMetric;
+using Outil = QPointingDevice::PointerType;
+
+namespace {
+
+// A derived class may look at the events of more objects, and calls the slot of its base.
+class DefileurEtendu : public DDefileurTactile
+{
+public:
+    using DDefileurTactile::DDefileurTactile;
+    using DDefileurTactile::PriseChangementEtatQScroller;
+};
+
+// Takes down what it does with one widget, and the value of "tactile" then.
+class StyleDePolissage : public QProxyStyle
+{
+public:
+    using QProxyStyle::polish;
+    using QProxyStyle::unpolish;
+
+    void polish(QWidget * widget) override { Note(u"polish "_s, widget); }
+    void unpolish(QWidget * widget) override { Note(u"unpolish "_s, widget); }
+
+    QWidget * observay = nullptr;
+    QStringList appels;
+
+private:
+    void Note(QString const & appel, QWidget * widget)
+    {
+        if (widget && widget == observay)
+            appels.append(appel + widget->property("tactile").toString());
+    }
+};
+
+bool EstAuRegistre(QWidget * widget)
+{
+    return DDefileurTactile::mesWidgetsAvecDefileursTactile.contains(widget);
+}
+
+} // namespace
+
+class tst_DDefileurTactile : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void cleanup();
+    void constructionSurUneVue();
+    void constructionSurUneAire();
+    void sansAire();
+    void proprietesDuDefileur();
+    void debutDuToucher();
+    void finDuToucher_data();
+    void finDuToucher();
+    void arretDuDefileur();
+    void autresEtats_data();
+    void autresEtats();
+    void aireSansTactile();
+    void polissages();
+    void etatsRelayes();
+    void sourisSurLAire_data();
+    void sourisSurLAire();
+    void plumeSurLAire_data();
+    void plumeSurLAire();
+    void plumePasAuxParents();
+    void autreObjet();
+    void destructionDuDefileurSeul();
+    void destructionDeLAire();
+    void autreViewport();
+    void destructionParLaPlume();
+};
+
+void tst_DDefileurTactile::cleanup()
+{
+    QVERIFY(QApplication::topLevelWidgets().isEmpty());
+    QVERIFY(DDefileurTactile::mesWidgetsAvecDefileursTactile.isEmpty());
+}
+
+void tst_DDefileurTactile::constructionSurUneVue()
+{
+    QTreeView vue;
+    vue.setVerticalScrollMode(QAbstractItemView::ScrollPerItem);
+    vue.setHorizontalScrollMode(QAbstractItemView::ScrollPerItem);
+    auto * const defileur = new DDefileurTactile(&vue);
+    QCOMPARE(defileur->parent(), &vue);
+    QVERIFY(vue.testAttribute(Qt::WA_AcceptTouchEvents));
+    QVERIFY(vue.viewport()->testAttribute(Qt::WA_AcceptTouchEvents));
+    QVERIFY(QScroller::hasScroller(vue.viewport()));
+    QVERIFY(!QScroller::hasScroller(&vue));
+    QVERIFY(QScroller::grabbedGesture(vue.viewport()) != 0);
+    QCOMPARE(DDefileurTactile::mesWidgetsAvecDefileursTactile, QSet<QWidget *>{vue.viewport()});
+    QCOMPARE(vue.viewport()->findChildren<DGestionnaireTapGesture *>().size(), 1);
+    QCOMPARE(vue.property("tactile"), QVariant(false));
+    QCOMPARE(vue.verticalScrollMode(), QAbstractItemView::ScrollPerPixel);
+    QCOMPARE(vue.horizontalScrollMode(), QAbstractItemView::ScrollPerItem);
+}
+
+void tst_DDefileurTactile::constructionSurUneAire()
+{
+    QScrollArea aire;
+    new DDefileurTactile(&aire);
+    QVERIFY(QScroller::hasScroller(aire.viewport()));
+    QVERIFY(EstAuRegistre(aire.viewport()));
+    QVERIFY(!aire.property("tactile").isValid());
+}
+
+void tst_DDefileurTactile::sansAire()
+{
+    DDefileurTactile const defileur(nullptr);
+    QCOMPARE(defileur.parent(), nullptr);
+}
+
+void tst_DDefileurTactile::proprietesDuDefileur()
+{
+    QTreeView vue;
+    QScrollerProperties const avant = QScroller::scroller(vue.viewport())->scrollerProperties();
+    new DDefileurTactile(&vue);
+    QScrollerProperties const apres = QScroller::scroller(vue.viewport())->scrollerProperties();
+    QCOMPARE(apres.scrollMetric(Metrique::VerticalOvershootPolicy)
+                 .value<QScrollerProperties::OvershootPolicy>(),
+             QScrollerProperties::OvershootAlwaysOff);
+    QCOMPARE(apres.scrollMetric(Metrique::AxisLockThreshold).toReal(), 1.0);
+    for (int i = 0; i < QScrollerProperties::ScrollMetricCount; ++i) {
+        auto const metrique = static_cast<Metrique>(i);
+        if (metrique != Metrique::VerticalOvershootPolicy &&
+            metrique != Metrique::AxisLockThreshold)
+            QCOMPARE(apres.scrollMetric(metrique), avant.scrollMetric(metrique));
+    }
+}
+
+void tst_DDefileurTactile::debutDuToucher()
+{
+    QTreeView vue;
+    new DDefileurTactile(&vue);
+    QTouchEvent debut = FaisToucher(QEvent::TouchBegin);
+    QCoreApplication::sendEvent(&vue, &debut);
+    QCOMPARE(vue.property("tactile"), QVariant(true));
+}
+
+void tst_DDefileurTactile::finDuToucher_data()
+{
+    QTest::addColumn<QEvent::Type>("fin");
+    QTest::newRow("the finger leaves") << QEvent::TouchEnd;
+    QTest::newRow("the touch is taken away") << QEvent::TouchCancel;
+}
+
+// Without rows there is nothing to scroll, and the scroller is never told to move.
+void tst_DDefileurTactile::finDuToucher()
+{
+    QFETCH(QEvent::Type, fin);
+    QTreeView vue;
+    new DDefileurTactile(&vue);
+    vue.winId(); // the end goes to the window alone, since nobody has accepted the begin
+    Temoin const temoin(vue.viewport(), {QEvent::HoverLeave});
+    for (int i = 1; i <= 2; ++i) {
+        for (QEvent::Type const type : {QEvent::TouchBegin, QEvent::TouchBegin}) {
+            QTouchEvent debut = FaisToucher(type);
+            QCoreApplication::sendEvent(&vue, &debut);
+        }
+        QTouchEvent mouvement = FaisToucher(QEvent::TouchUpdate);
+        QCoreApplication::sendEvent(vue.windowHandle(), &mouvement);
+        QWidget autre; // another finger, on another widget
+        QTouchEvent autreFin = FaisToucher(fin);
+        QCoreApplication::sendEvent(&autre, &autreFin);
+        QCOMPARE(vue.property("tactile"), QVariant(true));
+
+        QTouchEvent evenement = FaisToucher(fin);
+        QCoreApplication::sendEvent(vue.windowHandle(), &evenement);
+        QCOMPARE(vue.property("tactile"), QVariant(false));
+        QTRY_COMPARE(temoin.Compte(), i);
+    }
+}
+
+void tst_DDefileurTactile::arretDuDefileur()
+{
+    QTreeView vue;
+    auto * const defileur = new DefileurEtendu(&vue);
+    QTouchEvent debut = FaisToucher(QEvent::TouchBegin);
+    QCoreApplication::sendEvent(&vue, &debut);
+    Temoin temoin(vue.viewport(), {QEvent::HoverLeave});
+
+    defileur->PriseChangementEtatQScroller(QScroller::Inactive);
+    QCOMPARE(vue.property("tactile"), QVariant(false));
+    QCOMPARE(temoin.Compte(), 0); // posted
+    QTRY_COMPARE(temoin.Compte(), 1);
+}
+
+void tst_DDefileurTactile::autresEtats_data()
+{
+    QTest::addColumn<QScroller::State>("etat");
+    QTest::newRow("pressed") << QScroller::Pressed;
+    QTest::newRow("dragging") << QScroller::Dragging;
+    QTest::newRow("scrolling") << QScroller::Scrolling;
+}
+
+void tst_DDefileurTactile::autresEtats()
+{
+    QFETCH(QScroller::State, etat);
+    QTreeView vue;
+    auto * const defileur = new DefileurEtendu(&vue);
+    QTouchEvent debut = FaisToucher(QEvent::TouchBegin);
+    QCoreApplication::sendEvent(&vue, &debut);
+    defileur->PriseChangementEtatQScroller(etat);
+    QCOMPARE(vue.property("tactile"), QVariant(true));
+}
+
+void tst_DDefileurTactile::aireSansTactile()
+{
+    QPlainTextEdit aire;
+    aire.resize(100, 100);
+    aire.setPlainText(u"a\n"_s.repeated(100));
+    aire.ensurePolished();
+    new DDefileurTactile(&aire);
+    Temoin const temoin(aire.viewport(), {QEvent::HoverLeave});
+    QTouchEvent debut = FaisToucher(QEvent::TouchBegin);
+    QCoreApplication::sendEvent(&aire, &debut);
+    auto * const scroller = QScroller::scroller(aire.viewport());
+    scroller->handleInput(QScroller::InputPress, QPointF(10, 10), 0);
+    scroller->stop();
+    QCoreApplication::sendPostedEvents();
+    QVERIFY(!aire.property("tactile").isValid());
+    QCOMPARE(temoin.Compte(), 0);
+}
+
+void tst_DDefileurTactile::polissages()
+{
+    StyleDePolissage style;
+    QTreeView vue;
+    auto * const defileur = new DefileurEtendu(&vue);
+    vue.setStyle(&style);
+    style.observay = &vue;
+
+    QTouchEvent debut = FaisToucher(QEvent::TouchBegin);
+    QCoreApplication::sendEvent(&vue, &debut);
+    QCOMPARE(style.appels, (QStringList{u"unpolish true"_s, u"polish true"_s}));
+    style.appels.clear();
+    defileur->PriseChangementEtatQScroller(QScroller::Inactive);
+    QCOMPARE(style.appels, (QStringList{u"unpolish false"_s, u"polish false"_s}));
+    style.observay = nullptr;
+    vue.setStyle(nullptr);
+}
+
+void tst_DDefileurTactile::etatsRelayes()
+{
+    QListWidget liste;
+    liste.resize(100, 100);
+    for (int i = 0; i < 100; ++i)
+        liste.addItem(QString::number(i));
+    auto * const defileur = new DDefileurTactile(&liste);
+    QSignalSpy const espion(defileur, &DDefileurTactile::SignalChangementEtat);
+    liste.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&liste));
+    auto * const scroller = QScroller::scroller(liste.viewport());
+    liste.setProperty("tactile", true);
+
+    scroller->handleInput(QScroller::InputPress, QPointF(10, 90), 0);
+    QCOMPARE(espion.count(), 1);
+    QCOMPARE(espion.at(0).at(0).value<QScroller::State>(), QScroller::Pressed);
+    QCOMPARE(liste.property("tactile"), QVariant(true));
+    scroller->handleInput(QScroller::InputRelease, QPointF(10, 90), 5);
+    QCOMPARE(espion.count(), 2);
+    QCOMPARE(espion.at(1).at(0).value<QScroller::State>(), QScroller::Inactive);
+    QCOMPARE(liste.property("tactile"), QVariant(false));
+}
+
+void tst_DDefileurTactile::sourisSurLAire_data()
+{
+    QTest::addColumn<QEvent::Type>("type");
+    QTest::addColumn<Qt::MouseEventSource>("source");
+    QTest::addColumn<bool>("passe");
+    QTest::newRow("a press by the system")
+        << QEvent::MouseButtonPress << Qt::MouseEventSynthesizedBySystem << false;
+    QTest::newRow("a release by Qt")
+        << QEvent::MouseButtonRelease << Qt::MouseEventSynthesizedByQt << false;
+    QTest::newRow("a move by Qt") << QEvent::MouseMove << Qt::MouseEventSynthesizedByQt << false;
+    QTest::newRow("a real press") << QEvent::MouseButtonPress << Qt::MouseEventNotSynthesized
+                                  << true;
+    QTest::newRow("a double click by the system")
+        << QEvent::MouseButtonDblClick << Qt::MouseEventSynthesizedBySystem << true;
+}
+
+void tst_DDefileurTactile::sourisSurLAire()
+{
+    QFETCH(QEvent::Type, type);
+    QFETCH(Qt::MouseEventSource, source);
+    QFETCH(bool, passe);
+    QTreeView vue;
+    Temoin const temoin(&vue, Temoin::Souris());
+    auto * const defileur = new DDefileurTactile(&vue);
+    QMouseEvent souris = FaisSouris(type, source);
+    QCOMPARE(defileur->eventFilter(&vue, &souris), !passe);
+    QCoreApplication::sendEvent(&vue, &souris);
+    QCOMPARE(temoin.Compte(), passe ? 1 : 0);
+}
+
+void tst_DDefileurTactile::plumeSurLAire_data()
+{
+    QTest::addColumn<QEvent::Type>("type");
+    QTest::addColumn<Outil>("outil");
+    QTest::addColumn<QList<QEvent::Type>>("souris");
+    using Types = QList<QEvent::Type>;
+    QTest::newRow("pen press") << QEvent::TabletPress << Outil::Pen
+                               << Types{QEvent::MouseButtonPress};
+    QTest::newRow("pen release") << QEvent::TabletRelease << Outil::Pen
+                                 << Types{QEvent::MouseButtonRelease};
+    QTest::newRow("pen move") << QEvent::TabletMove << Outil::Pen << Types{QEvent::MouseMove};
+    QTest::newRow("finger") << QEvent::TabletPress << Outil::Finger << Types();
+    QTest::newRow("eraser") << QEvent::TabletPress << Outil::Eraser << Types();
+}
+
+void tst_DDefileurTactile::plumeSurLAire()
+{
+    QFETCH(QEvent::Type, type);
+    QFETCH(Outil, outil);
+    QTreeView vue;
+    Temoin const souris(&vue, Temoin::Souris());
+    Temoin const tablette(&vue, {type});
+    new DDefileurTactile(&vue);
+    auto const evenement = FaisTablette(type, QPointF(6, 7), {}, DonneOutil(outil));
+    QCoreApplication::sendEvent(&vue, evenement.get());
+    QTEST(souris.DonneTypes(), "souris");
+    if (souris.Compte())
+        QCOMPARE(souris.DonneTraces().first().position, QPointF(6, 7));
+    QCOMPARE(tablette.Compte(), 1); // it goes on
+}
+
+// The viewport has its press already, and lets no mouse event of its own through to the parents.
+void tst_DDefileurTactile::plumePasAuxParents()
+{
+    QWidget parent;
+    QTreeView vue(&parent);
+    new DDefileurTactile(&vue);
+    Temoin const surParent(&parent, Temoin::Souris());
+    Temoin const surAire(&vue, Temoin::Souris());
+    Temoin const surViewport(vue.viewport(), Temoin::Souris());
+    auto const plume = FaisTablette(QEvent::TabletPress, QPointF(6, 7));
+    QCoreApplication::sendEvent(vue.viewport(), plume.get());
+    QCOMPARE(surViewport.DonneTypes(), QList{QEvent::MouseButtonPress});
+    QCOMPARE(surAire.DonneTypes(), QList{QEvent::MouseButtonPress});
+    QCOMPARE(surParent.Compte(), 0);
+    QVERIFY(!vue.testAttribute(Qt::WA_NoMousePropagation));
+}
+
+void tst_DDefileurTactile::autreObjet()
+{
+    QTreeView vue;
+    QWidget autre;
+    auto * const defileur = new DDefileurTactile(&vue);
+    Temoin const surAire(&vue, Temoin::Souris());
+    Temoin const surAutre(&autre, Temoin::Souris());
+    autre.installEventFilter(defileur);
+
+    QMouseEvent souris = FaisSouris(QEvent::MouseButtonPress, Qt::MouseEventSynthesizedByQt);
+    QCoreApplication::sendEvent(&autre, &souris);
+    auto const plume = FaisTablette(QEvent::TabletPress, QPointF(6, 7));
+    QCoreApplication::sendEvent(&autre, plume.get());
+    QTouchEvent toucher = FaisToucher(QEvent::TouchBegin);
+    QCoreApplication::sendEvent(&autre, &toucher);
+
+    QCOMPARE(surAutre.Compte(), 0);
+    QCOMPARE(surAire.DonneTypes(), QList{QEvent::MouseButtonPress});
+    QCOMPARE(vue.property("tactile"), QVariant(false));
+}
+
+void tst_DDefileurTactile::destructionDuDefileurSeul()
+{
+    QTreeView vue;
+    auto * const defileur = new DDefileurTactile(&vue);
+    delete defileur;
+    QVERIFY(!EstAuRegistre(vue.viewport()));
+    QVERIFY(QScroller::hasScroller(vue.viewport()));
+    QTouchEvent debut = FaisToucher(QEvent::TouchBegin);
+    QCoreApplication::sendEvent(&vue, &debut);
+    QCOMPARE(vue.property("tactile"), QVariant(false));
+
+    new DDefileurTactile(&vue);
+    QVERIFY(EstAuRegistre(vue.viewport()));
+}
+
+void tst_DDefileurTactile::destructionDeLAire()
+{
+    auto * const vue = new QTreeView;
+    QPointer<DDefileurTactile> const defileur = new DDefileurTactile(vue);
+    QTouchEvent debut = FaisToucher(QEvent::TouchBegin);
+    QCoreApplication::sendEvent(vue, &debut);
+    delete vue;
+    QVERIFY(!defileur);
+    QVERIFY(DDefileurTactile::mesWidgetsAvecDefileursTactile.isEmpty());
+    QWidget autre; // the end of a touch that began on what is gone
+    QTouchEvent fin = FaisToucher(QEvent::TouchEnd);
+    QCoreApplication::sendEvent(&autre, &fin);
+}
+
+void tst_DDefileurTactile::autreViewport()
+{
+    QTreeView vue;
+    auto * const defileur = new DDefileurTactile(&vue);
+    QSignalSpy const espion(defileur, &DDefileurTactile::SignalChangementEtat);
+    auto * const viewport = new QWidget;
+    vue.setViewport(viewport);
+    QCOMPARE(DDefileurTactile::mesWidgetsAvecDefileursTactile, QSet<QWidget *>{viewport});
+    QVERIFY(QScroller::hasScroller(viewport));
+    QCOMPARE(viewport->findChildren<DGestionnaireTapGesture *>().size(), 1);
+    new QWidget(&vue); // another child changes nothing
+    QCOMPARE(viewport->findChildren<DGestionnaireTapGesture *>().size(), 1);
+
+    vue.setProperty("tactile", true);
+    Q_EMIT QScroller::scroller(viewport)->stateChanged(QScroller::Inactive);
+    QCOMPARE(espion.count(), 1);
+    QCOMPARE(vue.property("tactile"), QVariant(false));
+}
+
+void tst_DDefileurTactile::destructionParLaPlume()
+{
+    auto * const parent = new QWidget;
+    auto * const vue = new QTreeView(parent);
+    Temoin temoin(vue, Temoin::Souris());
+    temoin.surEvenement = [parent] { delete parent; };
+    QPointer<DDefileurTactile> const defileur = new DDefileurTactile(vue);
+    auto const plume = FaisTablette(QEvent::TabletPress, QPointF(6, 7));
+    defileur->eventFilter(vue, plume.get());
+    QVERIFY(!defileur);
+    QCOMPARE(temoin.Compte(), 1);
+}
+
+QTEST_MAIN(tst_DDefileurTactile)
+#include "tst_DDefileurTactile.moc"

@@ -1,0 +1,349 @@
+// tests/touch/tst_DGestionnaireTapGesture.cpp
+#include "touch/DGestionnaireTapGesture.h"
+
+#include "touch/EssaisTactiles.h"
+
+using namespace EssaisTactiles;
+
+namespace {
+
+constexpr int kLong = 60'000; // ms; no test takes as long
+
+QList<QEvent::Type> const kClic = {QEvent::MouseButtonPress, QEvent::MouseButtonRelease};
+QList<QEvent::Type> const kDoubleClic = {QEvent::MouseButtonDblClick, QEvent::MouseButtonRelease};
+
+QList<QEvent::Type> const kTraces = Temoin::Souris();
+
+} // namespace
+
+class tst_DGestionnaireTapGesture : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init();
+    void cleanup();
+    void construction();
+    void sansWidget();
+    void tapEnClic();
+    void deuxTapsEnDoubleClic();
+    void troisiemeTapEnClic();
+    void tapsLents();
+    void tapLentRecommenceLAttente();
+    void gesteEnCours_data();
+    void gesteEnCours();
+    void glissementSansClic();
+    void tapSurUnEnfant();
+    void sourisSynthetique_data();
+    void sourisSynthetique();
+    void plume();
+    void plumeDeQt();
+    void autreGeste();
+    void destructionPendantLeClic_data();
+    void destructionPendantLeClic();
+
+private:
+    // A finished tap as the manager of gestures delivers it, for events sent by hand.
+    void PreteTapFini(std::function<void(QGesture &)> const & usage);
+};
+
+void tst_DGestionnaireTapGesture::init()
+{
+    QGuiApplication::styleHints()->setMouseDoubleClickInterval(kLong);
+}
+
+void tst_DGestionnaireTapGesture::cleanup()
+{
+    QVERIFY(QApplication::topLevelWidgets().isEmpty());
+}
+
+void tst_DGestionnaireTapGesture::construction()
+{
+    auto * const widget = new QWidget;
+    QPointer<DGestionnaireTapGesture> const gestionnaire = new DGestionnaireTapGesture(widget);
+    QCOMPARE(gestionnaire->parent(), widget);
+    QVERIFY(widget->testAttribute(Qt::WA_AcceptTouchEvents));
+    delete widget;
+    QVERIFY(!gestionnaire);
+}
+
+void tst_DGestionnaireTapGesture::sansWidget()
+{
+    DGestionnaireTapGesture const gestionnaire(nullptr);
+    QCOMPARE(gestionnaire.parent(), nullptr);
+}
+
+void tst_DGestionnaireTapGesture::tapEnClic()
+{
+    QWidget widget;
+    widget.resize(200, 200);
+    Temoin const temoin(&widget, kTraces);
+    new DGestionnaireTapGesture(&widget);
+    widget.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&widget));
+
+    QTest::touchEvent(&widget, DonneEcranTactile()).press(0, QPoint(30, 40), &widget);
+    QCOMPARE(temoin.Compte(), 0); // nor what Qt makes of the touch
+    QTest::touchEvent(&widget, DonneEcranTactile()).release(0, QPoint(30, 40), &widget);
+    QCOMPARE(temoin.DonneTypes(), kClic);
+    for (Temoin::Trace const & trace : temoin.DonneTraces()) {
+        QCOMPARE(trace.position, QPointF(30, 40));
+        QCOMPARE(trace.globale, widget.mapToGlobal(QPointF(30, 40)));
+        QCOMPARE(trace.bouton, Qt::LeftButton);
+        QCOMPARE(trace.boutons, Qt::LeftButton); // of the release too
+        QCOMPARE(trace.touches, Qt::NoModifier);
+        QCOMPARE(trace.source, Qt::MouseEventNotSynthesized);
+        QCOMPARE(trace.appareil, QPointingDevice::primaryPointingDevice());
+    }
+}
+
+void tst_DGestionnaireTapGesture::deuxTapsEnDoubleClic()
+{
+    QWidget widget;
+    widget.resize(200, 200);
+    Temoin const temoin(&widget, kTraces);
+    new DGestionnaireTapGesture(&widget);
+    widget.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&widget));
+
+    Tape(&widget, QPoint(30, 40));
+    Tape(&widget, QPoint(30, 40));
+    // Qt has made a double click of the second touch as well.
+    QCOMPARE(temoin.DonneTypes(), kClic + kDoubleClic);
+}
+
+void tst_DGestionnaireTapGesture::troisiemeTapEnClic()
+{
+    QWidget widget;
+    widget.resize(200, 200);
+    Temoin const temoin(&widget, kTraces);
+    new DGestionnaireTapGesture(&widget);
+    widget.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&widget));
+
+    for (int i = 0; i < 4; ++i)
+        Tape(&widget, QPoint(30, 40));
+    QCOMPARE(temoin.DonneTypes(), kClic + kDoubleClic + kClic + kDoubleClic);
+}
+
+void tst_DGestionnaireTapGesture::tapsLents()
+{
+    QWidget widget;
+    widget.resize(200, 200);
+    Temoin const temoin(&widget, kTraces);
+    new DGestionnaireTapGesture(&widget);
+    widget.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&widget));
+
+    QGuiApplication::styleHints()->setMouseDoubleClickInterval(0); // any time is too long
+    Tape(&widget, QPoint(30, 40));
+    Tape(&widget, QPoint(30, 40));
+    QCOMPARE(temoin.DonneTypes(), kClic + kClic);
+}
+
+void tst_DGestionnaireTapGesture::tapLentRecommenceLAttente()
+{
+    QWidget widget;
+    widget.resize(200, 200);
+    Temoin const temoin(&widget, kTraces);
+    new DGestionnaireTapGesture(&widget);
+    widget.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&widget));
+
+    QGuiApplication::styleHints()->setMouseDoubleClickInterval(0);
+    Tape(&widget, QPoint(30, 40));
+    Tape(&widget, QPoint(30, 40));
+    QGuiApplication::styleHints()->setMouseDoubleClickInterval(kLong);
+    Tape(&widget, QPoint(30, 40));
+    QCOMPARE(temoin.DonneTypes(), kClic + kClic + kDoubleClic);
+}
+
+void tst_DGestionnaireTapGesture::gesteEnCours_data()
+{
+    QTest::addColumn<Qt::GestureState>("etat");
+    QTest::addColumn<bool>("consommay");
+    QTest::newRow("started") << Qt::GestureStarted << false;
+    QTest::newRow("updated") << Qt::GestureUpdated << false;
+    QTest::newRow("canceled") << Qt::GestureCanceled << false;
+    QTest::newRow("finished") << Qt::GestureFinished << true;
+}
+
+void tst_DGestionnaireTapGesture::gesteEnCours()
+{
+    QFETCH(Qt::GestureState, etat);
+    QFETCH(bool, consommay);
+    QWidget widget;
+    DGestionnaireTapGesture gestionnaire(&widget);
+    Temoin const temoin(&widget, kTraces);
+    SourceDeGestes source(Qt::TapGesture);
+    QWidget * const touchay = source.PreteWidget();
+    touchay->show();
+    QVERIFY(QTest::qWaitForWindowExposed(touchay));
+    QList<bool> reponses;
+    source.Prete(etat, [&](QGesture & geste) {
+        QGestureEvent evenement({&geste});
+        reponses.append(gestionnaire.eventFilter(&widget, &evenement));
+    });
+
+    QTest::touchEvent(touchay, DonneEcranTactile()).press(0, QPoint(10, 10), touchay);
+    QTest::touchEvent(touchay, DonneEcranTactile()).move(0, QPoint(15, 10), touchay);
+    if (etat == Qt::GestureCanceled) // farther than a tap may go
+        QTest::touchEvent(touchay, DonneEcranTactile()).move(0, QPoint(200, 10), touchay);
+    QTest::touchEvent(touchay, DonneEcranTactile()).release(0, QPoint(15, 10), touchay);
+    QVERIFY(reponses.contains(consommay));
+    QVERIFY(!reponses.contains(!consommay));
+    QCOMPARE(temoin.DonneTypes(), consommay ? kClic : QList<QEvent::Type>());
+}
+
+void tst_DGestionnaireTapGesture::glissementSansClic()
+{
+    QWidget widget;
+    widget.resize(200, 200);
+    Temoin const temoin(&widget, kTraces);
+    new DGestionnaireTapGesture(&widget);
+    widget.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&widget));
+
+    QTest::touchEvent(&widget, DonneEcranTactile()).press(0, QPoint(10, 10), &widget);
+    QTest::touchEvent(&widget, DonneEcranTactile()).move(0, QPoint(150, 10), &widget);
+    QTest::touchEvent(&widget, DonneEcranTactile()).release(0, QPoint(150, 10), &widget);
+    QCOMPARE(temoin.Compte(), 0);
+}
+
+void tst_DGestionnaireTapGesture::tapSurUnEnfant()
+{
+    QWidget widget;
+    widget.resize(200, 200);
+    QFrame enfant(&widget);
+    enfant.setGeometry(100, 50, 80, 80);
+    Temoin const temoin(&widget, kTraces);
+    new DGestionnaireTapGesture(&widget);
+    widget.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&widget));
+
+    Tape(&enfant, QPoint(5, 6));
+    QCOMPARE(temoin.DonneTypes(), kClic);
+    QCOMPARE(temoin.DonneTraces().first().position, QPointF(105, 56));
+}
+
+void tst_DGestionnaireTapGesture::sourisSynthetique_data()
+{
+    QTest::addColumn<QEvent::Type>("type");
+    QTest::addColumn<Qt::MouseEventSource>("source");
+    QTest::addColumn<bool>("passe");
+    QTest::newRow("press by the system")
+        << QEvent::MouseButtonPress << Qt::MouseEventSynthesizedBySystem << false;
+    QTest::newRow("release by Qt")
+        << QEvent::MouseButtonRelease << Qt::MouseEventSynthesizedByQt << false;
+    QTest::newRow("real press") << QEvent::MouseButtonPress << Qt::MouseEventNotSynthesized << true;
+    QTest::newRow("real double click")
+        << QEvent::MouseButtonDblClick << Qt::MouseEventNotSynthesized << true;
+    QTest::newRow("double click by Qt, no finger down")
+        << QEvent::MouseButtonDblClick << Qt::MouseEventSynthesizedByQt << true;
+}
+
+void tst_DGestionnaireTapGesture::sourisSynthetique()
+{
+    QFETCH(QEvent::Type, type);
+    QFETCH(Qt::MouseEventSource, source);
+    QFETCH(bool, passe);
+    QWidget widget;
+    Temoin const temoin(&widget, kTraces);
+    new DGestionnaireTapGesture(&widget);
+    QMouseEvent souris = FaisSouris(type, source);
+    QCoreApplication::sendEvent(&widget, &souris);
+    QCOMPARE(temoin.Compte(), passe ? 1 : 0);
+}
+
+void tst_DGestionnaireTapGesture::plume()
+{
+    QWidget widget;
+    Temoin const souris(&widget, kTraces);
+    Temoin const tablette(&widget, {QEvent::TabletPress});
+    new DGestionnaireTapGesture(&widget);
+    auto const press = FaisTablette(QEvent::TabletPress, QPointF(9, 9));
+    QCoreApplication::sendEvent(&widget, press.get());
+    QCOMPARE(souris.DonneTypes(), QList{QEvent::MouseButtonPress});
+    QCOMPARE(souris.DonneTraces().first().position, QPointF(9, 9));
+    QCOMPARE(tablette.Compte(), 1); // it goes on
+    auto const gomme = FaisTablette(QEvent::TabletPress, QPointF(9, 9), {},
+                                    DonneOutil(QPointingDevice::PointerType::Eraser));
+    QCoreApplication::sendEvent(&widget, gomme.get());
+    QCOMPARE(souris.Compte(), 1);
+    QCOMPARE(tablette.Compte(), 2);
+}
+
+// What Qt does with a pen: the tablet event first, then, as nobody takes it, a mouse event of the
+// pen.
+void tst_DGestionnaireTapGesture::plumeDeQt()
+{
+    QWidget widget;
+    Temoin const temoin(&widget, kTraces);
+    new DGestionnaireTapGesture(&widget);
+    for (auto const & [tablette, mimay] :
+         {std::pair(QEvent::TabletPress, QEvent::MouseButtonPress),
+          std::pair(QEvent::TabletMove, QEvent::MouseMove),
+          std::pair(QEvent::TabletRelease, QEvent::MouseButtonRelease)}) {
+        auto const plume = FaisTablette(tablette, QPointF(9, 9));
+        QCoreApplication::sendEvent(&widget, plume.get());
+        QVERIFY(!plume->isAccepted());
+        QMouseEvent souris =
+            FaisSouris(mimay, Qt::MouseEventNotSynthesized, plume->pointingDevice());
+        QCoreApplication::sendEvent(&widget, &souris);
+    }
+    QCOMPARE(temoin.DonneTypes(),
+             (QList{QEvent::MouseButtonPress, QEvent::MouseMove, QEvent::MouseButtonRelease}));
+}
+
+void tst_DGestionnaireTapGesture::autreGeste()
+{
+    QWidget widget;
+    DGestionnaireTapGesture gestionnaire(&widget);
+    QPinchGesture pincement;
+    QGestureEvent evenement({&pincement});
+    QVERIFY(!gestionnaire.eventFilter(&widget, &evenement));
+    QGestureEvent vide({});
+    QVERIFY(!gestionnaire.eventFilter(&widget, &vide));
+}
+
+void tst_DGestionnaireTapGesture::PreteTapFini(std::function<void(QGesture &)> const & usage)
+{
+    SourceDeGestes source(Qt::TapGesture);
+    QWidget * const touchay = source.PreteWidget();
+    touchay->show();
+    QVERIFY(QTest::qWaitForWindowExposed(touchay));
+    source.Prete(Qt::GestureFinished, usage);
+    Tape(touchay, QPoint(10, 10));
+}
+
+void tst_DGestionnaireTapGesture::destructionPendantLeClic_data()
+{
+    QTest::addColumn<QEvent::Type>("quand");
+    QTest::addColumn<int>("evenements");
+    QTest::newRow("on the press, before the release") << QEvent::MouseButtonPress << 1;
+    QTest::newRow("on the release") << QEvent::MouseButtonRelease << 2;
+}
+
+void tst_DGestionnaireTapGesture::destructionPendantLeClic()
+{
+    QFETCH(QEvent::Type, quand);
+    QFETCH(int, evenements);
+    auto * const parent = new QWidget;
+    auto * const widget = new QWidget(parent);
+    Temoin avant(widget, kTraces);
+    avant.surEvenement = [&] {
+        if (avant.DonneTraces().last().type == quand)
+            delete parent;
+    };
+    new DGestionnaireTapGesture(widget);
+    QPointer<QWidget> const temoin = widget;
+    PreteTapFini([&](QGesture & tap) {
+        QGestureEvent evenement({&tap});
+        QCoreApplication::sendEvent(widget, &evenement);
+    });
+    QVERIFY(!temoin);
+    QCOMPARE(avant.Compte(), evenements);
+}
+
+QTEST_MAIN(tst_DGestionnaireTapGesture)
+#include "tst_DGestionnaireTapGesture.moc"

@@ -99,19 +99,14 @@ void DTreeView::paintEvent(QPaintEvent * evenement)
 void DTreeView::resizeEvent(QResizeEvent * evenement)
 {
     int const ancienne = evenement->oldSize().width();
-    if (!monRedimensionnementActif || header()->isVisible() || ancienne < 0) {
+    int const delta = evenement->size().width() - ancienne;
+    if (!monRedimensionnementActif || header()->isVisible() || ancienne < 0 || delta == 0) {
         QTreeView::resizeEvent(evenement);
         return;
     }
-    // A scroll bar that appears or goes resizes the view once more, inside the base's work: the
-    // widths are those before the outer event, changed by what the inner one has spread.
-    bool const estExterieur = mesLargeursDepart.isEmpty();
-    if (estExterieur)
-        mesLargeursDepart = DonneLargeurs();
+    QList<int> const avant = DonneLargeurs();
     QTreeView::resizeEvent(evenement);
-    RepartisPixels(evenement->size().width() - ancienne);
-    if (estExterieur)
-        mesLargeursDepart.clear();
+    RepartisPixels(delta, DonneLargeursSansEtirement(avant));
 }
 
 void DTreeView::scrollContentsBy(int dx, int dy)
@@ -149,6 +144,20 @@ QList<int> DTreeView::DonneLargeurs() const
     return largeurs;
 }
 
+// The base gives the whole change of width to what it stretches: `avant`, from before its work,
+// tells how wide that was, or the change would count twice.
+QList<int> DTreeView::DonneLargeursSansEtirement(QList<int> const & avant) const
+{
+    QList<int> largeurs = DonneLargeurs();
+    if (largeurs.size() != avant.size())
+        return largeurs;
+    int const derniere = DonneDerniereEtiree(*header());
+    for (int colonne = 0; colonne < largeurs.size(); ++colonne)
+        if (colonne == derniere || header()->sectionResizeMode(colonne) == QHeaderView::Stretch)
+            largeurs[colonne] = avant[colonne];
+    return largeurs;
+}
+
 // The columns that may change, by logical index from the one whose turn it is.
 QList<int> DTreeView::DonneTourDesColonnes() const
 {
@@ -163,19 +172,11 @@ QList<int> DTreeView::DonneTourDesColonnes() const
     return tour;
 }
 
-void DTreeView::RepartisPixels(int delta)
+void DTreeView::RepartisPixels(int delta, QList<int> largeurs)
 {
     int const minimum = header()->minimumSectionSize();
     int const maximum = header()->maximumSectionSize();
     int const sens = delta < 0 ? -1 : 1;
-    QList<int> largeurs = DonneLargeurs();
-    if (largeurs.size() == mesLargeursDepart.size()) {
-        // Qt has given the whole of `delta` to what it stretches: it would count twice.
-        int const derniere = DonneDerniereEtiree(*header());
-        for (int colonne = 0; colonne < largeurs.size(); ++colonne)
-            if (colonne == derniere || header()->sectionResizeMode(colonne) == QHeaderView::Stretch)
-                largeurs[colonne] = mesLargeursDepart[colonne];
-    }
     QList<int> tour = DonneTourDesColonnes();
     qsizetype rang = 0;
     for (int reste = std::abs(delta); reste > 0 && !tour.isEmpty();) {
@@ -198,9 +199,8 @@ void DTreeView::RepartisPixels(int delta)
 
 void DTreeView::RedimensionneColonnes(QList<int> const & largeurs)
 {
-    mesLargeursDepart = largeurs;
     SansMiseAJour const garde(*header());
     for (int colonne = 0; colonne < largeurs.size(); ++colonne)
-        if (PeutChanger(*header(), colonne))
+        if (!header()->isSectionHidden(colonne))
             header()->resizeSection(colonne, largeurs[colonne]);
 }

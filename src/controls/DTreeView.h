@@ -53,8 +53,9 @@ private:
     bool MontreMessage() const;
     void DessineMessage();
     QList<int> DonneLargeurs() const;
+    QList<int> DonneLargeursSansEtirement(QList<int> const & avant) const;
     QList<int> DonneTourDesColonnes() const;
-    void RepartisPixels(int delta);
+    void RepartisPixels(int delta, QList<int> largeurs);
     void RedimensionneColonnes(QList<int> const & largeurs);
 
     bool monDefileurEstCree = false;

@@ -89,6 +89,8 @@ private Q_SLOTS:
     void maximum();
     void horsLimites();
     void colonnesDeplacees();
+    void derniereDeplacee();
+    void derniereFixe();
     void sectionsEtirees();
     void uneFoisParColonne();
     void barreQuiApparait();
@@ -371,6 +373,36 @@ void tst_DTreeViewColonnes::colonnesDeplacees()
     QCOMPARE(DonneLargeurs(banc.vue), (Largeurs{101, 101, 100}));
 }
 
+// The stretched section is the last one that is seen, and gets its new width before others.
+void tst_DTreeViewColonnes::derniereDeplacee()
+{
+    Banc banc({100, 100, 100}, true);
+    banc.vue.header()->moveSection(0, 2);
+    banc.vue.header()->resizeSection(0, 100);
+    QCoreApplication::processEvents();
+    QCOMPARE(DonneLargeurs(banc.vue), (Largeurs{100, 100, 100}));
+    QSignalSpy const espion(banc.vue.header(), &QHeaderView::sectionResized);
+    for (int const delta : {30, -60}) {
+        Largeurs const attendues(3, (banc.vue.width() + delta) / 3);
+        banc.Change(delta);
+        QCOMPARE(DonneLargeurs(banc.vue), attendues);
+        QCoreApplication::processEvents();
+        QCOMPARE(DonneLargeurs(banc.vue), attendues);
+    }
+    QCOMPARE(espion.count(), 7); // one for each column, and the base has widened the last once
+}
+
+// What Qt stretches is no exception for a column that keeps its width.
+void tst_DTreeViewColonnes::derniereFixe()
+{
+    Banc banc({100, 100, 100}, true);
+    banc.vue.header()->setSectionResizeMode(2, QHeaderView::Fixed);
+    banc.Change(30);
+    QCOMPARE(DonneLargeurs(banc.vue), (Largeurs{115, 115, 100}));
+    QCoreApplication::processEvents();
+    QCOMPARE(DonneLargeurs(banc.vue), (Largeurs{115, 115, 100}));
+}
+
 void tst_DTreeViewColonnes::sectionsEtirees()
 {
     Banc banc({100, 100, 100});
@@ -402,7 +434,6 @@ void tst_DTreeViewColonnes::uneFoisParColonne()
     QVERIFY(!banc.vue.header()->updatesEnabled());
 }
 
-// A scroll bar that comes and goes resizes the view inside the resizing of the view.
 void tst_DTreeViewColonnes::barreQuiApparait()
 {
     for (bool const etireLaDerniere : {false, true}) {

@@ -1,0 +1,366 @@
+// tests/controls/tst_DListViewClique.cpp
+#include "controls/DListViewClique.h"
+
+#include <QtTest>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// A shown list of four items, with what it tells.
+struct Banc
+{
+    Banc()
+        : presses(&liste, &QListWidget::pressed)
+        , clics(&liste, &QListWidget::clicked)
+        , doubles(&liste, &QListWidget::doubleClicked)
+        , activations(&liste, &QListWidget::activated)
+        , selections(&liste, &QListWidget::itemSelectionChanged)
+        , courants(&liste, &QListWidget::currentRowChanged)
+    {
+        liste.addItems({u"un"_s, u"deux"_s, u"trois"_s, u"quatre"_s});
+        liste.resize(200, 300);
+        liste.show();
+    }
+
+    QPoint Milieu(int rangee) const { return liste.visualItemRect(liste.item(rangee)).center(); }
+    static QPoint Vide() { return {100, 280}; }
+    QPoint Position(int rangee) const { return rangee < 0 ? Vide() : Milieu(rangee); }
+
+    void Presse(QPoint const & position, Qt::MouseButton bouton = Qt::LeftButton)
+    {
+        QTest::mousePress(liste.viewport(), bouton, {}, position);
+    }
+    void Relache(QPoint const & position, Qt::MouseButton bouton = Qt::LeftButton)
+    {
+        QTest::mouseRelease(liste.viewport(), bouton, {}, position);
+    }
+
+    /// The rows that a signal told.
+    static QList<int> Rangees(QSignalSpy const & espion)
+    {
+        QList<int> rangees;
+        for (auto const & arguments : espion)
+            rangees.append(arguments.at(0).toModelIndex().row());
+        return rangees;
+    }
+
+    DListViewClique liste;
+    QSignalSpy presses;
+    QSignalSpy clics;
+    QSignalSpy doubles;
+    QSignalSpy activations;
+    QSignalSpy selections;
+    QSignalSpy courants;
+};
+
+using Rangees = QList<int>;
+
+} // namespace
+
+class tst_DListViewClique : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void cleanup();
+    void construction();
+    void clic_data();
+    void clic();
+    void signauxDItem();
+    void neSelectionneRien();
+    void glisseSansSelectionner();
+    void relacheSansPresse();
+    void relacheDeNouveau();
+    void doubleClic();
+    void positionArrondie();
+    void boutons_data();
+    void boutons();
+    void itemDesactive();
+    void listeDesactivee();
+    void itemRetiray();
+    void autreItemRetiray();
+    void itemDeplacay();
+    void listeVidee();
+    void clavier();
+    void tabulation();
+    void destruction_data();
+    void destruction();
+};
+
+void tst_DListViewClique::cleanup()
+{
+    QVERIFY(QApplication::topLevelWidgets().isEmpty());
+}
+
+void tst_DListViewClique::construction()
+{
+    QWidget parent;
+    DListViewClique const liste(&parent);
+    QCOMPARE(liste.parentWidget(), &parent);
+    QCOMPARE(liste.count(), 0);
+}
+
+void tst_DListViewClique::clic_data()
+{
+    QTest::addColumn<int>("pressay");
+    QTest::addColumn<int>("relachay");
+    QTest::addColumn<Rangees>("presses");
+    QTest::addColumn<Rangees>("clics");
+    QTest::newRow("same item") << 1 << 1 << Rangees{1} << Rangees{1};
+    QTest::newRow("another item") << 1 << 2 << Rangees{1} << Rangees{};
+    QTest::newRow("from an item to empty space") << 1 << -1 << Rangees{1} << Rangees{};
+    QTest::newRow("from empty space to an item") << -1 << 1 << Rangees{} << Rangees{};
+    QTest::newRow("empty space") << -1 << -1 << Rangees{} << Rangees{};
+}
+
+void tst_DListViewClique::clic()
+{
+    QFETCH(int, pressay);
+    QFETCH(int, relachay);
+    QFETCH(Rangees, presses);
+    QFETCH(Rangees, clics);
+    Banc banc;
+    banc.Presse(banc.Position(pressay));
+    QCOMPARE(Banc::Rangees(banc.presses), presses);
+    QCOMPARE(banc.clics.count(), 0);
+    banc.Relache(banc.Position(relachay));
+    QCOMPARE(Banc::Rangees(banc.presses), presses);
+    QCOMPARE(Banc::Rangees(banc.clics), clics);
+}
+
+void tst_DListViewClique::signauxDItem()
+{
+    Banc banc;
+    QSignalSpy const presses(&banc.liste, &QListWidget::itemPressed);
+    QSignalSpy const clics(&banc.liste, &QListWidget::itemClicked);
+    QTest::mouseClick(banc.liste.viewport(), Qt::LeftButton, {}, banc.Milieu(2));
+    QCOMPARE(presses.count(), 1);
+    QCOMPARE(clics.count(), 1);
+    QCOMPARE(clics.at(0).at(0).value<QListWidgetItem *>(), banc.liste.item(2));
+}
+
+void tst_DListViewClique::neSelectionneRien()
+{
+    Banc banc;
+    QTest::mouseClick(banc.liste.viewport(), Qt::LeftButton, {}, banc.Milieu(1));
+    QVERIFY(banc.liste.selectedItems().isEmpty());
+    QCOMPARE(banc.selections.count(), 0);
+    QCOMPARE(banc.courants.count(), 0);
+    QCOMPARE(banc.activations.count(), 0);
+
+    banc.liste.setCurrentRow(3);
+    banc.selections.clear();
+    QTest::mouseClick(banc.liste.viewport(), Qt::LeftButton, {}, banc.Milieu(1));
+    QTest::mouseClick(banc.liste.viewport(), Qt::LeftButton, {}, Banc::Vide());
+    QCOMPARE(banc.liste.currentRow(), 3);
+    QCOMPARE(banc.liste.selectedItems(), QList<QListWidgetItem *>{banc.liste.item(3)});
+    QCOMPARE(banc.selections.count(), 0);
+}
+
+void tst_DListViewClique::glisseSansSelectionner()
+{
+    for (auto const mode :
+         {QAbstractItemView::SingleSelection, QAbstractItemView::ExtendedSelection,
+          QAbstractItemView::MultiSelection}) {
+        Banc banc;
+        banc.liste.setSelectionMode(mode);
+        banc.liste.setMouseTracking(true);
+        QSignalSpy const entrees(&banc.liste, &QListWidget::entered);
+        banc.Presse(banc.Milieu(0));
+        for (int const rangee : {0, 1, 2, 3}) {
+            QMouseEvent mouvement(QEvent::MouseMove, banc.Milieu(rangee), banc.Milieu(rangee),
+                                  Qt::NoButton, Qt::LeftButton, {});
+            QCoreApplication::sendEvent(banc.liste.viewport(), &mouvement);
+        }
+        banc.Relache(banc.Milieu(3));
+        QVERIFY(banc.liste.selectedItems().isEmpty());
+        QCOMPARE(banc.selections.count(), 0);
+        QCOMPARE(banc.courants.count(), 0);
+        QCOMPARE(banc.clics.count(), 0);
+        QCOMPARE(entrees.count(), 0);
+    }
+}
+
+void tst_DListViewClique::relacheSansPresse()
+{
+    Banc banc;
+    banc.Relache(banc.Milieu(1));
+    banc.Relache(Banc::Vide());
+    QCOMPARE(banc.clics.count(), 0);
+}
+
+// The press is kept until the next one.
+void tst_DListViewClique::relacheDeNouveau()
+{
+    Banc banc;
+    banc.Presse(banc.Milieu(1));
+    banc.Relache(banc.Milieu(2));
+    banc.Relache(banc.Milieu(1));
+    banc.Relache(banc.Milieu(1));
+    QCOMPARE(Banc::Rangees(banc.clics), (Rangees{1, 1}));
+    banc.Presse(Banc::Vide());
+    banc.Relache(banc.Milieu(1));
+    QCOMPARE(banc.clics.count(), 2);
+}
+
+void tst_DListViewClique::doubleClic()
+{
+    Banc banc;
+    QTest::mouseClick(banc.liste.viewport(), Qt::LeftButton, {}, banc.Milieu(1));
+    QTest::mouseDClick(banc.liste.viewport(), Qt::LeftButton, {}, banc.Milieu(1));
+    banc.Relache(banc.Milieu(1)); // which mouseDClick leaves out
+    QCOMPARE(Banc::Rangees(banc.presses), (Rangees{1, 1}));
+    QCOMPARE(Banc::Rangees(banc.clics), (Rangees{1, 1}));
+    QCOMPARE(banc.doubles.count(), 0);
+    QCOMPARE(banc.activations.count(), 0);
+    QVERIFY(banc.liste.selectedItems().isEmpty());
+}
+
+void tst_DListViewClique::positionArrondie()
+{
+    Banc banc;
+    double const bas = banc.liste.visualItemRect(banc.liste.item(1)).bottom();
+    for (double const ecart : {0.4, 0.6}) {
+        QPointF const position(50, bas + ecart);
+        QMouseEvent presse(QEvent::MouseButtonPress, position, position, Qt::LeftButton,
+                           Qt::LeftButton, {});
+        QCoreApplication::sendEvent(banc.liste.viewport(), &presse);
+    }
+    QCOMPARE(Banc::Rangees(banc.presses), (Rangees{1, 2}));
+}
+
+void tst_DListViewClique::boutons_data()
+{
+    QTest::addColumn<Qt::MouseButton>("bouton");
+    QTest::newRow("right") << Qt::RightButton;
+    QTest::newRow("middle") << Qt::MiddleButton;
+    QTest::newRow("back") << Qt::BackButton;
+}
+
+void tst_DListViewClique::boutons()
+{
+    QFETCH(Qt::MouseButton, bouton);
+    Banc banc;
+    banc.Presse(banc.Milieu(1), bouton);
+    banc.Relache(banc.Milieu(1), bouton);
+    QCOMPARE(Banc::Rangees(banc.presses), Rangees{1});
+    QCOMPARE(Banc::Rangees(banc.clics), Rangees{1});
+}
+
+void tst_DListViewClique::itemDesactive()
+{
+    Banc banc;
+    banc.liste.item(1)->setFlags(Qt::NoItemFlags);
+    QTest::mouseClick(banc.liste.viewport(), Qt::LeftButton, {}, banc.Milieu(1));
+    QCOMPARE(Banc::Rangees(banc.presses), Rangees{1});
+    QCOMPARE(Banc::Rangees(banc.clics), Rangees{1});
+}
+
+void tst_DListViewClique::listeDesactivee()
+{
+    Banc banc;
+    banc.liste.setEnabled(false);
+    QTest::mouseClick(banc.liste.viewport(), Qt::LeftButton, {}, banc.Milieu(1));
+    QCOMPARE(banc.presses.count(), 0);
+    QCOMPARE(banc.clics.count(), 0);
+}
+
+void tst_DListViewClique::itemRetiray()
+{
+    Banc banc;
+    QPoint const position = banc.Milieu(1);
+    banc.Presse(position);
+    delete banc.liste.takeItem(1);
+    banc.Relache(position); // over the item that came into its place
+    QCOMPARE(banc.clics.count(), 0);
+}
+
+void tst_DListViewClique::autreItemRetiray()
+{
+    Banc banc;
+    banc.Presse(banc.Milieu(2));
+    delete banc.liste.takeItem(0);
+    banc.Relache(banc.Milieu(1)); // where the item has gone
+    QCOMPARE(Banc::Rangees(banc.clics), Rangees{1});
+    QCOMPARE(banc.clics.at(0).at(0).toModelIndex().data().toString(), u"trois"_s);
+}
+
+void tst_DListViewClique::itemDeplacay()
+{
+    Banc banc;
+    banc.Presse(banc.Milieu(0));
+    QVERIFY(banc.liste.model()->moveRow({}, 0, {}, 3));
+    banc.Relache(banc.Milieu(0));
+    QCOMPARE(banc.clics.count(), 0);
+    banc.Relache(banc.Milieu(2));
+    QCOMPARE(Banc::Rangees(banc.clics), Rangees{2});
+    QCOMPARE(banc.clics.at(0).at(0).toModelIndex().data().toString(), u"un"_s);
+}
+
+void tst_DListViewClique::listeVidee()
+{
+    Banc banc;
+    QPoint const position = banc.Milieu(1);
+    banc.Presse(position);
+    banc.liste.clear();
+    banc.Relache(position);
+    banc.liste.addItems({u"un"_s, u"deux"_s});
+    banc.Relache(position);
+    QCOMPARE(banc.clics.count(), 0);
+}
+
+void tst_DListViewClique::clavier()
+{
+    Banc banc;
+    banc.liste.setCurrentRow(0);
+    QTest::keyClick(&banc.liste, Qt::Key_Down);
+    QCOMPARE(banc.liste.currentRow(), 1);
+    QVERIFY(banc.liste.item(1)->isSelected());
+    QTest::keyClick(&banc.liste, Qt::Key_End);
+    QCOMPARE(banc.liste.currentRow(), 3);
+    QTest::keyClick(&banc.liste, Qt::Key_Return);
+    QCOMPARE(Banc::Rangees(banc.activations), Rangees{3});
+    QCOMPARE(banc.presses.count(), 0);
+    QCOMPARE(banc.clics.count(), 0);
+}
+
+void tst_DListViewClique::tabulation()
+{
+    QWidget fenetre;
+    DListViewClique const liste(&fenetre);
+    QListWidget const plain(&fenetre);
+    QCOMPARE(liste.focusPolicy(), plain.focusPolicy());
+    QCOMPARE(liste.tabKeyNavigation(), plain.tabKeyNavigation());
+    QCOMPARE(liste.nextInFocusChain(), static_cast<QWidget const *>(liste.viewport()));
+}
+
+void tst_DListViewClique::destruction_data()
+{
+    QTest::addColumn<bool>("auClic");
+    QTest::newRow("pressed") << false;
+    QTest::newRow("clicked") << true;
+}
+
+void tst_DListViewClique::destruction()
+{
+    QFETCH(bool, auClic);
+    QPointer<DListViewClique> const liste = new DListViewClique;
+    liste->addItem(u"un"_s);
+    liste->show();
+    auto const detruis = [liste] { delete liste; };
+    if (auClic)
+        connect(liste, &DListViewClique::clicked, this, detruis);
+    else
+        connect(liste, &DListViewClique::pressed, this, detruis);
+    QPointF const position = liste->visualItemRect(liste->item(0)).center();
+    for (auto const type : {QEvent::MouseButtonPress, QEvent::MouseButtonRelease}) {
+        QMouseEvent evenement(type, position, position, Qt::LeftButton, Qt::LeftButton, {});
+        if (liste)
+            QCoreApplication::sendEvent(liste->viewport(), &evenement);
+    }
+    QVERIFY(!liste);
+}
+
+QTEST_MAIN(tst_DListViewClique)
+#include "tst_DListViewClique.moc"

@@ -86,14 +86,15 @@ QAccessible::Role BoutonAccessible::role() const
 
 QString BoutonAccessible::text(QAccessible::Text nature) const
 {
-    DBoutonAbstrait const * const controle = PreteControle();
-    if (!controle || nature != QAccessible::Name)
-        return QAccessibleWidget::text(nature);
-    if (!controle->accessibleName().isEmpty())
-        return controle->accessibleName();
-    QString const texte =
-        QTextDocumentFragment::fromHtml(controle->DonneTexte()).toPlainText().simplified();
-    return texte.isEmpty() ? QAccessibleWidget::text(nature) : texte;
+    DBoutonAbstrait * const controle = PreteControle();
+    if (controle && controle != object()) // names and tool tips are put on the control
+        return QAccessible::queryAccessibleInterface(controle)->text(nature);
+    if (controle && nature == QAccessible::Name && controle->accessibleName().isEmpty()) {
+        auto const texte = QTextDocumentFragment::fromHtml(controle->DonneTexte()).toPlainText();
+        if (!texte.isEmpty())
+            return texte.simplified();
+    }
+    return QAccessibleWidget::text(nature);
 }
 
 QAccessible::State BoutonAccessible::state() const

@@ -28,15 +28,14 @@ public:
     /// `MetsCochay` still changes it.
     void MetsUtilisateurPeutChangerValeur(bool peut);
 
+    bool eventFilter(QObject * objet, QEvent * evenement) override;
+
 Q_SIGNALS:
     void stateChanged(int etat);
     void clicked(bool cochay);
     void pressed();
     void released();
     void toggled(bool cochay);
-
-public:
-    bool eventFilter(QObject * objet, QEvent * evenement) override;
 
 protected:
     void enterEvent(QEnterEvent * evenement) override;

@@ -10,6 +10,7 @@
 #include <QLabel>
 #include <QTextDocument>
 
+#include <algorithm>
 #include <cmath>
 
 namespace {
@@ -30,7 +31,7 @@ public:
         document.setHtml(text());
         int const bords = width() - contentsRect().width() + 2 * margin();
         int const largeur = static_cast<int>(std::ceil(document.idealWidth())) + bords;
-        return {largeur, heightForWidth(largeur)};
+        return {largeur, std::max(heightForWidth(largeur), 0)};
     }
 };
 

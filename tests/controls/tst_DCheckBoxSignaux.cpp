@@ -1,0 +1,233 @@
+// tests/controls/tst_DCheckBoxSignaux.cpp
+#include "controls/EssaisBouton.h"
+
+#include <functional>
+
+using namespace Qt::StringLiterals;
+using namespace EssaisBouton;
+
+class tst_DCheckBoxSignaux : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void cleanup();
+    void ordre_data();
+    void ordre();
+    void aucunAuGel();
+    void suppressionParUnReceveur_data();
+    void suppressionParUnReceveur();
+    void suppressionDeLaFenetre();
+    void valeurChangeeParUnReceveur();
+
+private:
+    void Ecoute(DCheckBox & controle);
+    void Note(QString const & signal);
+
+    QStringList mesSignaux;
+    QString monSignalFatal;
+    QPointer<QWidget> maVictime;
+};
+
+namespace {
+
+enum eGeste
+{
+    kClicCase,
+    kClicLibelle,
+    kEspace,
+    kMetsCochay,
+    kMetsPareil
+};
+
+void Fais(eGeste geste, DCheckBox & controle)
+{
+    switch (geste) {
+    case kClicCase:
+        return QTest::mouseClick(&Indicateur(controle), Qt::LeftButton, {}, QPoint(5, 7));
+    case kClicLibelle: {
+        // By hand: the event's receiver may be gone afterwards.
+        QMouseEvent relache(QEvent::MouseButtonRelease, QPointF(1, 1), QPointF(1, 1),
+                            Qt::LeftButton, Qt::NoButton, {});
+        QCoreApplication::sendEvent(&Libelle(controle), &relache);
+        return;
+    }
+    case kEspace: {
+        QPointer<QAbstractButton> const indicateur(&Indicateur(controle));
+        QTest::keyPress(indicateur, Qt::Key_Space);
+        if (indicateur)
+            QTest::keyRelease(indicateur, Qt::Key_Space);
+        return;
+    }
+    case kMetsCochay:
+        return controle.MetsCochay(!controle.EstCochay());
+    case kMetsPareil:
+        return controle.MetsCochay(controle.EstCochay());
+    }
+}
+
+} // namespace
+
+Q_DECLARE_METATYPE(eGeste)
+
+void tst_DCheckBoxSignaux::cleanup()
+{
+    mesSignaux.clear();
+    monSignalFatal.clear();
+    DetruisAttente();
+    QVERIFY(QApplication::topLevelWidgets().isEmpty());
+}
+
+void tst_DCheckBoxSignaux::Note(QString const & signal)
+{
+    mesSignaux << signal;
+    if (signal.section(u' ', 0, 0) == monSignalFatal)
+        delete maVictime.data();
+}
+
+void tst_DCheckBoxSignaux::Ecoute(DCheckBox & controle)
+{
+    auto const mot = [](bool valeur) { return valeur ? u" true"_s : u" false"_s; };
+    connect(&controle, &DCheckBox::SignalCochageChangay, this,
+            [=, this](bool cochay) { Note(u"SignalCochageChangay"_s + mot(cochay)); });
+    connect(&controle, &DCheckBox::stateChanged, this,
+            [this](int etat) { Note(u"stateChanged %1"_s.arg(etat)); });
+    connect(&controle, &DCheckBox::clicked, this,
+            [=, this](bool cochay) { Note(u"clicked"_s + mot(cochay)); });
+    connect(&controle, &DCheckBox::pressed, this, [this] { Note(u"pressed"_s); });
+    connect(&controle, &DCheckBox::released, this, [this] { Note(u"released"_s); });
+    connect(&controle, &DCheckBox::toggled, this,
+            [=, this](bool cochay) { Note(u"toggled"_s + mot(cochay)); });
+}
+
+void tst_DCheckBoxSignaux::ordre_data()
+{
+    QTest::addColumn<eGeste>("geste");
+    QTest::addColumn<bool>("avant");
+    QTest::addColumn<QStringList>("signaux");
+    QStringList const clic{u"pressed"_s,      u"SignalCochageChangay true"_s,
+                           u"toggled true"_s, u"stateChanged 2"_s,
+                           u"released"_s,     u"clicked true"_s};
+    QStringList const clicCochee{u"pressed"_s,       u"SignalCochageChangay false"_s,
+                                 u"toggled false"_s, u"stateChanged 0"_s,
+                                 u"released"_s,      u"clicked false"_s};
+    QStringList const valeur{u"stateChanged 2"_s, u"SignalCochageChangay true"_s,
+                             u"toggled true"_s};
+    QStringList const valeurCochee{u"stateChanged 0"_s, u"SignalCochageChangay false"_s,
+                                   u"toggled false"_s};
+    QTest::newRow("click on the box") << kClicCase << false << clic;
+    QTest::newRow("click on the checked box") << kClicCase << true << clicCochee;
+    QTest::newRow("Space") << kEspace << false << clic;
+    QTest::newRow("Space on checked") << kEspace << true << clicCochee;
+    // Deliberate: the label is not a part of the button, it sets the value.
+    QTest::newRow("click on the label") << kClicLibelle << false << valeur;
+    QTest::newRow("click on the label of checked") << kClicLibelle << true << valeurCochee;
+    QTest::newRow("MetsCochay") << kMetsCochay << false << valeur;
+    QTest::newRow("MetsCochay on checked") << kMetsCochay << true << valeurCochee;
+    QTest::newRow("MetsCochay of the same value")
+        << kMetsPareil << false << QStringList{u"SignalCochageChangay false"_s, u"toggled false"_s};
+    QTest::newRow("MetsCochay of the same value on checked")
+        << kMetsPareil << true << QStringList{u"SignalCochageChangay true"_s, u"toggled true"_s};
+}
+
+void tst_DCheckBoxSignaux::ordre()
+{
+    QFETCH(eGeste, geste);
+    QFETCH(bool, avant);
+    QFETCH(QStringList, signaux);
+    DCheckBox controle(u"abc"_s, nullptr, avant);
+    controle.show();
+    Ecoute(controle);
+    Fais(geste, controle);
+    QCOMPARE(mesSignaux, signaux);
+}
+
+void tst_DCheckBoxSignaux::aucunAuGel()
+{
+    DCheckBox controle(u"abc"_s, nullptr, true);
+    controle.show();
+    Ecoute(controle);
+    controle.MetsUtilisateurPeutChangerValeur(false);
+    for (eGeste const geste : {kClicLibelle, kEspace})
+        Fais(geste, controle);
+    controle.MetsUtilisateurPeutChangerValeur(true);
+    controle.setEnabled(false);
+    Fais(kClicLibelle, controle);
+    QCOMPARE(mesSignaux, QStringList());
+}
+
+void tst_DCheckBoxSignaux::suppressionParUnReceveur_data()
+{
+    QTest::addColumn<eGeste>("geste");
+    QTest::addColumn<QString>("signal");
+    struct
+    {
+        eGeste geste;
+        char const * nom;
+        QStringList signaux;
+    } const lignes[] = {
+        {kClicCase,
+         "click on the box",
+         {u"pressed"_s, u"SignalCochageChangay"_s, u"toggled"_s, u"stateChanged"_s, u"released"_s,
+          u"clicked"_s}},
+        {kEspace,
+         "Space",
+         {u"pressed"_s, u"SignalCochageChangay"_s, u"toggled"_s, u"stateChanged"_s, u"released"_s,
+          u"clicked"_s}},
+        {kClicLibelle,
+         "click on the label",
+         {u"stateChanged"_s, u"SignalCochageChangay"_s, u"toggled"_s}},
+        {kMetsCochay, "MetsCochay", {u"stateChanged"_s, u"SignalCochageChangay"_s, u"toggled"_s}},
+        {kMetsPareil, "the same value", {u"SignalCochageChangay"_s, u"toggled"_s}},
+    };
+    for (auto const & ligne : lignes)
+        for (QString const & signal : ligne.signaux)
+            QTest::addRow("%s, %s", ligne.nom, qPrintable(signal)) << ligne.geste << signal;
+}
+
+void tst_DCheckBoxSignaux::suppressionParUnReceveur()
+{
+    QFETCH(eGeste, geste);
+    QFETCH(QString, signal);
+    auto * const controle = new DCheckBox(u"abc"_s);
+    maVictime = controle;
+    QPointer<QAbstractButton> const indicateur(&Indicateur(*controle));
+    controle->show();
+    Ecoute(*controle);
+    monSignalFatal = signal;
+    Fais(geste, *controle);
+    QVERIFY(!maVictime);
+    QCOMPARE(mesSignaux.last().section(u' ', 0, 0), signal);
+    QCOMPARE(mesSignaux.filter(signal).size(), 1);
+    DetruisAttente();
+    QVERIFY(!indicateur);
+}
+
+void tst_DCheckBoxSignaux::suppressionDeLaFenetre()
+{
+    auto * const fenetre = new QWidget;
+    maVictime = fenetre;
+    auto * const controle = new DCheckBox(u"abc"_s, fenetre);
+    fenetre->show();
+    Ecoute(*controle);
+    monSignalFatal = u"toggled"_s;
+    Fais(kClicCase, *controle);
+    QVERIFY(!maVictime);
+    QCOMPARE(mesSignaux.last(), u"toggled true"_s);
+}
+
+void tst_DCheckBoxSignaux::valeurChangeeParUnReceveur()
+{
+    DCheckBox controle(u"abc"_s);
+    QSignalSpy const bascules(&controle, &DCheckBox::toggled);
+    connect(&controle, &DCheckBox::SignalCochageChangay, &controle, [&controle](bool cochay) {
+        if (cochay)
+            controle.MetsCochay(false);
+    });
+    controle.MetsCochay(true);
+    QVERIFY(!controle.EstCochay());
+    QCOMPARE(bascules, (QList<QVariantList>{{false}, {true}}));
+}
+
+QTEST_MAIN(tst_DCheckBoxSignaux)
+#include "tst_DCheckBoxSignaux.moc"

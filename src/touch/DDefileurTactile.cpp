@@ -11,6 +11,7 @@
 #include <QScrollerProperties>
 #include <QStyle>
 #include <QTabletEvent>
+#include <QWindow>
 
 #include <functional>
 #include <utility>
@@ -19,7 +20,8 @@ namespace {
 
 constexpr char kTactile[] = "tactile";
 
-// Calls back once, when the last finger leaves the window or the system takes the touch away.
+// Calls back once, when the last finger leaves the window of the area, or the system takes the
+// touch away.
 //
 // Qt tells neither to the area nor to its viewport, since both let the begin of the touch pass.
 class VeilleToucher : public QObject
@@ -35,8 +37,9 @@ public:
 
     bool eventFilter(QObject * objet, QEvent * evenement) override
     {
-        if ((evenement->type() == QEvent::TouchEnd || evenement->type() == QEvent::TouchCancel) &&
-            (objet->isWindowType() || objet == monAire)) {
+        bool const estFin =
+            evenement->type() == QEvent::TouchEnd || evenement->type() == QEvent::TouchCancel;
+        if (estFin && EstAutour(objet)) {
             QCoreApplication::instance()->removeEventFilter(this);
             maFin();
         }
@@ -44,6 +47,15 @@ public:
     }
 
 private:
+    bool EstAutour(QObject * objet) const
+    {
+        for (QWidget * widget = monAire; widget; widget = widget->parentWidget()) {
+            if (widget->windowHandle() && widget->windowHandle() == objet)
+                return true;
+        }
+        return objet == monAire;
+    }
+
     QWidget * monAire;
     std::function<void()> maFin;
 };

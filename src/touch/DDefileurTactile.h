@@ -16,11 +16,15 @@ class QAbstractScrollArea;
 /// Gives a scroll area kinetic scrolling by finger, taps that click, and a pen that acts as a
 /// mouse.
 ///
-/// The area owns the object; one per area. Among nested areas that have one, the area with the
-/// keyboard focus takes the finger: the areas around it lose their scrollers until the focus
-/// leaves. An item view scrolls by pixel from then on, and carries the dynamic property "tactile",
-/// true while a finger is on it or the scrolling that it began goes on: style sheets can take the
-/// colour of the row under the mouse away meanwhile.
+/// The area owns the object; one per area. It follows the area to another viewport. Among nested
+/// areas that have one, the area with the keyboard focus takes the finger: the areas around it lose
+/// their scrollers until the focus leaves, and one that is no longer around it then gets none back.
+///
+/// An item view scrolls by pixel from then on, and carries the dynamic property "tactile", true
+/// while a finger is on it or the scrolling that it began goes on: style sheets can take the colour
+/// of the row under the mouse away meanwhile. The view is unpolished and polished at each change.
+///
+/// In a pop-up window a finger clicks and does not scroll: Qt makes a mouse of it there.
 ///
 /// Only on the GUI thread.
 class FABRELGUI_EXPORT DDefileurTactile : public DGestionnaireGestureAbs
@@ -64,7 +68,7 @@ private:
     void RetablisAncetres();
 
     QAbstractScrollArea * monAire;
-    QTime monTemps; // kept null
+    [[maybe_unused]] QTime monTemps; // kept null
     QList<QObject *> mesAncetresSuspendus;
     bool monEstItemView = false;
     QPointer<QWidget> monViewport;

@@ -1,7 +1,7 @@
 // touch/DGestionnaireGestureAbs.cpp
 #include "touch/DGestionnaireGestureAbs.h"
 
-#include <QCoreApplication>
+#include <QApplication>
 #include <QMouseEvent>
 #include <QPointingDevice>
 #include <QTabletEvent>
@@ -31,11 +31,18 @@ bool EstPlume(QPointingDevice const * appareil)
 
 bool EstSynthetique(QMouseEvent const & souris)
 {
-    Qt::MouseEventSource const source = souris.source();
-    // Of a tablet event that nobody takes, Qt makes a mouse event that it does not call
-    // synthesised; the device is still the pen.
-    return source == Qt::MouseEventSynthesizedBySystem || source == Qt::MouseEventSynthesizedByQt ||
-           EstPlume(souris.pointingDevice());
+    switch (souris.source()) {
+    case Qt::MouseEventSynthesizedBySystem:
+        return true;
+    case Qt::MouseEventSynthesizedByQt:
+        // While a pop-up is open, Qt delivers no touches: nothing but this mouse tells of the
+        // finger.
+        return !QApplication::activePopupWidget();
+    default:
+        // Of a tablet event that nobody takes, Qt makes a mouse event that it does not call
+        // synthesised; the device is still the pen.
+        return EstPlume(souris.pointingDevice());
+    }
 }
 
 } // namespace

@@ -31,6 +31,8 @@ bool DGestionnaireTapGesture::eventFilter(QObject *, QEvent * evenement)
         if (tap && TraiteTap(*tap))
             return true; // the widget and this object may be gone
     }
+    if (evenement->type() == QEvent::TouchCancel)
+        monTapEnCours = false; // the gesture is not told
     // Qt makes a double click of the second of two quick touches when the finger comes down, and
     // the tap makes another when it leaves.
     if (evenement->type() == QEvent::MouseButtonDblClick && monTapEnCours &&

@@ -14,8 +14,11 @@ class QTapGesture;
 /// from two taps within the double-click interval; and mouse events from those of a pen.
 ///
 /// The widget owns the manager, which filters its events; a second manager on one widget doubles
-/// every click. What the click does may destroy the widget. A tap or pen on a child that has no
-/// manager of its own is a click on the child, made by Qt, and one on the widget.
+/// every click. A tap or pen on a child that has no manager of its own is a click on the child,
+/// made by Qt, and one on the widget.
+///
+/// The click is delivered while Qt works on the touch: what it calls may destroy the widget, but Qt
+/// still asks the widget that the finger is on, so `deleteLater` is for that one.
 class FABRELGUI_EXPORT DGestionnaireTapGesture : public DGestionnaireGestureAbs
 {
     Q_OBJECT

@@ -53,7 +53,9 @@ private Q_SLOTS:
     void glissementSansRienADefiler();
     void tapEnUnClic_data();
     void tapEnUnClic();
+    void tapDansUnMenu();
     void toucherAnnulay();
+    void finDansUneAutreFenetre();
     void doigtsPartisEnsemble();
     void ligneSousLeDoigt();
     void plumeEnUnClic();
@@ -173,6 +175,22 @@ void tst_DDefileurTactileToucher::tapEnUnClic()
     QCOMPARE(doubles.count(), 1);
 }
 
+void tst_DDefileurTactileToucher::tapDansUnMenu()
+{
+    QWidget menu(nullptr, Qt::Popup);
+    QListWidget * const liste = CreeListe(&menu);
+    new DDefileurTactile(liste);
+    QVERIFY(Montre(menu));
+    QSignalSpy const clics(liste, &QListWidget::clicked);
+    QSignalSpy const doubles(liste, &QListWidget::doubleClicked);
+    QPoint const point = liste->visualItemRect(liste->item(2)).center();
+    Tape(liste->viewport(), point);
+    QCOMPARE(liste->currentRow(), 2);
+    QCOMPARE(clics.count(), 1);
+    Tape(liste->viewport(), point);
+    QCOMPARE(doubles.count(), 1);
+}
+
 void tst_DDefileurTactileToucher::toucherAnnulay()
 {
     QWidget parent;
@@ -189,6 +207,27 @@ void tst_DDefileurTactileToucher::toucherAnnulay()
     QCOMPARE(Etat(liste), QScroller::Inactive);
     // The device has a finger down as yet.
     Doigt(liste).release(0, QPoint(50, 150), liste->viewport());
+}
+
+void tst_DDefileurTactileToucher::finDansUneAutreFenetre()
+{
+    QWidget parent;
+    QWidget autre;
+    autre.winId();
+    QListWidget * const liste = CreeListe(&parent);
+    new DDefileurTactile(liste);
+    QVERIFY(Montre(parent));
+    Doigt(liste).press(0, QPoint(50, 250), liste->viewport());
+    for (int y = 240; y > 150; y -= 10)
+        Doigt(liste).move(0, QPoint(50, y), liste->viewport());
+    QTouchEvent fin(QEvent::TouchEnd, DonneEcranTactile());
+    QCoreApplication::sendEvent(autre.windowHandle(), &fin);
+    QCoreApplication::processEvents();
+    QCOMPARE(Etat(liste), QScroller::Dragging);
+    QCOMPARE(liste->property("tactile"), QVariant(true));
+    Doigt(liste).release(0, QPoint(50, 150), liste->viewport());
+    QTRY_COMPARE(liste->property("tactile"), QVariant(false));
+    QTRY_COMPARE(Etat(liste), QScroller::Inactive);
 }
 
 void tst_DDefileurTactileToucher::doigtsPartisEnsemble()

@@ -30,6 +30,7 @@ private Q_SLOTS:
     void sansWidget();
     void sourisAIgnorer_data();
     void sourisAIgnorer();
+    void sourisDansUnMenuOuvert();
     void sourisDUnePlume_data();
     void sourisDUnePlume();
     void autresEvenements_data();
@@ -87,6 +88,20 @@ void tst_DGestionnaireGestureAbs::sourisAIgnorer()
     QFETCH(Qt::MouseEventSource, source);
     QMouseEvent souris = FaisSouris(type, source);
     QTEST(Gestionnaire(nullptr).DoitIgnorerEvenement(&souris), "attendu");
+}
+
+void tst_DGestionnaireGestureAbs::sourisDansUnMenuOuvert()
+{
+    QWidget menu(nullptr, Qt::Popup);
+    menu.show();
+    QCOMPARE(QApplication::activePopupWidget(), &menu);
+    Gestionnaire const gestionnaire(nullptr);
+    QMouseEvent deQt = FaisSouris(QEvent::MouseButtonPress, Qt::MouseEventSynthesizedByQt);
+    QVERIFY(!gestionnaire.DoitIgnorerEvenement(&deQt));
+    QMouseEvent duSysteme = FaisSouris(QEvent::MouseButtonPress, Qt::MouseEventSynthesizedBySystem);
+    QVERIFY(gestionnaire.DoitIgnorerEvenement(&duSysteme));
+    menu.close();
+    QVERIFY(gestionnaire.DoitIgnorerEvenement(&deQt));
 }
 
 void tst_DGestionnaireGestureAbs::sourisDUnePlume_data()

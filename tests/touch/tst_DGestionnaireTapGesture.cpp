@@ -36,6 +36,7 @@ private Q_SLOTS:
     void tapSurUnEnfant();
     void sourisSynthetique_data();
     void sourisSynthetique();
+    void toucherAnnulay();
     void plume();
     void plumeDeQt();
     void autreGeste();
@@ -253,6 +254,27 @@ void tst_DGestionnaireTapGesture::sourisSynthetique()
     QMouseEvent souris = FaisSouris(type, source);
     QCoreApplication::sendEvent(&widget, &souris);
     QCOMPARE(temoin.Compte(), passe ? 1 : 0);
+}
+
+// A touch that is taken away leaves the tap without an end.
+void tst_DGestionnaireTapGesture::toucherAnnulay()
+{
+    QWidget widget;
+    widget.resize(200, 200);
+    Temoin const temoin(&widget, kTraces);
+    new DGestionnaireTapGesture(&widget);
+    widget.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&widget));
+
+    QTest::touchEvent(&widget, DonneEcranTactile()).press(0, QPoint(30, 40), &widget);
+    QMouseEvent souris = FaisSouris(QEvent::MouseButtonDblClick, Qt::MouseEventSynthesizedBySystem);
+    QCoreApplication::sendEvent(&widget, &souris);
+    QCOMPARE(temoin.Compte(), 0); // a finger is down
+    QTouchEvent annulation = FaisToucher(QEvent::TouchCancel);
+    QCoreApplication::sendEvent(&widget, &annulation);
+    QCoreApplication::sendEvent(&widget, &souris);
+    QCOMPARE(temoin.DonneTypes(), QList{QEvent::MouseButtonDblClick});
+    QTest::touchEvent(&widget, DonneEcranTactile()).release(0, QPoint(30, 40), &widget);
 }
 
 void tst_DGestionnaireTapGesture::plume()

@@ -28,14 +28,16 @@ bool EstToucheMenu(QKeyEvent const & evenement)
 
 } // namespace
 
-DBoutonAvecMenu::DBoutonAvecMenu(QString const & texte, QWidget * parent)
+DBoutonAvecMenu::DBoutonAvecMenu(QString const & texte, bool avecMenu, QWidget * parent)
     : QPushButton(texte, parent)
+    , monAvecMenu(avecMenu)
+    , monMenuAffichay(avecMenu)
 {
 }
 
 void DBoutonAvecMenu::AfficheMenu(bool visible)
 {
-    if (visible == monMenuAffichay)
+    if (!monAvecMenu || visible == monMenuAffichay)
         return;
     monMenuAffichay = visible;
     updateGeometry();
@@ -65,6 +67,18 @@ QSize DBoutonAvecMenu::minimumSizeHint() const
     return sizeHint();
 }
 
+void DBoutonAvecMenu::initStyleOption(QStyleOptionButton * option) const
+{
+    QPushButton::initStyleOption(option);
+    if (!option || !isChecked() || !isEnabled())
+        return;
+    // Styles tell a checked button by a shade, which in a dark palette nobody sees. A style sheet
+    // that has a rule for these buttons does not look at the palette.
+    QPalette & palette = option->palette;
+    palette.setBrush(QPalette::Button, palette.highlight());
+    palette.setBrush(QPalette::ButtonText, palette.highlightedText());
+}
+
 bool DBoutonAvecMenu::hitButton(QPoint const & position) const
 {
     return QPushButton::hitButton(position) && !DonneRectMenu().contains(position);
@@ -88,7 +102,8 @@ void DBoutonAvecMenu::keyPressEvent(QKeyEvent * evenement)
         return;
     }
     evenement->accept();
-    Q_EMIT menuCliquay(property("identifiant"));
+    if (!evenement->isAutoRepeat())
+        Q_EMIT menuCliquay(property("identifiant"));
 }
 
 void DBoutonAvecMenu::paintEvent(QPaintEvent * evenement)
@@ -111,22 +126,23 @@ void DBoutonAvecMenu::paintEvent(QPaintEvent * evenement)
     else
         texte.rect.setRight(std::min(texte.rect.right(), width() - kLargeurMenu - 1));
     peintre.drawControl(QStyle::CE_PushButtonLabel, texte);
-    DessineMenu(peintre);
+    DessineMenu(peintre, texte.palette.buttonText());
 }
 
-void DBoutonAvecMenu::DessineMenu(QPainter & peintre) const
+void DBoutonAvecMenu::DessineMenu(QPainter & peintre, QBrush const & pinceau) const
 {
     QRect const zone = DonneRectMenu();
     int const x = isRightToLeft() ? zone.right() : zone.left();
-    peintre.fillRect(QRect(QPoint(x, zone.top() + kRetraitSeparateur),
-                           QPoint(x, zone.bottom() - kRetraitSeparateur)),
-                     ThemesQt::Instance()->DonneCouleur(u"couleurSeparateur"_s));
+    QColor const separateur = ThemesQt::Instance()->DonneCouleur(u"couleurSeparateur"_s);
+    if (separateur.isValid())
+        peintre.fillRect(QRect(QPoint(x, zone.top() + kRetraitSeparateur),
+                               QPoint(x, zone.bottom() - kRetraitSeparateur)),
+                         separateur);
 
     QPointF const pointe = QRectF(zone).center() + QPointF(0, kHauteurChevron / 2);
     QPointF const chevron[] = {pointe + QPointF(-kDemiLargeurChevron, -kHauteurChevron), pointe,
                                pointe + QPointF(kDemiLargeurChevron, -kHauteurChevron)};
     peintre.setRenderHint(QPainter::Antialiasing);
-    peintre.setPen(QPen(palette().buttonText(), kEpaisseurChevron, Qt::SolidLine, Qt::RoundCap,
-                        Qt::RoundJoin));
+    peintre.setPen(QPen(pinceau, kEpaisseurChevron, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
     peintre.drawPolyline(chevron, static_cast<int>(std::size(chevron)));
 }

@@ -6,7 +6,8 @@
 #include <QPushButton>
 #include <QVariant>
 
-/// A push button with a part at its end, in the direction of the layout, that asks for a menu.
+/// A button of a `DControleBoutonsExclusifs`: filled with the accent while it is checked, and where
+/// it is made so with a part at its end, in the direction of the layout, that asks for a menu.
 ///
 /// A press on that part, Alt+Down or F4 emits `menuCliquay` and presses nothing else.
 class FABRELGUI_EXPORT DBoutonAvecMenu : public QPushButton
@@ -14,8 +15,9 @@ class FABRELGUI_EXPORT DBoutonAvecMenu : public QPushButton
     Q_OBJECT
 
 public:
-    explicit DBoutonAvecMenu(QString const & texte, QWidget * parent = nullptr);
+    DBoutonAvecMenu(QString const & texte, bool avecMenu, QWidget * parent = nullptr);
 
+    /// Without effect on a button that was made without the part.
     void AfficheMenu(bool visible);
     bool MenuEstAffichay() const;
     /// Where the part is; null while it is hidden.
@@ -29,13 +31,15 @@ Q_SIGNALS:
     void menuCliquay(QVariant id);
 
 protected:
+    void initStyleOption(QStyleOptionButton * option) const override;
     bool hitButton(QPoint const & position) const override;
     void mousePressEvent(QMouseEvent * evenement) override;
     void keyPressEvent(QKeyEvent * evenement) override;
     void paintEvent(QPaintEvent * evenement) override;
 
 private:
-    void DessineMenu(QPainter & peintre) const;
+    void DessineMenu(QPainter & peintre, QBrush const & pinceau) const;
 
-    bool monMenuAffichay = true;
+    bool const monAvecMenu;
+    bool monMenuAffichay;
 };

@@ -8,7 +8,6 @@
 #include <QButtonGroup>
 #include <QHBoxLayout>
 #include <QPainter>
-#include <QPushButton>
 #include <QStyle>
 
 using namespace Qt::StringLiterals;
@@ -33,8 +32,9 @@ public:
 protected:
     void paintEvent(QPaintEvent *) override
     {
-        QPainter peintre(this);
-        peintre.fillRect(rect(), ThemesQt::Instance()->DonneCouleur(u"couleurSeparateur"_s));
+        QColor const couleur = ThemesQt::Instance()->DonneCouleur(u"couleurSeparateur"_s);
+        if (couleur.isValid())
+            QPainter(this).fillRect(rect(), couleur);
     }
 };
 
@@ -48,6 +48,7 @@ DControleBoutonsExclusifs::DControleBoutonsExclusifs(std::vector<InfosBouton> bo
     , monStyleDroite(u"ADroite"_s)
     , mesBoutons(std::move(boutons))
 {
+    setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed); // as high as its buttons
     monGroupe->setExclusive(true);
     auto * const disposition = new QHBoxLayout(this);
     RoutinesGeneralesQt::EnleveMargesDuLayout(disposition);
@@ -124,8 +125,7 @@ QAbstractButton * DControleBoutonsExclusifs::CreeControle(UniChaine const & text
                                                           QVariant const & identifiant, bool cochay,
                                                           bool avecMenu)
 {
-    auto * const avecPartieMenu = avecMenu ? new DBoutonAvecMenu(texte, this) : nullptr;
-    QPushButton * const bouton = avecMenu ? avecPartieMenu : new QPushButton(texte, this);
+    auto * const bouton = new DBoutonAvecMenu(texte, avecMenu, this);
     bouton->setProperty(kIdentifiant, identifiant);
     bouton->setProperty(kEtiquette, QString(texte));
     bouton->setCheckable(true);
@@ -135,9 +135,8 @@ QAbstractButton * DControleBoutonsExclusifs::CreeControle(UniChaine const & text
     bouton->setChecked(cochay);
     connect(bouton, &QAbstractButton::toggled, this, &DControleBoutonsExclusifs::toggled,
             Qt::UniqueConnection);
-    if (avecPartieMenu)
-        connect(avecPartieMenu, &DBoutonAvecMenu::menuCliquay, this,
-                &DControleBoutonsExclusifs::menuCliquay, Qt::UniqueConnection);
+    connect(bouton, &DBoutonAvecMenu::menuCliquay, this, &DControleBoutonsExclusifs::menuCliquay,
+            Qt::UniqueConnection);
     return bouton;
 }
 

@@ -8,6 +8,7 @@
 #include <QPainter>
 #include <QPointer>
 #include <QPropertyAnimation>
+#include <QSignalBlocker>
 
 #include <utility>
 
@@ -40,7 +41,7 @@ DToggleButton::DToggleButton(int trackRadius, int thumbRadius, QWidget * parent)
     setCheckable(true);
     setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
     monAnimation->setDuration(kDureeGlissement);
-    // Before any slot of a host, which may run an event loop while the thumb is to move.
+    // For a host that sets the state through the base class during a click, when no hook is called.
     connect(this, &QAbstractButton::toggled, this, &DToggleButton::PriseEtatChangay,
             Qt::UniqueConnection);
 }
@@ -52,7 +53,7 @@ QSize DToggleButton::sizeHint() const
 
 QSize DToggleButton::minimumSizeHint() const
 {
-    return CalculeGeometrieBascule(monRayonPiste, monRayonPouce).taille;
+    return sizeHint();
 }
 
 int DToggleButton::offset() const
@@ -68,10 +69,13 @@ void DToggleButton::setOffset(int offset)
 
 void DToggleButton::setChecked(bool checked)
 {
-    QPointer<DToggleButton> const garde(this);
-    QAbstractButton::setChecked(checked);
-    if (garde)
-        Saute(); // within a click the base calls no hook
+    bool const ancienEtat = isChecked();
+    {
+        QSignalBlocker const bloqueur(this); // see SignaleSiChangay
+        QAbstractButton::setChecked(checked);
+    }
+    Saute(); // within a click the base calls no hook
+    SignaleSiChangay(ancienEtat);
 }
 
 void DToggleButton::checkStateSet()
@@ -82,10 +86,13 @@ void DToggleButton::checkStateSet()
 
 void DToggleButton::nextCheckState()
 {
-    QPointer<DToggleButton> const garde(this);
-    QAbstractButton::nextCheckState();
-    if (garde)
-        PriseEtatChangay(); // also while signals are blocked
+    bool const ancienEtat = isChecked();
+    {
+        QSignalBlocker const bloqueur(this); // see SignaleSiChangay
+        QAbstractButton::nextCheckState();
+    }
+    PriseEtatChangay();
+    SignaleSiChangay(ancienEtat);
 }
 
 void DToggleButton::mouseReleaseEvent(QMouseEvent * evenement)
@@ -155,6 +162,14 @@ void DToggleButton::PriseEtatChangay()
         Saute();
 }
 
+// Last, and not by the base: that still tells assistive technologies of the button after its own
+// signal, from which a host may have deleted it.
+void DToggleButton::SignaleSiChangay(bool ancienEtat)
+{
+    if (isChecked() != ancienEtat)
+        Q_EMIT toggled(isChecked());
+}
+
 bool DToggleButton::PouceDeborde() const
 {
     return monRayonPouce > monRayonPiste;
@@ -222,7 +237,7 @@ void DToggleButton::DessineFocus(QPainter & peintre) const
 
 QRectF DToggleButton::DonneRectPiste() const
 {
-    QRect rect = CalculeGeometrieBascule(monRayonPiste, monRayonPouce).piste;
-    rect.moveTop(monCentreVertical - monRayonPiste);
-    return rect;
+    QRect rect(QPoint(), CalculeGeometrieBascule(monRayonPiste, monRayonPouce).taille);
+    rect.moveTop(monCentreVertical - rect.height() / 2);
+    return rect.adjusted(maMarge, maMarge, -maMarge, -maMarge);
 }

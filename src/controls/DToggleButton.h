@@ -14,10 +14,13 @@ class QPropertyAnimation;
 /// The thumb slides there after a click of the left mouse button, and jumps after every other
 /// change of the state. The size is fixed: a host that forces a larger one sees the switch at the
 /// left, or at the right where the layout goes from right to left. What the switch is for is the
-/// host's to tell with `setAccessibleName`.
+/// host's to tell with `setAccessibleName`. A slot of `toggled` or `clicked` may delete the switch
+/// unless the state was set through the base class.
 class FABRELGUI_EXPORT DToggleButton : public QAbstractButton
 {
     Q_OBJECT
+    // For the animation alone: nobody waits for the thumb.
+    // clazy:excludeall=qproperty-without-notify
     Q_PROPERTY(int mOffset READ offset WRITE setOffset)
 
 public:
@@ -59,6 +62,7 @@ private:
         QBrush pouce;
     };
 
+    void SignaleSiChangay(bool ancienEtat);
     bool PouceDeborde() const;
     void PrendsPinceaux();
     int DonneBut() const;

@@ -16,6 +16,9 @@ class QTextDocument;
 class FABRELGUI_EXPORT DToolButtonRiche : public QToolButton
 {
     Q_OBJECT
+    // The base class tells of no change either.
+    // clazy:excludeall=qproperty-without-notify
+    Q_PROPERTY(QString text READ text WRITE setText)
 
 public:
     explicit DToolButtonRiche(QWidget * parent = nullptr);

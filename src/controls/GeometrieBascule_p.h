@@ -1,8 +1,6 @@
 // controls/GeometrieBascule_p.h
 #pragma once
 
-#include <QPoint>
-#include <QRect>
 #include <QSize>
 
 #include <algorithm>
@@ -14,7 +12,6 @@ struct GeometrieBascule
     QSize taille;         ///< what the switch asks for
     int finNonCochay = 0; ///< the thumb's centre, from the left edge
     int finCochay = 0;
-    QRect piste; ///< in a widget whose vertical centre is that of `taille`
 };
 
 /// Radii below 0 count as 0.
@@ -30,6 +27,5 @@ constexpr GeometrieBascule CalculeGeometrieBascule(int rayonPiste, int rayonPouc
     geometrie.taille = QSize(2 * (marge + 2 * piste), 2 * (marge + piste));
     geometrie.finNonCochay = marge + piste;
     geometrie.finCochay = geometrie.taille.width() - marge - piste;
-    geometrie.piste = QRect(marge, marge, 4 * piste, 2 * piste);
     return geometrie;
 }

@@ -1,0 +1,301 @@
+// tests/controls/tst_DBoutonSansFleche.cpp
+#include "controls/DBoutonSansFleche.h"
+
+#include "controls/RenduBoutons.h"
+#include "style/DStyleProxy.h"
+
+#include <QMenu>
+#include <QStyleFactory>
+#include <QtTest>
+
+using namespace Qt::StringLiterals;
+using RenduBoutons::Rendu;
+
+namespace {
+
+constexpr QSize kTaille(80, 30);
+
+std::unique_ptr<QStyle> DonneStyle(QString const & nom)
+{
+    if (nom == "DStyleProxy"_L1)
+        return std::make_unique<DStyleProxy>(QStyleFactory::create(u"Fusion"_s));
+    return std::unique_ptr<QStyle>(QStyleFactory::create(nom));
+}
+
+struct Reglages
+{
+    QToolButton::ToolButtonPopupMode mode = QToolButton::DelayedPopup;
+    Qt::LayoutDirection sens = Qt::LeftToRight;
+    Qt::ArrowType fleche = Qt::NoArrow;
+    bool autoRaise = false;
+};
+
+void Regle(QToolButton & bouton, QStyle * style, Reglages const & reglages = {})
+{
+    bouton.setStyle(style);
+    bouton.setText(u"abc"_s);
+    bouton.setArrowType(reglages.fleche);
+    bouton.setPopupMode(reglages.mode);
+    bouton.setLayoutDirection(reglages.sens);
+    bouton.setAutoRaise(reglages.autoRaise);
+    bouton.resize(kTaille);
+}
+
+} // namespace
+
+class tst_DBoutonSansFleche : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void cleanup();
+    void aucuneFleche_data();
+    void aucuneFleche();
+    void menuDUneAction_data();
+    void menuDUneAction();
+    void feuilleDeStyle_data();
+    void feuilleDeStyle();
+    void flecheDuBoutonReste_data();
+    void flecheDuBoutonReste();
+    void enfoncayPendantLeMenu_data();
+    void enfoncayPendantLeMenu();
+    void menuSOuvre_data();
+    void menuSOuvre();
+    void partieDuMenuGardee();
+    void imageLissay();
+    void constructeur();
+};
+
+void tst_DBoutonSansFleche::cleanup()
+{
+    QVERIFY(QApplication::topLevelWidgets().isEmpty());
+}
+
+void tst_DBoutonSansFleche::aucuneFleche_data()
+{
+    QTest::addColumn<QString>("nomStyle");
+    QTest::addColumn<QToolButton::ToolButtonPopupMode>("mode");
+    QTest::addColumn<Qt::LayoutDirection>("sens");
+    QTest::addColumn<bool>("autoRaise");
+    std::pair<char const *, QToolButton::ToolButtonPopupMode> const modes[] = {
+        {"delayed", QToolButton::DelayedPopup},
+        {"menu button", QToolButton::MenuButtonPopup},
+        {"instant", QToolButton::InstantPopup},
+    };
+    for (char const * const style : {"Fusion", "Windows", "DStyleProxy"}) {
+        auto const nomStyle = QString::fromLatin1(style);
+        for (auto const & [nom, mode] : modes) {
+            QTest::addRow("%s, %s", style, nom) << nomStyle << mode << Qt::LeftToRight << false;
+            QTest::addRow("%s, %s, right to left", style, nom)
+                << nomStyle << mode << Qt::RightToLeft << false;
+            QTest::addRow("%s, %s, auto-raise", style, nom)
+                << nomStyle << mode << Qt::LeftToRight << true;
+        }
+    }
+}
+
+void tst_DBoutonSansFleche::aucuneFleche()
+{
+    QFETCH(QString, nomStyle);
+    auto const style = DonneStyle(nomStyle);
+    QFETCH(QToolButton::ToolButtonPopupMode, mode);
+    QFETCH(Qt::LayoutDirection, sens);
+    QFETCH(bool, autoRaise);
+    QMenu menu;
+    QToolButton sansMenu;
+    Regle(sansMenu, style.get(), {.sens = sens, .autoRaise = autoRaise});
+    QToolButton ordinaire;
+    Regle(ordinaire, style.get(), {mode, sens, Qt::NoArrow, autoRaise});
+    ordinaire.setMenu(&menu);
+    DBoutonSansFleche bouton;
+    Regle(bouton, style.get(), {mode, sens, Qt::NoArrow, autoRaise});
+    bouton.setMenu(&menu);
+
+    QVERIFY(QFile::exists(u":/Images/chevron-DToolButton.svg"_s)); // what one style draws
+    QVERIFY(Rendu(ordinaire) != Rendu(sansMenu));
+    QCOMPARE(Rendu(bouton), Rendu(sansMenu));
+    // Deliberate: the part that opens the menu keeps its room.
+    QCOMPARE(bouton.sizeHint(), ordinaire.sizeHint());
+}
+
+void tst_DBoutonSansFleche::menuDUneAction_data()
+{
+    QTest::addColumn<QString>("nomStyle");
+    for (char const * const nom : {"Fusion", "Windows", "DStyleProxy"})
+        QTest::newRow(nom) << QString::fromLatin1(nom);
+}
+
+// A default action sets the mode, and actions without a menu are offered in one.
+void tst_DBoutonSansFleche::menuDUneAction()
+{
+    QFETCH(QString, nomStyle);
+    auto const style = DonneStyle(nomStyle);
+    QMenu menu;
+    QAction action(u"abc"_s);
+    action.setMenu(&menu);
+    QToolButton sansMenu;
+    Regle(sansMenu, style.get());
+    DBoutonSansFleche bouton;
+    Regle(bouton, style.get());
+    bouton.setDefaultAction(&action);
+    QCOMPARE(bouton.popupMode(), QToolButton::MenuButtonPopup);
+    QCOMPARE(Rendu(bouton), Rendu(sansMenu));
+
+    QAction autre(u"def"_s);
+    DBoutonSansFleche avecActions;
+    Regle(avecActions, style.get());
+    avecActions.addAction(&autre);
+    QCOMPARE(Rendu(avecActions), Rendu(sansMenu));
+}
+
+void tst_DBoutonSansFleche::feuilleDeStyle_data()
+{
+    QTest::addColumn<QToolButton::ToolButtonPopupMode>("mode");
+    QTest::newRow("delayed") << QToolButton::DelayedPopup;
+    QTest::newRow("menu button") << QToolButton::MenuButtonPopup;
+    QTest::newRow("instant") << QToolButton::InstantPopup;
+}
+
+void tst_DBoutonSansFleche::feuilleDeStyle()
+{
+    QFETCH(QToolButton::ToolButtonPopupMode, mode);
+    QString const feuille = u"QToolButton { border: 1px solid red; }"_s;
+    QMenu menu;
+    QToolButton sansMenu;
+    QToolButton ordinaire;
+    DBoutonSansFleche bouton;
+    for (QToolButton * const un : {&sansMenu, &ordinaire, static_cast<QToolButton *>(&bouton)}) {
+        un->setText(u"abc"_s);
+        un->resize(kTaille);
+        un->setStyleSheet(feuille);
+    }
+    for (QToolButton * const un : {&ordinaire, static_cast<QToolButton *>(&bouton)}) {
+        un->setMenu(&menu);
+        un->setPopupMode(mode);
+    }
+    QVERIFY(Rendu(ordinaire) != Rendu(sansMenu));
+    QCOMPARE(Rendu(bouton), Rendu(sansMenu));
+}
+
+void tst_DBoutonSansFleche::flecheDuBoutonReste_data()
+{
+    menuDUneAction_data();
+}
+
+void tst_DBoutonSansFleche::flecheDuBoutonReste()
+{
+    QFETCH(QString, nomStyle);
+    auto const style = DonneStyle(nomStyle);
+    QMenu menu;
+    QToolButton sansFleche;
+    Regle(sansFleche, style.get());
+    sansFleche.setText({});
+    QToolButton ordinaire;
+    Regle(ordinaire, style.get(), {.fleche = Qt::RightArrow});
+    DBoutonSansFleche bouton;
+    Regle(bouton, style.get(), {QToolButton::InstantPopup, Qt::LeftToRight, Qt::RightArrow});
+    bouton.setMenu(&menu);
+
+    QCOMPARE(Rendu(bouton), Rendu(ordinaire));
+    QVERIFY(Rendu(bouton) != Rendu(sansFleche));
+}
+
+void tst_DBoutonSansFleche::enfoncayPendantLeMenu_data()
+{
+    menuDUneAction_data();
+}
+
+void tst_DBoutonSansFleche::enfoncayPendantLeMenu()
+{
+    QFETCH(QString, nomStyle);
+    auto const style = DonneStyle(nomStyle);
+    QToolButton enfoncay;
+    Regle(enfoncay, style.get());
+    enfoncay.setDown(true);
+    QMenu menu;
+    menu.addAction(u"abc"_s);
+    DBoutonSansFleche bouton;
+    Regle(bouton, style.get(), {.mode = QToolButton::MenuButtonPopup});
+    bouton.setMenu(&menu);
+    QImage pendant;
+    connect(&menu, &QMenu::aboutToShow, this, [&] {
+        pendant = Rendu(bouton);
+        QTimer::singleShot(0, &menu, &QMenu::close);
+    });
+    bouton.showMenu();
+    QCOMPARE(pendant, Rendu(enfoncay));
+}
+
+void tst_DBoutonSansFleche::menuSOuvre_data()
+{
+    QTest::addColumn<QToolButton::ToolButtonPopupMode>("mode");
+    QTest::addColumn<QPoint>("position");
+    QPoint const milieu(kTaille.width() / 2, kTaille.height() / 2);
+    QTest::newRow("delayed") << QToolButton::DelayedPopup << milieu;
+    QTest::newRow("instant") << QToolButton::InstantPopup << milieu;
+    QTest::newRow("menu button") << QToolButton::MenuButtonPopup
+                                 << QPoint(kTaille.width() - 3, milieu.y());
+}
+
+void tst_DBoutonSansFleche::menuSOuvre()
+{
+    auto const style = DonneStyle(u"Fusion"_s);
+    QFETCH(QToolButton::ToolButtonPopupMode, mode);
+    QFETCH(QPoint, position);
+    QMenu menu;
+    menu.addAction(u"abc"_s);
+    DBoutonSansFleche bouton;
+    Regle(bouton, style.get(), {.mode = mode});
+    bouton.setMenu(&menu);
+    QSignalSpy ouvertures(&menu, &QMenu::aboutToShow);
+    connect(&menu, &QMenu::aboutToShow, &menu,
+            [&] { QTimer::singleShot(0, &menu, &QMenu::close); });
+    QTest::mousePress(&bouton, Qt::LeftButton, {}, position);
+    QTRY_COMPARE(ouvertures.count(), 1);
+    QTRY_VERIFY(!menu.isVisible());
+}
+
+// Deliberate: the part for the menu is where it is in the base class, though nobody sees it.
+void tst_DBoutonSansFleche::partieDuMenuGardee()
+{
+    auto const style = DonneStyle(u"Fusion"_s);
+    QMenu menu;
+    DBoutonSansFleche bouton;
+    Regle(bouton, style.get(), {.mode = QToolButton::MenuButtonPopup});
+    bouton.setMenu(&menu);
+    QSignalSpy clics(&bouton, &QToolButton::clicked);
+    QSignalSpy ouvertures(&menu, &QMenu::aboutToShow);
+    QTest::mouseClick(&bouton, Qt::LeftButton, {}, QPoint(5, 15));
+    QCOMPARE(clics.count(), 1);
+    QCOMPARE(ouvertures.count(), 0);
+}
+
+void tst_DBoutonSansFleche::imageLissay()
+{
+    class StyleIndices : public QProxyStyle
+    {
+    public:
+        mutable bool lissay = false;
+        void drawComplexControl(ComplexControl, QStyleOptionComplex const *, QPainter * peintre,
+                                QWidget const *) const override
+        {
+            lissay = peintre->testRenderHint(QPainter::SmoothPixmapTransform);
+        }
+    };
+    StyleIndices style;
+    DBoutonSansFleche bouton;
+    Regle(bouton, &style);
+    Rendu(bouton);
+    QVERIFY(style.lissay);
+}
+
+void tst_DBoutonSansFleche::constructeur()
+{
+    QWidget parent;
+    DBoutonSansFleche const bouton(&parent);
+    QCOMPARE(bouton.parentWidget(), &parent);
+    QCOMPARE(bouton.popupMode(), QToolButton::DelayedPopup);
+}
+
+QTEST_MAIN(tst_DBoutonSansFleche)
+#include "tst_DBoutonSansFleche.moc"

@@ -1,0 +1,342 @@
+// tests/controls/tst_DControleBoutonsExclusifsMenu.cpp
+#include "controls/DBoutonAvecMenu_p.h"
+#include "controls/DControleBoutonsExclusifs.h"
+
+#include "controls/RenduBoutons.h"
+#include "foundation/ThemesQt.h"
+
+#include <QAbstractButton>
+#include <QLayout>
+#include <QStyleFactory>
+#include <QtTest>
+
+using namespace Qt::StringLiterals;
+using RenduBoutons::Rendu;
+
+namespace {
+
+constexpr QColor kSeparateur(255, 0, 255);
+constexpr QColor kSurlignay(0, 0, 255);
+
+} // namespace
+
+// The parts for menus, the keys and the look.
+class tst_DControleBoutonsExclusifsMenu : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init();
+    void cleanup();
+    void presseSurLaPartie_data();
+    void presseSurLaPartie();
+    void presseACotay();
+    void glisseeVersLaPartie();
+    void autreBoutonDeSouris();
+    void touches_data();
+    void touches();
+    void toucheRepetee();
+    void sansMenu();
+    void affichage();
+    void boutonDesactivay();
+    void recepteurDetruit();
+    void flechesDansLeGroupe_data();
+    void flechesDansLeGroupe();
+    void separateurs();
+    void separateurSansCouleur();
+    void separateurDeLaPartie();
+    void cochayEnSurbrillance();
+    void chevronDansLaPartie_data();
+    void chevronDansLaPartie();
+
+private:
+    DBoutonAvecMenu & Bouton(QVariant const & identifiant) const;
+
+    std::unique_ptr<DControleBoutonsExclusifs> monControle;
+};
+
+void tst_DControleBoutonsExclusifsMenu::init()
+{
+    ThemesQt::Instance()->AjouterVariable(u"couleurSeparateur"_s, kSeparateur);
+    std::vector<DControleBoutonsExclusifs::InfosBouton> const infos{
+        {u"a"_s, 1, true, false}, {u"b"_s, 2, false, true}, {u"c"_s, u"trois"_s, false, true}};
+    monControle = std::make_unique<DControleBoutonsExclusifs>(infos);
+    QPalette palette(Qt::white);
+    palette.setColor(QPalette::Highlight, kSurlignay);
+    monControle->setPalette(palette);
+    RenduBoutons::Dispose(*monControle, QSize(400, 40));
+}
+
+void tst_DControleBoutonsExclusifsMenu::cleanup()
+{
+    monControle.reset();
+    ThemesQt::DetruisToi();
+    QVERIFY(QApplication::topLevelWidgets().isEmpty());
+}
+
+DBoutonAvecMenu & tst_DControleBoutonsExclusifsMenu::Bouton(QVariant const & identifiant) const
+{
+    return *qobject_cast<DBoutonAvecMenu *>(monControle->DonneBouton(identifiant));
+}
+
+void tst_DControleBoutonsExclusifsMenu::presseSurLaPartie_data()
+{
+    QTest::addColumn<Qt::LayoutDirection>("sens");
+    QTest::addColumn<QVariant>("identifiant");
+    QTest::newRow("left to right") << Qt::LeftToRight << QVariant(2);
+    QTest::newRow("right to left") << Qt::RightToLeft << QVariant(2);
+    QTest::newRow("identifier of another type") << Qt::LeftToRight << QVariant(u"trois"_s);
+}
+
+void tst_DControleBoutonsExclusifsMenu::presseSurLaPartie()
+{
+    QFETCH(Qt::LayoutDirection, sens);
+    QFETCH(QVariant, identifiant);
+    monControle->setLayoutDirection(sens);
+    auto & bouton = Bouton(identifiant);
+    QSignalSpy menus(monControle.get(), &DControleBoutonsExclusifs::menuCliquay);
+    QSignalSpy bascules(monControle.get(), &DControleBoutonsExclusifs::toggled);
+    QSignalSpy presses(&bouton, &QAbstractButton::pressed);
+    QSignalSpy clics(&bouton, &QAbstractButton::clicked);
+    int const bord = sens == Qt::LeftToRight ? bouton.width() - 2 : 1;
+    QVERIFY(bouton.DonneRectMenu().contains(QPoint(bord, 5)));
+
+    QTest::mousePress(&bouton, Qt::LeftButton, {}, QPoint(bord, 5));
+    QCOMPARE(menus.count(), 1); // on the press
+    QCOMPARE(menus.at(0).at(0), identifiant);
+    QTest::mouseRelease(&bouton, Qt::LeftButton, {}, QPoint(bord, 5));
+    QCOMPARE(menus.count(), 1);
+    QCOMPARE(bascules.count() + presses.count() + clics.count(), 0);
+    QCOMPARE(monControle->DonneIdentifiantCochay(), QVariant(1));
+}
+
+void tst_DControleBoutonsExclusifsMenu::presseACotay()
+{
+    auto & bouton = Bouton(2);
+    QSignalSpy menus(monControle.get(), &DControleBoutonsExclusifs::menuCliquay);
+    QTest::mouseClick(&bouton, Qt::LeftButton, {}, bouton.DonneRectMenu().topLeft() - QPoint(1, 0));
+    QCOMPARE(menus.count(), 0);
+    QCOMPARE(monControle->DonneIdentifiantCochay(), QVariant(2));
+}
+
+void tst_DControleBoutonsExclusifsMenu::glisseeVersLaPartie()
+{
+    auto & bouton = Bouton(2);
+    QSignalSpy menus(monControle.get(), &DControleBoutonsExclusifs::menuCliquay);
+    QTest::mousePress(&bouton, Qt::LeftButton, {}, QPoint(3, 5));
+    QVERIFY(bouton.isDown());
+    QTest::mouseRelease(&bouton, Qt::LeftButton, {}, bouton.DonneRectMenu().center());
+    QCOMPARE(menus.count(), 0);
+    QCOMPARE(monControle->DonneIdentifiantCochay(), QVariant(1));
+}
+
+void tst_DControleBoutonsExclusifsMenu::autreBoutonDeSouris()
+{
+    auto & bouton = Bouton(2);
+    QSignalSpy menus(monControle.get(), &DControleBoutonsExclusifs::menuCliquay);
+    QTest::mouseClick(&bouton, Qt::RightButton, {}, bouton.DonneRectMenu().center());
+    QCOMPARE(menus.count(), 0);
+}
+
+void tst_DControleBoutonsExclusifsMenu::touches_data()
+{
+    QTest::addColumn<Qt::Key>("touche");
+    QTest::addColumn<Qt::KeyboardModifiers>("modificateurs");
+    QTest::addColumn<int>("compte");
+    QTest::newRow("Alt+Down") << Qt::Key_Down << Qt::KeyboardModifiers(Qt::AltModifier) << 1;
+    QTest::newRow("Alt+Down of the keypad")
+        << Qt::Key_Down << (Qt::AltModifier | Qt::KeypadModifier) << 1;
+    QTest::newRow("F4") << Qt::Key_F4 << Qt::KeyboardModifiers() << 1;
+    QTest::newRow("Down") << Qt::Key_Down << Qt::KeyboardModifiers() << 0;
+    QTest::newRow("Alt+F4 closes windows")
+        << Qt::Key_F4 << Qt::KeyboardModifiers(Qt::AltModifier) << 0;
+    QTest::newRow("Alt+Shift+Down") << Qt::Key_Down << (Qt::AltModifier | Qt::ShiftModifier) << 0;
+    QTest::newRow("Alt+Up") << Qt::Key_Up << Qt::KeyboardModifiers(Qt::AltModifier) << 0;
+}
+
+void tst_DControleBoutonsExclusifsMenu::touches()
+{
+    QFETCH(Qt::Key, touche);
+    QFETCH(Qt::KeyboardModifiers, modificateurs);
+    QFETCH(int, compte);
+    QSignalSpy menus(monControle.get(), &DControleBoutonsExclusifs::menuCliquay);
+    QTest::keyClick(&Bouton(2), touche, modificateurs);
+    QCOMPARE(menus.count(), compte);
+    QCOMPARE(monControle->DonneIdentifiantCochay(), QVariant(1));
+    QTest::keyClick(&Bouton(1), touche, modificateurs); // made without the part
+    QCOMPARE(menus.count(), compte);
+}
+
+void tst_DControleBoutonsExclusifsMenu::toucheRepetee()
+{
+    QSignalSpy menus(monControle.get(), &DControleBoutonsExclusifs::menuCliquay);
+    QKeyEvent repetition(QEvent::KeyPress, Qt::Key_F4, Qt::NoModifier, QString(), true);
+    QCoreApplication::sendEvent(&Bouton(2), &repetition);
+    QCOMPARE(menus.count(), 0);
+}
+
+void tst_DControleBoutonsExclusifsMenu::sansMenu()
+{
+    monControle->AjusterAffichageMenuBoutons(1, true);
+    auto & bouton = Bouton(1);
+    QVERIFY(!bouton.MenuEstAffichay());
+    QVERIFY(bouton.DonneRectMenu().isNull());
+    QSignalSpy menus(monControle.get(), &DControleBoutonsExclusifs::menuCliquay);
+    monControle->MetsCochay(2, true);
+    QTest::mouseClick(&bouton, Qt::LeftButton, {}, QPoint(bouton.width() - 2, 5));
+    QCOMPARE(menus.count(), 0);
+    QCOMPARE(monControle->DonneIdentifiantCochay(), QVariant(1));
+}
+
+void tst_DControleBoutonsExclusifsMenu::affichage()
+{
+    auto & bouton = Bouton(2);
+    QSignalSpy menus(monControle.get(), &DControleBoutonsExclusifs::menuCliquay);
+    int const largeur = bouton.sizeHint().width();
+    int const part = bouton.DonneRectMenu().width();
+    QPoint const position = bouton.DonneRectMenu().center();
+    monControle->AjusterAffichageMenuBoutons(99, false);
+    QVERIFY(bouton.MenuEstAffichay());
+
+    monControle->AjusterAffichageMenuBoutons(2, false);
+    QVERIFY(!bouton.MenuEstAffichay());
+    QVERIFY(Bouton(u"trois"_s).MenuEstAffichay());
+    QCOMPARE(bouton.sizeHint().width(), largeur - part);
+    QCOMPARE(bouton.minimumSizeHint().width(), largeur - part);
+    QTest::keyClick(&bouton, Qt::Key_F4);
+    QTest::mouseClick(&bouton, Qt::LeftButton, {}, position);
+    QCOMPARE(menus.count(), 0);
+    QCOMPARE(monControle->DonneIdentifiantCochay(), QVariant(2)); // the whole button clicks
+
+    monControle->AjusterAffichageMenuBoutons(2, true);
+    QCOMPARE(bouton.sizeHint().width(), largeur);
+    QTest::mouseClick(&bouton, Qt::LeftButton, {}, bouton.DonneRectMenu().center());
+    QCOMPARE(menus.count(), 1);
+}
+
+void tst_DControleBoutonsExclusifsMenu::boutonDesactivay()
+{
+    auto & bouton = Bouton(2);
+    bouton.setEnabled(false);
+    QSignalSpy menus(monControle.get(), &DControleBoutonsExclusifs::menuCliquay);
+    QTest::mouseClick(&bouton, Qt::LeftButton, {}, bouton.DonneRectMenu().center());
+    QCOMPARE(menus.count(), 0);
+}
+
+void tst_DControleBoutonsExclusifsMenu::recepteurDetruit()
+{
+    connect(monControle.get(), &DControleBoutonsExclusifs::menuCliquay, this,
+            [this] { monControle.reset(); });
+    QKeyEvent evenement(QEvent::KeyPress, Qt::Key_F4, Qt::NoModifier);
+    QCoreApplication::sendEvent(&Bouton(2), &evenement);
+    QVERIFY(!monControle);
+}
+
+void tst_DControleBoutonsExclusifsMenu::flechesDansLeGroupe_data()
+{
+    QTest::addColumn<Qt::LayoutDirection>("sens");
+    QTest::addColumn<Qt::Key>("touche");
+    QTest::newRow("right") << Qt::LeftToRight << Qt::Key_Right;
+    QTest::newRow("left, from right to left") << Qt::RightToLeft << Qt::Key_Left;
+}
+
+void tst_DControleBoutonsExclusifsMenu::flechesDansLeGroupe()
+{
+    QFETCH(Qt::LayoutDirection, sens);
+    QFETCH(Qt::Key, touche);
+    monControle->setAttribute(Qt::WA_DontShowOnScreen, false);
+    monControle->hide();
+    monControle->setLayoutDirection(sens);
+    monControle->show();
+    monControle->activateWindow();
+    Bouton(1).setFocus();
+    QTRY_VERIFY(Bouton(1).hasFocus());
+    QTest::keyClick(&Bouton(1), touche);
+    QCOMPARE(monControle->DonneIdentifiantCochay(), QVariant(2));
+    QVERIFY(Bouton(2).hasFocus());
+    QTest::keyClick(&Bouton(2), touche);
+    QCOMPARE(monControle->DonneIdentifiantCochay(), QVariant(u"trois"_s));
+}
+
+void tst_DControleBoutonsExclusifsMenu::separateurs()
+{
+    for (int i : {1, 3}) {
+        QWidget & separateur = *monControle->layout()->itemAt(i)->widget();
+        QCOMPARE(separateur.width(), 1);
+        QCOMPARE(separateur.height(), monControle->height());
+        QCOMPARE(Encre::BornesDe(Rendu(separateur), kSeparateur), separateur.rect());
+        // The theme does not tell of changes: the next painting shows them.
+        ThemesQt::Instance()->AjouterVariable(u"couleurSeparateur"_s, QColor(Qt::green));
+        QCOMPARE(Encre::BornesDe(Rendu(separateur), Qt::green), separateur.rect());
+        ThemesQt::Instance()->AjouterVariable(u"couleurSeparateur"_s, kSeparateur);
+    }
+}
+
+void tst_DControleBoutonsExclusifsMenu::separateurSansCouleur()
+{
+    ThemesQt::Instance()->AjouterVariable(u"couleurSeparateur"_s, u"aucune"_s);
+    QVERIFY(Encre::BornesEncre(Rendu(*monControle->layout()->itemAt(1)->widget())).isNull());
+    QImage const image = Rendu(Bouton(2));
+    QPoint const position(Bouton(2).DonneRectMenu().left(), image.height() / 2);
+    QVERIFY(image.pixelColor(position) != QColor(Qt::black));
+}
+
+void tst_DControleBoutonsExclusifsMenu::separateurDeLaPartie()
+{
+    auto & bouton = Bouton(2);
+    QRect const trait = Encre::BornesDe(Rendu(bouton), kSeparateur);
+    QCOMPARE(trait.left(), bouton.DonneRectMenu().left());
+    QCOMPARE(trait.width(), 1);
+    monControle->AjusterAffichageMenuBoutons(2, false);
+    QVERIFY(Encre::BornesDe(Rendu(bouton), kSeparateur).isNull());
+}
+
+void tst_DControleBoutonsExclusifsMenu::cochayEnSurbrillance()
+{
+    std::unique_ptr<QStyle> const style(QStyleFactory::create(u"Fusion"_s));
+    auto const bleus = [&](QVariant const & identifiant) {
+        Bouton(identifiant).setStyle(style.get());
+        Bouton(identifiant).setText({}); // which fonts may edge with blue
+        return Encre::Bornes(Rendu(Bouton(identifiant)),
+                             [](QColor const & pixel) { return pixel.blue() > pixel.red() + 60; });
+    };
+    QVERIFY(bleus(1).width() > Bouton(1).width() / 2);
+    QVERIFY(bleus(2).isNull());
+    monControle->MetsCochay(2, true);
+    QVERIFY(bleus(1).isNull());
+    QVERIFY(bleus(2).width() > Bouton(2).width() / 2);
+    Bouton(2).setEnabled(false);
+    QVERIFY(bleus(2).isNull());
+}
+
+void tst_DControleBoutonsExclusifsMenu::chevronDansLaPartie_data()
+{
+    QTest::addColumn<Qt::LayoutDirection>("sens");
+    QTest::newRow("left to right") << Qt::LeftToRight;
+    QTest::newRow("right to left") << Qt::RightToLeft;
+}
+
+// The text keeps clear of the part.
+void tst_DControleBoutonsExclusifsMenu::chevronDansLaPartie()
+{
+    QFETCH(Qt::LayoutDirection, sens);
+    monControle->setLayoutDirection(sens);
+    auto & bouton = Bouton(2);
+    QPalette palette = bouton.palette();
+    palette.setColor(QPalette::ButtonText, Qt::red);
+    bouton.setPalette(palette);
+    bouton.setText(u"mmmmmmmmmmmmmmmmmmmmmmmmmmmmmmmmmmmmmmmmmmmmmmmmmmmmmm"_s);
+    bouton.resize(100, 30);
+    auto const encre = [&] {
+        QImage const image = Rendu(bouton).copy(bouton.DonneRectMenu().adjusted(3, 3, -3, -3));
+        return Encre::Bornes(image,
+                             [](QColor const & pixel) { return pixel.red() > pixel.green() + 60; });
+    };
+    QRect const chevron = encre();
+    QVERIFY(!chevron.isNull());
+    bouton.setText({});
+    QCOMPARE(encre(), chevron);
+}
+
+QTEST_MAIN(tst_DControleBoutonsExclusifsMenu)
+#include "tst_DControleBoutonsExclusifsMenu.moc"

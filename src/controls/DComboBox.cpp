@@ -11,6 +11,7 @@
 #include <QPointer>
 #include <QSignalBlocker>
 #include <QStyleOptionComboBox>
+#include <QTableView>
 #include <QWheelEvent>
 
 #include <optional>
@@ -89,6 +90,7 @@ void DComboBox::showPopup()
         QComboBox::showPopup();
     }
     setMaxVisibleItems(lignes);
+    RetireEspaceDuCachay();
     if (monMasqueur->EstCachay(view()->currentIndex())) {
         monMasqueur->OublieCourantCachay();
         view()->scrollToTop();
@@ -136,6 +138,22 @@ void DComboBox::wheelEvent(QWheelEvent * evenement)
     else if (delta < 0)
         Active(monMasqueur->DonneLigneSuivante(std::max(currentIndex(), 0), 1));
     evenement->accept();
+}
+
+// The base gives the hidden row no height, but the space between it and the next one.
+void DComboBox::RetireEspaceDuCachay()
+{
+    int espace = 0;
+    if (auto const * const liste = qobject_cast<QListView const *>(view()))
+        espace = 2 * liste->spacing();
+    else if (auto const * const table = qobject_cast<QTableView const *>(view()))
+        espace = table->showGrid() ? 1 : 0;
+    if (espace == 0)
+        return;
+    QWidget * const cadre = view()->parentWidget();
+    bool const auDessus = cadre->y() < mapToGlobal(QPoint(0, 0)).y();
+    cadre->setGeometry(
+        cadre->geometry().adjusted(0, auDessus ? espace : 0, 0, auDessus ? 0 : -espace));
 }
 
 // The keys with which QComboBox could make row 0 the current one; it looks at the flags of the
@@ -197,8 +215,8 @@ void DComboBox::Active(int ligne)
         return;
     QPointer<DComboBox> const vivant(this);
     setCurrentIndex(ligne);
-    if (vivant)
+    if (vivant && currentIndex() >= 0)
         Q_EMIT activated(currentIndex());
-    if (vivant)
+    if (vivant && currentIndex() >= 0)
         Q_EMIT textActivated(itemText(currentIndex()));
 }

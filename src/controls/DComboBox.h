@@ -49,6 +49,7 @@ protected:
 private:
     bool TraiteTouche(QKeyEvent const & evenement);
     bool TraiteToucheDeLaListe(QKeyEvent const & evenement);
+    void RetireEspaceDuCachay();
     void Active(int ligne);
 
     MasqueurPremierElement * monMasqueur = nullptr; // a child

@@ -18,9 +18,17 @@ constexpr int kEspacement = 7;
 
 constexpr int kColonnes = 2; // label and widget
 
+// The line of a QFrame takes its colours from the background, and would be transparent too.
+constexpr auto kFeuilleDeStyle =
+    "QFrame{background-color:transparent;}"
+    "QFrame>QLabel { color: gray; font-weight: bold; }"
+    "QFrame#Separateur{border:none;border-top:1px solid palette(mid);}"_L1;
+
 bool PrendLeFocusAuClavier(QWidget const & widget)
 {
-    return (widget.focusPolicy() & Qt::TabFocus) && widget.isVisible() && widget.isEnabled();
+    // The field of a spin box hands the focus back to it.
+    return (widget.focusPolicy() & Qt::TabFocus) && !widget.focusProxy() && widget.isVisible() &&
+           widget.isEnabled();
 }
 
 } // namespace
@@ -29,8 +37,7 @@ DMenuAction::DMenuAction(QWidget * parent)
     : QFrame(parent)
 {
     CreeGrille();
-    setStyleSheet(u"QFrame{background-color:transparent;}"
-                  "QFrame>QLabel { color: gray; font-weight: bold; }"_s);
+    setStyleSheet(kFeuilleDeStyle);
     // QMenu takes a click beside the widgets as one on the action, and closes.
     setAttribute(Qt::WA_NoMousePropagation);
     CreeMenu(parent);

@@ -65,8 +65,8 @@ void DPopUpMenu::AfficheToi(QPoint const & position, QSize const & taille)
         move(position);
     }
     Replace();
-    show();
     maDernierePlace = pos();
+    show();
 }
 
 void DPopUpMenu::moveEvent(QMoveEvent * evenement)
@@ -88,12 +88,21 @@ void DPopUpMenu::closeEvent(QCloseEvent * evenement)
     Q_EMIT SignalPopupEnFermeture();
 }
 
+QRect DPopUpMenu::DonneAncre() const
+{
+    if (maTaille.width() <= 0 && maTaille.height() <= 0)
+        return {};
+    // Nothing intersects a rectangle without width or height, such as that of a text cursor.
+    return {maPosition, maTaille.expandedTo(QSize(1, 1))};
+}
+
 void DPopUpMenu::Replace()
 {
     if (monReplacementEnCours)
         return;
     QScopedValueRollback const enCours(monReplacementEnCours, true);
-    QRect const ancre(maPosition, maTaille);
+    bool const placeParNous = pos() == maDernierePlace;
+    QRect const ancre = DonneAncre();
     QRect const popup = rect().translated(pos());
     RoutinesFenetre::DeplaceFenetreSiSorsDeLecranOuSurRect(this, popup, ancre, QRect(), QRect(),
                                                            kEcart, RoutinesFenetre::kAuDessusForce);
@@ -101,4 +110,6 @@ void DPopUpMenu::Replace()
     QScreen const * const ecran = RoutinesGeneralesQt::EcranLePlusProche(popup.topLeft());
     if (ecran && !ecran->availableGeometry().contains(rect().translated(pos())))
         move(PlaceAilleurs(ecran->availableGeometry(), ancre, popup).topLeft());
+    if (placeParNous)
+        maDernierePlace = pos();
 }

@@ -19,8 +19,11 @@ class FABRELGUI_EXPORT DPopUpMenu : public QFrame
 public:
     explicit DPopUpMenu(QWidget * parent = nullptr);
 
-    /// Shows the pop-up beside the rectangle of this position and size, in global coordinates. One
-    /// that its host has moved since the last call stays where it is, if that place is allowed.
+    /// Shows the pop-up beside the rectangle of this position and size, in global coordinates. A
+    /// rectangle without width or without height is a line; without either it is nowhere in the
+    /// way, and the pop-up stands at its position.
+    ///
+    /// A pop-up that its host has moved since the last call stays there, if the place is allowed.
     void AfficheToi(QPoint const & position, QSize const & taille);
 
 Q_SIGNALS:
@@ -33,10 +36,11 @@ protected:
     void closeEvent(QCloseEvent * evenement) override;
 
 private:
+    QRect DonneAncre() const;
     void Replace();
 
     QPoint maPosition; // of the rectangle to keep clear of
-    QSize maTaille;
-    QPoint maDernierePlace; // where the last call of AfficheToi left it
+    QSize maTaille = QSize(0, 0);
+    QPoint maDernierePlace; // where it is if its host has not moved it since
     bool monReplacementEnCours = false;
 };

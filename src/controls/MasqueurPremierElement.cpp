@@ -46,7 +46,7 @@ bool EstAccessible(QModelIndex const & index)
 class FiltreDuPremier : public QSortFilterProxyModel
 {
 public:
-    FiltreDuPremier(MasqueurPremierElement const & masqueur, QAbstractItemModel * modele,
+    FiltreDuPremier(MasqueurPremierElement const * masqueur, QAbstractItemModel * modele,
                     QObject * parent)
         : QSortFilterProxyModel(parent)
         , monMasqueur(masqueur)
@@ -64,11 +64,12 @@ public:
 protected:
     bool filterAcceptsRow(int ligne, QModelIndex const & parent) const override
     {
-        return !monMasqueur.EstCachay(sourceModel()->index(ligne, 0, parent));
+        return !monMasqueur || !monMasqueur->EstCachay(sourceModel()->index(ligne, 0, parent));
     }
 
 private:
-    MasqueurPremierElement const & monMasqueur;
+    // A completer may outlive the combo box.
+    QPointer<MasqueurPremierElement const> monMasqueur;
 };
 
 } // namespace
@@ -196,7 +197,7 @@ void MasqueurPremierElement::FiltreCompleteur()
     }
     if (completeur->model() != monModele || filtray)
         return;
-    monFiltre = new FiltreDuPremier(*this, monModele, completeur);
+    monFiltre = new FiltreDuPremier(this, monModele, completeur);
     completeur->setModel(monFiltre);
 }
 

@@ -3,6 +3,9 @@
 
 #include <QApplication>
 
+#include <algorithm>
+#include <chrono>
+
 QModelIndex RechercheAuClavier::Cherche(QString const & lettres, QModelIndex const & courant,
                                         QModelIndexList const & candidats)
 {
@@ -24,8 +27,10 @@ QModelIndex RechercheAuClavier::Cherche(QString const & lettres, QModelIndex con
 // True when they begin a new text.
 bool RechercheAuClavier::AjouteLettres(QString const & lettres)
 {
+    using namespace std::chrono;
+    milliseconds const intervalle(QApplication::keyboardInputInterval());
     bool const nouvelle =
-        !monChrono.isValid() || monChrono.elapsed() > QApplication::keyboardInputInterval();
+        !monChrono.isValid() || nanoseconds(monChrono.nsecsElapsed()) > intervalle;
     monChrono.start();
     if (nouvelle)
         monTexte.clear();

@@ -135,6 +135,7 @@ QWidget * PageCombos::CreePremierCachay()
     grille->addWidget(CreeApercuListe(*monPremierCachay), 1, 1, 3, 1,
                       Qt::AlignTop | Qt::AlignLeading);
     grille->setColumnStretch(2, 1);
+    grille->setRowStretch(4, 1);
     return groupe;
 }
 

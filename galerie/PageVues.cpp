@@ -14,6 +14,7 @@
 #include <QGroupBox>
 #include <QHeaderView>
 #include <QLabel>
+#include <QResizeEvent>
 #include <QSplitter>
 #include <QVBoxLayout>
 
@@ -24,7 +25,6 @@ namespace {
 // Logical pixels.
 constexpr int kHauteurDuHaut = 130;
 constexpr int kHauteurTrace = 66;
-constexpr int kLargeurColonne = 140;
 
 constexpr int kChapitres = 100;
 constexpr int kSections = PageVues::kRangsDeLArbre / kChapitres - 1; // of each chapter
@@ -60,29 +60,38 @@ PageVues::PageVues(QWidget * parent)
     disposition->addLayout(grille, 1);
 }
 
+bool PageVues::eventFilter(QObject * objet, QEvent * evenement)
+{
+    if (evenement->type() == QEvent::Resize) {
+        auto const & changement = *static_cast<QResizeEvent *>(evenement);
+        if (!changement.oldSize().isValid())
+            EgaliseColonnes(changement.size().width());
+    }
+    return QWidget::eventFilter(objet, evenement);
+}
+
 QWidget * PageVues::CreeArbresRedimensionnables()
 {
     auto * const separateur = new QSplitter(Qt::Horizontal);
     separateur->setObjectName(u"separateur"_s);
     separateur->setFixedHeight(kHauteurDuHaut);
 
-    auto * const reparti = new DTreeView(separateur);
-    reparti->setObjectName(u"arbreReparti"_s);
-    reparti->setAccessibleName(TraductionGalerie(TexteGalerie("Colonnes réparties")));
+    monArbreReparti = new DTreeView(separateur);
+    monArbreReparti->setObjectName(u"arbreReparti"_s);
+    monArbreReparti->setAccessibleName(TraductionGalerie(TexteGalerie("Colonnes réparties")));
     QStringList const noms = {TraductionGalerie(TexteGalerie("Première colonne")),
                               TraductionGalerie(TexteGalerie("Deuxième colonne")),
                               TraductionGalerie(TexteGalerie("Troisième colonne"))};
     mesColonnes.appendRow(CreeRang(noms));
     mesColonnes.item(0)->appendRow(CreeRang({u"1.1"_s, u"1.2"_s, u"1.3"_s}));
     mesColonnes.item(0)->appendRow(CreeRang({u"2.1"_s, u"2.2"_s, u"2.3"_s}));
-    reparti->setModel(&mesColonnes);
-    reparti->setHeaderHidden(true);
-    reparti->setAlternatingRowColors(true);
-    reparti->header()->setStretchLastSection(false);
-    for (int colonne = 0; colonne < noms.size(); ++colonne)
-        reparti->setColumnWidth(colonne, kLargeurColonne);
-    reparti->MetsRedimensionnementAvecResizeEvent(true);
-    reparti->expandAll();
+    monArbreReparti->setModel(&mesColonnes);
+    monArbreReparti->setHeaderHidden(true);
+    monArbreReparti->setAlternatingRowColors(true);
+    monArbreReparti->header()->setStretchLastSection(false);
+    monArbreReparti->MetsRedimensionnementAvecResizeEvent(true);
+    monArbreReparti->expandAll();
+    monArbreReparti->viewport()->installEventFilter(this);
 
     auto * const vide = new DTreeView(separateur);
     vide->setObjectName(u"arbreVide"_s);
@@ -186,4 +195,12 @@ QWidget * PageVues::CreeLongArbre()
     arbre->expandAll();
     disposition->addWidget(arbre);
     return groupe;
+}
+
+void PageVues::EgaliseColonnes(int largeur)
+{
+    int const colonnes = mesColonnes.columnCount();
+    for (int colonne = 0; colonne < colonnes; ++colonne)
+        monArbreReparti->setColumnWidth(colonne, largeur / colonnes +
+                                                     (colonne < largeur % colonnes ? 1 : 0));
 }

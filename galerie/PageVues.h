@@ -4,7 +4,7 @@
 #include <QStandardItemModel>
 #include <QWidget>
 
-class TraceSignaux;
+class DTreeView;
 
 /// The item views: columns that share the width, an empty tree, check boxes, clicks, and a long
 /// tree for the finger.
@@ -17,6 +17,9 @@ public:
 
     explicit PageVues(QWidget * parent = nullptr);
 
+    /// Shares the width among the columns when it is first known; the tree does it from then on.
+    bool eventFilter(QObject * objet, QEvent * evenement) override;
+
 private:
     QWidget * CreeArbresRedimensionnables();
     QWidget * CreeTable();
@@ -24,6 +27,9 @@ private:
     QWidget * CreeListe();
     QWidget * CreeLongArbre();
 
+    void EgaliseColonnes(int largeur);
+
+    DTreeView * monArbreReparti = nullptr;
     QStandardItemModel mesColonnes;
     QStandardItemModel mesTaches;
     QStandardItemModel mesLettres;

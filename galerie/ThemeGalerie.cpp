@@ -53,6 +53,8 @@ QPalette DonnePalette()
         MetsCouleur(palette, QPalette::All, role, nom);
     for (auto const role : {QPalette::ButtonText, QPalette::Text, QPalette::WindowText})
         MetsCouleur(palette, QPalette::Disabled, role, u"couleurTexteGris"_s);
+    // The thumb of a disabled switch, on a track in the colour of shadows.
+    MetsCouleur(palette, QPalette::Disabled, QPalette::Mid, u"couleurTexteGris"_s);
     // The style paints a default button in this colour, also one that is disabled.
     MetsCouleur(palette, QPalette::Disabled, QPalette::Highlight, u"couleurFondBoutonHover"_s);
     return palette;
@@ -68,8 +70,8 @@ void MetsBords(QPalette palette)
     QColor const bordure = Couleur(u"couleurBordureGeneral"_s);
     if (palette.color(QPalette::Window).lightness() < kMilieu && bordure.isValid())
         palette.setColor(QPalette::Window, bordure.lighter(kFacteurDesBords));
-    for (char const * const classe : {"QAbstractSpinBox", "QCheckBox", "QComboBox", "QLineEdit",
-                                      "QPlainTextEdit", "QRadioButton"})
+    for (char const * const classe : {"QAbstractItemView", "QAbstractSpinBox", "QCheckBox",
+                                      "QComboBox", "QLineEdit", "QPlainTextEdit", "QRadioButton"})
         QApplication::setPalette(palette, classe);
 }
 

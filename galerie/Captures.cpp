@@ -58,7 +58,11 @@ private:
         QString const nom = u"%1-%2%3-%4.png"_s.arg(page + 1, 2, 10, QChar(u'0'))
                                 .arg(description.nom, variante, langue);
         maFenetre.MontrePage(page);
-        QCoreApplication::processEvents(); // layouts settle on events
+        // Layouts settle on events, and scroll bars that come or go while a picture is taken ask for
+        // a second round.
+        QCoreApplication::processEvents();
+        maFenetre.grab(QRect(0, 0, 1, 1));
+        QCoreApplication::processEvents();
         monSucces = maFenetre.grab().save(monDossier.filePath(nom)) && monSucces;
         mesFigures += u"<figure lang=\"%1\"><figcaption>%2</figcaption><img src=\"%3\" alt=\"%2\" "
                       "width=\"%4\"></figure>\n"_s

@@ -68,10 +68,15 @@ void MetsBords(QPalette palette)
     constexpr int kMilieu = 128;          // of the lightness, 0 to 255
     constexpr int kFacteurDesBords = 140; // percent: QColor::darker, as the style calls it
     QColor const bordure = Couleur(u"couleurBordureGeneral"_s);
-    if (palette.color(QPalette::Window).lightness() < kMilieu && bordure.isValid())
+    bool const sombre = palette.color(QPalette::Window).lightness() < kMilieu && bordure.isValid();
+    // A little darker than the others: views have grids too.
+    if (sombre)
+        palette.setColor(QPalette::Window, bordure);
+    QApplication::setPalette(palette, "QAbstractItemView");
+    if (sombre)
         palette.setColor(QPalette::Window, bordure.lighter(kFacteurDesBords));
-    for (char const * const classe : {"QAbstractItemView", "QAbstractSpinBox", "QCheckBox",
-                                      "QComboBox", "QLineEdit", "QPlainTextEdit", "QRadioButton"})
+    for (char const * const classe : {"QAbstractSpinBox", "QCheckBox", "QComboBox", "QLineEdit",
+                                      "QPlainTextEdit", "QRadioButton"})
         QApplication::setPalette(palette, classe);
 }
 

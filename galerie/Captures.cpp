@@ -58,11 +58,7 @@ private:
         QString const nom = u"%1-%2%3-%4.png"_s.arg(page + 1, 2, 10, QChar(u'0'))
                                 .arg(description.nom, variante, langue);
         maFenetre.MontrePage(page);
-        // Layouts settle on events, and scroll bars that come or go while a picture is taken ask for
-        // a second round.
-        QCoreApplication::processEvents();
-        maFenetre.grab(QRect(0, 0, 1, 1));
-        QCoreApplication::processEvents();
+        QCoreApplication::processEvents(); // layouts settle on events
         monSucces = maFenetre.grab().save(monDossier.filePath(nom)) && monSucces;
         mesFigures += u"<figure lang=\"%1\"><figcaption>%2</figcaption><img src=\"%3\" alt=\"%2\" "
                       "width=\"%4\"></figure>\n"_s
@@ -83,6 +79,9 @@ bool EcrisCaptures(FenetreGalerie & fenetre, ThemeGalerie & theme, QString const
 {
     Album album(fenetre, dossier);
     bool applique = true;
+    // As if it were on the screen: some widgets lay out nothing while they are hidden.
+    fenetre.setAttribute(Qt::WA_DontShowOnScreen);
+    fenetre.show();
     for (DescriptionLangue const & langue : DonneLangues()) {
         if (langue.langue == kLangueAnglaisCanada)
             continue; // its pictures would be those of English

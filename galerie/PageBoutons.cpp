@@ -13,6 +13,7 @@
 #include "controls/DRadioButton.h"
 #include "controls/DToggleButton.h"
 #include "controls/DToolButtonRiche.h"
+#include "foundation/Polices.h"
 
 #include <QButtonGroup>
 #include <QCheckBox>
@@ -241,7 +242,8 @@ QWidget * PageBoutons::CreeCliquables()
     auto * const groupe =
         new QGroupBox(TraductionGalerie(TexteGalerie("Image et étiquette cliquables")));
     auto * const disposition = new QHBoxLayout(groupe);
-    auto * const image = new DImageCliquable(QPixmap(u":/images/echantillon.png"_s));
+    auto * const image =
+        new DImageCliquable(RoutinesGeneralesQt::DonnePixmapAvecDPI(u":/images/echantillon.png"_s));
     image->setAccessibleName(TraductionGalerie(TexteGalerie("Image cliquable")));
     disposition->addWidget(image);
     auto * const etiquette =

@@ -7,6 +7,7 @@
 #include "TraceSignaux.h"
 #include "TraductionGalerie.h"
 
+#include "foundation/Polices.h"
 #include "touch/DDefileurTactile.h"
 #include "touch/DZoomTactile.h"
 
@@ -149,7 +150,8 @@ QWidget * PageTactile::CreeListe()
 
 QWidget * PageTactile::CreeImage()
 {
-    monImage = new ImageZoomable(QPixmap(u":/images/echantillon.png"_s));
+    monImage =
+        new ImageZoomable(RoutinesGeneralesQt::DonnePixmapAvecDPI(u":/images/echantillon.png"_s));
     monImage->setAccessibleName(TraductionGalerie(TexteGalerie("Image à pincer")));
     monFacteur = new QLabel;
     monFacteur->setObjectName(u"facteur"_s);
@@ -294,7 +296,7 @@ void PageTactile::MontreFacteur()
 // The trace shows what it is for before the user has touched anything.
 void PageTactile::Demontre()
 {
-    grab(QRect(0, 0, 1, 1)); // lays out a page that is not shown
+    grab(QRect(0, 0, 1, 1)); // a layout that has not had its turn has it now
     PriseStylet();
     PriseEcarter();
     Annonce(*monGlisser);

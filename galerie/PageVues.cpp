@@ -22,9 +22,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-// Logical pixels.
-constexpr int kHauteurDuHaut = 130;
-constexpr int kHauteurTrace = 66;
+constexpr int kHauteurTrace = 66; // logical pixels
 
 constexpr int kChapitres = 100;
 constexpr int kSections = PageVues::kRangsDeLArbre / kChapitres - 1; // of each chapter
@@ -49,7 +47,7 @@ PageVues::PageVues(QWidget * parent)
                        TraductionGalerie(TexteGalerie(
                            "Les vues de la bibliothèque. Un double clic sur une case la coche deux "
                            "fois, un doigt fait défiler les arbres.")));
-    disposition->addWidget(CreeArbresRedimensionnables());
+    disposition->addWidget(CreeArbresRedimensionnables(), 1);
     auto * const grille = new QGridLayout;
     grille->addWidget(CreeTable(), 0, 0);
     grille->addWidget(CreeListeCliquee(), 1, 0);
@@ -57,7 +55,7 @@ PageVues::PageVues(QWidget * parent)
     grille->addWidget(CreeLongArbre(), 1, 1);
     grille->setColumnStretch(0, 1);
     grille->setColumnStretch(1, 1);
-    disposition->addLayout(grille, 1);
+    disposition->addLayout(grille, 4);
 }
 
 bool PageVues::eventFilter(QObject * objet, QEvent * evenement)
@@ -74,7 +72,6 @@ QWidget * PageVues::CreeArbresRedimensionnables()
 {
     auto * const separateur = new QSplitter(Qt::Horizontal);
     separateur->setObjectName(u"separateur"_s);
-    separateur->setFixedHeight(kHauteurDuHaut);
 
     monArbreReparti = new DTreeView(separateur);
     monArbreReparti->setObjectName(u"arbreReparti"_s);

@@ -18,12 +18,13 @@
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QListWidget>
+#include <QLocale>
 #include <QMetaEnum>
 #include <QPushButton>
 #include <QScrollArea>
 #include <QVBoxLayout>
 
-#include <utility>
+#include <algorithm>
 
 using namespace Qt::StringLiterals;
 
@@ -222,16 +223,18 @@ void PageTactile::RendsTactile(QAbstractScrollArea & aire, QString const & nom)
 
 void PageTactile::Branche()
 {
-    std::pair<QPushButton *, void (PageTactile::*)()> const prises[] = {
-        {monToucher, &PageTactile::PriseToucher},
-        {monDoubleToucher, &PageTactile::PriseDoubleToucher},
-        {monGlisser, &PageTactile::PriseGlisser},
-        {monStylet, &PageTactile::PriseStylet},
-        {monEcarter, &PageTactile::PriseEcarter},
-        {monRapprocher, &PageTactile::PriseRapprocher},
-    };
-    for (auto const & [bouton, prise] : prises)
-        connect(bouton, &QPushButton::clicked, this, prise, Qt::UniqueConnection);
+    connect(monToucher, &QPushButton::clicked, this, &PageTactile::PriseToucher,
+            Qt::UniqueConnection);
+    connect(monDoubleToucher, &QPushButton::clicked, this, &PageTactile::PriseDoubleToucher,
+            Qt::UniqueConnection);
+    connect(monGlisser, &QPushButton::clicked, this, &PageTactile::PriseGlisser,
+            Qt::UniqueConnection);
+    connect(monStylet, &QPushButton::clicked, this, &PageTactile::PriseStylet,
+            Qt::UniqueConnection);
+    connect(monEcarter, &QPushButton::clicked, this, &PageTactile::PriseEcarter,
+            Qt::UniqueConnection);
+    connect(monRapprocher, &QPushButton::clicked, this, &PageTactile::PriseRapprocher,
+            Qt::UniqueConnection);
     connect(monEffacer, &QPushButton::clicked, maTrace, &TraceSignaux::clear, Qt::UniqueConnection);
     auto const * const zoom = new DZoomTactile(monImage);
     connect(zoom, &DZoomTactile::SignalZoomTactile, this, &PageTactile::PriseZoom,

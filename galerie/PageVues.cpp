@@ -14,6 +14,7 @@
 #include <QGroupBox>
 #include <QHeaderView>
 #include <QLabel>
+#include <QLocale>
 #include <QResizeEvent>
 #include <QSplitter>
 #include <QVBoxLayout>

@@ -6,8 +6,8 @@
 #include "touch/DGestionnaireGestureAbs.h"
 
 #include <QElapsedTimer>
+#include <QEvent>
 
-class QGestureEvent;
 class QTapGesture;
 
 /// Makes clicks of the left mouse button from the taps of a finger on a widget, and double clicks

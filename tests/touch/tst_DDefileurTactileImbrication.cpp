@@ -147,11 +147,14 @@ void tst_DDefileurTactileImbrication::focusDeuxFois()
     AireExterne externe(&fenetre);
     QListWidget * const interne = CreeInterne(externe.widget());
     QVERIFY(Montre(fenetre));
+    int const dernierGeste = QScroller::grabbedGesture(interne->viewport());
     Focalise(interne, QEvent::FocusIn);
     Focalise(interne, QEvent::FocusIn);
     QVERIFY(!EstAlEcoute(&externe));
     Focalise(interne, QEvent::FocusOut);
     QVERIFY(EstAlEcoute(&externe));
+    // Qt numbers the gestures that are grabbed: the scroller has come back once.
+    QCOMPARE(int(QScroller::grabbedGesture(externe.viewport())), dernierGeste + 1);
     Focalise(interne, QEvent::FocusOut);
     QVERIFY(EstAlEcoute(&externe));
 }

@@ -143,8 +143,10 @@ void DToolButtonRiche::changeEvent(QEvent * evenement)
 void DToolButtonRiche::getStyleOption(QStyleOptionToolButton * option) const
 {
     initStyleOption(option);
+    option->text = text();
     // A style sheet may give the text a colour of its own, under which a transparent brush is lost.
-    option->text.clear();
+    if (style()->inherits("QStyleSheetStyle"))
+        option->text.clear();
 }
 
 void DToolButtonRiche::RendsTexteTransparent()

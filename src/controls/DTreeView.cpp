@@ -81,9 +81,7 @@ void DTreeView::showEvent(QShowEvent * evenement)
     if (!monDefileurEstCree) {
         monDefileurEstCree = true;
         new DDefileurTactile(this);
-        auto const * const zoom = new DZoomTactile(viewport());
-        connect(zoom, &DZoomTactile::SignalZoomTactile, this, &DTreeView::SignalZoomTactile,
-                Qt::UniqueConnection);
+        CreeZoom(*viewport());
     }
     QTreeView::showEvent(evenement);
 }
@@ -114,6 +112,20 @@ void DTreeView::scrollContentsBy(int dx, int dy)
     QTreeView::scrollContentsBy(dx, dy);
     if (MontreMessage())
         viewport()->update(); // the base has moved the pixels of a text that stays where it is
+}
+
+void DTreeView::setupViewport(QWidget * viewport)
+{
+    QTreeView::setupViewport(viewport);
+    if (monDefileurEstCree)
+        CreeZoom(*viewport); // the one before goes with the viewport before
+}
+
+void DTreeView::CreeZoom(QWidget & viewport)
+{
+    auto const * const zoom = new DZoomTactile(&viewport);
+    connect(zoom, &DZoomTactile::SignalZoomTactile, this, &DTreeView::SignalZoomTactile,
+            Qt::UniqueConnection);
 }
 
 bool DTreeView::MontreMessage() const

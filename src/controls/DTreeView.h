@@ -26,11 +26,11 @@ public:
     /// Whether the columns share what the width of the view gains or loses, pixel by pixel and in
     /// the order of their logical indexes; off at first.
     ///
-    /// Only while the header is hidden. Columns that are hidden, or whose resize mode is neither
-    /// `Interactive` nor `Stretch`, keep their widths, as does one that has reached the smallest or
-    /// the largest width of a section. Pixels that no column can take are dropped. Each column
-    /// that changes is resized once per event, so that `sectionResized` tells its whole change. Qt
-    /// lays out the sections that it stretches once more, in the room that the others leave.
+    /// Only while the header is not visible. Columns that are hidden, or whose resize mode is
+    /// neither `Interactive` nor `Stretch`, keep their widths, as does one that has reached the
+    /// smallest or the largest width of a section. Pixels that no column can take are dropped.
+    /// `sectionResized` tells the whole change of a column at once. Sections that Qt stretches,
+    /// which it lays out in the room that the others leave, may be told before and after as well.
     void MetsRedimensionnementAvecResizeEvent(bool actif);
 
     /// Asked by the style before it draws one of the elements that it leaves to the view. True
@@ -48,8 +48,10 @@ protected:
     void paintEvent(QPaintEvent * evenement) override;
     void resizeEvent(QResizeEvent * evenement) override;
     void scrollContentsBy(int dx, int dy) override;
+    void setupViewport(QWidget * viewport) override;
 
 private:
+    void CreeZoom(QWidget & viewport);
     bool MontreMessage() const;
     void DessineMessage();
     QList<int> DonneLargeurs() const;
@@ -62,6 +64,5 @@ private:
     bool monRedimensionnementActif = false;
     bool monMessageActif = false;
     QString monMessage;
-    int maProchaineColonne = 0;   // the first that the next pixel is offered to
-    QList<int> mesLargeursDepart; // of the columns, while a resize event is handled
+    int maProchaineColonne = 0; // the first that the next pixel is offered to
 };

@@ -36,6 +36,21 @@ struct Banc
         QTest::mouseRelease(liste.viewport(), bouton, {}, position);
     }
 
+    /// Waits for the window to be active; what the list told until then is forgotten.
+    bool Active()
+    {
+        liste.activateWindow();
+        bool const estActive = QTest::qWaitForWindowActive(&liste);
+        OublieSignaux();
+        return estActive;
+    }
+    void OublieSignaux()
+    {
+        for (auto * const espion :
+             {&presses, &clics, &doubles, &activations, &selections, &courants})
+            espion->clear();
+    }
+
     /// The rows that a signal told.
     static QList<int> Rangees(QSignalSpy const & espion)
     {
@@ -143,19 +158,24 @@ void tst_DListViewClique::signauxDItem()
 void tst_DListViewClique::neSelectionneRien()
 {
     Banc banc;
+    // The list takes the focus, and with it a current row, before it is clicked.
+    QVERIFY(banc.Active());
+    int const courant = banc.liste.currentRow();
     QTest::mouseClick(banc.liste.viewport(), Qt::LeftButton, {}, banc.Milieu(1));
     QVERIFY(banc.liste.selectedItems().isEmpty());
+    QCOMPARE(banc.liste.currentRow(), courant);
     QCOMPARE(banc.selections.count(), 0);
     QCOMPARE(banc.courants.count(), 0);
     QCOMPARE(banc.activations.count(), 0);
 
     banc.liste.setCurrentRow(3);
-    banc.selections.clear();
+    banc.OublieSignaux();
     QTest::mouseClick(banc.liste.viewport(), Qt::LeftButton, {}, banc.Milieu(1));
     QTest::mouseClick(banc.liste.viewport(), Qt::LeftButton, {}, Banc::Vide());
     QCOMPARE(banc.liste.currentRow(), 3);
     QCOMPARE(banc.liste.selectedItems(), QList<QListWidgetItem *>{banc.liste.item(3)});
     QCOMPARE(banc.selections.count(), 0);
+    QCOMPARE(banc.courants.count(), 0);
 }
 
 void tst_DListViewClique::glisseSansSelectionner()
@@ -166,6 +186,7 @@ void tst_DListViewClique::glisseSansSelectionner()
         Banc banc;
         banc.liste.setSelectionMode(mode);
         banc.liste.setMouseTracking(true);
+        QVERIFY(banc.Active());
         QSignalSpy const entrees(&banc.liste, &QListWidget::entered);
         banc.Presse(banc.Milieu(0));
         for (int const rangee : {0, 1, 2, 3}) {

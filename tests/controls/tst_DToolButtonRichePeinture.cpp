@@ -2,6 +2,7 @@
 #include "controls/DToolButtonRiche.h"
 
 #include "controls/RenduBoutons.h"
+#include "style/StyleEspion.h"
 
 #include <QStyleFactory>
 #include <QtTest>
@@ -52,6 +53,7 @@ private Q_SLOTS:
     void tropGrand_data();
     void tropGrand();
     void texteDeLaBaseCachay();
+    void styleRecoitLeTexteBrut();
     void couleurDuTexte_data();
     void couleurDuTexte();
     void couleurHeritee();
@@ -129,6 +131,21 @@ void tst_DToolButtonRichePeinture::texteDeLaBaseCachay()
     QVERIFY(EstVide(Encre::Bornes(image, EstVert)));
     bouton.setText(u"MMM"_s);
     QVERIFY(!EstVide(Encre::Bornes(Rendu(bouton), EstVert)));
+}
+
+void tst_DToolButtonRichePeinture::styleRecoitLeTexteBrut()
+{
+    StyleEspion style;
+    DToolButtonRiche bouton;
+    bouton.setStyle(&style);
+    bouton.setHtml(u"<b>Riche</b> et &amp;co"_s);
+    style.appels.clear();
+    bouton.grab();
+
+    auto const appels = style.Donne(AppelStyle::kComplexe, QStyle::CC_ToolButton);
+    QCOMPARE(appels.size(), 1);
+    QCOMPARE(appels.first().texte, u"Riche et &co"_s);
+    QCOMPARE(appels.first().palette.color(QPalette::ButtonText), QColor(Qt::transparent));
 }
 
 void tst_DToolButtonRichePeinture::couleurDuTexte_data()

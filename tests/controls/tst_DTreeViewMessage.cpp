@@ -4,6 +4,7 @@
 #include "controls/Encre.h"
 
 #include <QHeaderView>
+#include <QProxyStyle>
 #include <QScrollBar>
 #include <QStandardItemModel>
 #include <QtTest>
@@ -46,6 +47,19 @@ public:
     QRegion maRegion;
 };
 
+/// Has a tree color the rows that it has room for below its last one.
+class StyleRangeesVides : public QProxyStyle
+{
+public:
+    int styleHint(StyleHint demande, QStyleOption const * option, QWidget const * widget,
+                  QStyleHintReturn * retour) const override
+    {
+        if (demande == SH_ItemView_PaintAlternatingRowColorsForEmptyArea)
+            return 1;
+        return QProxyStyle::styleHint(demande, option, widget, retour);
+    }
+};
+
 /// A shown tree on white, without a model; its header is hidden.
 struct Banc
 {
@@ -68,7 +82,8 @@ struct Banc
         return image;
     }
     QRect Encre() { return Encre::BornesEncre(Peins()); }
-    bool MontreMessage() { return Encre().isValid(); }
+    /// By its color: a style may draw branches, the focus or the row under the mouse.
+    bool MontreMessage() { return Encre::BornesDe(Peins(), Qt::gray).isValid(); }
 
     DTreeView vue;
 };
@@ -116,10 +131,26 @@ void tst_DTreeViewMessage::cleanup()
     QVERIFY(QApplication::topLevelWidgets().isEmpty());
 }
 
+// The base paints the empty tree until there is a message.
 void tst_DTreeViewMessage::sansMessage()
 {
+    StyleRangeesVides style;
     Banc banc;
-    QVERIFY(!banc.MontreMessage());
+    auto const modele = DonneModele(0);
+    QPalette palette = banc.vue.palette();
+    palette.setColor(QPalette::AlternateBase, Qt::red);
+    banc.vue.setPalette(palette);
+    banc.vue.setStyle(&style);
+    banc.vue.setAlternatingRowColors(true);
+    auto const montreRangees = [&banc] { return Encre::BornesDe(banc.Peins(), Qt::red).isValid(); };
+    for (auto * const vide : {static_cast<QStandardItemModel *>(nullptr), modele.get()}) {
+        banc.vue.setModel(vide);
+        QVERIFY(montreRangees());
+    }
+    banc.vue.AfficheMessageSiVide(u"Aucun mot"_s);
+    QVERIFY(!montreRangees());
+    modele->setRowCount(1);
+    QVERIFY(montreRangees());
 }
 
 void tst_DTreeViewMessage::sansModele()

@@ -52,6 +52,8 @@ private Q_SLOTS:
     void deuxDoigts();
     void unDoigt();
     void pincementAvantAffichage();
+    void autreViewport_data();
+    void autreViewport();
     void destructionParLeReceveur();
 };
 
@@ -193,6 +195,34 @@ void tst_DTreeViewTactile::pincementAvantAffichage()
     QSignalSpy espion(&vue, &DTreeView::SignalZoomTactile);
     EnvoiePincement(vue.viewport(), 2.0);
     QCOMPARE(espion.count(), 0);
+}
+
+void tst_DTreeViewTactile::autreViewport_data()
+{
+    QTest::addColumn<bool>("dejaMontray");
+    QTest::newRow("before the first show") << false;
+    QTest::newRow("after it") << true;
+}
+
+// The zoom follows the viewport, as the scroller does.
+void tst_DTreeViewTactile::autreViewport()
+{
+    QFETCH(bool, dejaMontray);
+    DTreeView vue;
+    if (dejaMontray)
+        vue.show();
+    vue.setViewport(new QWidget);
+    QCOMPARE(CompteZooms(vue), dejaMontray ? 1 : 0);
+    vue.show();
+    vue.setViewport(vue.viewport());
+    QCOMPARE(CompteZooms(vue), 1);
+    QCOMPARE(CompteDefileurs(vue), 1);
+    QSignalSpy const espion(&vue, &DTreeView::SignalZoomTactile);
+    EnvoiePincement(vue.viewport(), 1.25);
+    QCOMPARE(espion.count(), 1);
+    vue.setViewport(nullptr); // a plain widget of Qt's
+    EnvoiePincement(vue.viewport(), 1.25);
+    QCOMPARE(espion.count(), 2);
 }
 
 void tst_DTreeViewTactile::destructionParLeReceveur()

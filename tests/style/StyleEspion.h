@@ -176,8 +176,10 @@ private:
         }
         if (auto const * complexe = qstyleoption_cast<QStyleOptionComplex const *>(&option))
             appel.sousControles = complexe->subControls;
-        if (auto const * outil = qstyleoption_cast<QStyleOptionToolButton const *>(&option))
+        if (auto const * outil = qstyleoption_cast<QStyleOptionToolButton const *>(&option)) {
             appel.caracteristiques = outil->features;
+            appel.texte = outil->text;
+        }
         if (auto const * liste = qstyleoption_cast<QStyleOptionComboBox const *>(&option))
             appel.cadre = liste->frame;
     }

@@ -221,7 +221,7 @@ void tst_DTableViewEvenements::rangeesDeplacees()
     banc.vue.setItemDelegate(&delegue);
     connect(
         &banc.vue, &DTableView::pressed, this,
-        [&banc] { banc.modele.insertRow(3, banc.modele.takeRow(0)); }, Qt::SingleShotConnection);
+        [&banc] { banc.modele.appendRow(banc.modele.takeRow(0)); }, Qt::SingleShotConnection);
     QSignalSpy const clics(&banc.vue, &DTableView::clicked);
     QSignalSpy const doubles(&banc.vue, &DTableView::doubleClicked);
     QTest::mouseDClick(banc.vue.viewport(), Qt::LeftButton, {}, position);

@@ -1,9 +1,9 @@
 // controls/BoutonSurvolable_p.h
 #pragma once
 
-#include <QScopedValueRollback>
-#include <QStyleOptionButton>
-#include <QStylePainter>
+#include <QCheckBox>
+#include <QRadioButton>
+#include <QStyle>
 
 /// The indicator of a control with a label of its own: it is drawn as under the mouse whenever the
 /// control says so.
@@ -13,42 +13,35 @@ class BoutonSurvolable : public Bouton
 public:
     using Bouton::Bouton;
 
-    void MetsSurvolay(bool survolay)
-    {
-        monSurvol = survolay;
-        this->update();
-    }
+    void MetsSurvolay(bool survolay);
 
+    void ChangeCochage(bool cochay);
     /// True while Qt changes the state of the button: it still uses the button behind the signals.
     bool EstOccupay() const { return monOccupation; }
 
-    void ChangeCochage(bool cochay)
-    {
-        QScopedValueRollback<bool> const garde(monOccupation, true);
-        this->setChecked(cochay);
-    }
-
 protected:
-    // By a click, or because another button of the group is checked.
-    void nextCheckState() override
-    {
-        QScopedValueRollback<bool> const garde(monOccupation, true);
-        Bouton::nextCheckState();
-    }
-
-    void paintEvent(QPaintEvent *) override
-    {
-        QStylePainter peintre(this);
-        peintre.setRenderHint(QPainter::SmoothPixmapTransform);
-        QStyleOptionButton option;
-        this->initStyleOption(&option);
-        // What cannot be used does not react, although its label may be under the mouse.
-        if (monSurvol && this->isEnabled())
-            option.state |= QStyle::State_MouseOver;
-        peintre.drawControl(kElement, option);
-    }
+    void nextCheckState() override;
+    void paintEvent(QPaintEvent * evenement) override;
 
 private:
     bool monSurvol = false;
     bool monOccupation = false;
+};
+
+// The names of the two classes tell the indicator of a control from other buttons.
+
+class CheckBoxHover : public BoutonSurvolable<QCheckBox, QStyle::CE_CheckBox>
+{
+    Q_OBJECT
+
+public:
+    using BoutonSurvolable::BoutonSurvolable;
+};
+
+class BoutonHover : public BoutonSurvolable<QRadioButton, QStyle::CE_RadioButton>
+{
+    Q_OBJECT
+
+public:
+    using BoutonSurvolable::BoutonSurvolable;
 };

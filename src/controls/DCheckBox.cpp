@@ -6,16 +6,7 @@
 #include "controls/RoutinesBouton_p.h"
 #include "style/ProprietesStyle_p.h"
 
-#include <QCheckBox>
 #include <QLabel>
-
-class CheckBoxHover : public BoutonSurvolable<QCheckBox, QStyle::CE_CheckBox>
-{
-    Q_OBJECT // its name tells the indicator of a control from others
-
-public:
-    using BoutonSurvolable::BoutonSurvolable;
-};
 
 DCheckBox::DCheckBox(QString const & texte, QWidget * parent, bool cochay)
     : DBoutonAbstrait(parent)
@@ -94,6 +85,7 @@ void DCheckBox::hideEvent(QHideEvent * evenement)
 
 void DCheckBox::Branche()
 {
+    monLibelle->installEventFilter(this);
     // Not by toggled, which is heard without a change too.
     connect(maCase, &QCheckBox::stateChanged, this,
             [this] { BoutonAccessible::AnnonceCochage(*this); });
@@ -105,5 +97,3 @@ void DCheckBox::Branche()
     connect(maCase, &QCheckBox::released, this, &DCheckBox::released, Qt::UniqueConnection);
     connect(maCase, &QCheckBox::toggled, this, &DCheckBox::toggled, Qt::UniqueConnection);
 }
-
-#include "DCheckBox.moc"

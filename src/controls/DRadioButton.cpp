@@ -7,15 +7,6 @@
 
 #include <QButtonGroup>
 #include <QLabel>
-#include <QRadioButton>
-
-class BoutonHover : public BoutonSurvolable<QRadioButton, QStyle::CE_RadioButton>
-{
-    Q_OBJECT // its name tells the indicator of a control from others
-
-public:
-    using BoutonSurvolable::BoutonSurvolable;
-};
 
 DRadioButton::DRadioButton(QString const & texte, QWidget * parent, bool cochay,
                            QButtonGroup * groupe)
@@ -85,10 +76,9 @@ void DRadioButton::hideEvent(QHideEvent * evenement)
 
 void DRadioButton::Branche()
 {
+    monLibelle->installEventFilter(this);
     connect(monBouton, &QRadioButton::toggled, this,
             [this] { BoutonAccessible::AnnonceCochage(*this); });
     connect(monBouton, &QRadioButton::toggled, this, &DRadioButton::SignalCochageChangay,
             Qt::UniqueConnection);
 }
-
-#include "DRadioButton.moc"

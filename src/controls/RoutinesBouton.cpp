@@ -44,7 +44,6 @@ QLabel * RoutinesBouton::Assemble(QWidget & controle, QAbstractButton & bouton,
     libelle->setTextFormat(Qt::RichText);
     libelle->setText(texte);
     libelle->setWordWrap(true);
-    libelle->installEventFilter(&controle);
 
     auto * const disposition = new QHBoxLayout(&controle);
     RoutinesGeneralesQt::EnleveMargesDuLayout(disposition);

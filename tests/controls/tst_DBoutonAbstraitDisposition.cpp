@@ -73,6 +73,9 @@ void tst_DBoutonAbstraitDisposition::uneLigneTantQuIlYADeLaPlace()
     std::unique_ptr<DBoutonAbstrait> const controle(Cree(genre, TexteLong()));
     QLabel const & libelle = Libelle(*controle);
     QCOMPARE(libelle.sizeHint().height(), HauteurDUneLigne(genre));
+    QLabel sansRetour(TexteLong());
+    sansRetour.setTextFormat(Qt::RichText);
+    QCOMPARE(libelle.sizeHint(), sansRetour.sizeHint());
     for (int const surplus : {0, 1, 1000}) {
         Dispose(*controle, controle->sizeHint() + QSize(surplus, 0));
         QCOMPARE(libelle.width(), libelle.sizeHint().width());

@@ -1,12 +1,32 @@
 // tests/controls/tst_DBoutonAbstraitPeinture.cpp
-#include "controls/Encre.h"
 #include "controls/EssaisBouton.h"
 #include "style/StyleEspion.h"
 
-#include <QVBoxLayout>
-
 using namespace Qt::StringLiterals;
 using namespace EssaisBouton;
+
+namespace {
+
+/// Shows the hover, which Fusion does not, of whatever can be used or not.
+class StyleSurvol : public QProxyStyle
+{
+public:
+    StyleSurvol()
+        : QProxyStyle(QStyleFactory::create(u"Fusion"_s))
+    {
+    }
+
+    void drawPrimitive(PrimitiveElement element, QStyleOption const * option, QPainter * peintre,
+                       QWidget const * widget) const override
+    {
+        if (element == PE_IndicatorCheckBox || element == PE_IndicatorRadioButton)
+            peintre->fillRect(option->rect, option->state & State_MouseOver ? Qt::red : Qt::blue);
+        else
+            QProxyStyle::drawPrimitive(element, option, peintre, widget);
+    }
+};
+
+} // namespace
 
 class tst_DBoutonAbstraitPeinture : public QObject
 {
@@ -23,6 +43,8 @@ private Q_SLOTS:
     void survol();
     void survolRedessineLIndicateur_data();
     void survolRedessineLIndicateur();
+    void survolDansUneFeuille_data();
+    void survolDansUneFeuille();
     void survolDuDesactivay_data();
     void survolDuDesactivay();
     void survolDuGelay();
@@ -34,6 +56,7 @@ private:
     void DeplaceSouris(QPoint const & position);
     QPoint Dedans(QWidget const & widget) const;
 
+    StyleSurvol monStyle;
     std::unique_ptr<QWidget> maFenetre;
 };
 
@@ -44,7 +67,6 @@ QImage Image(DBoutonAbstrait const & controle)
     return Indicateur(controle).grab().toImage();
 }
 
-// The style sheet below shows it in this colour.
 bool EstSurvolay(DBoutonAbstrait const & controle)
 {
     QImage const image = Image(controle);
@@ -57,6 +79,8 @@ void tst_DBoutonAbstraitPeinture::init()
 {
     maFenetre = std::make_unique<QWidget>();
     maFenetre->resize(400, 300);
+    maFenetre->show();
+    QVERIFY(QTest::qWaitForWindowExposed(maFenetre.get()));
 }
 
 void tst_DBoutonAbstraitPeinture::cleanup()
@@ -65,17 +89,14 @@ void tst_DBoutonAbstraitPeinture::cleanup()
     QVERIFY(QApplication::topLevelWidgets().isEmpty());
 }
 
-// A control in the middle of the window, which is shown, and the mouse out of it.
+// A control in the middle of the window, and the mouse out of it.
 DBoutonAbstrait * tst_DBoutonAbstraitPeinture::Ajoute(eGenre genre, bool avecSurvol)
 {
     DBoutonAbstrait * const controle = Cree(genre, u"abc <a href='x'>lien</a>"_s, maFenetre.get());
     controle->setGeometry(100, 100, 200, 40);
     if (avecSurvol)
-        Indicateur(*controle).setStyleSheet(
-            u"::indicator { width: 12px; height: 12px; background: blue }"
-            "::indicator:hover { background: red }"_s);
-    maFenetre->show();
-    [] { QVERIFY(QTest::qWaitForWindowExposed(QApplication::topLevelWidgets().first())); }();
+        Indicateur(*controle).setStyle(&monStyle);
+    controle->show();
     DeplaceSouris({5, 5});
     return controle;
 }
@@ -209,6 +230,23 @@ void tst_DBoutonAbstraitPeinture::survolRedessineLIndicateur()
         QTRY_VERIFY(!style.Donne(AppelStyle::kControle, element).isEmpty());
     }
     Indicateur(*controle).setStyle(nullptr);
+}
+
+void tst_DBoutonAbstraitPeinture::survolDansUneFeuille_data()
+{
+    AjouteGenres();
+}
+
+void tst_DBoutonAbstraitPeinture::survolDansUneFeuille()
+{
+    QFETCH(eGenre, genre);
+    DBoutonAbstrait * const controle = Ajoute(genre, false);
+    Indicateur(*controle).setStyleSheet(
+        u"::indicator { width: 12px; height: 12px; background: blue }"
+        "::indicator:hover { background: red }"_s);
+    QVERIFY(!EstSurvolay(*controle));
+    DeplaceSouris(Dedans(Libelle(*controle)));
+    QVERIFY(EstSurvolay(*controle));
 }
 
 void tst_DBoutonAbstraitPeinture::survolDuDesactivay_data()

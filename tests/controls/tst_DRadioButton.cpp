@@ -1,5 +1,6 @@
 // tests/controls/tst_DRadioButton.cpp
 #include "controls/EssaisBouton.h"
+#include "style/DStyleProxy.h"
 
 #include <QButtonGroup>
 #include <QHBoxLayout>
@@ -57,6 +58,7 @@ void tst_DRadioButton::construction()
     QVERIFY(disposition->itemAt(2)->spacerItem());
     QCOMPARE(disposition->stretch(2), 1);
     QVERIFY(qobject_cast<QRadioButton *>(&Indicateur(controle)));
+    QVERIFY(!Indicateur(controle).property(DStyleProxy::DonneNomAttributPourStyle()).isValid());
     QCOMPARE(Libelle(controle).textFormat(), Qt::RichText);
 }
 

@@ -37,7 +37,12 @@ class GreffonLecteurSimulay : public QAccessibleBridgePlugin
     Q_PLUGIN_METADATA(IID QAccessibleBridgeFactoryInterface_iid FILE "LecteurSimulay.json")
 
 public:
-    QAccessibleBridge * create(QString const &) override { return new PontSimulay; }
+    QAccessibleBridge * create(QString const &) override
+    {
+        // Qt owns it, yet deletes it on some platforms only.
+        static PontSimulay * const pont = new PontSimulay;
+        return pont;
+    }
 };
 
 #include "LecteurSimulay.moc"

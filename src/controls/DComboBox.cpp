@@ -99,10 +99,8 @@ void DComboBox::showPopup()
 
 bool DComboBox::eventFilter(QObject * objet, QEvent * evenement)
 {
-    // A view lays itself out on a timer, or has to before it can follow a key.
     bool const dansLaVue = objet == view();
-    if (dansLaVue &&
-        (evenement->type() == QEvent::Timer || evenement->type() == QEvent::ShortcutOverride))
+    if (dansLaVue && evenement->type() == QEvent::Timer) // on which it lays itself out anew
         monMasqueur->Synchronise();
     if (dansLaVue && evenement->type() == QEvent::KeyPress && PremierElementCachay()) {
         monMasqueur->Synchronise();
@@ -138,6 +136,12 @@ void DComboBox::wheelEvent(QWheelEvent * evenement)
     else if (delta < 0)
         Active(monMasqueur->DonneLigneSuivante(std::max(currentIndex(), 0), 1));
     evenement->accept();
+}
+
+void DComboBox::inputMethodEvent(QInputMethodEvent * evenement)
+{
+    monMasqueur->Synchronise();
+    QComboBox::inputMethodEvent(evenement);
 }
 
 // The base gives the hidden row no height, but the space between it and the next one.

@@ -28,7 +28,8 @@ public:
     /// Where the combo box is editable, its text typed in full and entered selects it too.
     ///
     /// The item delegate keeps this in mind: with a delegate of the host's own, the first item is
-    /// not hidden. A completer that works on the combo box's model is put on a filter of it.
+    /// not hidden. The view is a list, a tree or a table; others cannot hide a row. A completer
+    /// that works on the combo box's model is put on a filter of it.
     void CachePremierElement();
     bool PremierElementCachay() const;
 
@@ -45,6 +46,7 @@ public:
 protected:
     void keyPressEvent(QKeyEvent * evenement) override;
     void wheelEvent(QWheelEvent * evenement) override;
+    void inputMethodEvent(QInputMethodEvent * evenement) override;
 
 private:
     bool TraiteTouche(QKeyEvent const & evenement);

@@ -1,11 +1,14 @@
 // controls/DMenuAction.cpp
 #include "controls/DMenuAction.h"
 
+#include "foundation/GeometrieEcran.h"
+
 #include <QActionEvent>
 #include <QGridLayout>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QMenu>
+#include <QScreen>
 #include <QWidgetAction>
 
 using namespace Qt::StringLiterals;
@@ -187,4 +190,7 @@ void DMenuAction::RedimensionneMenu()
     // QMenu measures its widgets again only when an action changes.
     QActionEvent changement(QEvent::ActionChanged, monAction);
     QCoreApplication::sendEvent(monMenu, &changement);
+    QRect const disponible = monMenu->screen()->availableGeometry();
+    if (monMenu->isVisible() && !disponible.contains(monMenu->frameGeometry()))
+        RoutinesGeneralesQt::AjusteDansEcran(*monMenu, false, true, false);
 }

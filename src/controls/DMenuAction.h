@@ -37,7 +37,7 @@ public:
     void AjouteSeparateur();
 
     /// Shows or hides all that is in the row of `widget`, its label too; nothing for a widget that
-    /// is in no row, or null. The menu takes the new size.
+    /// is in no row, or null. The menu takes the new size, and stays on its screen.
     void AfficherRangeeDuWidget(QWidget const * widget, bool const & visible);
 
 Q_SIGNALS:

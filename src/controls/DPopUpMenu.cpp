@@ -60,11 +60,9 @@ void DPopUpMenu::AfficheToi(QPoint const & position, QSize const & taille)
         setAttribute(Qt::WA_Resized, false);
     }
     bool const placeParHote = testAttribute(Qt::WA_Moved) && pos() != maDernierePlace;
-    if (!placeParHote) {
-        QScopedValueRollback const enCours(monReplacementEnCours, true);
+    if (!placeParHote)
         move(position);
-    }
-    Replace();
+    Replace(); // a hidden pop-up is told of its move when it is shown
     maDernierePlace = pos();
     show();
 }

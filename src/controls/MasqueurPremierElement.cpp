@@ -54,9 +54,8 @@ public:
         setSourceModel(modele);
         // Another row may be the first one now. Connected after those of the base, which bring
         // its own rows up to date.
-        for (auto const signal :
-             {&QAbstractItemModel::rowsInserted, &QAbstractItemModel::rowsRemoved})
-            connect(modele, signal, this, &FiltreDuPremier::invalidate);
+        connect(modele, &QAbstractItemModel::rowsInserted, this, &FiltreDuPremier::invalidate);
+        connect(modele, &QAbstractItemModel::rowsRemoved, this, &FiltreDuPremier::invalidate);
         connect(modele, &QAbstractItemModel::rowsMoved, this, &FiltreDuPremier::invalidate);
         connect(modele, &QAbstractItemModel::layoutChanged, this, &FiltreDuPremier::invalidate);
     }
@@ -152,8 +151,6 @@ void MasqueurPremierElement::SuisModele()
         return;
     if (monModele)
         disconnect(monModele, nullptr, this, nullptr);
-    if (maVue != monCombo->view())
-        maLigne = QPersistentModelIndex();
     maVue = monCombo->view();
     monModele = modele;
     auto const suis = [this, modele](auto signal) {

@@ -84,6 +84,7 @@ private Q_SLOTS:
     void touches();
     void comptesDeSignaux_data();
     void comptesDeSignaux();
+    void separateurActif();
     void roulette_data();
     void roulette();
     void rouletteDuStyle();
@@ -92,6 +93,7 @@ private Q_SLOTS:
     void racine();
     void sansElementOuUnSeul();
     void modeleDetruit();
+    void modeleQuiParleEnMourant();
     void detruitParUnReceveur();
     void avecLabel();
 };
@@ -244,6 +246,20 @@ void tst_DComboBoxPremierCachay::comptesDeSignaux()
     QCOMPARE(combo.currentIndex(), ordinaire.currentIndex());
 }
 
+// In a model that has no flags to set, a separator is only marked.
+void tst_DComboBoxPremierCachay::separateurActif()
+{
+    DComboBox combo;
+    combo.addItems({u"a"_s, u"b"_s, u"c"_s});
+    combo.insertSeparator(1);
+    qobject_cast<QStandardItemModel *>(combo.model())->item(1)->setEnabled(true);
+    combo.CachePremierElement();
+    QTest::keyClick(&combo, Qt::Key_Down);
+    QCOMPARE(combo.currentText(), u"b"_s);
+    Roule(combo, 120);
+    QCOMPARE(combo.currentText(), u"b"_s);
+}
+
 void tst_DComboBoxPremierCachay::roulette_data()
 {
     QTest::addColumn<int>("depart");
@@ -336,6 +352,25 @@ void tst_DComboBoxPremierCachay::modelesSuivis()
     QTest::keyClick(&combo, Qt::Key_End);
     QTest::keyClick(&combo, Qt::Key_Home);
     QCOMPARE(combo.currentText(), u"l"_s);
+}
+
+void tst_DComboBoxPremierCachay::modeleQuiParleEnMourant()
+{
+    class Modele : public QStringListModel
+    {
+    public:
+        using QStringListModel::QStringListModel;
+        ~Modele() override { insertRows(0, 1); }
+    };
+    int lignes = 0;
+    {
+        DComboBox combo;
+        auto * const modele = new Modele(QStringList{u"a"_s, u"b"_s}, &combo);
+        combo.setModel(modele);
+        combo.CachePremierElement();
+        connect(modele, &QAbstractItemModel::rowsInserted, this, [&] { ++lignes; });
+    }
+    QCOMPARE(lignes, 1);
 }
 
 void tst_DComboBoxPremierCachay::racine()

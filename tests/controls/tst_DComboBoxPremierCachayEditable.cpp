@@ -37,6 +37,7 @@ private Q_SLOTS:
     void cleanup();
     void editableAuxTouches();
     void editableCompletion();
+    void completionDUneMethodeDeSaisie();
     void completeurEtranger();
     void completeurQuiSurvit();
     void completionEnListe();
@@ -85,6 +86,23 @@ void tst_DComboBoxPremierCachayEditable::editableCompletion()
     combo.setEditable(false);
     combo.setEditable(true); // with a completer of its own again
     QCOMPARE(Complete(combo, Qt::Key_A), u"avocat"_s);
+}
+
+void tst_DComboBoxPremierCachayEditable::completionDUneMethodeDeSaisie()
+{
+    DComboBox combo;
+    combo.addItems({u"abricot"_s, u"avocat"_s, u"banane"_s});
+    combo.CachePremierElement();
+    QVERIFY(PrendLeFocus(combo));
+    combo.setEditable(true);
+    combo.completer()->setCompletionMode(QCompleter::PopupCompletion);
+    combo.lineEdit()->clear();
+    QInputMethodEvent evenement;
+    evenement.setCommitString(u"a"_s);
+    QCoreApplication::sendEvent(&combo, &evenement);
+    QCOMPARE(combo.lineEdit()->text(), u"a"_s);
+    QCOMPARE(combo.completer()->completionCount(), 1);
+    combo.completer()->popup()->hide();
 }
 
 void tst_DComboBoxPremierCachayEditable::completeurEtranger()

@@ -27,6 +27,8 @@ private Q_SLOTS:
     void tailleSuitLaRangee();
     void tailleSuitFermay();
     void tailleSuitUnTexte();
+    void tailleAuxApprets();
+    void resteDansLEcran();
     void feuilleDeStyle();
 };
 
@@ -200,11 +202,11 @@ void tst_DMenuAction::tailleSuitLaRangee()
         QSize const avant = PreteMenu(cadre)->size();
         QVERIFY(avant.height() > 80);
         cadre.AfficherRangeeDuWidget(widget, false);
-        QTRY_COMPARE(PreteMenu(cadre)->height(), avant.height() - 80 - 7);
+        QCOMPARE(PreteMenu(cadre)->height(), avant.height() - 80 - 7);
         QVERIFY(PreteMenu(cadre)->width() < avant.width());
         QTRY_COMPARE(cadre.size(), cadre.sizeHint());
         cadre.AfficherRangeeDuWidget(widget, true);
-        QTRY_COMPARE(PreteMenu(cadre)->size(), avant);
+        QCOMPARE(PreteMenu(cadre)->size(), avant);
         QVERIFY(widget->isVisible());
         QCOMPARE(widget->size(), QSize(300, 80));
     });
@@ -236,6 +238,42 @@ void tst_DMenuAction::tailleSuitUnTexte()
         label->setMinimumWidth(label->width() + 100);
         QTRY_COMPARE(PreteMenu(cadre)->width(), avant + 100);
     });
+}
+
+// What it has become since is known before a place is looked for.
+void tst_DMenuAction::tailleAuxApprets()
+{
+    MenuTemoin cadre;
+    auto * const label = new QLabel(u"Titre"_s);
+    cadre.AjouteWidget(label, new QLineEdit);
+    QList<int> largeurs;
+    connect(PreteMenu(cadre), &QMenu::aboutToShow, this,
+            [&] { largeurs << PreteMenu(cadre)->sizeHint().width(); });
+    PendantQuIlEstOuvert(cadre, [&] { label->setMinimumWidth(label->width() + 1); });
+    PendantQuIlEstOuvert(cadre, [] {});
+    label->setMinimumWidth(label->width() + 100);
+    PendantQuIlEstOuvert(cadre, [] {});
+    QCOMPARE(largeurs.at(2), largeurs.at(1) + 100);
+}
+
+void tst_DMenuAction::resteDansLEcran()
+{
+    MenuTemoin cadre;
+    auto * const widget = new QWidget;
+    widget->setFixedSize(300, 200);
+    cadre.AjouteWidget(new QLabel(u"Titre"_s), new QLineEdit);
+    cadre.AjouteWidget(new QLabel(u"Titre"_s), widget);
+    cadre.AfficherRangeeDuWidget(widget, false);
+    QMenu & menu = *PreteMenu(cadre);
+    QRect const ecran = cadre.screen()->availableGeometry();
+    QTimer::singleShot(0, &cadre, [&] {
+        int const avant = menu.height();
+        cadre.AfficherRangeeDuWidget(widget, true);
+        QTRY_COMPARE(menu.height(), avant + 200 + 7);
+        QVERIFY(ecran.contains(menu.frameGeometry()));
+        menu.hide();
+    });
+    cadre.OuvrirMenuALaPosition(ecran.bottomRight() - QPoint(300, 90));
 }
 
 void tst_DMenuAction::feuilleDeStyle()

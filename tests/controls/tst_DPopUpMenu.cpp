@@ -51,6 +51,7 @@ private Q_SLOTS:
     void placeAuPremierAffichage();
     void tailleDuContenu();
     void affichagesSuivants();
+    void affichageApresAgrandissement();
     void placeDeLHote_data();
     void placeDeLHote();
     void placeDeLHotePuisAncre();
@@ -159,6 +160,18 @@ void tst_DPopUpMenu::affichagesSuivants()
     popup.AfficheToi(QPoint(100, 800), QSize(10, 10));
     QVERIFY(popup.isVisible());
     QCOMPARE(popup.pos(), QPoint(100, 690));
+}
+
+// It is the pop-up itself that moved.
+void tst_DPopUpMenu::affichageApresAgrandissement()
+{
+    DPopUpMenu popup;
+    popup.resize(50, 50);
+    popup.AfficheToi(kAncre.topLeft(), kAncre.size());
+    popup.resize(kTaille);
+    QCOMPARE(popup.pos(), kAuDessus);
+    popup.AfficheToi(QPoint(700, 600), QSize(10, 10));
+    QCOMPARE(popup.pos(), QPoint(700, 490));
 }
 
 void tst_DPopUpMenu::placeDeLHote_data()

@@ -25,6 +25,7 @@
 #include <QMenu>
 #include <QVBoxLayout>
 
+#include <algorithm>
 #include <utility>
 
 using namespace Qt::StringLiterals;
@@ -37,6 +38,9 @@ constexpr int kEcart = 16;       // between two groups
 constexpr int kLargeurMenu = 20; // at least, of the part of a button that opens its menu
 
 constexpr auto kSemaine = "semaine"_L1; // the button with a part for a menu
+
+constexpr ChaineLocalisable kEtatsDesBascules[] = {TexteGalerie("Éteinte"), TexteGalerie("Allumée"),
+                                                   TexteGalerie("Désactivées")};
 
 } // namespace
 
@@ -120,11 +124,11 @@ QWidget * PageBoutons::CreeBascules()
 {
     auto * const groupe = new QGroupBox(TraductionGalerie(TexteGalerie("Bascules")));
     auto * const grille = new QGridLayout(groupe);
-    ChaineLocalisable const titres[] = {TexteGalerie("Éteinte"), TexteGalerie("Allumée"),
-                                        TexteGalerie("Désactivées")};
-    for (int i = 0; i < static_cast<int>(std::size(titres)); ++i) {
-        int const colonnes = i + 1 < static_cast<int>(std::size(titres)) ? 1 : 2;
-        grille->addWidget(new QLabel(TraductionGalerie(titres[i])), 0, i + 1, 1, colonnes);
+    for (int i = 0; i < static_cast<int>(std::size(kEtatsDesBascules)); ++i) {
+        // The last title stands above two columns.
+        int const colonnes = i + 1 < static_cast<int>(std::size(kEtatsDesBascules)) ? 1 : 2;
+        grille->addWidget(new QLabel(TraductionGalerie(kEtatsDesBascules[i])), 0, i + 1, 1,
+                          colonnes);
     }
     // Logical pixels: a thumb in its track, one as large as it, and one that is larger.
     for (auto const & [piste, pouce] : {std::pair(12, 9), std::pair(11, 11), std::pair(8, 11)})
@@ -145,7 +149,9 @@ void PageBoutons::AjouteBascules(QGridLayout & grille, int piste, int pouce)
         bool const actif = i < 2;
         auto * const bascule = new DToggleButton(piste, pouce);
         bascule->setObjectName(u"bascule%1_%2"_s.arg(ligne).arg(i));
-        bascule->setAccessibleName(titre);
+        bascule->setAccessibleName(TraductionGalerie(
+            TexteGalerie("{1}, {2}"),
+            {UniChaine(titre), UniChaine(TraductionGalerie(kEtatsDesBascules[std::min(i, 2)]))}));
         bascule->setChecked(i % 2 == 1);
         bascule->setEnabled(actif);
         grille.addWidget(bascule, ligne, i + 1, Qt::AlignLeading | Qt::AlignVCenter);

@@ -186,6 +186,7 @@ QWidget * PageCombos::CreePopUp()
 {
     monBoutonPopUp = new QPushButton(TraductionGalerie(TexteGalerie("Ouvrir à &côté")));
     mesFermetures = new QLabel(TraductionGalerie(TexteGalerie("Pas encore fermée")));
+    mesFermetures->setMinimumWidth(mesFermetures->sizeHint().width()); // other texts are shorter
     monPopUp = new DPopUpMenu(this);
     monPopUp->setFrameShape(QFrame::StyledPanel);
     auto * const contenu = new QVBoxLayout(monPopUp);

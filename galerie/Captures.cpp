@@ -79,6 +79,9 @@ bool EcrisCaptures(FenetreGalerie & fenetre, ThemeGalerie & theme, QString const
 {
     Album album(fenetre, dossier);
     bool applique = true;
+    // As if it were on the screen: some widgets lay out nothing while they are hidden.
+    fenetre.setAttribute(Qt::WA_DontShowOnScreen);
+    fenetre.show();
     for (DescriptionLangue const & langue : DonneLangues()) {
         if (langue.langue == kLangueAnglaisCanada)
             continue; // its pictures would be those of English

@@ -5,6 +5,7 @@
 #include "Pages.h"
 #include "TraductionGalerie.h"
 
+#include "controls/DBoutonAbstrait.h"
 #include "noyau/Traductions.h"
 
 #include <QComboBox>
@@ -51,24 +52,43 @@ QList<QWidget *> DonneNommes(QWidget const & page)
     QList<QWidget *> nommes;
     for (QWidget * const widget : page.findChildren<QWidget *>())
         if (!widget->objectName().isEmpty() && !widget->objectName().startsWith(u"qt_") &&
-            DonneSaisie(*widget).isWritable())
+            (qobject_cast<DBoutonAbstrait *>(widget) || DonneSaisie(*widget).isWritable()))
             nommes.append(widget);
     return nommes;
+}
+
+QVariant LisSaisie(QWidget const & widget)
+{
+    // Made of other widgets, it has no property of its own.
+    if (auto const * const bouton = qobject_cast<DBoutonAbstrait const *>(&widget))
+        return bouton->EstCochay();
+    return DonneSaisie(widget).read(&widget);
+}
+
+void EcrisSaisie(QWidget & widget, QVariant const & saisie)
+{
+    if (auto * const bouton = qobject_cast<DBoutonAbstrait *>(&widget))
+        bouton->MetsCochay(saisie.toBool());
+    else
+        DonneSaisie(widget).write(&widget, saisie);
 }
 
 QHash<QString, QVariant> DonneSaisies(QWidget const & page)
 {
     QHash<QString, QVariant> saisies;
     for (QWidget const * const widget : DonneNommes(page))
-        saisies.insert(widget->objectName(), DonneSaisie(*widget).read(widget));
+        saisies.insert(widget->objectName(), LisSaisie(*widget));
     return saisies;
 }
 
 void RemetsSaisies(QWidget const & page, QHash<QString, QVariant> const & saisies)
 {
-    for (QWidget * const widget : DonneNommes(page))
-        if (auto const saisie = saisies.find(widget->objectName()); saisie != saisies.end())
-            DonneSaisie(*widget).write(widget, *saisie);
+    for (QWidget * const widget : DonneNommes(page)) {
+        auto const saisie = saisies.find(widget->objectName());
+        // Some tell of a value that is written even when it is the same.
+        if (saisie != saisies.end() && LisSaisie(*widget) != *saisie)
+            EcrisSaisie(*widget, *saisie);
+    }
 }
 
 } // namespace

@@ -2,13 +2,17 @@
 #include "Pages.h"
 
 #include "PageAlertes.h"
+#include "PageBoutons.h"
+#include "PageCombos.h"
 #include "PageEcrans.h"
 #include "PageFenetres.h"
 #include "PagePolices.h"
 #include "PageStyle.h"
+#include "PageTactile.h"
 #include "PageTexteRiche.h"
 #include "PageTextes.h"
 #include "PageTheme.h"
+#include "PageVues.h"
 #include "ThemeGalerie.h"
 #include "TraductionGalerie.h"
 
@@ -38,6 +42,13 @@ QList<DescriptionPage> const & DonnePages()
          [](ThemeGalerie & theme) -> QWidget * { return new PageStyle(theme.DonneStyleDeBase()); }},
         {TexteGalerie("Texte riche"), u"texteriche"_s,
          [](ThemeGalerie &) -> QWidget * { return new PageTexteRiche; }},
+        {TexteGalerie("Boutons"), u"boutons"_s,
+         [](ThemeGalerie &) -> QWidget * { return new PageBoutons; }},
+        {TexteGalerie("Combos et menus"), u"combos"_s,
+         [](ThemeGalerie &) -> QWidget * { return new PageCombos; }},
+        {TexteGalerie("Vues"), u"vues"_s, [](ThemeGalerie &) -> QWidget * { return new PageVues; }},
+        {TexteGalerie("Tactile"), u"tactile"_s,
+         [](ThemeGalerie &) -> QWidget * { return new PageTactile; }},
     };
     return pages;
 }

@@ -53,6 +53,8 @@ QPalette DonnePalette()
         MetsCouleur(palette, QPalette::All, role, nom);
     for (auto const role : {QPalette::ButtonText, QPalette::Text, QPalette::WindowText})
         MetsCouleur(palette, QPalette::Disabled, role, u"couleurTexteGris"_s);
+    // The thumb of a disabled switch, on a track in the colour of shadows.
+    MetsCouleur(palette, QPalette::Disabled, QPalette::Mid, u"couleurTexteGris"_s);
     // The style paints a default button in this colour, also one that is disabled.
     MetsCouleur(palette, QPalette::Disabled, QPalette::Highlight, u"couleurFondBoutonHover"_s);
     return palette;
@@ -66,7 +68,12 @@ void MetsBords(QPalette palette)
     constexpr int kMilieu = 128;          // of the lightness, 0 to 255
     constexpr int kFacteurDesBords = 140; // percent: QColor::darker, as the style calls it
     QColor const bordure = Couleur(u"couleurBordureGeneral"_s);
-    if (palette.color(QPalette::Window).lightness() < kMilieu && bordure.isValid())
+    bool const sombre = palette.color(QPalette::Window).lightness() < kMilieu && bordure.isValid();
+    // A little darker than the others: views have grids too.
+    if (sombre)
+        palette.setColor(QPalette::Window, bordure);
+    QApplication::setPalette(palette, "QAbstractItemView");
+    if (sombre)
         palette.setColor(QPalette::Window, bordure.lighter(kFacteurDesBords));
     for (char const * const classe : {"QAbstractSpinBox", "QCheckBox", "QComboBox", "QLineEdit",
                                       "QPlainTextEdit", "QRadioButton"})

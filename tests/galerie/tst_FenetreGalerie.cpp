@@ -6,6 +6,8 @@
 #include "ThemeGalerie.h"
 #include "VueEcrans.h"
 
+#include "controls/DCheckBox.h"
+#include "controls/DRadioButton.h"
 #include "foundation/ThemesQt.h"
 #include "noyau/Traductions.h"
 
@@ -34,6 +36,8 @@ private Q_SLOTS:
 
     void langueRefaitLesPages();
     void saisiesGardees();
+    void lettresUniques_data();
+    void lettresUniques();
     void themeSuivi();
     void codes();
     void iconeChoisie();
@@ -98,6 +102,9 @@ void tst_FenetreGalerie::saisiesGardees()
     fenetre.findChild<VueEcrans *>()->MetsRectangle(rectangle);
     fenetre.findChild<QCheckBox *>(u"marge"_s)->setChecked(true);
     fenetre.findChild<QCheckBox *>(u"forcage"_s)->setChecked(false);
+    fenetre.findChild<DCheckBox *>(u"caseNormale"_s)->MetsCochay(true);
+    fenetre.findChild<DRadioButton *>(u"radioDeuxieme"_s)->MetsCochay(true);
+    fenetre.findChild<QAbstractButton *>(u"exclusif_5"_s)->setChecked(true);
 
     fenetre.MetsLangue(kLangueAnglaisCanada);
     MontreToutesLesPages(fenetre);
@@ -112,10 +119,47 @@ void tst_FenetreGalerie::saisiesGardees()
     QCOMPARE(fenetre.findChild<VueEcrans *>()->DonneRectangle(), rectangle);
     QVERIFY(fenetre.findChild<QCheckBox *>(u"marge"_s)->isChecked());
     QVERIFY(!fenetre.findChild<QCheckBox *>(u"forcage"_s)->isChecked());
+    QVERIFY(fenetre.findChild<DCheckBox *>(u"caseNormale"_s)->EstCochay());
+    QVERIFY(fenetre.findChild<DRadioButton *>(u"radioDeuxieme"_s)->EstCochay());
+    QVERIFY(fenetre.findChild<QAbstractButton *>(u"exclusif_5"_s)->isChecked());
+    QVERIFY(!fenetre.findChild<QAbstractButton *>(u"exclusif_3"_s)->isChecked());
     // The filter does what it shows.
     auto const * const table = fenetre.findChild<QTableView *>(u"tableVariables"_s);
     QVERIFY(table->model()->rowCount() > 0);
     QVERIFY(table->model()->rowCount() < ThemesQt::Instance()->DonneNoms().size());
+}
+
+void tst_FenetreGalerie::lettresUniques_data()
+{
+    QTest::addColumn<eLangue>("langue");
+    QTest::newRow("French") << kLangueFrancais;
+    QTest::newRow("English") << kLangueAnglais;
+    QTest::newRow("English for Canada") << kLangueAnglaisCanada;
+}
+
+void tst_FenetreGalerie::lettresUniques()
+{
+    QFETCH(eLangue, langue);
+    FenetreGalerie fenetre(monTheme);
+    fenetre.MetsLangue(langue);
+    auto const * const pile = fenetre.findChild<QStackedWidget *>();
+    for (int i = 0; i < DonnePages().size(); ++i) {
+        fenetre.MontrePage(i);
+        QStringList textes;
+        for (auto const * const etiquette : fenetre.findChildren<QLabel *>())
+            if (etiquette->buddy() &&
+                (pile->currentWidget()->isAncestorOf(etiquette) || !pile->isAncestorOf(etiquette)))
+                textes.append(etiquette->text());
+        QVERIFY(!textes.isEmpty());
+        for (auto const * const bouton : pile->currentWidget()->findChildren<QAbstractButton *>())
+            textes.append(bouton->text());
+        QSet<QKeySequence> lettres;
+        for (QString const & texte : textes) {
+            QKeySequence const lettre = QKeySequence::mnemonic(texte);
+            QVERIFY2(lettre.isEmpty() || !lettres.contains(lettre), qPrintable(texte));
+            lettres.insert(lettre);
+        }
+    }
 }
 
 void tst_FenetreGalerie::themeSuivi()

@@ -130,8 +130,8 @@ QWidget * PageBoutons::CreeBascules()
         grille->addWidget(new QLabel(TraductionGalerie(kEtatsDesBascules[i])), 0, i + 1, 1,
                           colonnes);
     }
-    // Logical pixels: a thumb in its track, one as large as it, and one that is larger.
-    for (auto const & [piste, pouce] : {std::pair(12, 9), std::pair(11, 11), std::pair(8, 11)})
+    // Logical pixels: a thumb in its track, a small switch, and a thumb as large as the track.
+    for (auto const & [piste, pouce] : {std::pair(12, 9), std::pair(8, 6), std::pair(11, 11)})
         AjouteBascules(*grille, piste, pouce);
     grille->setColumnStretch(0, 1);
     grille->setRowStretch(grille->rowCount(), 1);

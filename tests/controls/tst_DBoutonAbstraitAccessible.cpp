@@ -1,4 +1,5 @@
 // tests/controls/tst_DBoutonAbstraitAccessible.cpp
+#include "controls/CaseEtrangere.h"
 #include "controls/LectureBouton.h"
 #include "outils/LecteurSimulay.h"
 
@@ -31,6 +32,7 @@ private Q_SLOTS:
     void etatAvecFocus();
     void classeDerivee();
     void autresBoutonsIntacts();
+    void classeEtrangereDuMemeNom();
     void fabriqueReprise();
 };
 
@@ -91,6 +93,8 @@ void tst_DBoutonAbstraitAccessible::nom_data()
                                      << u"Lire les conditions"_s;
         ligne("entities") << u"a &amp; b &lt; c"_s << QString() << u"a & b < c"_s;
         ligne("one line") << u"<p>a</p><p>b<br>c</p>"_s << QString() << u"a b c"_s;
+        ligne("picture beside text") << u"<img src='x.png'> Abc"_s << QString() << u"Abc"_s;
+        ligne("picture alone") << u"<img src='x.png'>"_s << QString() << QString();
         ligne("given name wins") << u"Abc"_s << u"Autre"_s << u"Autre"_s;
         ligne("no text") << QString() << QString() << QString();
         ligne("no text but a name") << QString() << u"Autre"_s << u"Autre"_s;
@@ -116,8 +120,13 @@ void tst_DBoutonAbstraitAccessible::nomParUnLibelleVoisin()
     QLabel voisin(u"&Voisin"_s, &parent);
     DCheckBox const controle(QString(), &parent);
     voisin.setBuddy(const_cast<DCheckBox *>(&controle));
-    for (QAccessibleInterface const * const lu : LesDeux(controle))
+    QList<QPair<QAccessibleInterface *, QAccessible::Relation>> const relations{
+        {Lu(voisin), QAccessible::Label}};
+    for (QAccessibleInterface const * const lu : LesDeux(controle)) {
         QCOMPARE(lu->text(QAccessible::Name), u"Voisin"_s);
+        QCOMPARE(lu->relations(QAccessible::Label), relations);
+        QCOMPARE(lu->relations(), relations);
+    }
 }
 
 void tst_DBoutonAbstraitAccessible::description()
@@ -147,7 +156,7 @@ void tst_DBoutonAbstraitAccessible::unSeulControle()
     QPoint const milieu = lu->rect().center();
     QCOMPARE(lu->childAt(milieu.x(), milieu.y()), nullptr);
 
-    QCOMPARE(indicateur->parent(), lu);
+    QCOMPARE(indicateur->parent(), Lu(parent)); // no check box within a check box
     QCOMPARE(indicateur->childCount(), 0);
     QCOMPARE(lu->parent(), Lu(parent));
     QCOMPARE(Lu(parent)->childCount(), 1);
@@ -268,6 +277,19 @@ void tst_DBoutonAbstraitAccessible::autresBoutonsIntacts()
     QCOMPARE(Lu(caseDeQt)->text(QAccessible::Name), u"Case"_s);
     QCOMPARE(Lu(caseDeQt)->role(), QAccessible::CheckBox);
     QCOMPARE(Lu(radioDeQt)->text(QAccessible::Name), u"Radio"_s);
+}
+
+void tst_DBoutonAbstraitAccessible::classeEtrangereDuMemeNom()
+{
+    DCheckBox const controle(u"abc"_s); // so that the library is asked
+    QWidget fenetre;
+    std::unique_ptr<QCheckBox> const seule = CaseEtrangere::Cree(u"Seule"_s);
+    QCheckBox * const placee = CaseEtrangere::Cree(u"Placée"_s).release();
+    placee->setParent(&fenetre);
+    QCOMPARE(seule->metaObject()->className(), "CheckBoxHover");
+    // Qt's own interface, which knows how to describe the text of the button.
+    QCOMPARE(Lu(*seule)->text(QAccessible::Name), u"Seule"_s);
+    QCOMPARE(Lu(*placee)->text(QAccessible::Name), u"Placée"_s);
 }
 
 void tst_DBoutonAbstraitAccessible::fabriqueReprise()

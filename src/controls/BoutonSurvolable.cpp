@@ -34,8 +34,7 @@ void BoutonSurvolable<Bouton, kElement>::paintEvent(QPaintEvent *)
     peintre.setRenderHint(QPainter::SmoothPixmapTransform);
     QStyleOptionButton option;
     this->initStyleOption(&option);
-    // What cannot be used does not react, although its label may be under the mouse.
-    if (monSurvol && this->isEnabled())
+    if (monSurvol) // Deliberate: of a disabled one too; the style shows it or not.
         option.state |= QStyle::State_MouseOver;
     peintre.drawControl(kElement, option);
 }

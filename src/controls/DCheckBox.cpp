@@ -7,6 +7,7 @@
 #include "style/ProprietesStyle_p.h"
 
 #include <QLabel>
+#include <QPointer>
 
 DCheckBox::DCheckBox(QString const & texte, QWidget * parent, bool cochay)
     : DBoutonAbstrait(parent)
@@ -48,12 +49,12 @@ void DCheckBox::MetsUtilisateurPeutChangerValeur(bool peut)
     bool const pouvait = !maCase->testAttribute(Qt::WA_ForceDisabled);
     if (peut == pouvait)
         return;
+    ChangePolitiqueFocus(peut);
+    // A box that is down is released, and who hears that may delete the control.
+    QPointer<DCheckBox> const garde(this);
     maCase->setEnabled(peut);
-    // Else a click on the label would give the focus to the disabled box.
-    if (!peut)
-        maPolitiqueFocus = focusPolicy();
-    setFocusPolicy(peut ? maPolitiqueFocus : Qt::NoFocus);
-    BoutonAccessible::AnnonceActivation(*this);
+    if (garde)
+        BoutonAccessible::AnnonceActivation(*this);
 }
 
 bool DCheckBox::eventFilter(QObject * objet, QEvent * evenement)
@@ -81,6 +82,17 @@ void DCheckBox::hideEvent(QHideEvent * evenement)
 {
     maCase->MetsSurvolay(false);
     DBoutonAbstrait::hideEvent(evenement);
+}
+
+// Without this a click on the label would give the focus to the disabled box.
+void DCheckBox::ChangePolitiqueFocus(bool peut)
+{
+    if (!peut) {
+        maPolitiqueFocus = focusPolicy();
+        setFocusPolicy(Qt::NoFocus);
+    } else if (focusPolicy() == Qt::NoFocus) { // else the host chose another meanwhile
+        setFocusPolicy(maPolitiqueFocus);
+    }
 }
 
 void DCheckBox::Branche()

@@ -25,7 +25,8 @@ public:
     void MetsCochay(bool cochay) override;
 
     /// False freezes the value: the indicator is disabled, the label is not, but does not toggle.
-    /// `MetsCochay` still changes it.
+    /// `MetsCochay` still changes it. The control has no focus policy then; it gets its own back,
+    /// unless the host gave it another meanwhile.
     void MetsUtilisateurPeutChangerValeur(bool peut);
 
     bool eventFilter(QObject * objet, QEvent * evenement) override;
@@ -43,6 +44,7 @@ protected:
     void hideEvent(QHideEvent * evenement) override;
 
 private:
+    void ChangePolitiqueFocus(bool peut);
     void Branche();
 
     CheckBoxHover * maCase = nullptr;

@@ -17,6 +17,8 @@ private Q_SLOTS:
     void valeurGelee();
     void valeurDegelee();
     void gelGardeLaPolitiqueDeFocus();
+    void politiqueChangeePendantLeGel();
+    void degelParUnReceveur();
     void gelSousUnParentDesactivay();
     void clicSurLibelleGelaySansFocus();
 };
@@ -71,6 +73,27 @@ void tst_DCheckBoxGel::gelGardeLaPolitiqueDeFocus()
         controle.MetsUtilisateurPeutChangerValeur(peut);
     QCOMPARE(controle.focusPolicy(), Qt::TabFocus);
     QCOMPARE(Indicateur(controle).focusPolicy(), Qt::TabFocus);
+}
+
+void tst_DCheckBoxGel::politiqueChangeePendantLeGel()
+{
+    DCheckBox controle(u"abc"_s);
+    controle.MetsUtilisateurPeutChangerValeur(false);
+    controle.setFocusPolicy(Qt::ClickFocus);
+    controle.MetsUtilisateurPeutChangerValeur(true);
+    QCOMPARE(controle.focusPolicy(), Qt::ClickFocus);
+}
+
+void tst_DCheckBoxGel::degelParUnReceveur()
+{
+    DCheckBox controle(u"abc"_s);
+    controle.show();
+    QTest::keyPress(&Indicateur(controle), Qt::Key_Space);
+    connect(&controle, &DCheckBox::released, &controle,
+            [&controle] { controle.MetsUtilisateurPeutChangerValeur(true); });
+    controle.MetsUtilisateurPeutChangerValeur(false);
+    QVERIFY(Indicateur(controle).isEnabled());
+    QCOMPARE(controle.focusPolicy(), Qt::StrongFocus);
 }
 
 void tst_DCheckBoxGel::gelSousUnParentDesactivay()

@@ -21,9 +21,10 @@ DCheckBox::DCheckBox(QString const & texte, QWidget * parent, bool cochay)
 
 DCheckBox::~DCheckBox()
 {
-    // Deleted by a receiver of a signal: Qt still uses the indicator behind that.
+    // Deleted by a receiver of a signal: Qt still uses the indicator behind that. It is not busy
+    // in an `animateClick`, behind whose `pressed` Qt starts a timer.
     if (maCase->EstOccupay() || sender() == maCase)
-        RoutinesBouton::Detache(*maCase);
+        maCase->Abandonne();
 }
 
 UniChaine DCheckBox::DonneTexte() const

@@ -8,8 +8,12 @@ class QLabel;
 
 /// A check box whose label is rich text, with links if need be, and wraps where it has no room.
 ///
-/// A release of the mouse on the label toggles the box. There is no third state. Whoever hears one
-/// of the signals may delete the control.
+/// A release of the mouse that was pressed on the label toggles the box, whatever the button of the
+/// mouse and even outside the label. A click on a link does that too and does not follow the link.
+/// There is no third state.
+///
+/// Whoever hears one of the signals may delete the control, except from the `released` of a box
+/// that is down while the control or its parent is disabled.
 class FABRELGUI_EXPORT DCheckBox : public DBoutonAbstrait
 {
     Q_OBJECT

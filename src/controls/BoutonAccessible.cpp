@@ -4,6 +4,7 @@
 #include "controls/DBoutonAbstrait.h"
 
 #include <QAbstractButton>
+#include <QCoreApplication>
 #include <QRadioButton>
 #include <QTextDocumentFragment>
 
@@ -13,13 +14,17 @@ namespace {
 
 int nombreDeControles = 0;
 
-// Qt asks for each class of the object in turn, from the most derived one.
+// Qt asks for each class of the object in turn, from the most derived one. A host may have a class
+// of the same name as one of ours.
 QAccessibleInterface * CreeInterface(QString const & classe, QObject * objet)
 {
     bool const connue = classe == "DCheckBox"_L1 || classe == "DRadioButton"_L1 ||
                         classe == "CheckBoxHover"_L1 || classe == "BoutonHover"_L1;
-    auto * const widget = connue ? qobject_cast<QWidget *>(objet) : nullptr;
-    return widget ? new BoutonAccessible(widget) : nullptr;
+    if (!connue || !objet || !objet->isWidgetType())
+        return nullptr;
+    bool const notre =
+        qobject_cast<DBoutonAbstrait *>(objet) || qobject_cast<DBoutonAbstrait *>(objet->parent());
+    return notre ? new BoutonAccessible(static_cast<QWidget *>(objet)) : nullptr;
 }
 
 void Annonce(DBoutonAbstrait & controle, QAccessible::State etats)
@@ -36,7 +41,8 @@ BoutonAccessible::BoutonAccessible(QWidget * widget)
 }
 
 // Only while there are controls, so that nothing is left behind when the library is unloaded. Qt
-// itself forgets the factory when the application object dies.
+// itself forgets the factory when the first application object dies. A host's own factory is asked
+// before this one if it was installed after the first control was made.
 void BoutonAccessible::PrendsFabrique()
 {
     ++nombreDeControles;
@@ -45,7 +51,8 @@ void BoutonAccessible::PrendsFabrique()
 
 void BoutonAccessible::LibereFabrique()
 {
-    if (--nombreDeControles == 0)
+    // Without an application, Qt's list of factories may be gone, as at the end of the process.
+    if (--nombreDeControles == 0 && QCoreApplication::instance())
         QAccessible::removeFactory(&CreeInterface);
 }
 
@@ -61,6 +68,21 @@ void BoutonAccessible::AnnonceActivation(DBoutonAbstrait & controle)
     QAccessible::State etats;
     etats.disabled = true;
     Annonce(controle, etats);
+}
+
+QList<QPair<QAccessibleInterface *, QAccessible::Relation>>
+BoutonAccessible::relations(QAccessible::Relation cherchees) const
+{
+    if (QAccessibleInterface const * const lu = PreteInterfaceDuControle())
+        return lu->relations(cherchees); // it is the control that a label is the buddy of
+    return QAccessibleWidget::relations(cherchees);
+}
+
+QAccessibleInterface * BoutonAccessible::parent() const
+{
+    if (QAccessibleInterface const * const lu = PreteInterfaceDuControle())
+        return lu->parent();
+    return QAccessibleWidget::parent();
 }
 
 int BoutonAccessible::childCount() const
@@ -86,13 +108,15 @@ QAccessible::Role BoutonAccessible::role() const
 
 QString BoutonAccessible::text(QAccessible::Text nature) const
 {
-    DBoutonAbstrait * const controle = PreteControle();
-    if (controle && controle != object()) // names and tool tips are put on the control
-        return QAccessible::queryAccessibleInterface(controle)->text(nature);
+    if (QAccessibleInterface const * const lu = PreteInterfaceDuControle())
+        return lu->text(nature); // names and tool tips are put on the control
+    DBoutonAbstrait const * const controle = PreteControle();
     if (controle && nature == QAccessible::Name && controle->accessibleName().isEmpty()) {
-        auto const texte = QTextDocumentFragment::fromHtml(controle->DonneTexte()).toPlainText();
+        QString texte = QTextDocumentFragment::fromHtml(controle->DonneTexte()).toPlainText();
+        texte.remove(QChar::ObjectReplacementCharacter); // where a picture stands
+        texte = texte.simplified();
         if (!texte.isEmpty())
-            return texte.simplified();
+            return texte;
     }
     return QAccessibleWidget::text(nature);
 }
@@ -130,6 +154,14 @@ void BoutonAccessible::doAction(QString const & nom)
         bouton->click();
     else
         QAccessibleWidget::doAction(nom);
+}
+
+// Null for the control itself.
+QAccessibleInterface * BoutonAccessible::PreteInterfaceDuControle() const
+{
+    DBoutonAbstrait * const controle = PreteControle();
+    return controle && controle != object() ? QAccessible::queryAccessibleInterface(controle)
+                                            : nullptr;
 }
 
 // Null while the control is being destroyed.

@@ -23,6 +23,10 @@ public:
     static void AnnonceCochage(DBoutonAbstrait & controle);
     static void AnnonceActivation(DBoutonAbstrait & controle);
 
+    QList<QPair<QAccessibleInterface *, QAccessible::Relation>>
+    relations(QAccessible::Relation cherchees = QAccessible::AllRelations) const override;
+    /// That of the control for the indicator too: no button stands within a button.
+    QAccessibleInterface * parent() const override;
     int childCount() const override;
     QAccessibleInterface * child(int index) const override;
     int indexOfChild(QAccessibleInterface const * enfant) const override;
@@ -34,6 +38,7 @@ public:
     void doAction(QString const & nom) override;
 
 private:
+    QAccessibleInterface * PreteInterfaceDuControle() const;
     DBoutonAbstrait * PreteControle() const;
     QAbstractButton * PreteBouton() const;
 };

@@ -1,9 +1,25 @@
 // controls/BoutonSurvolable.cpp
 #include "controls/BoutonSurvolable_p.h"
 
-#include <QScopedValueRollback>
+#include <QButtonGroup>
 #include <QStyleOptionButton>
 #include <QStylePainter>
+
+template <class Bouton, QStyle::ControlElement kElement>
+BoutonSurvolable<Bouton, kElement>::Occupation::Occupation(BoutonSurvolable & bouton)
+    : monBouton(&bouton)
+{
+    ++bouton.mesOccupations;
+}
+
+// Only the outermost one: a deletion posted further in would be done by the event loop of a
+// receiver, before Qt is through with the button.
+template <class Bouton, QStyle::ControlElement kElement>
+BoutonSurvolable<Bouton, kElement>::Occupation::~Occupation()
+{
+    if (monBouton && --monBouton->mesOccupations == 0 && monBouton->monAbandon)
+        monBouton->deleteLater();
+}
 
 template <class Bouton, QStyle::ControlElement kElement>
 void BoutonSurvolable<Bouton, kElement>::MetsSurvolay(bool survolay)
@@ -15,15 +31,36 @@ void BoutonSurvolable<Bouton, kElement>::MetsSurvolay(bool survolay)
 template <class Bouton, QStyle::ControlElement kElement>
 void BoutonSurvolable<Bouton, kElement>::ChangeCochage(bool cochay)
 {
-    QScopedValueRollback<bool> const garde(monOccupation, true);
+    Occupation const occupation(*this);
     this->setChecked(cochay);
+}
+
+template <class Bouton, QStyle::ControlElement kElement>
+void BoutonSurvolable<Bouton, kElement>::Abandonne()
+{
+    // First: a button that is down is released when it loses the focus.
+    this->disconnect(this->parent());
+    if (QButtonGroup * const groupe = this->group())
+        groupe->removeButton(this);
+    this->setParent(nullptr);
+    if (EstOccupay())
+        monAbandon = true;
+    else
+        this->deleteLater();
+}
+
+template <class Bouton, QStyle::ControlElement kElement>
+bool BoutonSurvolable<Bouton, kElement>::event(QEvent * evenement)
+{
+    Occupation const occupation(*this);
+    return Bouton::event(evenement);
 }
 
 // By a click, or because another button of the group is checked.
 template <class Bouton, QStyle::ControlElement kElement>
 void BoutonSurvolable<Bouton, kElement>::nextCheckState()
 {
-    QScopedValueRollback<bool> const garde(monOccupation, true);
+    Occupation const occupation(*this);
     Bouton::nextCheckState();
 }
 
@@ -34,8 +71,7 @@ void BoutonSurvolable<Bouton, kElement>::paintEvent(QPaintEvent *)
     peintre.setRenderHint(QPainter::SmoothPixmapTransform);
     QStyleOptionButton option;
     this->initStyleOption(&option);
-    // What cannot be used does not react, although its label may be under the mouse.
-    if (monSurvol && this->isEnabled())
+    if (monSurvol) // Deliberate: of a disabled one too; the style shows it or not.
         option.state |= QStyle::State_MouseOver;
     peintre.drawControl(kElement, option);
 }

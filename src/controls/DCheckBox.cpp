@@ -7,6 +7,7 @@
 #include "style/ProprietesStyle_p.h"
 
 #include <QLabel>
+#include <QPointer>
 
 DCheckBox::DCheckBox(QString const & texte, QWidget * parent, bool cochay)
     : DBoutonAbstrait(parent)
@@ -20,9 +21,10 @@ DCheckBox::DCheckBox(QString const & texte, QWidget * parent, bool cochay)
 
 DCheckBox::~DCheckBox()
 {
-    // Deleted by a receiver of a signal: Qt still uses the indicator behind that.
+    // Deleted by a receiver of a signal: Qt still uses the indicator behind that. It is not busy
+    // in an `animateClick`, behind whose `pressed` Qt starts a timer.
     if (maCase->EstOccupay() || sender() == maCase)
-        RoutinesBouton::Detache(*maCase);
+        maCase->Abandonne();
 }
 
 UniChaine DCheckBox::DonneTexte() const
@@ -48,12 +50,12 @@ void DCheckBox::MetsUtilisateurPeutChangerValeur(bool peut)
     bool const pouvait = !maCase->testAttribute(Qt::WA_ForceDisabled);
     if (peut == pouvait)
         return;
+    ChangePolitiqueFocus(peut);
+    // A box that is down is released, and who hears that may delete the control.
+    QPointer<DCheckBox> const garde(this);
     maCase->setEnabled(peut);
-    // Else a click on the label would give the focus to the disabled box.
-    if (!peut)
-        maPolitiqueFocus = focusPolicy();
-    setFocusPolicy(peut ? maPolitiqueFocus : Qt::NoFocus);
-    BoutonAccessible::AnnonceActivation(*this);
+    if (garde)
+        BoutonAccessible::AnnonceActivation(*this);
 }
 
 bool DCheckBox::eventFilter(QObject * objet, QEvent * evenement)
@@ -81,6 +83,17 @@ void DCheckBox::hideEvent(QHideEvent * evenement)
 {
     maCase->MetsSurvolay(false);
     DBoutonAbstrait::hideEvent(evenement);
+}
+
+// Without this a click on the label would give the focus to the disabled box.
+void DCheckBox::ChangePolitiqueFocus(bool peut)
+{
+    if (!peut) {
+        maPolitiqueFocus = focusPolicy();
+        setFocusPolicy(Qt::NoFocus);
+    } else if (focusPolicy() == Qt::NoFocus) { // else the host chose another meanwhile
+        setFocusPolicy(maPolitiqueFocus);
+    }
 }
 
 void DCheckBox::Branche()

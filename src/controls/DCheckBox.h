@@ -8,8 +8,12 @@ class QLabel;
 
 /// A check box whose label is rich text, with links if need be, and wraps where it has no room.
 ///
-/// A release of the mouse on the label toggles the box. There is no third state. Whoever hears one
-/// of the signals may delete the control.
+/// A release of the mouse that was pressed on the label toggles the box, whatever the button of the
+/// mouse and even outside the label. A click on a link does that too and does not follow the link.
+/// There is no third state.
+///
+/// Whoever hears one of the signals may delete the control, except from the `released` of a box
+/// that is down while the control or its parent is disabled.
 class FABRELGUI_EXPORT DCheckBox : public DBoutonAbstrait
 {
     Q_OBJECT
@@ -25,7 +29,8 @@ public:
     void MetsCochay(bool cochay) override;
 
     /// False freezes the value: the indicator is disabled, the label is not, but does not toggle.
-    /// `MetsCochay` still changes it.
+    /// `MetsCochay` still changes it. The control has no focus policy then; it gets its own back,
+    /// unless the host gave it another meanwhile.
     void MetsUtilisateurPeutChangerValeur(bool peut);
 
     bool eventFilter(QObject * objet, QEvent * evenement) override;
@@ -43,6 +48,7 @@ protected:
     void hideEvent(QHideEvent * evenement) override;
 
 private:
+    void ChangePolitiqueFocus(bool peut);
     void Branche();
 
     CheckBoxHover * maCase = nullptr;

@@ -8,7 +8,7 @@
 /// A label that tells of clicks.
 ///
 /// The press is the label's own: no parent hears of it, and it starts no selection of the text. A
-/// link is followed all the same, at the release.
+/// link is followed all the same, at the release, unless some text of the label is selected.
 class FABRELGUI_EXPORT DLabelClickable : public QLabel
 {
     Q_OBJECT

@@ -21,9 +21,10 @@ DRadioButton::DRadioButton(QString const & texte, QWidget * parent, bool cochay,
 
 DRadioButton::~DRadioButton()
 {
-    // Deleted by a receiver of a signal: Qt still uses the indicator behind that.
+    // Deleted by a receiver of a signal: Qt still uses the indicator behind that. It is not busy
+    // when the host checks it through the group, which Qt then tells readers of.
     if (monBouton->EstOccupay() || sender() == monBouton)
-        RoutinesBouton::Detache(*monBouton);
+        monBouton->Abandonne();
 }
 
 UniChaine DRadioButton::DonneTexte() const

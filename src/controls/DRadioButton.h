@@ -10,8 +10,12 @@ class QLabel;
 /// A radio button whose label is rich text, with links if need be, and wraps where it has no room.
 ///
 /// Only buttons of the same exclusive `QButtonGroup` exclude one another, not those of the same
-/// parent: without a group the user can uncheck the button. A release of the mouse on the label
-/// toggles it. Whoever hears one of its signals may delete the control.
+/// parent: without a group the user can uncheck the button. A release of the mouse that was pressed
+/// on the label toggles it, whatever the button of the mouse and even outside the label. A click on
+/// a link does that too and does not follow the link.
+///
+/// Whoever hears the signal of the control may delete it. That does not hold for the signals of the
+/// group when the application checks an indicator through the group.
 class FABRELGUI_EXPORT DRadioButton : public DBoutonAbstrait
 {
     Q_OBJECT

@@ -4,7 +4,6 @@
 #include "foundation/Layouts.h"
 
 #include <QAbstractButton>
-#include <QButtonGroup>
 #include <QEvent>
 #include <QHBoxLayout>
 #include <QLabel>
@@ -65,13 +64,4 @@ bool RoutinesBouton::EstBascule(QAbstractButton const & bouton, QLabel const & l
 {
     return objet == &libelle && evenement.type() == QEvent::MouseButtonRelease &&
            bouton.isEnabled();
-}
-
-void RoutinesBouton::Detache(QAbstractButton & bouton)
-{
-    if (QButtonGroup * const groupe = bouton.group())
-        groupe->removeButton(&bouton);
-    bouton.hide();
-    bouton.setParent(nullptr);
-    bouton.deleteLater();
 }

@@ -19,7 +19,4 @@ QLabel * Assemble(QWidget & controle, QAbstractButton & bouton, QString const & 
 bool EstBascule(QAbstractButton const & bouton, QLabel const & libelle, QObject const * objet,
                 QEvent const & evenement);
 
-/// Lets the indicator live until the next turn of the event loop, out of its control and group.
-void Detache(QAbstractButton & bouton);
-
 } // namespace RoutinesBouton

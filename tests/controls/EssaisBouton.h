@@ -8,7 +8,10 @@
 
 #include <QAbstractButton>
 #include <QApplication>
+#include <QEventLoop>
 #include <QLabel>
+#include <QPointer>
+#include <QTimer>
 
 #include <memory>
 
@@ -47,10 +50,30 @@ inline QLabel & Libelle(DBoutonAbstrait const & controle)
     return *controle.findChild<QLabel *>();
 }
 
+/// By hand: the label may be gone afterwards.
+inline void RelacheSurLibelle(DBoutonAbstrait const & controle)
+{
+    QMouseEvent relache(QEvent::MouseButtonRelease, QPointF(1, 1), QPointF(1, 1), Qt::LeftButton,
+                        Qt::NoButton, {});
+    QCoreApplication::sendEvent(&Libelle(controle), &relache);
+}
+
 /// What was to die later does so now.
 inline void DetruisAttente()
 {
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+}
+
+/// Deletes the window as a receiver that asks the user something may: in an event loop of its own,
+/// which also does what was to be done later.
+inline void SupprimeDansUneBoucle(QPointer<QWidget> const & fenetre)
+{
+    QEventLoop boucle;
+    QTimer::singleShot(0, &boucle, [&boucle, &fenetre] {
+        delete fenetre.data();
+        QMetaObject::invokeMethod(&boucle, &QEventLoop::quit, Qt::QueuedConnection);
+    });
+    boucle.exec();
 }
 
 } // namespace EssaisBouton

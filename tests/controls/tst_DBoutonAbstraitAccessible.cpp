@@ -1,15 +1,13 @@
 // tests/controls/tst_DBoutonAbstraitAccessible.cpp
-#include "controls/EssaisBouton.h"
+#include "controls/CaseEtrangere.h"
+#include "controls/LectureBouton.h"
 #include "outils/LecteurSimulay.h"
 
 #include <QCheckBox>
-#include <QHBoxLayout>
 #include <QRadioButton>
 
 using namespace Qt::StringLiterals;
-using namespace EssaisBouton;
-
-using Actions = QAccessibleActionInterface;
+using namespace LectureBouton;
 
 class tst_DBoutonAbstraitAccessible : public QObject
 {
@@ -32,38 +30,13 @@ private Q_SLOTS:
     void etatEnfoncay();
     void etatAvecFocus_data();
     void etatAvecFocus();
-    void actions_data();
-    void actions();
-    void actionBasculer_data();
-    void actionBasculer();
-    void actionAppuyer_data();
-    void actionAppuyer();
-    void actionFocus_data();
-    void actionFocus();
-    void actionRefusee_data();
-    void actionRefusee();
-    void annonceDuCochage_data();
-    void annonceDuCochage();
-    void annonceParClic_data();
-    void annonceParClic();
-    void annonceDuGel();
     void classeDerivee();
     void autresBoutonsIntacts();
+    void classeEtrangereDuMemeNom();
     void fabriqueReprise();
 };
 
 namespace {
-
-QAccessibleInterface * Lu(QObject const & objet)
-{
-    return QAccessible::queryAccessibleInterface(const_cast<QObject *>(&objet));
-}
-
-// The interface of the control, then that of the indicator.
-QList<QAccessibleInterface *> LesDeux(DBoutonAbstrait const & controle)
-{
-    return {Lu(controle), Lu(Indicateur(controle))};
-}
 
 class CaseDerivee : public DCheckBox
 {
@@ -120,6 +93,8 @@ void tst_DBoutonAbstraitAccessible::nom_data()
                                      << u"Lire les conditions"_s;
         ligne("entities") << u"a &amp; b &lt; c"_s << QString() << u"a & b < c"_s;
         ligne("one line") << u"<p>a</p><p>b<br>c</p>"_s << QString() << u"a b c"_s;
+        ligne("picture beside text") << u"<img src='x.png'> Abc"_s << QString() << u"Abc"_s;
+        ligne("picture alone") << u"<img src='x.png'>"_s << QString() << QString();
         ligne("given name wins") << u"Abc"_s << u"Autre"_s << u"Autre"_s;
         ligne("no text") << QString() << QString() << QString();
         ligne("no text but a name") << QString() << u"Autre"_s << u"Autre"_s;
@@ -145,8 +120,13 @@ void tst_DBoutonAbstraitAccessible::nomParUnLibelleVoisin()
     QLabel voisin(u"&Voisin"_s, &parent);
     DCheckBox const controle(QString(), &parent);
     voisin.setBuddy(const_cast<DCheckBox *>(&controle));
-    for (QAccessibleInterface const * const lu : LesDeux(controle))
+    QList<QPair<QAccessibleInterface *, QAccessible::Relation>> const relations{
+        {Lu(voisin), QAccessible::Label}};
+    for (QAccessibleInterface const * const lu : LesDeux(controle)) {
         QCOMPARE(lu->text(QAccessible::Name), u"Voisin"_s);
+        QCOMPARE(lu->relations(QAccessible::Label), relations);
+        QCOMPARE(lu->relations(), relations);
+    }
 }
 
 void tst_DBoutonAbstraitAccessible::description()
@@ -176,7 +156,7 @@ void tst_DBoutonAbstraitAccessible::unSeulControle()
     QPoint const milieu = lu->rect().center();
     QCOMPARE(lu->childAt(milieu.x(), milieu.y()), nullptr);
 
-    QCOMPARE(indicateur->parent(), lu);
+    QCOMPARE(indicateur->parent(), Lu(parent)); // no check box within a check box
     QCOMPARE(indicateur->childCount(), 0);
     QCOMPARE(lu->parent(), Lu(parent));
     QCOMPARE(Lu(parent)->childCount(), 1);
@@ -281,171 +261,6 @@ void tst_DBoutonAbstraitAccessible::etatAvecFocus()
     }));
 }
 
-void tst_DBoutonAbstraitAccessible::actions_data()
-{
-    AjouteGenres();
-}
-
-void tst_DBoutonAbstraitAccessible::actions()
-{
-    QFETCH(eGenre, genre);
-    std::unique_ptr<DBoutonAbstrait> const controle(Cree(genre, u"abc"_s));
-    for (QAccessibleInterface * const lu : LesDeux(*controle)) {
-        QVERIFY(lu->actionInterface());
-        QCOMPARE(lu->actionInterface()->actionNames(),
-                 (QStringList{Actions::toggleAction(), Actions::setFocusAction()}));
-    }
-    controle->setEnabled(false);
-    for (QAccessibleInterface * const lu : LesDeux(*controle))
-        QCOMPARE(lu->actionInterface()->actionNames(), QStringList());
-    if (genre == kRadio)
-        return;
-    controle->setEnabled(true);
-    static_cast<DCheckBox *>(controle.get())->MetsUtilisateurPeutChangerValeur(false);
-    for (QAccessibleInterface * const lu : LesDeux(*controle))
-        QCOMPARE(lu->actionInterface()->actionNames(), QStringList());
-}
-
-void tst_DBoutonAbstraitAccessible::actionBasculer_data()
-{
-    AjouteGenres();
-}
-
-void tst_DBoutonAbstraitAccessible::actionBasculer()
-{
-    QFETCH(eGenre, genre);
-    std::unique_ptr<DBoutonAbstrait> const controle(Cree(genre, u"abc"_s));
-    QSignalSpy cochages(controle.get(), &DBoutonAbstrait::SignalCochageChangay);
-    for (QAccessibleInterface * const lu : LesDeux(*controle)) {
-        cochages.clear();
-        lu->actionInterface()->doAction(Actions::toggleAction());
-        QVERIFY(controle->EstCochay());
-        lu->actionInterface()->doAction(Actions::toggleAction());
-        QVERIFY(!controle->EstCochay());
-        QCOMPARE(cochages, (QList<QVariantList>{{true}, {false}}));
-    }
-}
-
-void tst_DBoutonAbstraitAccessible::actionAppuyer_data()
-{
-    AjouteGenres();
-}
-
-// Not among the names, yet some systems ask for it, above all of radio buttons.
-void tst_DBoutonAbstraitAccessible::actionAppuyer()
-{
-    QFETCH(eGenre, genre);
-    std::unique_ptr<DBoutonAbstrait> const controle(Cree(genre, u"abc"_s));
-    QSignalSpy const clics(&Indicateur(*controle), &QAbstractButton::clicked);
-    for (QAccessibleInterface * const lu : LesDeux(*controle))
-        lu->actionInterface()->doAction(Actions::pressAction());
-    QCOMPARE(clics, (QList<QVariantList>{{true}, {false}}));
-}
-
-void tst_DBoutonAbstraitAccessible::actionFocus_data()
-{
-    AjouteGenres();
-}
-
-void tst_DBoutonAbstraitAccessible::actionFocus()
-{
-    QFETCH(eGenre, genre);
-    QWidget fenetre;
-    DBoutonAbstrait * const controle = Cree(genre, u"abc"_s, &fenetre);
-    fenetre.show();
-    QVERIFY(QTest::qWaitForWindowActive(&fenetre));
-    for (QAccessibleInterface * const lu : LesDeux(*controle)) {
-        controle->clearFocus();
-        lu->actionInterface()->doAction(Actions::setFocusAction());
-        QVERIFY(controle->hasFocus());
-    }
-    QVERIFY(!controle->EstCochay());
-}
-
-void tst_DBoutonAbstraitAccessible::actionRefusee_data()
-{
-    QTest::addColumn<QString>("action");
-    QTest::addColumn<bool>("gel");
-    QTest::newRow("toggle, disabled") << Actions::toggleAction() << false;
-    QTest::newRow("toggle, frozen") << Actions::toggleAction() << true;
-    QTest::newRow("press, disabled") << Actions::pressAction() << false;
-    QTest::newRow("press, frozen") << Actions::pressAction() << true;
-}
-
-void tst_DBoutonAbstraitAccessible::actionRefusee()
-{
-    QFETCH(QString, action);
-    QFETCH(bool, gel);
-    DCheckBox controle(u"abc"_s, nullptr, true);
-    QSignalSpy const bascules(&controle, &DCheckBox::toggled);
-    for (QAccessibleInterface * const lu : LesDeux(controle)) {
-        lu->actionInterface()->doAction(u"inconnue"_s);
-        controle.setEnabled(gel);
-        controle.MetsUtilisateurPeutChangerValeur(!gel);
-        lu->actionInterface()->doAction(action);
-        controle.setEnabled(true);
-        controle.MetsUtilisateurPeutChangerValeur(true);
-    }
-    QCOMPARE(bascules.count(), 0);
-}
-
-void tst_DBoutonAbstraitAccessible::annonceDuCochage_data()
-{
-    AjouteGenres();
-}
-
-void tst_DBoutonAbstraitAccessible::annonceDuCochage()
-{
-    QFETCH(eGenre, genre);
-    std::unique_ptr<DBoutonAbstrait> const controle(Cree(genre, u"abc"_s));
-    QAccessible::State coche;
-    coche.checked = true;
-    LecteurSimulay::Oublie();
-    controle->MetsCochay(true);
-    QCOMPARE(LecteurSimulay::CompteChangements(controle.get(), coche), 1);
-    QCOMPARE(LecteurSimulay::CompteChangements(&Indicateur(*controle), coche), 1);
-    controle->MetsCochay(true); // nothing changes
-    QCOMPARE(LecteurSimulay::CompteChangements(controle.get(), coche), 1);
-    QCOMPARE(LecteurSimulay::CompteChangements(&Indicateur(*controle), coche), 1);
-    controle->MetsCochay(false);
-    QCOMPARE(LecteurSimulay::CompteChangements(controle.get(), coche), 2);
-}
-
-void tst_DBoutonAbstraitAccessible::annonceParClic_data()
-{
-    AjouteGenres();
-}
-
-void tst_DBoutonAbstraitAccessible::annonceParClic()
-{
-    QFETCH(eGenre, genre);
-    std::unique_ptr<DBoutonAbstrait> const controle(Cree(genre, u"abc"_s));
-    controle->show();
-    QAccessible::State coche;
-    coche.checked = true;
-    LecteurSimulay::Oublie();
-    QTest::mouseClick(&Libelle(*controle), Qt::LeftButton);
-    QCOMPARE(LecteurSimulay::CompteChangements(controle.get(), coche), 1);
-    QTest::mouseClick(&Indicateur(*controle), Qt::LeftButton, {}, QPoint(5, 7));
-    QCOMPARE(LecteurSimulay::CompteChangements(controle.get(), coche), 2);
-    QTest::keyClick(&Indicateur(*controle), Qt::Key_Space);
-    QCOMPARE(LecteurSimulay::CompteChangements(controle.get(), coche), 3);
-}
-
-void tst_DBoutonAbstraitAccessible::annonceDuGel()
-{
-    DCheckBox controle(u"abc"_s);
-    QAccessible::State desactivay;
-    desactivay.disabled = true;
-    LecteurSimulay::Oublie();
-    controle.MetsUtilisateurPeutChangerValeur(false);
-    QCOMPARE(LecteurSimulay::CompteChangements(&controle, desactivay), 1);
-    controle.MetsUtilisateurPeutChangerValeur(false);
-    QCOMPARE(LecteurSimulay::CompteChangements(&controle, desactivay), 1);
-    controle.MetsUtilisateurPeutChangerValeur(true);
-    QCOMPARE(LecteurSimulay::CompteChangements(&controle, desactivay), 2);
-}
-
 void tst_DBoutonAbstraitAccessible::classeDerivee()
 {
     CaseDerivee const controle(u"<b>abc</b>"_s);
@@ -462,6 +277,19 @@ void tst_DBoutonAbstraitAccessible::autresBoutonsIntacts()
     QCOMPARE(Lu(caseDeQt)->text(QAccessible::Name), u"Case"_s);
     QCOMPARE(Lu(caseDeQt)->role(), QAccessible::CheckBox);
     QCOMPARE(Lu(radioDeQt)->text(QAccessible::Name), u"Radio"_s);
+}
+
+void tst_DBoutonAbstraitAccessible::classeEtrangereDuMemeNom()
+{
+    DCheckBox const controle(u"abc"_s); // so that the library is asked
+    QWidget fenetre;
+    std::unique_ptr<QCheckBox> const seule = CaseEtrangere::Cree(u"Seule"_s);
+    QCheckBox * const placee = CaseEtrangere::Cree(u"Placée"_s).release();
+    placee->setParent(&fenetre);
+    QCOMPARE(seule->metaObject()->className(), "CheckBoxHover");
+    // Qt's own interface, which knows how to describe the text of the button.
+    QCOMPARE(Lu(*seule)->text(QAccessible::Name), u"Seule"_s);
+    QCOMPARE(Lu(*placee)->text(QAccessible::Name), u"Placée"_s);
 }
 
 void tst_DBoutonAbstraitAccessible::fabriqueReprise()

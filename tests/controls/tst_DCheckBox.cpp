@@ -31,11 +31,6 @@ private Q_SLOTS:
     void filtreLaisseLeReste();
     void desactivay_data();
     void desactivay();
-    void valeurGelee();
-    void valeurDegelee();
-    void gelGardeLaPolitiqueDeFocus();
-    void gelSousUnParentDesactivay();
-    void clicSurLibelleGelaySansFocus();
 };
 
 void tst_DCheckBox::cleanup()
@@ -257,91 +252,6 @@ void tst_DCheckBox::desactivay()
     QVERIFY(!controle->eventFilter(&Libelle(*controle), &relache));
     controle->MetsCochay(true);
     QVERIFY(controle->EstCochay());
-}
-
-void tst_DCheckBox::valeurGelee()
-{
-    DCheckBox controle(u"abc"_s, nullptr, true);
-    controle.show();
-    QSignalSpy const bascules(&controle, &DCheckBox::toggled);
-    controle.MetsUtilisateurPeutChangerValeur(false);
-    QVERIFY(!Indicateur(controle).isEnabled());
-    QVERIFY(Libelle(controle).isEnabled());
-    QVERIFY(controle.isEnabled());
-
-    QMouseEvent relache(QEvent::MouseButtonRelease, QPointF(1, 1), QPointF(1, 1), Qt::LeftButton,
-                        Qt::NoButton, {});
-    QVERIFY(!controle.eventFilter(&Libelle(controle), &relache));
-    QTest::mousePress(&Libelle(controle), Qt::LeftButton);
-    QCoreApplication::sendEvent(&Libelle(controle), &relache);
-    QVERIFY(controle.EstCochay());
-    QCOMPARE(bascules.count(), 0);
-
-    controle.MetsCochay(false);
-    QVERIFY(!controle.EstCochay());
-    QCOMPARE(bascules.count(), 1);
-}
-
-void tst_DCheckBox::valeurDegelee()
-{
-    DCheckBox controle(u"abc"_s);
-    controle.show();
-    controle.MetsUtilisateurPeutChangerValeur(false);
-    controle.MetsUtilisateurPeutChangerValeur(true);
-    QVERIFY(Indicateur(controle).isEnabled());
-    QTest::mouseClick(&Libelle(controle), Qt::LeftButton);
-    QVERIFY(controle.EstCochay());
-}
-
-void tst_DCheckBox::gelGardeLaPolitiqueDeFocus()
-{
-    DCheckBox controle(u"abc"_s);
-    controle.setFocusPolicy(Qt::TabFocus);
-    for (bool const peut : {true, false, false})
-        controle.MetsUtilisateurPeutChangerValeur(peut);
-    QCOMPARE(controle.focusPolicy(), Qt::NoFocus);
-    for (bool const peut : {true, true})
-        controle.MetsUtilisateurPeutChangerValeur(peut);
-    QCOMPARE(controle.focusPolicy(), Qt::TabFocus);
-    QCOMPARE(Indicateur(controle).focusPolicy(), Qt::TabFocus);
-}
-
-void tst_DCheckBox::gelSousUnParentDesactivay()
-{
-    QWidget parent;
-    auto * const controle = new DCheckBox(u"abc"_s, &parent);
-    parent.setEnabled(false);
-    controle->MetsUtilisateurPeutChangerValeur(false);
-    parent.setEnabled(true);
-    QVERIFY(!Indicateur(*controle).isEnabled());
-    parent.setEnabled(false);
-    controle->MetsUtilisateurPeutChangerValeur(true);
-    QVERIFY(!Indicateur(*controle).isEnabled());
-    parent.setEnabled(true);
-    QVERIFY(Indicateur(*controle).isEnabled());
-    QCOMPARE(controle->focusPolicy(), Qt::StrongFocus);
-}
-
-void tst_DCheckBox::clicSurLibelleGelaySansFocus()
-{
-    QWidget fenetre;
-    QHBoxLayout disposition(&fenetre);
-    auto * const gelay = new DCheckBox(u"abc"_s);
-    auto * const voisin = new DCheckBox(u"def"_s);
-    disposition.addWidget(gelay);
-    disposition.addWidget(voisin);
-    fenetre.show();
-    QVERIFY(QTest::qWaitForWindowActive(&fenetre));
-    gelay->setFocus();
-    QVERIFY(gelay->hasFocus());
-    gelay->MetsUtilisateurPeutChangerValeur(false);
-    QVERIFY(voisin->hasFocus()); // a disabled box has no focus
-
-    QLabel const & libelle = Libelle(*gelay);
-    QTest::mouseClick(fenetre.windowHandle(), Qt::LeftButton, {},
-                      libelle.mapTo(&fenetre, libelle.rect().center()));
-    QVERIFY(voisin->hasFocus());
-    QVERIFY(!gelay->EstCochay());
 }
 
 QTEST_MAIN(tst_DCheckBox)

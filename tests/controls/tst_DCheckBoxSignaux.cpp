@@ -17,6 +17,8 @@ private Q_SLOTS:
     void aucunAuGel();
     void suppressionParUnReceveur_data();
     void suppressionParUnReceveur();
+    void suppressionDansUneBoucle_data();
+    void suppressionDansUneBoucle();
     void suppressionDeLaFenetre();
     void valeurChangeeParUnReceveur();
 
@@ -26,6 +28,7 @@ private:
 
     QStringList mesSignaux;
     QString monSignalFatal;
+    bool monAvecBoucle = false;
     QPointer<QWidget> maVictime;
 };
 
@@ -37,7 +40,10 @@ enum eGeste
     kClicLibelle,
     kEspace,
     kMetsCochay,
-    kMetsPareil
+    kMetsPareil,
+    kGel,
+    kPerteDuFocus,
+    kAnimation
 };
 
 void Fais(eGeste geste, DCheckBox & controle)
@@ -45,13 +51,8 @@ void Fais(eGeste geste, DCheckBox & controle)
     switch (geste) {
     case kClicCase:
         return QTest::mouseClick(&Indicateur(controle), Qt::LeftButton, {}, QPoint(5, 7));
-    case kClicLibelle: {
-        // By hand: the event's receiver may be gone afterwards.
-        QMouseEvent relache(QEvent::MouseButtonRelease, QPointF(1, 1), QPointF(1, 1),
-                            Qt::LeftButton, Qt::NoButton, {});
-        QCoreApplication::sendEvent(&Libelle(controle), &relache);
-        return;
-    }
+    case kClicLibelle:
+        return RelacheSurLibelle(controle);
     case kEspace: {
         QPointer<QAbstractButton> const indicateur(&Indicateur(controle));
         QTest::keyPress(indicateur, Qt::Key_Space);
@@ -63,7 +64,45 @@ void Fais(eGeste geste, DCheckBox & controle)
         return controle.MetsCochay(!controle.EstCochay());
     case kMetsPareil:
         return controle.MetsCochay(controle.EstCochay());
+    case kGel: // while the box is down
+        QTest::keyPress(&Indicateur(controle), Qt::Key_Space);
+        return controle.MetsUtilisateurPeutChangerValeur(false);
+    case kPerteDuFocus: { // while the box is down
+        QTest::keyPress(&Indicateur(controle), Qt::Key_Space);
+        QFocusEvent depart(QEvent::FocusOut, Qt::TabFocusReason);
+        QCoreApplication::sendEvent(&Indicateur(controle), &depart);
+        return;
     }
+    case kAnimation:
+        return Indicateur(controle).animateClick();
+    }
+}
+
+void AjouteSuppressions()
+{
+    QTest::addColumn<eGeste>("geste");
+    QTest::addColumn<QString>("signal");
+    QStringList const clic{u"pressed"_s,  u"SignalCochageChangay"_s,
+                           u"toggled"_s,  u"stateChanged"_s,
+                           u"released"_s, u"clicked"_s};
+    QStringList const valeur{u"stateChanged"_s, u"SignalCochageChangay"_s, u"toggled"_s};
+    struct
+    {
+        eGeste geste;
+        char const * nom;
+        QStringList signaux;
+    } const lignes[] = {
+        {kClicCase, "click on the box", clic},
+        {kEspace, "Space", clic},
+        {kClicLibelle, "click on the label", valeur},
+        {kMetsCochay, "MetsCochay", valeur},
+        {kMetsPareil, "the same value", {u"SignalCochageChangay"_s, u"toggled"_s}},
+        {kGel, "frozen while down", {u"released"_s}},
+        {kPerteDuFocus, "focus lost while down", {u"released"_s}},
+    };
+    for (auto const & ligne : lignes)
+        for (QString const & signal : ligne.signaux)
+            QTest::addRow("%s, %s", ligne.nom, qPrintable(signal)) << ligne.geste << signal;
 }
 
 } // namespace
@@ -74,6 +113,7 @@ void tst_DCheckBoxSignaux::cleanup()
 {
     mesSignaux.clear();
     monSignalFatal.clear();
+    monAvecBoucle = false;
     DetruisAttente();
     QVERIFY(QApplication::topLevelWidgets().isEmpty());
 }
@@ -81,7 +121,11 @@ void tst_DCheckBoxSignaux::cleanup()
 void tst_DCheckBoxSignaux::Note(QString const & signal)
 {
     mesSignaux << signal;
-    if (signal.section(u' ', 0, 0) == monSignalFatal)
+    if (signal.section(u' ', 0, 0) != monSignalFatal)
+        return;
+    if (monAvecBoucle)
+        SupprimeDansUneBoucle(maVictime);
+    else
         delete maVictime.data();
 }
 
@@ -158,31 +202,8 @@ void tst_DCheckBoxSignaux::aucunAuGel()
 
 void tst_DCheckBoxSignaux::suppressionParUnReceveur_data()
 {
-    QTest::addColumn<eGeste>("geste");
-    QTest::addColumn<QString>("signal");
-    struct
-    {
-        eGeste geste;
-        char const * nom;
-        QStringList signaux;
-    } const lignes[] = {
-        {kClicCase,
-         "click on the box",
-         {u"pressed"_s, u"SignalCochageChangay"_s, u"toggled"_s, u"stateChanged"_s, u"released"_s,
-          u"clicked"_s}},
-        {kEspace,
-         "Space",
-         {u"pressed"_s, u"SignalCochageChangay"_s, u"toggled"_s, u"stateChanged"_s, u"released"_s,
-          u"clicked"_s}},
-        {kClicLibelle,
-         "click on the label",
-         {u"stateChanged"_s, u"SignalCochageChangay"_s, u"toggled"_s}},
-        {kMetsCochay, "MetsCochay", {u"stateChanged"_s, u"SignalCochageChangay"_s, u"toggled"_s}},
-        {kMetsPareil, "the same value", {u"SignalCochageChangay"_s, u"toggled"_s}},
-    };
-    for (auto const & ligne : lignes)
-        for (QString const & signal : ligne.signaux)
-            QTest::addRow("%s, %s", ligne.nom, qPrintable(signal)) << ligne.geste << signal;
+    AjouteSuppressions();
+    QTest::newRow("animated click, pressed") << kAnimation << u"pressed"_s;
 }
 
 void tst_DCheckBoxSignaux::suppressionParUnReceveur()
@@ -199,6 +220,32 @@ void tst_DCheckBoxSignaux::suppressionParUnReceveur()
     QVERIFY(!maVictime);
     QCOMPARE(mesSignaux.last().section(u' ', 0, 0), signal);
     QCOMPARE(mesSignaux.filter(signal).size(), 1);
+    if (geste != kMetsPareil)
+        QVERIFY(indicateur); // behind the signal Qt still uses it
+    DetruisAttente();
+    QVERIFY(!indicateur);
+}
+
+void tst_DCheckBoxSignaux::suppressionDansUneBoucle_data()
+{
+    AjouteSuppressions();
+}
+
+void tst_DCheckBoxSignaux::suppressionDansUneBoucle()
+{
+    QFETCH(eGeste, geste);
+    QFETCH(QString, signal);
+    auto * const fenetre = new QWidget;
+    maVictime = fenetre;
+    auto * const controle = new DCheckBox(u"abc"_s, fenetre);
+    QPointer<QAbstractButton> const indicateur(&Indicateur(*controle));
+    fenetre->show();
+    Ecoute(*controle);
+    monSignalFatal = signal;
+    monAvecBoucle = true;
+    Fais(geste, *controle);
+    QVERIFY(!maVictime);
+    QCOMPARE(mesSignaux.last().section(u' ', 0, 0), signal);
     DetruisAttente();
     QVERIFY(!indicateur);
 }

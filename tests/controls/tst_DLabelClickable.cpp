@@ -19,6 +19,7 @@ private Q_SLOTS:
     void evenementGarday();
     void selectionNonCommencee();
     void lienSuivi();
+    void lienNonSuiviAvecUneSelection();
     void desactivay();
     void suppressionParUnReceveur();
 };
@@ -119,6 +120,22 @@ void tst_DLabelClickable::lienSuivi()
     QTest::mouseRelease(&label, Qt::LeftButton, {}, surLeLien);
     QCOMPARE(clics.count(), 1);
     QCOMPARE(liens, (QList<QVariantList>{{u"x"_s}}));
+}
+
+// As the base did not see the press, Qt takes the release for the end of a selection.
+void tst_DLabelClickable::lienNonSuiviAvecUneSelection()
+{
+    DLabelClickable label(u"<a href='x'>abcdef</a>"_s);
+    label.setTextInteractionFlags(Qt::TextBrowserInteraction);
+    label.adjustSize();
+    label.setSelection(0, 3);
+    QSignalSpy const liens(&label, &QLabel::linkActivated);
+    QPoint const surLeLien(5, label.height() / 2);
+    QTest::mouseClick(&label, Qt::LeftButton, {}, surLeLien);
+    QCOMPARE(liens.count(), 0);
+    label.setSelection(0, 0);
+    QTest::mouseClick(&label, Qt::LeftButton, {}, surLeLien);
+    QCOMPARE(liens.count(), 1);
 }
 
 void tst_DLabelClickable::desactivay()

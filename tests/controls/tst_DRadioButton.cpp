@@ -1,5 +1,6 @@
 // tests/controls/tst_DRadioButton.cpp
 #include "controls/EssaisBouton.h"
+#include "outils/LecteurSimulay.h"
 #include "style/DStyleProxy.h"
 
 #include <QButtonGroup>
@@ -14,6 +15,7 @@ class tst_DRadioButton : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
+    void initTestCase();
     void cleanup();
     void construction();
     void constructeur();
@@ -39,8 +41,15 @@ private Q_SLOTS:
     void suppressionDeLaFenetreParLeVoisin();
 };
 
+// Behind the signals Qt tells readers of the change, with the button in hand.
+void tst_DRadioButton::initTestCase()
+{
+    LecteurSimulay::Installe();
+}
+
 void tst_DRadioButton::cleanup()
 {
+    LecteurSimulay::Oublie();
     DetruisAttente();
     QVERIFY(QApplication::topLevelWidgets().isEmpty());
 }
@@ -264,30 +273,43 @@ void tst_DRadioButton::desactivay()
 void tst_DRadioButton::suppressionParUnReceveur_data()
 {
     QTest::addColumn<int>("geste");
-    QTest::newRow("click on the button") << 0;
-    QTest::newRow("click on the label") << 1;
-    QTest::newRow("MetsCochay") << 2;
-    QTest::newRow("through the group") << 3;
+    QTest::addColumn<bool>("boucle");
+    for (bool const boucle : {false, true}) {
+        char const * const maniere = boucle ? "in a loop of its own" : "at once";
+        QTest::addRow("click on the button, %s", maniere) << 0 << boucle;
+        QTest::addRow("click on the label, %s", maniere) << 1 << boucle;
+        QTest::addRow("Space, %s", maniere) << 2 << boucle;
+        QTest::addRow("MetsCochay, %s", maniere) << 3 << boucle;
+    }
+    QTest::newRow("through the group, at once") << 4 << false;
 }
 
 void tst_DRadioButton::suppressionParUnReceveur()
 {
     QFETCH(int, geste);
+    QFETCH(bool, boucle);
     QButtonGroup groupe;
-    QPointer<DRadioButton> const controle = new DRadioButton(u"a"_s, nullptr, false, &groupe);
-    controle->show();
+    QPointer<QWidget> const fenetre = new QWidget;
+    auto * const controle = new DRadioButton(u"a"_s, fenetre, false, &groupe);
+    QPointer<QAbstractButton> const indicateur(&Indicateur(*controle));
+    fenetre->show();
     connect(controle, &DBoutonAbstrait::SignalCochageChangay, this,
-            [&] { delete controle.data(); });
+            [&] { boucle ? SupprimeDansUneBoucle(fenetre) : delete fenetre.data(); });
     if (geste == 0)
-        QTest::mouseClick(&Indicateur(*controle), Qt::LeftButton, {}, QPoint(5, 7));
+        QTest::mouseClick(indicateur, Qt::LeftButton, {}, QPoint(5, 7));
     else if (geste == 1)
-        QTest::mouseClick(&Libelle(*controle), Qt::LeftButton);
+        RelacheSurLibelle(*controle);
     else if (geste == 2)
+        QTest::keyClick(indicateur, Qt::Key_Space);
+    else if (geste == 3)
         controle->MetsCochay(true);
     else
         groupe.buttons().first()->setChecked(true);
-    QVERIFY(!controle);
+    QVERIFY(!fenetre);
     QVERIFY(groupe.buttons().isEmpty());
+    QVERIFY(indicateur); // it was in use when the window went
+    DetruisAttente();
+    QVERIFY(!indicateur);
 }
 
 // The button that is being checked is not the one whose signal is heard.

@@ -18,6 +18,8 @@ constexpr int kRetraitSeparateur = 4; // from the top and the bottom
 constexpr double kDemiLargeurChevron = 4.0;
 constexpr double kHauteurChevron = 4.0;
 constexpr double kEpaisseurChevron = 1.5;
+constexpr int kRetraitMarque = 3; // inside the frames of the styles
+constexpr int kEpaisseurMarque = 2;
 
 bool EstToucheMenu(QKeyEvent const & evenement)
 {
@@ -67,18 +69,6 @@ QSize DBoutonAvecMenu::minimumSizeHint() const
     return sizeHint();
 }
 
-void DBoutonAvecMenu::initStyleOption(QStyleOptionButton * option) const
-{
-    QPushButton::initStyleOption(option);
-    if (!option || !isChecked() || !isEnabled())
-        return;
-    // Styles tell a checked button by a shade, which in a dark palette nobody sees. A style sheet
-    // that has a rule for these buttons does not look at the palette.
-    QPalette & palette = option->palette;
-    palette.setBrush(QPalette::Button, palette.highlight());
-    palette.setBrush(QPalette::ButtonText, palette.highlightedText());
-}
-
 bool DBoutonAvecMenu::hitButton(QPoint const & position) const
 {
     return QPushButton::hitButton(position) && !DonneRectMenu().contains(position);
@@ -108,10 +98,18 @@ void DBoutonAvecMenu::keyPressEvent(QKeyEvent * evenement)
 
 void DBoutonAvecMenu::paintEvent(QPaintEvent * evenement)
 {
-    if (!monMenuAffichay) {
+    if (monMenuAffichay)
+        DessineAvecMenu();
+    else
         QPushButton::paintEvent(evenement);
-        return;
-    }
+    // Styles tell a checked button by a shade, which in a dark palette nobody sees. Its colours are
+    // left alone: a style or a style sheet may take one of them and not the other.
+    if (isChecked() && isEnabled())
+        DessineMarque();
+}
+
+void DBoutonAvecMenu::DessineAvecMenu()
+{
     QStylePainter peintre(this);
     QStyleOptionButton fond;
     initStyleOption(&fond);
@@ -126,10 +124,10 @@ void DBoutonAvecMenu::paintEvent(QPaintEvent * evenement)
     else
         texte.rect.setRight(std::min(texte.rect.right(), width() - kLargeurMenu - 1));
     peintre.drawControl(QStyle::CE_PushButtonLabel, texte);
-    DessineMenu(peintre, texte.palette.buttonText());
+    DessineMenu(peintre);
 }
 
-void DBoutonAvecMenu::DessineMenu(QPainter & peintre, QBrush const & pinceau) const
+void DBoutonAvecMenu::DessineMenu(QPainter & peintre) const
 {
     QRect const zone = DonneRectMenu();
     int const x = isRightToLeft() ? zone.right() : zone.left();
@@ -143,6 +141,15 @@ void DBoutonAvecMenu::DessineMenu(QPainter & peintre, QBrush const & pinceau) co
     QPointF const chevron[] = {pointe + QPointF(-kDemiLargeurChevron, -kHauteurChevron), pointe,
                                pointe + QPointF(kDemiLargeurChevron, -kHauteurChevron)};
     peintre.setRenderHint(QPainter::Antialiasing);
-    peintre.setPen(QPen(pinceau, kEpaisseurChevron, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+    peintre.setPen(QPen(palette().buttonText(), kEpaisseurChevron, Qt::SolidLine, Qt::RoundCap,
+                        Qt::RoundJoin));
     peintre.drawPolyline(chevron, static_cast<int>(std::size(chevron)));
+}
+
+void DBoutonAvecMenu::DessineMarque()
+{
+    QRect trait = rect().adjusted(kRetraitMarque, 0, -kRetraitMarque, -kRetraitMarque);
+    trait.setTop(trait.bottom() + 1 - kEpaisseurMarque);
+    // The state has to be told as clearly in a window that is not the active one.
+    QPainter(this).fillRect(trait, palette().brush(QPalette::Active, QPalette::Highlight));
 }

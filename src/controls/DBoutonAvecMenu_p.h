@@ -6,8 +6,9 @@
 #include <QPushButton>
 #include <QVariant>
 
-/// A button of a `DControleBoutonsExclusifs`: filled with the accent while it is checked, and where
-/// it is made so with a part at its end, in the direction of the layout, that asks for a menu.
+/// A button of a `DControleBoutonsExclusifs`: with a line of the accent colour along the bottom
+/// while it is checked and enabled, and where it is made so with a part at its end, in the
+/// direction of the layout, that asks for a menu.
 ///
 /// A press on that part, Alt+Down or F4 emits `menuCliquay` and presses nothing else.
 class FABRELGUI_EXPORT DBoutonAvecMenu : public QPushButton
@@ -31,14 +32,15 @@ Q_SIGNALS:
     void menuCliquay(QVariant id);
 
 protected:
-    void initStyleOption(QStyleOptionButton * option) const override;
     bool hitButton(QPoint const & position) const override;
     void mousePressEvent(QMouseEvent * evenement) override;
     void keyPressEvent(QKeyEvent * evenement) override;
     void paintEvent(QPaintEvent * evenement) override;
 
 private:
-    void DessineMenu(QPainter & peintre, QBrush const & pinceau) const;
+    void DessineAvecMenu();
+    void DessineMenu(QPainter & peintre) const;
+    void DessineMarque();
 
     bool const monAvecMenu;
     bool monMenuAffichay;

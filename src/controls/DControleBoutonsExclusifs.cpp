@@ -6,6 +6,7 @@
 #include "foundation/ThemesQt.h"
 
 #include <QButtonGroup>
+#include <QChildEvent>
 #include <QHBoxLayout>
 #include <QPainter>
 #include <QStyle>
@@ -62,6 +63,10 @@ DControleBoutonsExclusifs::DControleBoutonsExclusifs(std::vector<InfosBouton> bo
             CreeControle(infos.texte, infos.identifiant, cochay, infos.avecMenu));
     }
     AppliqueProprieteStyleBoutons();
+    AjusteTabulation();
+    // Of the group, which tells also while a host blocks a button's signals.
+    connect(monGroupe, &QButtonGroup::buttonToggled, this,
+            &DControleBoutonsExclusifs::AjusteTabulation, Qt::UniqueConnection);
 }
 
 void DControleBoutonsExclusifs::AppliqueProprieteStyleBoutons(char const * nom)
@@ -121,6 +126,45 @@ void DControleBoutonsExclusifs::AjusterAffichageMenuBoutons(QVariant const & ide
         bouton->AfficheMenu(visible);
 }
 
+bool DControleBoutonsExclusifs::eventFilter(QObject * objet, QEvent * evenement)
+{
+    switch (evenement->type()) {
+    case QEvent::FocusOut: // Qt lets Tab come back to the button that had the focus
+    case QEvent::EnabledChange:
+    case QEvent::HideToParent:
+    case QEvent::ShowToParent:
+        AjusteTabulation();
+        break;
+    default:
+        break;
+    }
+    return QFrame::eventFilter(objet, evenement);
+}
+
+void DControleBoutonsExclusifs::childEvent(QChildEvent * evenement)
+{
+    QFrame::childEvent(evenement);
+    if (evenement->removed())
+        AjusteTabulation();
+}
+
+// Qt does this only once a button has had the focus. Not with a checked button that Tab would skip,
+// or the whole row would be skipped.
+void DControleBoutonsExclusifs::AjusteTabulation()
+{
+    auto const * const cochay = monGroupe->checkedButton();
+    // A button of a row that was never shown is hidden, too, but by nobody.
+    bool const cachay =
+        cochay && cochay->isHidden() && cochay->testAttribute(Qt::WA_WState_ExplicitShowHide);
+    bool const seul = cochay && cochay->isEnabled() && !cachay;
+    auto const boutons = monGroupe->buttons();
+    for (auto * const bouton : boutons) {
+        int const sansTab = bouton->focusPolicy() & ~Qt::TabFocus;
+        bool const avecTab = !seul || bouton == cochay;
+        bouton->setFocusPolicy(Qt::FocusPolicy(avecTab ? sansTab | Qt::TabFocus : sansTab));
+    }
+}
+
 QAbstractButton * DControleBoutonsExclusifs::CreeControle(UniChaine const & texte,
                                                           QVariant const & identifiant, bool cochay,
                                                           bool avecMenu)
@@ -135,6 +179,7 @@ QAbstractButton * DControleBoutonsExclusifs::CreeControle(UniChaine const & text
     bouton->setChecked(cochay);
     connect(bouton, &QAbstractButton::toggled, this, &DControleBoutonsExclusifs::toggled,
             Qt::UniqueConnection);
+    bouton->installEventFilter(this);
     connect(bouton, &DBoutonAvecMenu::menuCliquay, this, &DControleBoutonsExclusifs::menuCliquay,
             Qt::UniqueConnection);
     return bouton;

@@ -21,6 +21,10 @@ class QButtonGroup;
 /// `QString`), and its place in the row in a property for style sheets: "AGauche" for the first,
 /// also when it is the only one, "ADroite" for the last, and an empty text for the others. Where
 /// the layout goes from right to left the first button is the rightmost one and keeps its value.
+///
+/// Tab enters the row at the checked button, the arrow keys move on. A slot of `toggled` that gets
+/// rid of the row or of a button does so with `deleteLater`. The separator of a button that is
+/// deleted stays.
 class FABRELGUI_EXPORT DControleBoutonsExclusifs : public QFrame
 {
     Q_OBJECT
@@ -59,6 +63,13 @@ Q_SIGNALS:
     void toggled(bool cochay);
     /// The part for the menu was pressed, or Alt+Down or F4 on its button. No state changes.
     void menuCliquay(QVariant id);
+
+protected:
+    bool eventFilter(QObject * objet, QEvent * evenement) override;
+    void childEvent(QChildEvent * evenement) override;
+
+private Q_SLOTS:
+    void AjusteTabulation();
 
 private:
     QAbstractButton * CreeControle(UniChaine const & texte, QVariant const & identifiant,

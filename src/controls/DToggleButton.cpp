@@ -8,7 +8,6 @@
 #include <QPainter>
 #include <QPointer>
 #include <QPropertyAnimation>
-#include <QSignalBlocker>
 
 #include <utility>
 
@@ -41,7 +40,7 @@ DToggleButton::DToggleButton(int trackRadius, int thumbRadius, QWidget * parent)
     setCheckable(true);
     setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
     monAnimation->setDuration(kDureeGlissement);
-    // For a host that sets the state through the base class during a click, when no hook is called.
+    // The base calls no hook during a click. This one starts the slide before a host's slots run.
     connect(this, &QAbstractButton::toggled, this, &DToggleButton::PriseEtatChangay,
             Qt::UniqueConnection);
 }
@@ -49,11 +48,6 @@ DToggleButton::DToggleButton(int trackRadius, int thumbRadius, QWidget * parent)
 QSize DToggleButton::sizeHint() const
 {
     return CalculeGeometrieBascule(monRayonPiste, monRayonPouce).taille;
-}
-
-QSize DToggleButton::minimumSizeHint() const
-{
-    return sizeHint();
 }
 
 int DToggleButton::offset() const
@@ -69,13 +63,10 @@ void DToggleButton::setOffset(int offset)
 
 void DToggleButton::setChecked(bool checked)
 {
-    bool const ancienEtat = isChecked();
-    {
-        QSignalBlocker const bloqueur(this); // see SignaleSiChangay
-        QAbstractButton::setChecked(checked);
-    }
-    Saute(); // within a click the base calls no hook
-    SignaleSiChangay(ancienEtat);
+    QPointer<DToggleButton> const garde(this);
+    QAbstractButton::setChecked(checked);
+    if (garde)
+        Saute(); // within a click the base calls no hook
 }
 
 void DToggleButton::checkStateSet()
@@ -86,13 +77,11 @@ void DToggleButton::checkStateSet()
 
 void DToggleButton::nextCheckState()
 {
-    bool const ancienEtat = isChecked();
-    {
-        QSignalBlocker const bloqueur(this); // see SignaleSiChangay
-        QAbstractButton::nextCheckState();
-    }
-    PriseEtatChangay();
-    SignaleSiChangay(ancienEtat);
+    QPointer<DToggleButton> const garde(this);
+    QAbstractButton::nextCheckState();
+    // A receiver may have set the state back while signals were blocked, of which nobody tells.
+    if (garde)
+        PriseEtatChangay();
 }
 
 void DToggleButton::mouseReleaseEvent(QMouseEvent * evenement)
@@ -162,14 +151,6 @@ void DToggleButton::PriseEtatChangay()
         Saute();
 }
 
-// Last, and not by the base: that still tells assistive technologies of the button after its own
-// signal, from which a host may have deleted it.
-void DToggleButton::SignaleSiChangay(bool ancienEtat)
-{
-    if (isChecked() != ancienEtat)
-        Q_EMIT toggled(isChecked());
-}
-
 bool DToggleButton::PouceDeborde() const
 {
     return monRayonPouce > monRayonPiste;
@@ -218,6 +199,8 @@ void DToggleButton::DessinePiste(QPainter & peintre) const
 
 void DToggleButton::DessinePouce(QPainter & peintre) const
 {
+    if (monRayonPouce == 0)
+        return; // also under the mouse
     int const rayon = monSurvol ? monRayonPouce + kGonflement : monRayonPouce;
     peintre.setPen(Qt::NoPen);
     peintre.setBrush(isEnabled() ? mesPinceaux.value(isChecked()).pouce : palette().mid());
@@ -227,6 +210,8 @@ void DToggleButton::DessinePouce(QPainter & peintre) const
 
 void DToggleButton::DessineFocus(QPainter & peintre) const
 {
+    if (monRayonPiste == 0)
+        return;
     double const retrait = kEpaisseurFocus / 2; // the pen's middle
     double const rayon = monRayonPiste - retrait;
     peintre.setPen(QPen(palette().windowText(), kEpaisseurFocus));

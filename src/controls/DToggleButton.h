@@ -14,8 +14,8 @@ class QPropertyAnimation;
 /// The thumb slides there after a click of the left mouse button, and jumps after every other
 /// change of the state. The size is fixed: a host that forces a larger one sees the switch at the
 /// left, or at the right where the layout goes from right to left. What the switch is for is the
-/// host's to tell with `setAccessibleName`. A slot of `toggled` or `clicked` may delete the switch
-/// unless the state was set through the base class.
+/// host's to tell with `setAccessibleName`. As with any button of Qt, a receiver that gets rid of
+/// the switch does so with `deleteLater`.
 class FABRELGUI_EXPORT DToggleButton : public QAbstractButton
 {
     Q_OBJECT
@@ -24,12 +24,11 @@ class FABRELGUI_EXPORT DToggleButton : public QAbstractButton
     Q_PROPERTY(int mOffset READ offset WRITE setOffset)
 
 public:
-    /// The radii are in logical pixels; below 0 they count as 0. A thumb as large as the track or
-    /// larger is drawn on a translucent track.
+    /// The radii are in logical pixels; below 0 they count as 0. A thumb larger than the
+    /// track is drawn on a translucent track.
     DToggleButton(int trackRadius, int thumbRadius, QWidget * parent = nullptr);
 
     QSize sizeHint() const override;
-    QSize minimumSizeHint() const override;
 
     /// The centre of the thumb, in logical pixels from where the drawing begins: the left edge, or
     /// the right one where the layout goes from right to left.
@@ -62,7 +61,6 @@ private:
         QBrush pouce;
     };
 
-    void SignaleSiChangay(bool ancienEtat);
     bool PouceDeborde() const;
     void PrendsPinceaux();
     int DonneBut() const;

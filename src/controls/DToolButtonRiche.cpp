@@ -66,10 +66,15 @@ DToolButtonRiche::DToolButtonRiche(QWidget * parent)
 
 void DToolButtonRiche::setHtml(QString const & html)
 {
-    if (!monHtmlActif)
-        mesPinceauxTexte = TexteSeul(palette());
+    if (!monHtmlActif) {
+        mesPinceauxSousFeuille = TexteSeul(palette());
+        // A style sheet that found an earlier HTML stands over brushes that are known already.
+        if (!EstSousFeuille() || !monTexteFutTransparent)
+            mesPinceauxPropres = mesPinceauxSousFeuille;
+    }
     monHtml = html;
     monHtmlActif = true;
+    monTexteFutTransparent = true;
     RendsTexteTransparent();
     QToolButton::setText(text().replace(u'&', "&&"_L1));
     updateGeometry(); // also where only the mark-up changed
@@ -81,12 +86,7 @@ void DToolButtonRiche::setText(QString const & texte)
     if (monHtmlActif) {
         monHtmlActif = false;
         monHtml.clear();
-        QPalette palette = SansTexte(this->palette());
-        for (auto const groupe : kGroupes)
-            if (mesPinceauxTexte.isBrushSet(groupe, QPalette::ButtonText))
-                palette.setBrush(groupe, QPalette::ButtonText,
-                                 mesPinceauxTexte.brush(groupe, QPalette::ButtonText));
-        setPalette(palette);
+        RetablisTexte(PretePinceaux());
         updateGeometry();
         update();
     }
@@ -132,11 +132,25 @@ void DToolButtonRiche::paintEvent(QPaintEvent * evenement)
 void DToolButtonRiche::changeEvent(QEvent * evenement)
 {
     QToolButton::changeEvent(evenement);
-    // A host's new palette brings the text of the base class back, and with it the next brush.
-    if (evenement->type() == QEvent::PaletteChange && monHtmlActif &&
-        !TexteEstTransparent(palette())) {
-        mesPinceauxTexte = TexteSeul(palette());
+    if (evenement->type() == QEvent::PaletteChange)
+        SuisPalette();
+    else if (evenement->type() == QEvent::StyleChange && !EstSousFeuille())
+        mesPinceauxSousFeuille = mesPinceauxPropres; // what the next sheet finds
+}
+
+void DToolButtonRiche::SuisPalette()
+{
+    bool const transparent = TexteEstTransparent(palette());
+    if (monHtmlActif && !transparent) {
+        // A host's new palette brings the text of the base class back, and with it the next brush.
+        // A style sheet that sets a colour does so too, but takes it away again when it goes.
+        mesPinceauxSousFeuille = TexteSeul(palette());
+        if (!EstSousFeuille())
+            mesPinceauxPropres = mesPinceauxSousFeuille;
         RendsTexteTransparent();
+    } else if (!monHtmlActif && transparent && monTexteFutTransparent) {
+        // A style sheet that goes puts the palette back that it found while there was HTML.
+        RetablisTexte(mesPinceauxPropres);
     }
 }
 
@@ -144,9 +158,15 @@ void DToolButtonRiche::getStyleOption(QStyleOptionToolButton * option) const
 {
     initStyleOption(option);
     option->text = text();
-    // A style sheet may give the text a colour of its own, under which a transparent brush is lost.
-    if (style()->inherits("QStyleSheetStyle"))
+    // Where a transparent brush does not hide the text: a style sheet may give it a colour of its
+    // own, and some styles draw the text of a disabled button a second time, in the light colour.
+    if (EstSousFeuille() || !isEnabled())
         option->text.clear();
+}
+
+bool DToolButtonRiche::EstSousFeuille() const
+{
+    return style()->inherits("QStyleSheetStyle");
 }
 
 void DToolButtonRiche::RendsTexteTransparent()
@@ -156,15 +176,38 @@ void DToolButtonRiche::RendsTexteTransparent()
     setPalette(palette);
 }
 
+void DToolButtonRiche::RetablisTexte(QPalette const & pinceaux)
+{
+    QPalette palette = SansTexte(this->palette());
+    for (auto const groupe : kGroupes)
+        if (pinceaux.isBrushSet(groupe, QPalette::ButtonText))
+            palette.setBrush(groupe, QPalette::ButtonText,
+                             pinceaux.brush(groupe, QPalette::ButtonText));
+    setPalette(palette);
+}
+
+QPalette const & DToolButtonRiche::PretePinceaux() const
+{
+    return EstSousFeuille() ? mesPinceauxSousFeuille : mesPinceauxPropres;
+}
+
 // What the palette would have for the text if it were not transparent.
 QBrush DToolButtonRiche::DonnePinceauTexte() const
 {
     auto const groupe = palette().currentColorGroup();
-    if (mesPinceauxTexte.isBrushSet(groupe, QPalette::ButtonText))
-        return mesPinceauxTexte.brush(groupe, QPalette::ButtonText);
-    bool const herite = parentWidget() && !isWindow();
-    QPalette const source = herite ? parentWidget()->palette() : QApplication::palette(this);
-    return source.brush(groupe, QPalette::ButtonText);
+    if (PretePinceaux().isBrushSet(groupe, QPalette::ButtonText))
+        return PretePinceaux().brush(groupe, QPalette::ButtonText);
+
+    // As a widget without a brush of its own finds it: where its class has a palette, only what an
+    // ancestor was given goes before that one.
+    QPalette const classe = QApplication::palette(this);
+    bool const sansPaletteDeClasse = classe.isCopyOf(QGuiApplication::palette());
+    for (QWidget const * widget = this; !widget->isWindow() && widget->parentWidget();) {
+        widget = widget->parentWidget();
+        if (sansPaletteDeClasse || widget->palette().isBrushSet(groupe, QPalette::ButtonText))
+            return widget->palette().brush(groupe, QPalette::ButtonText);
+    }
+    return classe.brush(groupe, QPalette::ButtonText);
 }
 
 void DToolButtonRiche::RemplisDocument(QTextDocument & document) const
@@ -181,7 +224,7 @@ QPixmap DToolButtonRiche::DonneRendu(QTextDocument const & document) const
 {
     QScreen const * const ecran =
         RoutinesGeneralesQt::EcranLePlusProche(mapToGlobal(rect().center()));
-    double const ratio = std::max(devicePixelRatioF(), ecran ? ecran->devicePixelRatio() : 1.0);
+    double const ratio = ecran ? ecran->devicePixelRatio() : devicePixelRatioF();
     QPixmap rendu(size() * ratio);
     rendu.setDevicePixelRatio(ratio);
     rendu.fill(Qt::transparent);

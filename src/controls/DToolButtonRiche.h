@@ -13,6 +13,9 @@ class QTextDocument;
 /// The HTML is drawn centred over the whole button, and over the icon if there is one: a picture
 /// beside the text belongs into the HTML. While there is HTML, the palette's button text is
 /// transparent; the HTML is drawn in the colour that the button's text would have without it.
+///
+/// A default action (`setDefaultAction`) gives its text to the base class only: the HTML stays, and
+/// the accessible name is the action's. Call `setText` first where the action's text is wanted.
 class FABRELGUI_EXPORT DToolButtonRiche : public QToolButton
 {
     Q_OBJECT
@@ -39,13 +42,20 @@ protected:
     void changeEvent(QEvent * evenement) override;
 
 private:
+    void SuisPalette();
     void getStyleOption(QStyleOptionToolButton * option) const;
+    bool EstSousFeuille() const;
     void RendsTexteTransparent();
+    void RetablisTexte(QPalette const & pinceaux);
+    QPalette const & PretePinceaux() const;
     QBrush DonnePinceauTexte() const;
     void RemplisDocument(QTextDocument & document) const;
     QPixmap DonneRendu(QTextDocument const & document) const;
 
     QString monHtml;
     bool monHtmlActif = false;
-    QPalette mesPinceauxTexte; // has the brushes of the button text that the button had of its own
+    bool monTexteFutTransparent = false; // a style sheet may have kept such a palette
+    // Each has only the brushes of the text that the button has without HTML.
+    QPalette mesPinceauxPropres;
+    QPalette mesPinceauxSousFeuille;
 };

@@ -1,3 +1,4 @@
+// tests/controls/RenduBoutons.h
 #pragma once
 
 #include "controls/Encre.h"

@@ -150,16 +150,26 @@ void tst_DBoutonSansFleche::menuDUneAction()
 
 void tst_DBoutonSansFleche::feuilleDeStyle_data()
 {
+    QTest::addColumn<QString>("feuille");
     QTest::addColumn<QToolButton::ToolButtonPopupMode>("mode");
-    QTest::newRow("delayed") << QToolButton::DelayedPopup;
-    QTest::newRow("menu button") << QToolButton::MenuButtonPopup;
-    QTest::newRow("instant") << QToolButton::InstantPopup;
+    auto const bordure = u"QToolButton { border: 1px solid red; }"_s;
+    auto const parties =
+        u"QToolButton { border: 1px solid red; }"
+        "QToolButton::menu-indicator { background: green; width: 9px; height: 9px; }"
+        "QToolButton::menu-button { background: blue; border: 1px solid green; width: 14px; }"_s;
+    std::pair<char const *, QString> const feuilles[] = {{"border", bordure},
+                                                         {"menu parts", parties}};
+    for (auto const & [nom, feuille] : feuilles) {
+        QTest::addRow("%s, delayed", nom) << feuille << QToolButton::DelayedPopup;
+        QTest::addRow("%s, menu button", nom) << feuille << QToolButton::MenuButtonPopup;
+        QTest::addRow("%s, instant", nom) << feuille << QToolButton::InstantPopup;
+    }
 }
 
 void tst_DBoutonSansFleche::feuilleDeStyle()
 {
+    QFETCH(QString, feuille);
     QFETCH(QToolButton::ToolButtonPopupMode, mode);
-    QString const feuille = u"QToolButton { border: 1px solid red; }"_s;
     QMenu menu;
     QToolButton sansMenu;
     QToolButton ordinaire;

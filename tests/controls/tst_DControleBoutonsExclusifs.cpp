@@ -2,7 +2,6 @@
 #include "controls/DControleBoutonsExclusifs.h"
 
 #include <QAbstractButton>
-#include <QAccessible>
 #include <QButtonGroup>
 #include <QHBoxLayout>
 #include <QPushButton>
@@ -24,38 +23,6 @@ QList<QAbstractButton *> Boutons(DControleBoutonsExclusifs const & controle)
     return controle.findChild<QButtonGroup *>()->buttons();
 }
 
-QStringList Places(DControleBoutonsExclusifs const & controle,
-                   char const * propriete = "ControleBascule")
-{
-    QStringList places;
-    for (auto * const bouton : Boutons(controle)) {
-        QVariant const place = bouton->property(propriete);
-        places << (place.isValid() ? place.toString() : u"rien"_s);
-    }
-    return places;
-}
-
-// Counts what it is asked to polish.
-class StyleCompteur : public QProxyStyle
-{
-public:
-    int poses = 0;
-    int deposes = 0;
-
-    using QProxyStyle::polish;
-    using QProxyStyle::unpolish;
-    void polish(QWidget * widget) override
-    {
-        ++poses;
-        QProxyStyle::polish(widget);
-    }
-    void unpolish(QWidget * widget) override
-    {
-        ++deposes;
-        QProxyStyle::unpolish(widget);
-    }
-};
-
 } // namespace
 
 class tst_DControleBoutonsExclusifs : public QObject
@@ -68,12 +35,6 @@ private Q_SLOTS:
     void proprietes();
     void premierCochayGagne_data();
     void premierCochayGagne();
-    void places_data();
-    void places();
-    void autrePropriete_data();
-    void autrePropriete();
-    void repolis();
-    void placesDeDroiteAGauche();
     void identifiants();
     void identifiantEnDouble();
     void identifiantInvalide();
@@ -86,7 +47,6 @@ private Q_SLOTS:
     void infobulle();
     void vide();
     void boutonDetruit();
-    void accessibilite();
     void disposition();
 };
 
@@ -140,76 +100,6 @@ void tst_DControleBoutonsExclusifs::premierCochayGagne()
     QCOMPARE(controle.DonneIdentifiantCochay(), cochay);
     for (auto * const bouton : Boutons(controle))
         QCOMPARE(bouton->isChecked(), cochay.isValid() && bouton == controle.DonneBouton(cochay));
-}
-
-void tst_DControleBoutonsExclusifs::places_data()
-{
-    QTest::addColumn<int>("nombre");
-    QTest::addColumn<QStringList>("places");
-    QTest::newRow("none") << 0 << QStringList();
-    QTest::newRow("a single one is the first") << 1 << QStringList{u"AGauche"_s};
-    QTest::newRow("two") << 2 << QStringList{u"AGauche"_s, u"ADroite"_s};
-    QTest::newRow("four") << 4 << QStringList{u"AGauche"_s, {}, {}, u"ADroite"_s};
-}
-
-void tst_DControleBoutonsExclusifs::places()
-{
-    QFETCH(int, nombre);
-    Infos infos;
-    for (int i = 0; i < nombre; ++i)
-        infos.push_back({QString::number(i), i});
-    DControleBoutonsExclusifs const controle(infos);
-    QTEST(Places(controle), "places");
-}
-
-void tst_DControleBoutonsExclusifs::autrePropriete_data()
-{
-    QTest::addColumn<QByteArray>("nom");
-    QTest::addColumn<bool>("ecrit");
-    QTest::newRow("another name") << QByteArray("BasculeDuHaut") << true;
-    QTest::newRow("null") << QByteArray() << false;
-    QTest::newRow("empty") << QByteArray("") << false;
-}
-
-void tst_DControleBoutonsExclusifs::autrePropriete()
-{
-    QFETCH(QByteArray, nom);
-    QFETCH(bool, ecrit);
-    QStringList const places{u"AGauche"_s, QString(), u"ADroite"_s};
-    DControleBoutonsExclusifs controle(TroisBoutons());
-    auto const nombre = controle.DonneBouton(1)->dynamicPropertyNames().size();
-    controle.AppliqueProprieteStyleBoutons(nom.isNull() ? nullptr : nom.constData());
-    QCOMPARE(controle.DonneBouton(1)->dynamicPropertyNames().size(), nombre + ecrit);
-    if (ecrit)
-        QCOMPARE(Places(controle, nom.constData()), places);
-    QCOMPARE(Places(controle), places); // the default name is still there
-
-    controle.DonneBouton(1)->setProperty("ControleBascule", u"autre"_s);
-    controle.AppliqueProprieteStyleBoutons();
-    QCOMPARE(Places(controle), places);
-}
-
-void tst_DControleBoutonsExclusifs::repolis()
-{
-    StyleCompteur style;
-    DControleBoutonsExclusifs controle(TroisBoutons());
-    for (auto * const bouton : Boutons(controle))
-        bouton->setStyle(&style);
-    style.poses = style.deposes = 0;
-    controle.AppliqueProprieteStyleBoutons("autre");
-    QCOMPARE(style.deposes, 3);
-    QCOMPARE(style.poses, 3);
-}
-
-// Deliberate: the first button keeps its value on the right.
-void tst_DControleBoutonsExclusifs::placesDeDroiteAGauche()
-{
-    DControleBoutonsExclusifs controle(TroisBoutons());
-    controle.setLayoutDirection(Qt::RightToLeft);
-    QCOMPARE(Places(controle), QStringList({u"AGauche"_s, QString(), u"ADroite"_s}));
-    controle.resize(controle.sizeHint());
-    controle.layout()->activate();
-    QVERIFY(controle.DonneBouton(1)->x() > controle.DonneBouton(3)->x());
 }
 
 void tst_DControleBoutonsExclusifs::identifiants()
@@ -354,20 +244,6 @@ void tst_DControleBoutonsExclusifs::boutonDetruit()
     QVERIFY(!controle.DonneIdentifiantCochay().isValid());
     controle.MetsCochay(3, true);
     QCOMPARE(controle.DonneIdentifiantCochay(), QVariant(3));
-}
-
-void tst_DControleBoutonsExclusifs::accessibilite()
-{
-    DControleBoutonsExclusifs const controle(TroisBoutons());
-    auto * const interface = QAccessible::queryAccessibleInterface(controle.DonneBouton(2));
-    QVERIFY(interface);
-    QCOMPARE(interface->role(), QAccessible::RadioButton);
-    QCOMPARE(interface->text(QAccessible::Name), u"Semaine"_s);
-    QVERIFY(interface->state().checkable);
-    QVERIFY(interface->state().checked);
-    auto * const autre = QAccessible::queryAccessibleInterface(controle.DonneBouton(1));
-    autre->actionInterface()->doAction(QAccessibleActionInterface::toggleAction());
-    QCOMPARE(controle.DonneIdentifiantCochay(), QVariant(1));
 }
 
 void tst_DControleBoutonsExclusifs::disposition()

@@ -3,24 +3,13 @@
 #include "controls/DControleBoutonsExclusifs.h"
 
 #include "controls/RenduBoutons.h"
-#include "foundation/ThemesQt.h"
 
 #include <QAbstractButton>
-#include <QLayout>
-#include <QStyleFactory>
 #include <QtTest>
 
 using namespace Qt::StringLiterals;
-using RenduBoutons::Rendu;
 
-namespace {
-
-constexpr QColor kSeparateur(255, 0, 255);
-constexpr QColor kSurlignay(0, 0, 255);
-
-} // namespace
-
-// The parts for menus, the keys and the look.
+// The parts for menus.
 class tst_DControleBoutonsExclusifsMenu : public QObject
 {
     Q_OBJECT
@@ -40,14 +29,6 @@ private Q_SLOTS:
     void affichage();
     void boutonDesactivay();
     void recepteurDetruit();
-    void flechesDansLeGroupe_data();
-    void flechesDansLeGroupe();
-    void separateurs();
-    void separateurSansCouleur();
-    void separateurDeLaPartie();
-    void cochayEnSurbrillance();
-    void chevronDansLaPartie_data();
-    void chevronDansLaPartie();
 
 private:
     DBoutonAvecMenu & Bouton(QVariant const & identifiant) const;
@@ -57,20 +38,15 @@ private:
 
 void tst_DControleBoutonsExclusifsMenu::init()
 {
-    ThemesQt::Instance()->AjouterVariable(u"couleurSeparateur"_s, kSeparateur);
     std::vector<DControleBoutonsExclusifs::InfosBouton> const infos{
         {u"a"_s, 1, true, false}, {u"b"_s, 2, false, true}, {u"c"_s, u"trois"_s, false, true}};
     monControle = std::make_unique<DControleBoutonsExclusifs>(infos);
-    QPalette palette(Qt::white);
-    palette.setColor(QPalette::Highlight, kSurlignay);
-    monControle->setPalette(palette);
     RenduBoutons::Dispose(*monControle, QSize(400, 40));
 }
 
 void tst_DControleBoutonsExclusifsMenu::cleanup()
 {
     monControle.reset();
-    ThemesQt::DetruisToi();
     QVERIFY(QApplication::topLevelWidgets().isEmpty());
 }
 
@@ -230,112 +206,6 @@ void tst_DControleBoutonsExclusifsMenu::recepteurDetruit()
     QKeyEvent evenement(QEvent::KeyPress, Qt::Key_F4, Qt::NoModifier);
     QCoreApplication::sendEvent(&Bouton(2), &evenement);
     QVERIFY(!monControle);
-}
-
-void tst_DControleBoutonsExclusifsMenu::flechesDansLeGroupe_data()
-{
-    QTest::addColumn<Qt::LayoutDirection>("sens");
-    QTest::addColumn<Qt::Key>("touche");
-    QTest::newRow("right") << Qt::LeftToRight << Qt::Key_Right;
-    QTest::newRow("left, from right to left") << Qt::RightToLeft << Qt::Key_Left;
-}
-
-void tst_DControleBoutonsExclusifsMenu::flechesDansLeGroupe()
-{
-    QFETCH(Qt::LayoutDirection, sens);
-    QFETCH(Qt::Key, touche);
-    monControle->setAttribute(Qt::WA_DontShowOnScreen, false);
-    monControle->hide();
-    monControle->setLayoutDirection(sens);
-    monControle->show();
-    monControle->activateWindow();
-    Bouton(1).setFocus();
-    QTRY_VERIFY(Bouton(1).hasFocus());
-    QTest::keyClick(&Bouton(1), touche);
-    QCOMPARE(monControle->DonneIdentifiantCochay(), QVariant(2));
-    QVERIFY(Bouton(2).hasFocus());
-    QTest::keyClick(&Bouton(2), touche);
-    QCOMPARE(monControle->DonneIdentifiantCochay(), QVariant(u"trois"_s));
-}
-
-void tst_DControleBoutonsExclusifsMenu::separateurs()
-{
-    for (int i : {1, 3}) {
-        QWidget & separateur = *monControle->layout()->itemAt(i)->widget();
-        QCOMPARE(separateur.width(), 1);
-        QCOMPARE(separateur.height(), monControle->height());
-        QCOMPARE(Encre::BornesDe(Rendu(separateur), kSeparateur), separateur.rect());
-        // The theme does not tell of changes: the next painting shows them.
-        ThemesQt::Instance()->AjouterVariable(u"couleurSeparateur"_s, QColor(Qt::green));
-        QCOMPARE(Encre::BornesDe(Rendu(separateur), Qt::green), separateur.rect());
-        ThemesQt::Instance()->AjouterVariable(u"couleurSeparateur"_s, kSeparateur);
-    }
-}
-
-void tst_DControleBoutonsExclusifsMenu::separateurSansCouleur()
-{
-    ThemesQt::Instance()->AjouterVariable(u"couleurSeparateur"_s, u"aucune"_s);
-    QVERIFY(Encre::BornesEncre(Rendu(*monControle->layout()->itemAt(1)->widget())).isNull());
-    QImage const image = Rendu(Bouton(2));
-    QPoint const position(Bouton(2).DonneRectMenu().left(), image.height() / 2);
-    QVERIFY(image.pixelColor(position) != QColor(Qt::black));
-}
-
-void tst_DControleBoutonsExclusifsMenu::separateurDeLaPartie()
-{
-    auto & bouton = Bouton(2);
-    QRect const trait = Encre::BornesDe(Rendu(bouton), kSeparateur);
-    QCOMPARE(trait.left(), bouton.DonneRectMenu().left());
-    QCOMPARE(trait.width(), 1);
-    monControle->AjusterAffichageMenuBoutons(2, false);
-    QVERIFY(Encre::BornesDe(Rendu(bouton), kSeparateur).isNull());
-}
-
-void tst_DControleBoutonsExclusifsMenu::cochayEnSurbrillance()
-{
-    std::unique_ptr<QStyle> const style(QStyleFactory::create(u"Fusion"_s));
-    auto const bleus = [&](QVariant const & identifiant) {
-        Bouton(identifiant).setStyle(style.get());
-        Bouton(identifiant).setText({}); // which fonts may edge with blue
-        return Encre::Bornes(Rendu(Bouton(identifiant)),
-                             [](QColor const & pixel) { return pixel.blue() > pixel.red() + 60; });
-    };
-    QVERIFY(bleus(1).width() > Bouton(1).width() / 2);
-    QVERIFY(bleus(2).isNull());
-    monControle->MetsCochay(2, true);
-    QVERIFY(bleus(1).isNull());
-    QVERIFY(bleus(2).width() > Bouton(2).width() / 2);
-    Bouton(2).setEnabled(false);
-    QVERIFY(bleus(2).isNull());
-}
-
-void tst_DControleBoutonsExclusifsMenu::chevronDansLaPartie_data()
-{
-    QTest::addColumn<Qt::LayoutDirection>("sens");
-    QTest::newRow("left to right") << Qt::LeftToRight;
-    QTest::newRow("right to left") << Qt::RightToLeft;
-}
-
-// The text keeps clear of the part.
-void tst_DControleBoutonsExclusifsMenu::chevronDansLaPartie()
-{
-    QFETCH(Qt::LayoutDirection, sens);
-    monControle->setLayoutDirection(sens);
-    auto & bouton = Bouton(2);
-    QPalette palette = bouton.palette();
-    palette.setColor(QPalette::ButtonText, Qt::red);
-    bouton.setPalette(palette);
-    bouton.setText(u"mmmmmmmmmmmmmmmmmmmmmmmmmmmmmmmmmmmmmmmmmmmmmmmmmmmmmm"_s);
-    bouton.resize(100, 30);
-    auto const encre = [&] {
-        QImage const image = Rendu(bouton).copy(bouton.DonneRectMenu().adjusted(3, 3, -3, -3));
-        return Encre::Bornes(image,
-                             [](QColor const & pixel) { return pixel.red() > pixel.green() + 60; });
-    };
-    QRect const chevron = encre();
-    QVERIFY(!chevron.isNull());
-    bouton.setText({});
-    QCOMPARE(encre(), chevron);
 }
 
 QTEST_MAIN(tst_DControleBoutonsExclusifsMenu)

@@ -1,3 +1,4 @@
+// tests/controls/tst_DToggleButtonPeinture.cpp
 #include "controls/DToggleButton.h"
 
 #include "controls/RenduBoutons.h"
@@ -57,6 +58,14 @@ void Sors(QWidget & widget)
     QCoreApplication::sendEvent(&widget, &evenement);
 }
 
+void DonneFocus(QWidget & widget)
+{
+    widget.show();
+    widget.activateWindow();
+    widget.setFocus();
+    QTRY_VERIFY(widget.hasFocus());
+}
+
 } // namespace
 
 class tst_DToggleButtonPeinture : public QObject
@@ -77,6 +86,7 @@ private Q_SLOTS:
     void tailleForcee_data();
     void tailleForcee();
     void focus();
+    void pressee();
 };
 
 void tst_DToggleButtonPeinture::cleanup()
@@ -177,20 +187,31 @@ void tst_DToggleButtonPeinture::rayonsNuls_data()
     QTest::addColumn<int>("rayonPiste");
     QTest::addColumn<int>("rayonPouce");
     QTest::addColumn<QRect>("encre");
-    QTest::newRow("nothing") << 0 << 0 << QRect();
-    QTest::newRow("both negative") << -10 << -20 << QRect();
-    QTest::newRow("negative thumb: the track alone") << 5 << -8 << QRect(5, 15, 20, 10);
-    QTest::newRow("negative track: the thumb alone") << -5 << 3 << QRect(0, 17, 3, 6);
+    QTest::addColumn<bool>("gonfle");
+    QTest::newRow("nothing") << 0 << 0 << QRect() << false;
+    QTest::newRow("both negative") << -10 << -20 << QRect() << false;
+    QTest::newRow("negative thumb: the track alone") << 5 << -8 << QRect(5, 15, 20, 10) << false;
+    QTest::newRow("no thumb: the track alone") << 5 << 0 << QRect(5, 15, 20, 10) << false;
+    QTest::newRow("negative track: the thumb alone") << -5 << 3 << QRect(0, 17, 3, 6) << true;
 }
 
 void tst_DToggleButtonPeinture::rayonsNuls()
 {
     QFETCH(int, rayonPiste);
     QFETCH(int, rayonPouce);
+    QFETCH(QRect, encre);
+    QFETCH(bool, gonfle);
     DToggleButton bascule(rayonPiste, rayonPouce);
     bascule.setPalette(PaletteEssai());
-    Dispose(bascule, QSize(60, 40));
-    QTEST(Encre::BornesEncre(Rendu(bascule)), "encre");
+    bascule.resize(60, 40);
+    DonneFocus(bascule);
+    Sors(bascule); // the window may have come up under the mouse
+    bascule.setAttribute(Qt::WA_KeyboardFocusChange, false);
+    QCOMPARE(Encre::BornesEncre(Rendu(bascule)), encre);
+    bascule.setAttribute(Qt::WA_KeyboardFocusChange); // its mark is on the track
+    QCOMPARE(Encre::BornesEncre(Rendu(bascule)), encre);
+    Entre(bascule);
+    QCOMPARE(Encre::BornesEncre(Rendu(bascule)), gonfle ? encre.adjusted(0, -1, 1, 1) : encre);
 }
 
 void tst_DToggleButtonPeinture::gonflement()
@@ -259,10 +280,7 @@ void tst_DToggleButtonPeinture::focus()
 {
     DToggleButton bascule(10, 8);
     bascule.setPalette(PaletteEssai());
-    bascule.show();
-    bascule.activateWindow();
-    bascule.setFocus();
-    QTRY_VERIFY(bascule.hasFocus());
+    DonneFocus(bascule);
     bascule.clearFocus();
     QImage const sans = Rendu(bascule);
     bascule.setFocus();
@@ -273,6 +291,20 @@ void tst_DToggleButtonPeinture::focus()
     QVERIFY(avec != sans);
     QCOMPARE(Encre::BornesEncre(avec), Encre::BornesEncre(sans)); // the mark is on the track
     QCOMPARE(avec.pixelColor(22, 2), bascule.palette().color(QPalette::WindowText));
+}
+
+// Deliberate: a press changes nothing, the release does.
+void tst_DToggleButtonPeinture::pressee()
+{
+    DToggleButton bascule(10, 8);
+    bascule.setPalette(PaletteEssai());
+    Dispose(bascule, bascule.sizeHint());
+    QImage const auRepos = Rendu(bascule);
+    QTest::mousePress(&bascule, Qt::LeftButton);
+    QVERIFY(bascule.isDown());
+    QCOMPARE(Rendu(bascule), auRepos);
+    QTest::mouseRelease(&bascule, Qt::LeftButton);
+    QVERIFY(Rendu(bascule) != auRepos);
 }
 
 QTEST_MAIN(tst_DToggleButtonPeinture)

@@ -12,28 +12,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr QPalette::ColorGroup kGroupes[] = {QPalette::Active, QPalette::Disabled,
-                                             QPalette::Inactive};
-
-bool TexteTransparent(QWidget const & widget)
-{
-    return std::all_of(std::begin(kGroupes), std::end(kGroupes), [&](auto groupe) {
-        return widget.palette().brush(groupe, QPalette::ButtonText) == QBrush(Qt::transparent);
-    });
-}
-
-QPalette AvecTexte(QColor const & couleur)
-{
-    QPalette palette;
-    palette.setColor(QPalette::ButtonText, couleur);
-    return palette;
-}
-
-QColor CouleurTexte(QWidget const & widget)
-{
-    return widget.palette().color(QPalette::ButtonText);
-}
-
 QString NomAccessible(QWidget & widget)
 {
     return QAccessible::queryAccessibleInterface(&widget)->text(QAccessible::Name);
@@ -52,17 +30,11 @@ private Q_SLOTS:
     void texteOrdinaire();
     void proprieteTexte();
     void raccourciOublie();
+    void actionParDefaut();
     void tailleDuDocument_data();
     void tailleDuDocument();
     void tailleDuTexteOrdinaire();
     void tailleSuivie();
-    void pinceauPropreRendu();
-    void pinceauHeritayRendu();
-    void deuxFois();
-    void paletteChangeeEntreTemps();
-    void paletteCopieeEntreTemps();
-    void autresRolesGardes();
-    void texteOrdinaireSansPalette();
 };
 
 void tst_DToolButtonRiche::cleanup()
@@ -123,7 +95,7 @@ void tst_DToolButtonRiche::proprieteTexte()
     QCOMPARE(bouton.property("text").toString(), u"a & b"_s);
     QVERIFY(bouton.setProperty("text", u"<b>"_s));
     QCOMPARE(bouton.text(), u"<b>"_s);
-    QVERIFY(!TexteTransparent(bouton));
+    QVERIFY(bouton.palette().color(QPalette::ButtonText) != QColor(Qt::transparent));
 }
 
 void tst_DToolButtonRiche::raccourciOublie()
@@ -132,6 +104,19 @@ void tst_DToolButtonRiche::raccourciOublie()
     bouton.setText(u"&Non"_s);
     bouton.setHtml(u"&amp;Non"_s);
     QVERIFY(bouton.shortcut().isEmpty());
+}
+
+// Deliberate: the base class takes the action's text, past the HTML.
+void tst_DToolButtonRiche::actionParDefaut()
+{
+    QAction action(u"&Action"_s);
+    DToolButtonRiche bouton;
+    bouton.setHtml(u"<b>Riche</b>"_s);
+    bouton.setDefaultAction(&action);
+    QCOMPARE(bouton.text(), u"Riche"_s);
+    QCOMPARE(NomAccessible(bouton), u"Action"_s);
+    bouton.setText(u"Action"_s);
+    QCOMPARE(bouton.text(), u"Action"_s);
 }
 
 void tst_DToolButtonRiche::tailleDuDocument_data()
@@ -193,105 +178,6 @@ void tst_DToolButtonRiche::tailleSuivie()
     bouton->setHtml(u"abc"_s);
     bouton->setFont(police);
     QTRY_VERIFY(bouton->height() >= 50);
-}
-
-void tst_DToolButtonRiche::pinceauPropreRendu()
-{
-    DToolButtonRiche bouton;
-    QPalette palette = AvecTexte(Qt::red);
-    palette.setColor(QPalette::Disabled, QPalette::ButtonText, Qt::darkRed);
-    bouton.setPalette(palette);
-    bouton.setHtml(u"abc"_s);
-    QVERIFY(TexteTransparent(bouton));
-    bouton.setText(u"abc"_s);
-    QCOMPARE(CouleurTexte(bouton), QColor(Qt::red));
-    QCOMPARE(bouton.palette().color(QPalette::Disabled, QPalette::ButtonText), QColor(Qt::darkRed));
-}
-
-// What the button had from its parent, it has from its parent again.
-void tst_DToolButtonRiche::pinceauHeritayRendu()
-{
-    QWidget parent;
-    parent.setPalette(AvecTexte(Qt::red));
-    DToolButtonRiche bouton(&parent);
-    bouton.setHtml(u"abc"_s);
-    QVERIFY(TexteTransparent(bouton));
-    parent.setPalette(AvecTexte(Qt::blue));
-    QVERIFY(TexteTransparent(bouton));
-    bouton.setText(u"abc"_s);
-    QCOMPARE(CouleurTexte(bouton), QColor(Qt::blue));
-    parent.setPalette(AvecTexte(Qt::green));
-    QCOMPARE(CouleurTexte(bouton), QColor(Qt::green));
-    QVERIFY(!bouton.testAttribute(Qt::WA_SetPalette));
-}
-
-void tst_DToolButtonRiche::deuxFois()
-{
-    DToolButtonRiche bouton;
-    bouton.setPalette(AvecTexte(Qt::red));
-    bouton.setHtml(u"abc"_s);
-    bouton.setHtml(u"def"_s);
-    bouton.setText(u"abc"_s);
-    QCOMPARE(CouleurTexte(bouton), QColor(Qt::red));
-    bouton.setText(u"def"_s);
-    QCOMPARE(CouleurTexte(bouton), QColor(Qt::red));
-    bouton.setHtml(u"abc"_s);
-    QVERIFY(TexteTransparent(bouton));
-    bouton.setText(u"abc"_s);
-    QCOMPARE(CouleurTexte(bouton), QColor(Qt::red));
-}
-
-void tst_DToolButtonRiche::paletteChangeeEntreTemps()
-{
-    DToolButtonRiche bouton;
-    bouton.setPalette(AvecTexte(Qt::red));
-    bouton.setHtml(u"abc"_s);
-    bouton.setPalette(AvecTexte(Qt::blue));
-    QVERIFY(TexteTransparent(bouton));
-    bouton.setText(u"abc"_s);
-    QCOMPARE(CouleurTexte(bouton), QColor(Qt::blue));
-
-    bouton.setHtml(u"abc"_s);
-    bouton.setPalette(QPalette()); // nothing of its own any more
-    QVERIFY(TexteTransparent(bouton));
-    bouton.setText(u"abc"_s);
-    QCOMPARE(CouleurTexte(bouton), QApplication::palette(&bouton).color(QPalette::ButtonText));
-}
-
-void tst_DToolButtonRiche::paletteCopieeEntreTemps()
-{
-    DToolButtonRiche bouton;
-    bouton.setPalette(AvecTexte(Qt::red));
-    bouton.setHtml(u"abc"_s);
-    QPalette copie = bouton.palette();
-    copie.setColor(QPalette::Button, Qt::yellow);
-    bouton.setPalette(copie);
-    bouton.setText(u"abc"_s);
-    QCOMPARE(CouleurTexte(bouton), QColor(Qt::red));
-    QCOMPARE(bouton.palette().color(QPalette::Button), QColor(Qt::yellow));
-}
-
-void tst_DToolButtonRiche::autresRolesGardes()
-{
-    QPalette palette;
-    palette.setColor(QPalette::Button, Qt::yellow);
-    palette.setColor(QPalette::Disabled, QPalette::Window, Qt::cyan);
-    DToolButtonRiche bouton;
-    bouton.setPalette(palette);
-    bouton.setHtml(u"abc"_s);
-    QCOMPARE(bouton.palette().color(QPalette::Button), QColor(Qt::yellow));
-    bouton.setText(u"abc"_s);
-    QCOMPARE(bouton.palette().color(QPalette::Button), QColor(Qt::yellow));
-    QCOMPARE(bouton.palette().color(QPalette::Disabled, QPalette::Window), QColor(Qt::cyan));
-    QVERIFY(!bouton.palette().isBrushSet(QPalette::Active, QPalette::ButtonText));
-    QVERIFY(!bouton.palette().isBrushSet(QPalette::Active, QPalette::Window));
-}
-
-void tst_DToolButtonRiche::texteOrdinaireSansPalette()
-{
-    DToolButtonRiche bouton;
-    bouton.setText(u"abc"_s);
-    QVERIFY(!bouton.testAttribute(Qt::WA_SetPalette));
 }
 
 QTEST_MAIN(tst_DToolButtonRiche)

@@ -58,6 +58,8 @@ private Q_SLOTS:
     void couleurDuTexte();
     void couleurHeritee();
     void couleurDesactivee();
+    void sansTexteDesactivay_data();
+    void sansTexteDesactivay();
     void htmlVide();
     void imageDuHtml();
     void iconeSousLeHtml();
@@ -200,6 +202,32 @@ void tst_DToolButtonRichePeinture::couleurDesactivee()
     bouton.setEnabled(false);
     QVERIFY(!EstVide(Encre::Bornes(Rendu(bouton), EstVert)));
     QVERIFY(EstVide(Encre::Bornes(Rendu(bouton), EstBleu)));
+}
+
+void tst_DToolButtonRichePeinture::sansTexteDesactivay_data()
+{
+    QTest::addColumn<QString>("nomStyle");
+    QTest::newRow("Fusion") << u"Fusion"_s;
+    QTest::newRow("Windows, which etches it") << u"Windows"_s;
+}
+
+// Nothing is left of the base class's text.
+void tst_DToolButtonRichePeinture::sansTexteDesactivay()
+{
+    QFETCH(QString, nomStyle);
+    monStyle.reset(QStyleFactory::create(nomStyle));
+    QPalette palette(QColor(200, 200, 200));
+    palette.setColor(QPalette::Light, Qt::green);
+    QToolButton ordinaire;
+    DToolButtonRiche bouton;
+    for (QToolButton * const un : {&ordinaire, static_cast<QToolButton *>(&bouton)}) {
+        un->setStyle(monStyle.get());
+        un->setPalette(palette);
+        un->setEnabled(false);
+        un->resize(200, 60);
+    }
+    bouton.setHtml(u"<span style=\"font-size:1px; color:transparent\">MMMM</span>"_s);
+    QCOMPARE(Rendu(bouton), Rendu(ordinaire));
 }
 
 void tst_DToolButtonRichePeinture::htmlVide()

@@ -1,6 +1,6 @@
 // tests/touch/tst_DDefileurTactileToucher.cpp
 //
-// What a person with a finger or a pen gets: touches that take Qt's whole way from the window on.
+// What a person with a finger gets: touches that take Qt's whole way from the window on.
 #include "touch/DDefileurTactile.h"
 
 #include "touch/EssaisTactiles.h"
@@ -59,8 +59,6 @@ private Q_SLOTS:
     void finDansUneAutreFenetre();
     void doigtsPartisEnsemble();
     void ligneSousLeDoigt();
-    void plumeEnUnClic();
-    void doublePressionDePlume();
     void pasDeDepassementVertical();
 };
 
@@ -285,55 +283,6 @@ void tst_DDefileurTactileToucher::ligneSousLeDoigt()
     QVERIFY(!estRouge()); // the row that the finger left
     survole();
     QVERIFY(estRouge()); // the mouse is back
-}
-
-// The way of a pen on a platform that makes no mouse events of it: Qt makes them of the tablet
-// events that nobody takes, and gives them the pen for a device.
-void tst_DDefileurTactileToucher::plumeEnUnClic()
-{
-    QWidget parent;
-    QListWidget * const liste = CreeListe(&parent);
-    new DDefileurTactile(liste);
-    QVERIFY(Montre(parent));
-    QSignalSpy const presses(liste, &QListWidget::pressed);
-    QSignalSpy const clics(liste, &QListWidget::clicked);
-    QPointF const point = liste->visualItemRect(liste->item(3)).center();
-    QPointF const local = liste->viewport()->mapTo(&parent, point);
-    QPointF const globale = liste->viewport()->mapToGlobal(point);
-    for (auto const & [tablette, souris] :
-         {std::pair(QEvent::TabletPress, QEvent::MouseButtonPress),
-          std::pair(QEvent::TabletRelease, QEvent::MouseButtonRelease)}) {
-        auto const plume = FaisTablette(tablette, local, globale);
-        QCoreApplication::sendEvent(parent.windowHandle(), plume.get());
-        QVERIFY(!plume->isAccepted());
-        QMouseEvent mimay(souris, local, local, globale, plume->button(), plume->buttons(),
-                          Qt::NoModifier, Qt::MouseEventNotSynthesized, plume->pointingDevice());
-        QCoreApplication::sendEvent(parent.windowHandle(), &mimay);
-    }
-    QCOMPARE(liste->currentRow(), 3);
-    QCOMPARE(presses.count(), 1);
-    QCOMPARE(clics.count(), 1);
-}
-
-void tst_DDefileurTactileToucher::doublePressionDePlume()
-{
-    QWidget parent;
-    QListWidget * const liste = CreeListe(&parent);
-    new DDefileurTactile(liste);
-    QVERIFY(Montre(parent));
-    QSignalSpy const doubles(liste, &QListWidget::doubleClicked);
-    QPointF const point = liste->visualItemRect(liste->item(3)).center();
-    QPointF const globale = liste->viewport()->mapToGlobal(point);
-    for (QEvent::Type const type :
-         {QEvent::TabletPress, QEvent::TabletRelease, QEvent::TabletPress}) {
-        auto const plume = FaisTablette(type, point, globale);
-        QCoreApplication::sendEvent(liste->viewport(), plume.get());
-    }
-    QMouseEvent mimay(QEvent::MouseButtonDblClick, point, point, globale, Qt::LeftButton,
-                      Qt::LeftButton, Qt::NoModifier, Qt::MouseEventNotSynthesized,
-                      DonneOutil(QPointingDevice::PointerType::Pen));
-    QCoreApplication::sendEvent(liste->viewport(), &mimay);
-    QCOMPARE(doubles.count(), 1);
 }
 
 void tst_DDefileurTactileToucher::pasDeDepassementVertical()

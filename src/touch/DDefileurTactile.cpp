@@ -123,14 +123,20 @@ bool DDefileurTactile::eventFilter(QObject * objet, QEvent * evenement)
         }
     }
     bool const ignore = DoitIgnorerEvenement(evenement); // asked first: a receiver may destroy this
-    if (EstEvenementTablet(evenement))
-        TraiteTablette(static_cast<QTabletEvent *>(evenement));
-    return ignore;
+    if (!monAire || !EstEvenementTablet(evenement))
+        return ignore;
+    QPointer<QObject> const vivant = objet;
+    TraiteTablette(static_cast<QTabletEvent *>(evenement));
+    if (vivant)
+        return ignore;
+    // Qt would ask what is gone: it stops at an event that is both taken and accepted.
+    evenement->accept();
+    return true;
 }
 
 void DDefileurTactile::PriseChangementEtatQScroller(QScroller::State state)
 {
-    if (state == QScroller::Inactive)
+    if (monAire && state == QScroller::Inactive)
         ActiveSurlignement();
 }
 
@@ -221,7 +227,9 @@ void DDefileurTactile::SuisViewport()
 void DDefileurTactile::TraiteTablette(QTabletEvent * evenement)
 {
     // The area ignores the mouse, and the widgets around it would be pressed a second time: the
-    // viewport, which has its own manager, has been pressed by the same pen before.
+    // viewport, which has its own manager, has been pressed by the same pen before. The attribute
+    // holds for as long as the receiver works, in a nested event loop too: mouse and wheel events
+    // that the area ignores stop at it until then.
     QPointer<QWidget> const aire = monAire;
     bool const arret = aire->testAttribute(Qt::WA_NoMousePropagation);
     aire->setAttribute(Qt::WA_NoMousePropagation);

@@ -10,6 +10,13 @@ using Outil = QPointingDevice::PointerType;
 
 namespace {
 
+class DefileurEtendu : public DDefileurTactile
+{
+public:
+    using DDefileurTactile::DDefileurTactile;
+    using DDefileurTactile::PriseChangementEtatQScroller;
+};
+
 QListWidget * CreeListe(QWidget * parent)
 {
     auto * const liste = new QListWidget(parent);
@@ -43,6 +50,9 @@ private Q_SLOTS:
     void destructionParLaPlume();
     void plumeEnUnClic();
     void doublePressionDePlume();
+    void sansAire();
+    void sourisPendantLeToucher_data();
+    void sourisPendantLeToucher();
 };
 
 void tst_DDefileurTactilePlume::cleanup()
@@ -63,6 +73,10 @@ void tst_DDefileurTactilePlume::sourisSurLAire_data()
     QTest::newRow("a move by Qt") << QEvent::MouseMove << Qt::MouseEventSynthesizedByQt << false;
     QTest::newRow("a real press") << QEvent::MouseButtonPress << Qt::MouseEventNotSynthesized
                                   << true;
+    QTest::newRow("a real double click")
+        << QEvent::MouseButtonDblClick << Qt::MouseEventNotSynthesized << true;
+    QTest::newRow("a double click by Qt")
+        << QEvent::MouseButtonDblClick << Qt::MouseEventSynthesizedByQt << true;
     QTest::newRow("a double click by the system")
         << QEvent::MouseButtonDblClick << Qt::MouseEventSynthesizedBySystem << true;
 }
@@ -158,8 +172,9 @@ void tst_DDefileurTactilePlume::destructionParLaPlume()
     temoin.surEvenement = [parent] { delete parent; };
     QPointer<DDefileurTactile> const defileur = new DDefileurTactile(vue);
     auto const plume = FaisTablette(QEvent::TabletPress, QPointF(6, 7));
-    defileur->eventFilter(vue, plume.get());
+    QCoreApplication::sendEvent(vue, plume.get());
     QVERIFY(!defileur);
+    QVERIFY(plume->isAccepted()); // nobody is left to ask
     QCOMPARE(temoin.Compte(), 1);
 }
 
@@ -210,6 +225,44 @@ void tst_DDefileurTactilePlume::doublePressionDePlume()
                       DonneOutil(QPointingDevice::PointerType::Pen));
     QCoreApplication::sendEvent(liste->viewport(), &mimay);
     QCOMPARE(doubles.count(), 1);
+}
+
+void tst_DDefileurTactilePlume::sansAire()
+{
+    QWidget autre;
+    DefileurEtendu defileur(nullptr);
+    autre.installEventFilter(&defileur);
+    auto const plume = FaisTablette(QEvent::TabletPress, QPointF(6, 7));
+    QCoreApplication::sendEvent(&autre, plume.get());
+    QVERIFY(!plume->isAccepted());
+    defileur.PriseChangementEtatQScroller(QScroller::Inactive);
+}
+
+void tst_DDefileurTactilePlume::sourisPendantLeToucher_data()
+{
+    QTest::addColumn<QEvent::Type>("type");
+    QTest::newRow("press") << QEvent::MouseButtonPress;
+    QTest::newRow("move") << QEvent::MouseMove;
+    QTest::newRow("release") << QEvent::MouseButtonRelease;
+    QTest::newRow("double click") << QEvent::MouseButtonDblClick;
+}
+
+// What the system makes of the finger, besides its touch.
+void tst_DDefileurTactilePlume::sourisPendantLeToucher()
+{
+    QFETCH(QEvent::Type, type);
+    QWidget parent;
+    QListWidget * const liste = CreeListe(&parent);
+    QWidget * const viewport = liste->viewport();
+    Temoin const temoin(viewport, Temoin::Souris());
+    new DDefileurTactile(liste);
+    QVERIFY(Montre(parent));
+    QTest::touchEvent(viewport, DonneEcranTactile()).press(0, QPoint(5, 5), viewport);
+    QMouseEvent souris = FaisSouris(type, Qt::MouseEventSynthesizedBySystem);
+    QCoreApplication::sendEvent(viewport, &souris);
+    QCOMPARE(temoin.Compte(), 0);
+    QTest::touchEvent(viewport, DonneEcranTactile()).release(0, QPoint(5, 5), viewport);
+    QTRY_COMPARE(QScroller::scroller(viewport)->state(), QScroller::Inactive);
 }
 
 QTEST_MAIN(tst_DDefileurTactilePlume)

@@ -12,6 +12,15 @@ namespace {
 
 QList<QEvent::Type> const kTraces = Temoin::Souris();
 
+class Ephemere : public QWidget
+{
+public:
+    using QWidget::QWidget;
+
+protected:
+    void mousePressEvent(QMouseEvent *) override { delete this; }
+};
+
 } // namespace
 
 class tst_DGestionnaireTapGesturePlume : public QObject
@@ -25,6 +34,8 @@ private Q_SLOTS:
     void toucherAnnulay();
     void plume();
     void plumeDeQt();
+    void destructionParLaPlume();
+    void sansWidget();
 };
 
 void tst_DGestionnaireTapGesturePlume::cleanup()
@@ -120,6 +131,32 @@ void tst_DGestionnaireTapGesturePlume::plumeDeQt()
     }
     QCOMPARE(temoin.DonneTypes(),
              (QList{QEvent::MouseButtonPress, QEvent::MouseMove, QEvent::MouseButtonRelease}));
+}
+
+// Qt would go on to ask the widget, and then its parent, whether they take the pen.
+void tst_DGestionnaireTapGesturePlume::destructionParLaPlume()
+{
+    QWidget parent;
+    auto * const widget = new Ephemere(&parent);
+    QPointer<DGestionnaireTapGesture> const gestionnaire = new DGestionnaireTapGesture(widget);
+    Temoin const surParent(&parent, {QEvent::TabletPress});
+    auto const plume = FaisTablette(QEvent::TabletPress, QPointF(9, 9));
+    QCoreApplication::sendEvent(widget, plume.get());
+    QVERIFY(!gestionnaire);
+    QVERIFY(plume->isAccepted());
+    QCOMPARE(surParent.Compte(), 0);
+}
+
+void tst_DGestionnaireTapGesturePlume::sansWidget()
+{
+    QWidget autre;
+    DGestionnaireTapGesture gestionnaire(nullptr);
+    autre.installEventFilter(&gestionnaire);
+    Temoin const temoin(&autre, kTraces);
+    auto const plume = FaisTablette(QEvent::TabletPress, QPointF(9, 9));
+    QCoreApplication::sendEvent(&autre, plume.get());
+    QVERIFY(!plume->isAccepted());
+    QCOMPARE(temoin.Compte(), 0);
 }
 
 QTEST_MAIN(tst_DGestionnaireTapGesturePlume)

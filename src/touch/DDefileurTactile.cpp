@@ -241,10 +241,12 @@ void DDefileurTactile::TraiteTablette(QTabletEvent * evenement)
 void DDefileurTactile::SuspendsAncetres()
 {
     for (QObject * objet = monAire->parent(); objet; objet = objet->parent()) {
-        if (!objet->isWidgetType() || mesAncetresSuspendus.contains(objet) ||
+        if (!objet->isWidgetType() ||
             !mesWidgetsAvecDefileursTactile.contains(static_cast<QWidget *>(objet)))
             continue;
-        mesAncetresSuspendus.append(objet);
+        // One that is in the list already may have its scroller back from another area.
+        if (!mesAncetresSuspendus.contains(objet))
+            mesAncetresSuspendus.append(objet);
         QScroller * const defileur = QScroller::scroller(objet);
         QScroller::ungrabGesture(objet);
         // The touch that brings the focus has pressed this scroller too, which will not hear the

@@ -93,6 +93,8 @@ private Q_SLOTS:
     void relaisDesAncetres();
     void doigtSurLInterne();
     void focusParLeDoigt();
+    void focusCroisays();
+    void defileurInterneDetruitSeul();
 };
 
 void tst_DDefileurTactileImbrication::cleanup()
@@ -332,6 +334,38 @@ void tst_DDefileurTactileImbrication::focusParLeDoigt()
     autre.setFocus();
     QVERIFY(EstAlEcoute(&externe));
     QCOMPARE(DonneDefileur(&externe)->state(), QScroller::Inactive);
+}
+
+// The other area has given the outer one its scroller back while this one kept it in its list.
+void tst_DDefileurTactileImbrication::focusCroisays()
+{
+    QWidget fenetre;
+    AireExterne externe(&fenetre);
+    QListWidget * const premier = CreeInterne(externe.widget());
+    QListWidget * const second = CreeInterne(externe.widget(), 140);
+    QVERIFY(Montre(fenetre));
+    Focalise(premier, QEvent::FocusIn);
+    Focalise(second, QEvent::FocusIn);
+    Focalise(premier, QEvent::FocusOut);
+    QVERIFY(EstAlEcoute(&externe));
+    Focalise(second, QEvent::FocusIn);
+    QVERIFY(!EstAlEcoute(&externe));
+    Focalise(second, QEvent::FocusOut);
+    QVERIFY(EstAlEcoute(&externe));
+}
+
+// Nobody is left who knows of the outer area.
+void tst_DDefileurTactileImbrication::defileurInterneDetruitSeul()
+{
+    QWidget fenetre;
+    AireExterne externe(&fenetre);
+    QListWidget * const interne = CreeInterne(externe.widget());
+    QVERIFY(Montre(fenetre));
+    Focalise(interne, QEvent::FocusIn);
+    delete interne->findChild<DDefileurTactile *>();
+    Focalise(interne, QEvent::FocusOut);
+    QVERIFY(!EstAlEcoute(&externe));
+    QCOMPARE(DDefileurTactile::mesWidgetsAvecDefileursTactile, QSet<QWidget *>{externe.viewport()});
 }
 
 QTEST_MAIN(tst_DDefileurTactileImbrication)

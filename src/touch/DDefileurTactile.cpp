@@ -20,45 +20,47 @@ namespace {
 
 constexpr char kTactile[] = "tactile";
 
-// Calls back once, when the last finger leaves the window of the area, or the system takes the
-// touch away.
+// Calls back once, when the last finger leaves the native window of a touch, or the system takes
+// the touch or the window away.
 //
 // Qt tells neither to the area nor to its viewport, since both let the begin of the touch pass.
 class VeilleToucher : public QObject
 {
 public:
-    VeilleToucher(QWidget * aire, std::function<void()> fin, QObject * parent)
+    VeilleToucher(QWindow * fenetre, std::function<void()> fin, QObject * parent)
         : QObject(parent)
-        , monAire(aire)
         , maFin(std::move(fin))
     {
-        QCoreApplication::instance()->installEventFilter(this);
+        fenetre->installEventFilter(this);
+        // Queued: the area may be half destroyed when a window goes, and take this along.
+        connect(fenetre, &QObject::destroyed, this, &VeilleToucher::Finis, Qt::QueuedConnection);
     }
 
-    bool eventFilter(QObject * objet, QEvent * evenement) override
+    bool eventFilter(QObject *, QEvent * evenement) override
     {
-        bool const estFin =
-            evenement->type() == QEvent::TouchEnd || evenement->type() == QEvent::TouchCancel;
-        if (estFin && EstAutour(objet)) {
-            QCoreApplication::instance()->removeEventFilter(this);
-            maFin();
-        }
+        if (evenement->type() == QEvent::TouchEnd || evenement->type() == QEvent::TouchCancel)
+            Finis();
         return false;
     }
 
 private:
-    bool EstAutour(QObject * objet) const
+    void Finis()
     {
-        for (QWidget * widget = monAire; widget; widget = widget->parentWidget()) {
-            if (widget->windowHandle() && widget->windowHandle() == objet)
-                return true;
-        }
-        return objet == monAire;
+        if (auto const fin = std::exchange(maFin, nullptr))
+            fin();
     }
 
-    QWidget * monAire;
     std::function<void()> maFin;
 };
+
+// The native window that the system tells of touches on `widget`; null before it is shown.
+QWindow * DonneFenetreNative(QWidget const * widget)
+{
+    if (QWindow * const fenetre = widget->windowHandle())
+        return fenetre;
+    QWidget const * const natif = widget->nativeParentWidget();
+    return natif ? natif->windowHandle() : nullptr;
+}
 
 void Repolis(QWidget & widget)
 {
@@ -99,10 +101,10 @@ bool DDefileurTactile::eventFilter(QObject * objet, QEvent * evenement)
         switch (evenement->type()) {
         case QEvent::TouchBegin:
             // Qt offers the touch to the parents of the viewport with the answer "accepted"
-            // prepared, and the answer of the window counts: the gestures of the viewport would get
-            // no more.
-            if (monAire->isWindow())
-                evenement->ignore();
+            // prepared, and the answer of the last one counts: the gestures of the viewport would
+            // get no more, should that be this area.
+            evenement->ignore();
+            SurveilleToucher();
             if (monEstItemView)
                 DesactiveSurlignement();
             break;
@@ -189,21 +191,28 @@ void DDefileurTactile::DesactiveSurlignement()
 {
     monAire->setProperty(kTactile, true);
     Repolis(*monAire);
-    if (maVeille)
-        return;
-    maVeille = new VeilleToucher(
-        monAire, [this] { FinisToucher(); }, this);
+}
+
+void DDefileurTactile::SurveilleToucher()
+{
+    delete maVeille; // this touch may have come to another window
+    if (QWindow * const fenetre = DonneFenetreNative(monAire->viewport()))
+        maVeille = new VeilleToucher(
+            fenetre, [this] { FinisToucher(); }, this);
 }
 
 void DDefileurTactile::FinisToucher()
 {
     maVeille->deleteLater();
     maVeille = nullptr;
-    // A view that has nothing to scroll in the direction of the finger has stayed inactive.
-    if (QScroller::scroller(monAire->viewport())->state() == QScroller::Inactive)
-        ActiveSurlignement();
-    else // the touch has yet to reach the scroller
+    if (QScroller::scroller(monAire->viewport())->state() != QScroller::Inactive) {
+        // The touch has yet to reach the scroller.
         QMetaObject::invokeMethod(this, &DDefileurTactile::PriseFinDuToucher, Qt::QueuedConnection);
+        return;
+    }
+    // A view that has nothing to scroll in the direction of the finger has stayed inactive.
+    if (monEstItemView)
+        ActiveSurlignement();
 }
 
 QSet<QObject *> * DDefileurTactile::DonneParents()

@@ -60,6 +60,7 @@ private:
     void AjouteQScroller(QWidget * widget);
     void ActiveSurlignement();
     void DesactiveSurlignement();
+    void SurveilleToucher();
     void FinisToucher();
     QSet<QObject *> * DonneParents();
     void SuisViewport();

@@ -5,6 +5,7 @@
 
 #include <QAbstractItemView>
 #include <QAbstractScrollArea>
+#include <QChildEvent>
 #include <QCoreApplication>
 #include <QHoverEvent>
 #include <QPointingDevice>
@@ -62,6 +63,19 @@ QWindow * DonneFenetreNative(QWidget const * widget)
     return natif ? natif->windowHandle() : nullptr;
 }
 
+// Once for each widget, which may leave the register with one manager and enter it with the next.
+void SuisDestruction(QWidget * widget)
+{
+    static QSet<QWidget *> suivis;
+    if (suivis.contains(widget))
+        return;
+    suivis.insert(widget);
+    QObject::connect(widget, &QObject::destroyed, widget, [widget] {
+        suivis.remove(widget);
+        DDefileurTactile::mesWidgetsAvecDefileursTactile.remove(widget);
+    });
+}
+
 void Repolis(QWidget & widget)
 {
     widget.style()->unpolish(&widget);
@@ -115,10 +129,8 @@ bool DDefileurTactile::eventFilter(QObject * objet, QEvent * evenement)
             RetablisAncetres();
             break;
         case QEvent::ChildAdded:
-            if (monAire->viewport() != monViewport) {
-                AjouteQScroller(monAire->viewport());
-                SuisViewport();
-            }
+        case QEvent::ChildRemoved: // the new viewport was a child already, and the old one goes
+            SuisEnfants(*static_cast<QChildEvent *>(evenement));
             break;
         default:
             break;
@@ -168,11 +180,8 @@ void DDefileurTactile::AjouteQScroller(QWidget * widget)
                                QVariant::fromValue(QScrollerProperties::OvershootAlwaysOff));
     proprietes.setScrollMetric(QScrollerProperties::AxisLockThreshold, 1);
     defileur->setScrollerProperties(proprietes);
-    if (!mesWidgetsAvecDefileursTactile.contains(widget)) {
-        mesWidgetsAvecDefileursTactile.insert(widget);
-        connect(widget, &QObject::destroyed, widget,
-                [widget] { mesWidgetsAvecDefileursTactile.remove(widget); });
-    }
+    mesWidgetsAvecDefileursTactile.insert(widget);
+    SuisDestruction(widget);
     connect(defileur, &QScroller::stateChanged, this, &DDefileurTactile::SignalChangementEtat,
             Qt::UniqueConnection);
 }
@@ -221,6 +230,17 @@ QSet<QObject *> * DDefileurTactile::DonneParents()
     for (QObject * objet = monAire->parent(); objet; objet = objet->parent())
         parents->insert(objet);
     return parents.release();
+}
+
+void DDefileurTactile::SuisEnfants(QChildEvent const & evenement)
+{
+    QWidget * const viewport = monAire->viewport();
+    // The area does not hear that its viewport is destroyed, and names it as before.
+    bool const perdu = evenement.removed() && evenement.child() == viewport;
+    if (viewport == monViewport || perdu)
+        return;
+    AjouteQScroller(viewport);
+    SuisViewport();
 }
 
 // The viewport gets what it needs besides its scroller.

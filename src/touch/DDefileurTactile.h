@@ -12,6 +12,7 @@
 #include <QTime>
 
 class QAbstractScrollArea;
+class QChildEvent;
 
 /// Gives a scroll area kinetic scrolling by finger, taps that click, and a pen that acts as a
 /// mouse.
@@ -63,6 +64,7 @@ private:
     void SurveilleToucher();
     void FinisToucher();
     QSet<QObject *> * DonneParents();
+    void SuisEnfants(QChildEvent const & evenement);
     void SuisViewport();
     void TraiteTablette(QTabletEvent * evenement);
     void SuspendsAncetres();

@@ -40,6 +40,12 @@ private:
     }
 };
 
+class ViewportCompte : public QWidget
+{
+public:
+    int CompteDestroyed() const { return receivers(SIGNAL(destroyed(QObject *))); }
+};
+
 bool EstAuRegistre(QWidget * widget)
 {
     return DDefileurTactile::mesWidgetsAvecDefileursTactile.contains(widget);
@@ -69,6 +75,9 @@ private Q_SLOTS:
     void destructionDuDefileurSeul();
     void destructionDeLAire();
     void autreViewport();
+    void viewportDejaEnfant();
+    void cyclesDeDefileurs();
+    void etatRelayayAvantTactile();
 };
 
 void tst_DDefileurTactile::cleanup()
@@ -184,6 +193,10 @@ void tst_DDefileurTactile::arretDuDefileur()
     QCOMPARE(vue.property("tactile"), QVariant(false));
     QCOMPARE(temoin.Compte(), 0); // posted
     QTRY_COMPARE(temoin.Compte(), 1);
+    Temoin::Trace const & trace = temoin.DonneTraces().first();
+    QCOMPARE(trace.position, QPointF(0, 0));
+    QCOMPARE(trace.touches, Qt::NoModifier);
+    QCOMPARE(trace.appareil, QPointingDevice::primaryPointingDevice());
 }
 
 void tst_DDefileurTactile::autresEtats_data()
@@ -309,6 +322,44 @@ void tst_DDefileurTactile::autreViewport()
     vue.setProperty("tactile", true);
     Q_EMIT QScroller::scroller(viewport)->stateChanged(QScroller::Inactive);
     QCOMPARE(espion.count(), 1);
+    QCOMPARE(vue.property("tactile"), QVariant(false));
+}
+
+void tst_DDefileurTactile::viewportDejaEnfant()
+{
+    QTreeView vue;
+    new DDefileurTactile(&vue);
+    auto * const viewport = new QWidget(&vue);
+    vue.setViewport(viewport);
+    QCOMPARE(DDefileurTactile::mesWidgetsAvecDefileursTactile, QSet<QWidget *>{viewport});
+    QCOMPARE(viewport->findChildren<DGestionnaireTapGesture *>().size(), 1);
+    delete new QWidget(&vue); // another child changes nothing
+    QCOMPARE(viewport->findChildren<DGestionnaireTapGesture *>().size(), 1);
+}
+
+void tst_DDefileurTactile::cyclesDeDefileurs()
+{
+    QTreeView vue;
+    auto * const viewport = new ViewportCompte;
+    vue.setViewport(viewport);
+    delete new DDefileurTactile(&vue);
+    int const apresUn = viewport->CompteDestroyed();
+    for (int i = 0; i < 3; ++i)
+        delete new DDefileurTactile(&vue);
+    QCOMPARE(viewport->CompteDestroyed(), apresUn);
+}
+
+// A receiver that asks for "tactile" hears of the stop before the style sheet.
+void tst_DDefileurTactile::etatRelayayAvantTactile()
+{
+    QTreeView vue;
+    auto * const defileur = new DDefileurTactile(&vue);
+    vue.setProperty("tactile", true);
+    QList<QVariant> tactiles;
+    connect(defileur, &DDefileurTactile::SignalChangementEtat, &vue,
+            [&](QScroller::State) { tactiles.append(vue.property("tactile")); });
+    Q_EMIT QScroller::scroller(vue.viewport())->stateChanged(QScroller::Inactive);
+    QCOMPARE(tactiles, QList<QVariant>{true});
     QCOMPARE(vue.property("tactile"), QVariant(false));
 }
 

@@ -41,8 +41,8 @@ public:
 
     bool eventFilter(QObject * objet, QEvent * evenement) override;
 
-    /// Every widget that an object of this class gave a scroller to, suspended or not. None stays
-    /// here after its destruction.
+    /// Every viewport that has a scroller from this class, suspended or not, until the object of
+    /// its own area goes, or the viewport does.
     static QSet<QWidget *> mesWidgetsAvecDefileursTactile;
 
 Q_SIGNALS:
@@ -71,7 +71,7 @@ private:
     void RetablisAncetres();
 
     QAbstractScrollArea * monAire;
-    [[maybe_unused]] QTime monTemps; // kept null
+    [[maybe_unused]] QTime monTemps; // null, read by nothing: holds its place in the layout
     QList<QObject *> mesAncetresSuspendus;
     bool monEstItemView = false;
     QPointer<QWidget> monViewport;

@@ -40,12 +40,6 @@ private:
     }
 };
 
-class ViewportCompte : public QWidget
-{
-public:
-    int CompteDestroyed() const { return receivers(SIGNAL(destroyed(QObject *))); }
-};
-
 bool EstAuRegistre(QWidget * widget)
 {
     return DDefileurTactile::mesWidgetsAvecDefileursTactile.contains(widget);
@@ -72,11 +66,6 @@ private Q_SLOTS:
     void aireSansTactile();
     void polissages();
     void etatsRelayes();
-    void destructionDuDefileurSeul();
-    void destructionDeLAire();
-    void autreViewport();
-    void viewportDejaEnfant();
-    void cyclesDeDefileurs();
     void etatRelayayAvantTactile();
 };
 
@@ -275,78 +264,6 @@ void tst_DDefileurTactile::etatsRelayes()
     QCOMPARE(espion.count(), 2);
     QCOMPARE(espion.at(1).at(0).value<QScroller::State>(), QScroller::Inactive);
     QCOMPARE(liste.property("tactile"), QVariant(false));
-}
-
-void tst_DDefileurTactile::destructionDuDefileurSeul()
-{
-    QTreeView vue;
-    auto * const defileur = new DDefileurTactile(&vue);
-    delete defileur;
-    QVERIFY(!EstAuRegistre(vue.viewport()));
-    QVERIFY(QScroller::hasScroller(vue.viewport()));
-    QTouchEvent debut = FaisToucher(QEvent::TouchBegin);
-    QCoreApplication::sendEvent(&vue, &debut);
-    QCOMPARE(vue.property("tactile"), QVariant(false));
-
-    new DDefileurTactile(&vue);
-    QVERIFY(EstAuRegistre(vue.viewport()));
-}
-
-void tst_DDefileurTactile::destructionDeLAire()
-{
-    auto * const vue = new QTreeView;
-    QPointer<DDefileurTactile> const defileur = new DDefileurTactile(vue);
-    QTouchEvent debut = FaisToucher(QEvent::TouchBegin);
-    QCoreApplication::sendEvent(vue, &debut);
-    delete vue;
-    QVERIFY(!defileur);
-    QVERIFY(DDefileurTactile::mesWidgetsAvecDefileursTactile.isEmpty());
-    QWidget autre; // the end of a touch that began on what is gone
-    QTouchEvent fin = FaisToucher(QEvent::TouchEnd);
-    QCoreApplication::sendEvent(&autre, &fin);
-}
-
-void tst_DDefileurTactile::autreViewport()
-{
-    QTreeView vue;
-    auto * const defileur = new DDefileurTactile(&vue);
-    QSignalSpy const espion(defileur, &DDefileurTactile::SignalChangementEtat);
-    auto * const viewport = new QWidget;
-    vue.setViewport(viewport);
-    QCOMPARE(DDefileurTactile::mesWidgetsAvecDefileursTactile, QSet<QWidget *>{viewport});
-    QVERIFY(QScroller::hasScroller(viewport));
-    QCOMPARE(viewport->findChildren<DGestionnaireTapGesture *>().size(), 1);
-    new QWidget(&vue); // another child changes nothing
-    QCOMPARE(viewport->findChildren<DGestionnaireTapGesture *>().size(), 1);
-
-    vue.setProperty("tactile", true);
-    Q_EMIT QScroller::scroller(viewport)->stateChanged(QScroller::Inactive);
-    QCOMPARE(espion.count(), 1);
-    QCOMPARE(vue.property("tactile"), QVariant(false));
-}
-
-void tst_DDefileurTactile::viewportDejaEnfant()
-{
-    QTreeView vue;
-    new DDefileurTactile(&vue);
-    auto * const viewport = new QWidget(&vue);
-    vue.setViewport(viewport);
-    QCOMPARE(DDefileurTactile::mesWidgetsAvecDefileursTactile, QSet<QWidget *>{viewport});
-    QCOMPARE(viewport->findChildren<DGestionnaireTapGesture *>().size(), 1);
-    delete new QWidget(&vue); // another child changes nothing
-    QCOMPARE(viewport->findChildren<DGestionnaireTapGesture *>().size(), 1);
-}
-
-void tst_DDefileurTactile::cyclesDeDefileurs()
-{
-    QTreeView vue;
-    auto * const viewport = new ViewportCompte;
-    vue.setViewport(viewport);
-    delete new DDefileurTactile(&vue);
-    int const apresUn = viewport->CompteDestroyed();
-    for (int i = 0; i < 3; ++i)
-        delete new DDefileurTactile(&vue);
-    QCOMPARE(viewport->CompteDestroyed(), apresUn);
 }
 
 // A receiver that asks for "tactile" hears of the stop before the style sheet.

@@ -5,6 +5,7 @@
 
 #include <QAbstractItemView>
 #include <QAbstractScrollArea>
+#include <QChildEvent>
 #include <QCoreApplication>
 #include <QHoverEvent>
 #include <QPointingDevice>
@@ -20,45 +21,60 @@ namespace {
 
 constexpr char kTactile[] = "tactile";
 
-// Calls back once, when the last finger leaves the window of the area, or the system takes the
-// touch away.
+// Calls back once, when the last finger leaves the native window of a touch, or the system takes
+// the touch or the window away.
 //
 // Qt tells neither to the area nor to its viewport, since both let the begin of the touch pass.
 class VeilleToucher : public QObject
 {
 public:
-    VeilleToucher(QWidget * aire, std::function<void()> fin, QObject * parent)
+    VeilleToucher(QWindow * fenetre, std::function<void()> fin, QObject * parent)
         : QObject(parent)
-        , monAire(aire)
         , maFin(std::move(fin))
     {
-        QCoreApplication::instance()->installEventFilter(this);
+        fenetre->installEventFilter(this);
+        // Queued: the area may be half destroyed when a window goes, and take this along.
+        connect(fenetre, &QObject::destroyed, this, &VeilleToucher::Finis, Qt::QueuedConnection);
     }
 
-    bool eventFilter(QObject * objet, QEvent * evenement) override
+    bool eventFilter(QObject *, QEvent * evenement) override
     {
-        bool const estFin =
-            evenement->type() == QEvent::TouchEnd || evenement->type() == QEvent::TouchCancel;
-        if (estFin && EstAutour(objet)) {
-            QCoreApplication::instance()->removeEventFilter(this);
-            maFin();
-        }
+        if (evenement->type() == QEvent::TouchEnd || evenement->type() == QEvent::TouchCancel)
+            Finis();
         return false;
     }
 
 private:
-    bool EstAutour(QObject * objet) const
+    void Finis()
     {
-        for (QWidget * widget = monAire; widget; widget = widget->parentWidget()) {
-            if (widget->windowHandle() && widget->windowHandle() == objet)
-                return true;
-        }
-        return objet == monAire;
+        if (auto const fin = std::exchange(maFin, nullptr))
+            fin();
     }
 
-    QWidget * monAire;
     std::function<void()> maFin;
 };
+
+// The native window that the system tells of touches on `widget`; null before it is shown.
+QWindow * DonneFenetreNative(QWidget const * widget)
+{
+    if (QWindow * const fenetre = widget->windowHandle())
+        return fenetre;
+    QWidget const * const natif = widget->nativeParentWidget();
+    return natif ? natif->windowHandle() : nullptr;
+}
+
+// Once for each widget, which may leave the register with one manager and enter it with the next.
+void SuisDestruction(QWidget * widget)
+{
+    static QSet<QWidget *> suivis;
+    if (suivis.contains(widget))
+        return;
+    suivis.insert(widget);
+    QObject::connect(widget, &QObject::destroyed, widget, [widget] {
+        suivis.remove(widget);
+        DDefileurTactile::mesWidgetsAvecDefileursTactile.remove(widget);
+    });
+}
 
 void Repolis(QWidget & widget)
 {
@@ -99,10 +115,10 @@ bool DDefileurTactile::eventFilter(QObject * objet, QEvent * evenement)
         switch (evenement->type()) {
         case QEvent::TouchBegin:
             // Qt offers the touch to the parents of the viewport with the answer "accepted"
-            // prepared, and the answer of the window counts: the gestures of the viewport would get
-            // no more.
-            if (monAire->isWindow())
-                evenement->ignore();
+            // prepared, and the answer of the last one counts: the gestures of the viewport would
+            // get no more, should that be this area.
+            evenement->ignore();
+            SurveilleToucher();
             if (monEstItemView)
                 DesactiveSurlignement();
             break;
@@ -113,24 +129,28 @@ bool DDefileurTactile::eventFilter(QObject * objet, QEvent * evenement)
             RetablisAncetres();
             break;
         case QEvent::ChildAdded:
-            if (monAire->viewport() != monViewport) {
-                AjouteQScroller(monAire->viewport());
-                SuisViewport();
-            }
+        case QEvent::ChildRemoved: // the new viewport was a child already, and the old one goes
+            SuisEnfants(*static_cast<QChildEvent *>(evenement));
             break;
         default:
             break;
         }
     }
     bool const ignore = DoitIgnorerEvenement(evenement); // asked first: a receiver may destroy this
-    if (EstEvenementTablet(evenement))
-        TraiteTablette(static_cast<QTabletEvent *>(evenement));
-    return ignore;
+    if (!monAire || !EstEvenementTablet(evenement))
+        return ignore;
+    QPointer<QObject> const vivant = objet;
+    TraiteTablette(static_cast<QTabletEvent *>(evenement));
+    if (vivant)
+        return ignore;
+    // Qt would ask what is gone: it stops at an event that is both taken and accepted.
+    evenement->accept();
+    return true;
 }
 
 void DDefileurTactile::PriseChangementEtatQScroller(QScroller::State state)
 {
-    if (state == QScroller::Inactive)
+    if (monAire && state == QScroller::Inactive)
         ActiveSurlignement();
 }
 
@@ -160,11 +180,8 @@ void DDefileurTactile::AjouteQScroller(QWidget * widget)
                                QVariant::fromValue(QScrollerProperties::OvershootAlwaysOff));
     proprietes.setScrollMetric(QScrollerProperties::AxisLockThreshold, 1);
     defileur->setScrollerProperties(proprietes);
-    if (!mesWidgetsAvecDefileursTactile.contains(widget)) {
-        mesWidgetsAvecDefileursTactile.insert(widget);
-        connect(widget, &QObject::destroyed, widget,
-                [widget] { mesWidgetsAvecDefileursTactile.remove(widget); });
-    }
+    mesWidgetsAvecDefileursTactile.insert(widget);
+    SuisDestruction(widget);
     connect(defileur, &QScroller::stateChanged, this, &DDefileurTactile::SignalChangementEtat,
             Qt::UniqueConnection);
 }
@@ -183,21 +200,28 @@ void DDefileurTactile::DesactiveSurlignement()
 {
     monAire->setProperty(kTactile, true);
     Repolis(*monAire);
-    if (maVeille)
-        return;
-    maVeille = new VeilleToucher(
-        monAire, [this] { FinisToucher(); }, this);
+}
+
+void DDefileurTactile::SurveilleToucher()
+{
+    delete maVeille; // this touch may have come to another window
+    if (QWindow * const fenetre = DonneFenetreNative(monAire->viewport()))
+        maVeille = new VeilleToucher(
+            fenetre, [this] { FinisToucher(); }, this);
 }
 
 void DDefileurTactile::FinisToucher()
 {
     maVeille->deleteLater();
     maVeille = nullptr;
-    // A view that has nothing to scroll in the direction of the finger has stayed inactive.
-    if (QScroller::scroller(monAire->viewport())->state() == QScroller::Inactive)
-        ActiveSurlignement();
-    else // the touch has yet to reach the scroller
+    if (QScroller::scroller(monAire->viewport())->state() != QScroller::Inactive) {
+        // The touch has yet to reach the scroller.
         QMetaObject::invokeMethod(this, &DDefileurTactile::PriseFinDuToucher, Qt::QueuedConnection);
+        return;
+    }
+    // A view that has nothing to scroll in the direction of the finger has stayed inactive.
+    if (monEstItemView)
+        ActiveSurlignement();
 }
 
 QSet<QObject *> * DDefileurTactile::DonneParents()
@@ -206,6 +230,17 @@ QSet<QObject *> * DDefileurTactile::DonneParents()
     for (QObject * objet = monAire->parent(); objet; objet = objet->parent())
         parents->insert(objet);
     return parents.release();
+}
+
+void DDefileurTactile::SuisEnfants(QChildEvent const & evenement)
+{
+    QWidget * const viewport = monAire->viewport();
+    // The area does not hear that its viewport is destroyed, and names it as before.
+    bool const perdu = evenement.removed() && evenement.child() == viewport;
+    if (viewport == monViewport || perdu)
+        return;
+    AjouteQScroller(viewport);
+    SuisViewport();
 }
 
 // The viewport gets what it needs besides its scroller.
@@ -221,7 +256,9 @@ void DDefileurTactile::SuisViewport()
 void DDefileurTactile::TraiteTablette(QTabletEvent * evenement)
 {
     // The area ignores the mouse, and the widgets around it would be pressed a second time: the
-    // viewport, which has its own manager, has been pressed by the same pen before.
+    // viewport, which has its own manager, has been pressed by the same pen before. The attribute
+    // holds for as long as the receiver works, in a nested event loop too: mouse and wheel events
+    // that the area ignores stop at it until then.
     QPointer<QWidget> const aire = monAire;
     bool const arret = aire->testAttribute(Qt::WA_NoMousePropagation);
     aire->setAttribute(Qt::WA_NoMousePropagation);
@@ -233,10 +270,12 @@ void DDefileurTactile::TraiteTablette(QTabletEvent * evenement)
 void DDefileurTactile::SuspendsAncetres()
 {
     for (QObject * objet = monAire->parent(); objet; objet = objet->parent()) {
-        if (!objet->isWidgetType() || mesAncetresSuspendus.contains(objet) ||
+        if (!objet->isWidgetType() ||
             !mesWidgetsAvecDefileursTactile.contains(static_cast<QWidget *>(objet)))
             continue;
-        mesAncetresSuspendus.append(objet);
+        // One that is in the list already may have its scroller back from another area.
+        if (!mesAncetresSuspendus.contains(objet))
+            mesAncetresSuspendus.append(objet);
         QScroller * const defileur = QScroller::scroller(objet);
         QScroller::ungrabGesture(objet);
         // The touch that brings the focus has pressed this scroller too, which will not hear the

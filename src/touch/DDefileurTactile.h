@@ -12,6 +12,7 @@
 #include <QTime>
 
 class QAbstractScrollArea;
+class QChildEvent;
 
 /// Gives a scroll area kinetic scrolling by finger, taps that click, and a pen that acts as a
 /// mouse.
@@ -40,8 +41,8 @@ public:
 
     bool eventFilter(QObject * objet, QEvent * evenement) override;
 
-    /// Every widget that an object of this class gave a scroller to, suspended or not. None stays
-    /// here after its destruction.
+    /// Every viewport that has a scroller from this class, suspended or not, until the object of
+    /// its own area goes, or the viewport does.
     static QSet<QWidget *> mesWidgetsAvecDefileursTactile;
 
 Q_SIGNALS:
@@ -60,15 +61,17 @@ private:
     void AjouteQScroller(QWidget * widget);
     void ActiveSurlignement();
     void DesactiveSurlignement();
+    void SurveilleToucher();
     void FinisToucher();
     QSet<QObject *> * DonneParents();
+    void SuisEnfants(QChildEvent const & evenement);
     void SuisViewport();
     void TraiteTablette(QTabletEvent * evenement);
     void SuspendsAncetres();
     void RetablisAncetres();
 
     QAbstractScrollArea * monAire;
-    [[maybe_unused]] QTime monTemps; // kept null
+    [[maybe_unused]] QTime monTemps; // null, read by nothing: holds its place in the layout
     QList<QObject *> mesAncetresSuspendus;
     bool monEstItemView = false;
     QPointer<QWidget> monViewport;

@@ -29,18 +29,27 @@ bool EstPlume(QPointingDevice const * appareil)
     return appareil && appareil->pointerType() == QPointingDevice::PointerType::Pen;
 }
 
-bool EstSynthetique(QMouseEvent const & souris)
+// While a pop-up is open, Qt delivers no touches to any window: of a finger on the pop-up, nothing
+// but the mouse that Qt makes of it tells.
+bool EstDansMenuOuvert(QObject const * objet)
+{
+    if (!objet || !objet->isWidgetType())
+        return false;
+    QWidget const * const menu = QApplication::activePopupWidget();
+    return menu && static_cast<QWidget const *>(objet)->window() == menu;
+}
+
+bool EstSynthetique(QMouseEvent const & souris, QObject const * widget)
 {
     switch (souris.source()) {
     case Qt::MouseEventSynthesizedBySystem:
         return true;
     case Qt::MouseEventSynthesizedByQt:
-        // While a pop-up is open, Qt delivers no touches: nothing but this mouse tells of the
-        // finger.
-        return !QApplication::activePopupWidget();
+        return !EstDansMenuOuvert(widget);
     default:
-        // Of a tablet event that nobody takes, Qt makes a mouse event that it does not call
-        // synthesised; the device is still the pen.
+        // Deliberate: what a pen's device sends counts as synthesised. Of a tablet event that
+        // nobody takes, Qt makes a mouse event that it does not call so, and the tablet event
+        // itself has pressed already.
         return EstPlume(souris.pointingDevice());
     }
 }
@@ -60,7 +69,7 @@ bool DGestionnaireGestureAbs::DoitIgnorerEvenement(QEvent * evenement) const
     case QEvent::MouseMove:
         // Deliberate: a synthesised double click passes. Qt makes one of two quick presses of a
         // pen, which are translated into presses alone.
-        return EstSynthetique(*static_cast<QMouseEvent *>(evenement));
+        return EstSynthetique(*static_cast<QMouseEvent *>(evenement), parent());
     default:
         return false;
     }

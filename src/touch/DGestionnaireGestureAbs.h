@@ -25,8 +25,11 @@ public:
 
 protected:
     /// True for a press, release or move of the mouse that the system or Qt made from a touch or a
-    /// pen: what acts on the touch and the pen themselves would do the work a second time. False
-    /// for a double click.
+    /// pen: what acts on the touch and the pen themselves would do the work a second time. A mouse
+    /// event whose device is a pen counts as made from it, whatever its source says.
+    ///
+    /// False for a double click; and, while the widget is in the pop-up that is open, for what Qt
+    /// made, since Qt delivers no touches then.
     bool DoitIgnorerEvenement(QEvent * evenement) const;
 
     /// True for a press, release or move of any tablet tool.

@@ -23,8 +23,10 @@ DGestionnaireTapGesture::DGestionnaireTapGesture(QWidget * widget)
     widget->installEventFilter(this);
 }
 
-bool DGestionnaireTapGesture::eventFilter(QObject *, QEvent * evenement)
+bool DGestionnaireTapGesture::eventFilter(QObject * objet, QEvent * evenement)
 {
+    if (!monWidget)
+        return false;
     if (evenement->type() == QEvent::Gesture) {
         auto const * const tap = static_cast<QTapGesture *>(
             static_cast<QGestureEvent *>(evenement)->gesture(Qt::TapGesture));
@@ -33,16 +35,23 @@ bool DGestionnaireTapGesture::eventFilter(QObject *, QEvent * evenement)
     }
     if (evenement->type() == QEvent::TouchCancel)
         monTapEnCours = false; // the gesture is not told
-    // Qt makes a double click of the second of two quick touches when the finger comes down, and
-    // the tap makes another when it leaves.
+    // Deliberate: a synthesised double click is swallowed while a finger is down. Qt makes one of
+    // the second of two quick touches when the finger comes down, and the tap makes another when it
+    // leaves.
     if (evenement->type() == QEvent::MouseButtonDblClick && monTapEnCours &&
         static_cast<QMouseEvent *>(evenement)->source() != Qt::MouseEventNotSynthesized)
         return true;
 
-    bool const ignore = DoitIgnorerEvenement(evenement);
-    if (EstEvenementTablet(evenement))
-        TraiteEvenementTablet(static_cast<QTabletEvent *>(evenement), monWidget);
-    return ignore;
+    bool const ignore = DoitIgnorerEvenement(evenement); // asked first: a receiver may destroy this
+    if (!EstEvenementTablet(evenement))
+        return ignore;
+    QPointer<QObject> const vivant = objet;
+    TraiteEvenementTablet(static_cast<QTabletEvent *>(evenement), monWidget);
+    if (vivant)
+        return ignore;
+    // Qt would ask what is gone: it stops at an event that is both taken and accepted.
+    evenement->accept();
+    return true;
 }
 
 // True when the tap is finished, and has become a click.

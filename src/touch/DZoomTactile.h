@@ -10,6 +10,9 @@ class QWidget;
 /// Tells the steps of a pinch of two fingers on a widget as zoom factors.
 ///
 /// The widget owns the object, which filters its events and consumes the pinches.
+///
+/// Give it a widget inside a window: Qt shows a touch to the gestures of a window twice, once for
+/// the native window and once for the widget, and each step of the pinch is told twice there.
 class FABRELGUI_EXPORT DZoomTactile : public QObject
 {
     Q_OBJECT

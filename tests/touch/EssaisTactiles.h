@@ -65,7 +65,7 @@ public:
     struct Trace
     {
         QEvent::Type type = QEvent::None;
-        QPointF position;
+        QPointF position{-1, -1};
         QPointF globale;
         Qt::MouseButton bouton = Qt::NoButton;
         Qt::MouseButtons boutons = Qt::NoButton;
@@ -101,6 +101,12 @@ public:
             trace.touches = souris.modifiers();
             trace.source = souris.source();
             trace.appareil = souris.pointingDevice();
+        }
+        if (evenement->type() == QEvent::HoverLeave) {
+            auto const & survol = *static_cast<QHoverEvent *>(evenement);
+            trace.position = survol.position();
+            trace.touches = survol.modifiers();
+            trace.appareil = survol.pointingDevice();
         }
         mesTraces.append(trace);
         QPointer<QObject> const vivant = objet;

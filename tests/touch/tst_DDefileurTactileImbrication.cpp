@@ -1,78 +1,10 @@
 // tests/touch/tst_DDefileurTactileImbrication.cpp
-#include "touch/DDefileurTactile.h"
+#include "touch/AiresImbriquees.h"
 
-#include "touch/EssaisTactiles.h"
-
+using namespace AiresImbriquees;
 using namespace EssaisTactiles;
 using namespace Qt::StringLiterals;
 using Metrique = QScrollerProperties::ScrollMetric;
-
-namespace {
-
-void Focalise(QWidget * widget, QEvent::Type type)
-{
-    QFocusEvent evenement(type);
-    QCoreApplication::sendEvent(widget, &evenement);
-}
-
-QScroller * DonneDefileur(QAbstractScrollArea * aire)
-{
-    return QScroller::scroller(aire->viewport());
-}
-
-// A finger on a place of the area where no other area is: does its scroller hear of it?
-bool EstAlEcoute(QAbstractScrollArea * aire)
-{
-    QPoint const coin(5, 5);
-    Qt::FocusPolicy const politique = aire->focusPolicy();
-    aire->setFocusPolicy(Qt::NoFocus); // the question must not move the focus
-    QTest::touchEvent(aire->viewport(), DonneEcranTactile()).press(0, coin, aire->viewport());
-    bool const presse = DonneDefileur(aire)->state() == QScroller::Pressed;
-    QTest::touchEvent(aire->viewport(), DonneEcranTactile()).release(0, coin, aire->viewport());
-    aire->setFocusPolicy(politique);
-    return presse;
-}
-
-// A scroll area with contents that it can scroll, and a place in them for an area. No touch gives
-// it the focus.
-class AireExterne : public QScrollArea
-{
-public:
-    explicit AireExterne(QWidget * parent = nullptr)
-        : QScrollArea(parent)
-    {
-        setFocusPolicy(Qt::NoFocus);
-        setGeometry(20, 20, 300, 300);
-        auto * const contenu = new QWidget;
-        contenu->resize(290, 2000);
-        setWidget(contenu);
-        defileur = new DDefileurTactile(this);
-    }
-
-    DDefileurTactile * defileur = nullptr;
-};
-
-QListWidget * CreeInterne(QWidget * parent, int y = 20)
-{
-    auto * const liste = new QListWidget(parent);
-    liste->setGeometry(20, y, 150, 100);
-    for (int i = 0; i < 200; ++i)
-        liste->addItem(QString::number(i));
-    new DDefileurTactile(liste);
-    return liste;
-}
-
-bool Montre(QWidget & fenetre)
-{
-    fenetre.resize(400, 400);
-    fenetre.setFocusPolicy(Qt::StrongFocus); // takes the focus that the system gives
-    fenetre.setFocus();
-    fenetre.show();
-    fenetre.activateWindow();
-    return QTest::qWaitForWindowActive(&fenetre);
-}
-
-} // namespace
 
 class tst_DDefileurTactileImbrication : public QObject
 {
@@ -85,14 +17,11 @@ private Q_SLOTS:
     void focusDeuxFois();
     void troisNiveaux();
     void deuxInternes();
-    void ancetreQuitte();
-    void unAncetreQuittay();
-    void ancetreQuittePuisDetruit();
-    void interneDetruitAvecLeFocus();
     void sansAncetre();
     void relaisDesAncetres();
     void doigtSurLInterne();
     void focusParLeDoigt();
+    void focusCroisays();
 };
 
 void tst_DDefileurTactileImbrication::cleanup()
@@ -196,68 +125,6 @@ void tst_DDefileurTactileImbrication::deuxInternes()
     QVERIFY(EstAlEcoute(&externe));
 }
 
-void tst_DDefileurTactileImbrication::ancetreQuitte()
-{
-    QWidget fenetre;
-    AireExterne externe(&fenetre);
-    QListWidget * const interne = CreeInterne(externe.widget());
-    QVERIFY(Montre(fenetre));
-    Focalise(interne, QEvent::FocusIn);
-    interne->setParent(&fenetre);
-    Focalise(interne, QEvent::FocusOut);
-    QVERIFY(!EstAlEcoute(&externe)); // deliberate: it gets no scroller back
-    interne->setParent(externe.widget());
-    Focalise(interne, QEvent::FocusOut);
-    QVERIFY(!EstAlEcoute(&externe));
-    Focalise(interne, QEvent::FocusIn); // as any area around it that is in the register
-    Focalise(interne, QEvent::FocusOut);
-    QVERIFY(EstAlEcoute(&externe));
-}
-
-void tst_DDefileurTactileImbrication::unAncetreQuittay()
-{
-    QWidget fenetre;
-    AireExterne externe(&fenetre);
-    auto * const milieu = new AireExterne(externe.widget());
-    milieu->setGeometry(20, 20, 200, 200);
-    QListWidget * const interne = CreeInterne(milieu->widget());
-    QVERIFY(Montre(fenetre));
-    Focalise(interne, QEvent::FocusIn);
-    milieu->setParent(&fenetre);
-    milieu->setGeometry(0, 340, 200, 50);
-    milieu->show();
-    Focalise(interne, QEvent::FocusOut);
-    QVERIFY(EstAlEcoute(milieu)); // still around it
-    QVERIFY(!EstAlEcoute(&externe));
-}
-
-void tst_DDefileurTactileImbrication::ancetreQuittePuisDetruit()
-{
-    QWidget fenetre;
-    auto * const externe = new AireExterne(&fenetre);
-    QListWidget * const interne = CreeInterne(externe->widget());
-    Focalise(interne, QEvent::FocusIn);
-    interne->setParent(&fenetre);
-    delete externe;
-    QCOMPARE(DDefileurTactile::mesWidgetsAvecDefileursTactile,
-             QSet<QWidget *>{interne->viewport()});
-    Focalise(interne, QEvent::FocusOut);
-    QCOMPARE(DDefileurTactile::mesWidgetsAvecDefileursTactile,
-             QSet<QWidget *>{interne->viewport()});
-}
-
-void tst_DDefileurTactileImbrication::interneDetruitAvecLeFocus()
-{
-    QWidget fenetre;
-    AireExterne externe(&fenetre);
-    QListWidget * const interne = CreeInterne(externe.widget());
-    QVERIFY(Montre(fenetre));
-    interne->setFocus();
-    QVERIFY(!EstAlEcoute(&externe));
-    delete interne;
-    QVERIFY(EstAlEcoute(&externe));
-}
-
 void tst_DDefileurTactileImbrication::sansAncetre()
 {
     QWidget fenetre;
@@ -332,6 +199,24 @@ void tst_DDefileurTactileImbrication::focusParLeDoigt()
     autre.setFocus();
     QVERIFY(EstAlEcoute(&externe));
     QCOMPARE(DonneDefileur(&externe)->state(), QScroller::Inactive);
+}
+
+// The other area has given the outer one its scroller back while this one kept it in its list.
+void tst_DDefileurTactileImbrication::focusCroisays()
+{
+    QWidget fenetre;
+    AireExterne externe(&fenetre);
+    QListWidget * const premier = CreeInterne(externe.widget());
+    QListWidget * const second = CreeInterne(externe.widget(), 140);
+    QVERIFY(Montre(fenetre));
+    Focalise(premier, QEvent::FocusIn);
+    Focalise(second, QEvent::FocusIn);
+    Focalise(premier, QEvent::FocusOut);
+    QVERIFY(EstAlEcoute(&externe));
+    Focalise(second, QEvent::FocusIn);
+    QVERIFY(!EstAlEcoute(&externe));
+    Focalise(second, QEvent::FocusOut);
+    QVERIFY(EstAlEcoute(&externe));
 }
 
 QTEST_MAIN(tst_DDefileurTactileImbrication)

@@ -1,6 +1,6 @@
 // tests/touch/tst_DDefileurTactileToucher.cpp
 //
-// What a person with a finger or a pen gets: touches that take Qt's whole way from the window on.
+// What a person with a finger gets: touches that take Qt's whole way from the window on.
 #include "touch/DDefileurTactile.h"
 
 #include "touch/EssaisTactiles.h"
@@ -55,12 +55,7 @@ private Q_SLOTS:
     void tapEnUnClic_data();
     void tapEnUnClic();
     void tapDansUnMenu();
-    void toucherAnnulay();
-    void finDansUneAutreFenetre();
-    void doigtsPartisEnsemble();
     void ligneSousLeDoigt();
-    void plumeEnUnClic();
-    void doublePressionDePlume();
     void pasDeDepassementVertical();
 };
 
@@ -153,17 +148,21 @@ void tst_DDefileurTactileToucher::glissementSansRienADefiler()
 void tst_DDefileurTactileToucher::tapEnUnClic_data()
 {
     QTest::addColumn<bool>("fenetre");
-    QTest::newRow("an area in a window") << false;
-    QTest::newRow("an area that is a window") << true;
+    QTest::addColumn<bool>("arret");
+    QTest::newRow("an area in a window") << false << false;
+    QTest::newRow("an area that is a window") << true << false;
+    QTest::newRow("an area that keeps the mouse from its parents") << false << true;
 }
 
 void tst_DDefileurTactileToucher::tapEnUnClic()
 {
     QFETCH(bool, fenetre);
+    QFETCH(bool, arret);
     QWidget parent;
     QListWidget * const liste = CreeListe(fenetre ? nullptr : &parent);
     std::unique_ptr<QListWidget> const aDetruire(fenetre ? liste : nullptr);
     new DDefileurTactile(liste);
+    liste->setAttribute(Qt::WA_NoMousePropagation, arret);
     QVERIFY(Montre(*liste->window()));
     QSignalSpy const presses(liste, &QListWidget::pressed);
     QSignalSpy const clics(liste, &QListWidget::clicked);
@@ -195,62 +194,6 @@ void tst_DDefileurTactileToucher::tapDansUnMenu()
     QCOMPARE(clics.count(), 1);
     Tape(liste->viewport(), point);
     QCOMPARE(doubles.count(), 1);
-}
-
-void tst_DDefileurTactileToucher::toucherAnnulay()
-{
-    QWidget parent;
-    QListWidget * const liste = CreeListe(&parent);
-    new DDefileurTactile(liste);
-    QVERIFY(Montre(parent));
-    Doigt(liste).press(0, QPoint(50, 250), liste->viewport());
-    for (int y = 240; y > 150; y -= 10)
-        Doigt(liste).move(0, QPoint(50, y), liste->viewport());
-    QCOMPARE(Etat(liste), QScroller::Dragging);
-    QTouchEvent annulation(QEvent::TouchCancel, DonneEcranTactile());
-    QCoreApplication::sendEvent(parent.windowHandle(), &annulation);
-    QTRY_COMPARE(liste->property("tactile"), QVariant(false));
-    QCOMPARE(Etat(liste), QScroller::Inactive);
-    // The device has a finger down as yet.
-    Doigt(liste).release(0, QPoint(50, 150), liste->viewport());
-}
-
-void tst_DDefileurTactileToucher::finDansUneAutreFenetre()
-{
-    QWidget parent;
-    QWidget autre;
-    autre.winId();
-    QListWidget * const liste = CreeListe(&parent);
-    new DDefileurTactile(liste);
-    QVERIFY(Montre(parent));
-    Doigt(liste).press(0, QPoint(50, 250), liste->viewport());
-    for (int y = 240; y > 150; y -= 10)
-        Doigt(liste).move(0, QPoint(50, y), liste->viewport());
-    QTouchEvent fin(QEvent::TouchEnd, DonneEcranTactile());
-    QCoreApplication::sendEvent(autre.windowHandle(), &fin);
-    QCoreApplication::processEvents();
-    QCOMPARE(Etat(liste), QScroller::Dragging);
-    QCOMPARE(liste->property("tactile"), QVariant(true));
-    Doigt(liste).release(0, QPoint(50, 150), liste->viewport());
-    QScroller::scroller(liste->viewport())->stop();
-    QCOMPARE(liste->property("tactile"), QVariant(false));
-}
-
-void tst_DDefileurTactileToucher::doigtsPartisEnsemble()
-{
-    QWidget parent;
-    QListWidget * const liste = CreeListe(&parent);
-    new DDefileurTactile(liste);
-    QVERIFY(Montre(parent));
-    QWidget * const viewport = liste->viewport();
-    Doigt(liste).press(0, QPoint(50, 250), viewport);
-    for (int y = 240; y > 150; y -= 10)
-        Doigt(liste).move(0, QPoint(50, y), viewport);
-    QCOMPARE(Etat(liste), QScroller::Dragging);
-    Doigt(liste).stationary(0).press(1, QPoint(90, 150), viewport);
-    Doigt(liste).release(0, QPoint(50, 150), viewport).release(1, QPoint(90, 150), viewport);
-    QTRY_COMPARE(Etat(liste), QScroller::Inactive);
-    QCOMPARE(liste->property("tactile"), QVariant(false));
 }
 
 void tst_DDefileurTactileToucher::ligneSousLeDoigt()
@@ -285,55 +228,6 @@ void tst_DDefileurTactileToucher::ligneSousLeDoigt()
     QVERIFY(!estRouge()); // the row that the finger left
     survole();
     QVERIFY(estRouge()); // the mouse is back
-}
-
-// The way of a pen on a platform that makes no mouse events of it: Qt makes them of the tablet
-// events that nobody takes, and gives them the pen for a device.
-void tst_DDefileurTactileToucher::plumeEnUnClic()
-{
-    QWidget parent;
-    QListWidget * const liste = CreeListe(&parent);
-    new DDefileurTactile(liste);
-    QVERIFY(Montre(parent));
-    QSignalSpy const presses(liste, &QListWidget::pressed);
-    QSignalSpy const clics(liste, &QListWidget::clicked);
-    QPointF const point = liste->visualItemRect(liste->item(3)).center();
-    QPointF const local = liste->viewport()->mapTo(&parent, point);
-    QPointF const globale = liste->viewport()->mapToGlobal(point);
-    for (auto const & [tablette, souris] :
-         {std::pair(QEvent::TabletPress, QEvent::MouseButtonPress),
-          std::pair(QEvent::TabletRelease, QEvent::MouseButtonRelease)}) {
-        auto const plume = FaisTablette(tablette, local, globale);
-        QCoreApplication::sendEvent(parent.windowHandle(), plume.get());
-        QVERIFY(!plume->isAccepted());
-        QMouseEvent mimay(souris, local, local, globale, plume->button(), plume->buttons(),
-                          Qt::NoModifier, Qt::MouseEventNotSynthesized, plume->pointingDevice());
-        QCoreApplication::sendEvent(parent.windowHandle(), &mimay);
-    }
-    QCOMPARE(liste->currentRow(), 3);
-    QCOMPARE(presses.count(), 1);
-    QCOMPARE(clics.count(), 1);
-}
-
-void tst_DDefileurTactileToucher::doublePressionDePlume()
-{
-    QWidget parent;
-    QListWidget * const liste = CreeListe(&parent);
-    new DDefileurTactile(liste);
-    QVERIFY(Montre(parent));
-    QSignalSpy const doubles(liste, &QListWidget::doubleClicked);
-    QPointF const point = liste->visualItemRect(liste->item(3)).center();
-    QPointF const globale = liste->viewport()->mapToGlobal(point);
-    for (QEvent::Type const type :
-         {QEvent::TabletPress, QEvent::TabletRelease, QEvent::TabletPress}) {
-        auto const plume = FaisTablette(type, point, globale);
-        QCoreApplication::sendEvent(liste->viewport(), plume.get());
-    }
-    QMouseEvent mimay(QEvent::MouseButtonDblClick, point, point, globale, Qt::LeftButton,
-                      Qt::LeftButton, Qt::NoModifier, Qt::MouseEventNotSynthesized,
-                      DonneOutil(QPointingDevice::PointerType::Pen));
-    QCoreApplication::sendEvent(liste->viewport(), &mimay);
-    QCOMPARE(doubles.count(), 1);
 }
 
 void tst_DDefileurTactileToucher::pasDeDepassementVertical()

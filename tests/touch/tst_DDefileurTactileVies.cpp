@@ -1,7 +1,10 @@
 // tests/touch/tst_DDefileurTactileVies.cpp
 //
-// Many areas come and go; the sanitizers look for what stays.
+// Areas, viewports and managers come and go, also in great number; the sanitizers look for what
+// stays.
 #include "touch/DDefileurTactile.h"
+
+#include "touch/DGestionnaireTapGesture.h"
 
 #include "touch/EssaisTactiles.h"
 
@@ -11,6 +14,17 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr int kAires = 1'000;
+
+class ViewportCompte : public QWidget
+{
+public:
+    int CompteDestroyed() const { return receivers(SIGNAL(destroyed(QObject *))); }
+};
+
+bool EstAuRegistre(QWidget * widget)
+{
+    return DDefileurTactile::mesWidgetsAvecDefileursTactile.contains(widget);
+}
 
 } // namespace
 
@@ -25,6 +39,12 @@ private Q_SLOTS:
     void milleViewports();
     void millePassages();
     void destructionPendantLeDefilement();
+    void destructionDuDefileurSeul();
+    void destructionDeLAire();
+    void autreViewport();
+    void viewportDejaEnfant();
+    void cyclesDeDefileurs();
+    void viewportPerdu();
 };
 
 void tst_DDefileurTactileVies::cleanup()
@@ -117,6 +137,87 @@ void tst_DDefileurTactileVies::destructionPendantLeDefilement()
     delete texte;
     QVERIFY(QScroller::activeScrollers().isEmpty());
     QTest::touchEvent(&fenetre, DonneEcranTactile()).release(0, QPoint(50, 50), &fenetre);
+}
+
+void tst_DDefileurTactileVies::destructionDuDefileurSeul()
+{
+    QTreeView vue;
+    auto * const defileur = new DDefileurTactile(&vue);
+    delete defileur;
+    QVERIFY(!EstAuRegistre(vue.viewport()));
+    QVERIFY(QScroller::hasScroller(vue.viewport()));
+    QTouchEvent debut = FaisToucher(QEvent::TouchBegin);
+    QCoreApplication::sendEvent(&vue, &debut);
+    QCOMPARE(vue.property("tactile"), QVariant(false));
+
+    new DDefileurTactile(&vue);
+    QVERIFY(EstAuRegistre(vue.viewport()));
+}
+
+void tst_DDefileurTactileVies::destructionDeLAire()
+{
+    auto * const vue = new QTreeView;
+    QPointer<DDefileurTactile> const defileur = new DDefileurTactile(vue);
+    QTouchEvent debut = FaisToucher(QEvent::TouchBegin);
+    QCoreApplication::sendEvent(vue, &debut);
+    delete vue;
+    QVERIFY(!defileur);
+    QVERIFY(DDefileurTactile::mesWidgetsAvecDefileursTactile.isEmpty());
+    QWidget autre; // the end of a touch that began on what is gone
+    QTouchEvent fin = FaisToucher(QEvent::TouchEnd);
+    QCoreApplication::sendEvent(&autre, &fin);
+}
+
+void tst_DDefileurTactileVies::autreViewport()
+{
+    QTreeView vue;
+    auto * const defileur = new DDefileurTactile(&vue);
+    QSignalSpy const espion(defileur, &DDefileurTactile::SignalChangementEtat);
+    auto * const viewport = new QWidget;
+    vue.setViewport(viewport);
+    QCOMPARE(DDefileurTactile::mesWidgetsAvecDefileursTactile, QSet<QWidget *>{viewport});
+    QVERIFY(QScroller::hasScroller(viewport));
+    QCOMPARE(viewport->findChildren<DGestionnaireTapGesture *>().size(), 1);
+    new QWidget(&vue); // another child changes nothing
+    QCOMPARE(viewport->findChildren<DGestionnaireTapGesture *>().size(), 1);
+
+    vue.setProperty("tactile", true);
+    Q_EMIT QScroller::scroller(viewport)->stateChanged(QScroller::Inactive);
+    QCOMPARE(espion.count(), 1);
+    QCOMPARE(vue.property("tactile"), QVariant(false));
+}
+
+void tst_DDefileurTactileVies::viewportDejaEnfant()
+{
+    QTreeView vue;
+    new DDefileurTactile(&vue);
+    auto * const viewport = new QWidget(&vue);
+    vue.setViewport(viewport);
+    QCOMPARE(DDefileurTactile::mesWidgetsAvecDefileursTactile, QSet<QWidget *>{viewport});
+    QCOMPARE(viewport->findChildren<DGestionnaireTapGesture *>().size(), 1);
+    delete new QWidget(&vue); // another child changes nothing
+    QCOMPARE(viewport->findChildren<DGestionnaireTapGesture *>().size(), 1);
+}
+
+void tst_DDefileurTactileVies::cyclesDeDefileurs()
+{
+    QTreeView vue;
+    auto * const viewport = new ViewportCompte;
+    vue.setViewport(viewport);
+    delete new DDefileurTactile(&vue);
+    int const apresUn = viewport->CompteDestroyed();
+    for (int i = 0; i < 3; ++i)
+        delete new DDefileurTactile(&vue);
+    QCOMPARE(viewport->CompteDestroyed(), apresUn);
+}
+
+// The area names its viewport as before while that one goes.
+void tst_DDefileurTactileVies::viewportPerdu()
+{
+    QAbstractScrollArea aire;
+    new DDefileurTactile(&aire);
+    delete aire.viewport();
+    QVERIFY(DDefileurTactile::mesWidgetsAvecDefileursTactile.isEmpty());
 }
 
 QTEST_MAIN(tst_DDefileurTactileVies)

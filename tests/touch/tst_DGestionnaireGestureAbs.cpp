@@ -18,6 +18,14 @@ public:
     using DGestionnaireGestureAbs::TraiteEvenementTablet;
 };
 
+enum class Place
+{
+    DansLeMenu,
+    LeMenu,
+    Ailleurs,
+    NullePart
+};
+
 } // namespace
 
 class tst_DGestionnaireGestureAbs : public QObject
@@ -30,6 +38,7 @@ private Q_SLOTS:
     void sansWidget();
     void sourisAIgnorer_data();
     void sourisAIgnorer();
+    void sourisDansUnMenuOuvert_data();
     void sourisDansUnMenuOuvert();
     void sourisDUnePlume_data();
     void sourisDUnePlume();
@@ -90,14 +99,30 @@ void tst_DGestionnaireGestureAbs::sourisAIgnorer()
     QTEST(Gestionnaire(nullptr).DoitIgnorerEvenement(&souris), "attendu");
 }
 
+void tst_DGestionnaireGestureAbs::sourisDansUnMenuOuvert_data()
+{
+    QTest::addColumn<Place>("place");
+    QTest::addColumn<bool>("attendu");
+    QTest::newRow("in the pop-up") << Place::DansLeMenu << false;
+    QTest::newRow("the pop-up itself") << Place::LeMenu << false;
+    QTest::newRow("another widget's pop-up: swallowed") << Place::Ailleurs << true;
+    QTest::newRow("no widget: swallowed") << Place::NullePart << true;
+}
+
 void tst_DGestionnaireGestureAbs::sourisDansUnMenuOuvert()
 {
+    QFETCH(Place, place);
+    QFETCH(bool, attendu);
     QWidget menu(nullptr, Qt::Popup);
+    auto * const dedans = new QWidget(&menu);
+    QWidget ailleurs;
+    QHash<Place, QWidget *> const widgets{
+        {Place::DansLeMenu, dedans}, {Place::LeMenu, &menu}, {Place::Ailleurs, &ailleurs}};
+    Gestionnaire const gestionnaire(widgets.value(place));
     menu.show();
     QCOMPARE(QApplication::activePopupWidget(), &menu);
-    Gestionnaire const gestionnaire(nullptr);
     QMouseEvent deQt = FaisSouris(QEvent::MouseButtonPress, Qt::MouseEventSynthesizedByQt);
-    QVERIFY(!gestionnaire.DoitIgnorerEvenement(&deQt));
+    QCOMPARE(gestionnaire.DoitIgnorerEvenement(&deQt), attendu);
     QMouseEvent duSysteme = FaisSouris(QEvent::MouseButtonPress, Qt::MouseEventSynthesizedBySystem);
     QVERIFY(gestionnaire.DoitIgnorerEvenement(&duSysteme));
     menu.close();

@@ -34,11 +34,6 @@ private Q_SLOTS:
     void gesteEnCours();
     void glissementSansClic();
     void tapSurUnEnfant();
-    void sourisSynthetique_data();
-    void sourisSynthetique();
-    void toucherAnnulay();
-    void plume();
-    void plumeDeQt();
     void autreGeste();
     void destructionPendantLeClic_data();
     void destructionPendantLeClic();
@@ -225,96 +220,6 @@ void tst_DGestionnaireTapGesture::tapSurUnEnfant()
     Tape(&enfant, QPoint(5, 6));
     QCOMPARE(temoin.DonneTypes(), kClic);
     QCOMPARE(temoin.DonneTraces().first().position, QPointF(105, 56));
-}
-
-void tst_DGestionnaireTapGesture::sourisSynthetique_data()
-{
-    QTest::addColumn<QEvent::Type>("type");
-    QTest::addColumn<Qt::MouseEventSource>("source");
-    QTest::addColumn<bool>("passe");
-    QTest::newRow("press by the system")
-        << QEvent::MouseButtonPress << Qt::MouseEventSynthesizedBySystem << false;
-    QTest::newRow("release by Qt")
-        << QEvent::MouseButtonRelease << Qt::MouseEventSynthesizedByQt << false;
-    QTest::newRow("real press") << QEvent::MouseButtonPress << Qt::MouseEventNotSynthesized << true;
-    QTest::newRow("real double click")
-        << QEvent::MouseButtonDblClick << Qt::MouseEventNotSynthesized << true;
-    QTest::newRow("double click by Qt, no finger down")
-        << QEvent::MouseButtonDblClick << Qt::MouseEventSynthesizedByQt << true;
-}
-
-void tst_DGestionnaireTapGesture::sourisSynthetique()
-{
-    QFETCH(QEvent::Type, type);
-    QFETCH(Qt::MouseEventSource, source);
-    QFETCH(bool, passe);
-    QWidget widget;
-    Temoin const temoin(&widget, kTraces);
-    new DGestionnaireTapGesture(&widget);
-    QMouseEvent souris = FaisSouris(type, source);
-    QCoreApplication::sendEvent(&widget, &souris);
-    QCOMPARE(temoin.Compte(), passe ? 1 : 0);
-}
-
-// A touch that is taken away leaves the tap without an end.
-void tst_DGestionnaireTapGesture::toucherAnnulay()
-{
-    QWidget widget;
-    widget.resize(200, 200);
-    Temoin const temoin(&widget, kTraces);
-    new DGestionnaireTapGesture(&widget);
-    widget.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&widget));
-
-    QTest::touchEvent(&widget, DonneEcranTactile()).press(0, QPoint(30, 40), &widget);
-    QMouseEvent souris = FaisSouris(QEvent::MouseButtonDblClick, Qt::MouseEventSynthesizedBySystem);
-    QCoreApplication::sendEvent(&widget, &souris);
-    QCOMPARE(temoin.Compte(), 0); // a finger is down
-    QTouchEvent annulation = FaisToucher(QEvent::TouchCancel);
-    QCoreApplication::sendEvent(&widget, &annulation);
-    QCoreApplication::sendEvent(&widget, &souris);
-    QCOMPARE(temoin.DonneTypes(), QList{QEvent::MouseButtonDblClick});
-    QTest::touchEvent(&widget, DonneEcranTactile()).release(0, QPoint(30, 40), &widget);
-}
-
-void tst_DGestionnaireTapGesture::plume()
-{
-    QWidget widget;
-    Temoin const souris(&widget, kTraces);
-    Temoin const tablette(&widget, {QEvent::TabletPress});
-    new DGestionnaireTapGesture(&widget);
-    auto const press = FaisTablette(QEvent::TabletPress, QPointF(9, 9));
-    QCoreApplication::sendEvent(&widget, press.get());
-    QCOMPARE(souris.DonneTypes(), QList{QEvent::MouseButtonPress});
-    QCOMPARE(souris.DonneTraces().first().position, QPointF(9, 9));
-    QCOMPARE(tablette.Compte(), 1); // it goes on
-    auto const gomme = FaisTablette(QEvent::TabletPress, QPointF(9, 9), {},
-                                    DonneOutil(QPointingDevice::PointerType::Eraser));
-    QCoreApplication::sendEvent(&widget, gomme.get());
-    QCOMPARE(souris.Compte(), 1);
-    QCOMPARE(tablette.Compte(), 2);
-}
-
-// What Qt does with a pen: the tablet event first, then, as nobody takes it, a mouse event of the
-// pen.
-void tst_DGestionnaireTapGesture::plumeDeQt()
-{
-    QWidget widget;
-    Temoin const temoin(&widget, kTraces);
-    new DGestionnaireTapGesture(&widget);
-    for (auto const & [tablette, mimay] :
-         {std::pair(QEvent::TabletPress, QEvent::MouseButtonPress),
-          std::pair(QEvent::TabletMove, QEvent::MouseMove),
-          std::pair(QEvent::TabletRelease, QEvent::MouseButtonRelease)}) {
-        auto const plume = FaisTablette(tablette, QPointF(9, 9));
-        QCoreApplication::sendEvent(&widget, plume.get());
-        QVERIFY(!plume->isAccepted());
-        QMouseEvent souris =
-            FaisSouris(mimay, Qt::MouseEventNotSynthesized, plume->pointingDevice());
-        QCoreApplication::sendEvent(&widget, &souris);
-    }
-    QCOMPARE(temoin.DonneTypes(),
-             (QList{QEvent::MouseButtonPress, QEvent::MouseMove, QEvent::MouseButtonRelease}));
 }
 
 void tst_DGestionnaireTapGesture::autreGeste()

@@ -59,12 +59,11 @@ void DPopUpMenu::AfficheToi(QPoint const & position, QSize const & taille)
         adjustSize();
         setAttribute(Qt::WA_Resized, false);
     }
-    bool const placeParHote = testAttribute(Qt::WA_Moved) && pos() != maDernierePlace;
-    if (!placeParHote)
+    if (!testAttribute(Qt::WA_Moved))
         move(position);
     Replace(); // a hidden pop-up is told of its move when it is shown
-    maDernierePlace = pos();
     show();
+    setAttribute(Qt::WA_Moved, false); // until its host moves it
 }
 
 void DPopUpMenu::moveEvent(QMoveEvent * evenement)
@@ -90,7 +89,8 @@ QRect DPopUpMenu::DonneAncre() const
 {
     if (maTaille.width() <= 0 && maTaille.height() <= 0)
         return {};
-    // Nothing intersects a rectangle without width or height, such as that of a text cursor.
+    // QRect::intersects takes one without width, such as that of a text cursor, to lie between two
+    // columns, and would let the pop-up stand on the second of them.
     return {maPosition, maTaille.expandedTo(QSize(1, 1))};
 }
 
@@ -99,15 +99,14 @@ void DPopUpMenu::Replace()
     if (monReplacementEnCours)
         return;
     QScopedValueRollback const enCours(monReplacementEnCours, true);
-    bool const placeParNous = pos() == maDernierePlace;
+    bool const placeParHote = testAttribute(Qt::WA_Moved);
     QRect const ancre = DonneAncre();
     QRect const popup = rect().translated(pos());
     RoutinesFenetre::DeplaceFenetreSiSorsDeLecranOuSurRect(this, popup, ancre, QRect(), QRect(),
                                                            kEcart, RoutinesFenetre::kAuDessusForce);
-    // Above the rectangle the pop-up may be off the screen, and would be sent back and forth.
+    // Above the rectangle the pop-up may be off the screen, and would stay there.
     QScreen const * const ecran = RoutinesGeneralesQt::EcranLePlusProche(popup.topLeft());
     if (ecran && !ecran->availableGeometry().contains(rect().translated(pos())))
         move(PlaceAilleurs(ecran->availableGeometry(), ancre, popup).topLeft());
-    if (placeParNous)
-        maDernierePlace = pos();
+    setAttribute(Qt::WA_Moved, placeParHote); // set by any move, also by ours
 }

@@ -54,6 +54,7 @@ private Q_SLOTS:
     void affichageApresAgrandissement();
     void placeDeLHote_data();
     void placeDeLHote();
+    void placeDeLHoteRepetee();
     void placeDeLHotePuisAncre();
     void sansAncre();
     void deplaceVisible_data();
@@ -179,6 +180,7 @@ void tst_DPopUpMenu::placeDeLHote_data()
     QTest::addColumn<QPoint>("place");
     QTest::addColumn<QPoint>("attendue");
     QTest::newRow("clear of all") << QPoint(700, 700) << QPoint(700, 700);
+    QTest::newRow("at the origin") << QPoint(0, 0) << QPoint(0, 0);
     QTest::newRow("touching the anchor") << QPoint(460, 300) << QPoint(460, 300);
     QTest::newRow("one pixel over it") << QPoint(459, 300) << QPoint(459, 190);
     QTest::newRow("over it") << QPoint(380, 290) << QPoint(380, 190);
@@ -194,6 +196,18 @@ void tst_DPopUpMenu::placeDeLHote()
     popup.move(place);
     popup.AfficheToi(kAncre.topLeft(), kAncre.size());
     QCOMPARE(popup.pos(), attendue);
+}
+
+void tst_DPopUpMenu::placeDeLHoteRepetee()
+{
+    DPopUpMenu popup;
+    popup.resize(kTaille);
+    for (int i = 0; i < 3; ++i) {
+        popup.move(600, 600); // at times where it is already
+        popup.AfficheToi(kAncre.topLeft(), kAncre.size());
+        QCOMPARE(popup.pos(), QPoint(600, 600));
+        popup.close();
+    }
 }
 
 void tst_DPopUpMenu::placeDeLHotePuisAncre()

@@ -2,31 +2,22 @@
 #include "controls/DPopUpMenu.h"
 
 #include "foundation/GeometrieEcran.h"
+#include "foundation/GeometrieEcranCalculs_p.h"
 
 #include <QScopedValueRollback>
 #include <QScreen>
 
-#include <algorithm>
 #include <array>
 
 namespace {
 
 constexpr int kEcart = 10; // pixels between the pop-up and the rectangle
 
-QRect RameneDans(QRect const & limites, QRect rect)
-{
-    rect.moveLeft(
-        std::max(std::min(rect.left(), limites.right() - rect.width() + 1), limites.left()));
-    rect.moveTop(
-        std::max(std::min(rect.top(), limites.bottom() - rect.height() + 1), limites.top()));
-    return rect;
-}
-
 // For a rectangle with no room above it. Along the edge that the pop-up goes to, it stays as near
 // as the screen allows to where it is.
 QRect PlaceAilleurs(QRect const & limites, QRect const & ancre, QRect const & popup)
 {
-    QRect const dansLEcran = RameneDans(limites, popup);
+    QRect const dansLEcran = RoutinesGeometrie::RameneDans(limites, popup);
     int const enDessous = ancre.bottom() + 1 + kEcart;
     int const aDroite = ancre.right() + 1 + kEcart;
     int const aGauche = ancre.left() - kEcart - popup.width();

@@ -12,6 +12,7 @@
 #include <QSignalBlocker>
 #include <QStyleOptionComboBox>
 #include <QTableView>
+#include <QTreeView>
 #include <QWheelEvent>
 
 #include <optional>
@@ -22,6 +23,27 @@ bool EstUneLettre(QKeyEvent const & evenement)
 {
     return !evenement.text().isEmpty() && evenement.text().at(0).isPrint() &&
            !(evenement.modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier));
+}
+
+// The delegate changes the state of the item then, and its view looks for no text.
+bool EstUneCoche(QKeyEvent const & evenement, QModelIndex const & courant)
+{
+    return evenement.key() == Qt::Key_Space && (courant.flags() & Qt::ItemIsUserCheckable) &&
+           (courant.flags() & Qt::ItemIsEnabled) && courant.data(Qt::CheckStateRole).isValid();
+}
+
+// As QTreeView does with these keys before it takes them for letters.
+void DeplieOuReplie(QTreeView & arbre, int touche)
+{
+    QModelIndex const courant = arbre.currentIndex();
+    if (!courant.isValid() || !arbre.itemsExpandable())
+        return;
+    if (touche == Qt::Key_Asterisk)
+        arbre.expandRecursively(courant);
+    else if (touche == Qt::Key_Plus)
+        arbre.expand(courant);
+    else if (touche == Qt::Key_Minus)
+        arbre.collapse(courant);
 }
 
 } // namespace
@@ -201,13 +223,18 @@ bool DComboBox::TraiteTouche(QKeyEvent const & evenement)
 
 bool DComboBox::TraiteToucheDeLaListe(QKeyEvent const & evenement)
 {
-    QModelIndex cible;
-    if (EstUneLettre(evenement))
-        cible = monMasqueur->ChercheDansLaListe(evenement.text());
-    else if (evenement.key() == Qt::Key_Home && qobject_cast<QListView *>(view()))
-        cible = monMasqueur->DonnePremierDeLaListe(); // QListView goes to row 0, hidden or not
-    else
+    if (EstUneCoche(evenement, view()->currentIndex()))
         return false;
+    QModelIndex cible;
+    if (EstUneLettre(evenement)) {
+        if (auto * const arbre = qobject_cast<QTreeView *>(view()))
+            DeplieOuReplie(*arbre, evenement.key());
+        cible = monMasqueur->ChercheDansLaListe(evenement.text());
+    } else if (evenement.key() == Qt::Key_Home && qobject_cast<QListView *>(view())) {
+        cible = monMasqueur->DonnePremierDeLaListe(); // QListView goes to row 0, hidden or not
+    } else {
+        return false;
+    }
     if (cible.isValid())
         view()->setCurrentIndex(cible);
     return true;

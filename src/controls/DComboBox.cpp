@@ -15,6 +15,8 @@
 #include <QTreeView>
 #include <QWheelEvent>
 
+#include <algorithm>
+#include <limits>
 #include <optional>
 
 namespace {
@@ -103,7 +105,8 @@ void DComboBox::showPopup()
     if (count() < 2)
         return;
     int const lignes = maxVisibleItems();
-    setMaxVisibleItems(lignes + 1); // the base counts the hidden row too
+    // The base counts the hidden row too.
+    setMaxVisibleItems(std::min(lignes, std::numeric_limits<int>::max() - 1) + 1);
     {
         // The base highlights the current item, which may be the hidden one.
         std::optional<QSignalBlocker> muet;

@@ -220,6 +220,8 @@ void MasqueurPremierElement::FiltreCompleteur()
     }
     if (completeur->model() != monModele || filtray)
         return;
+    if (monModele->QObject::parent() == completeur)
+        monModele->setParent(monCombo); // it would go when the completer takes another one
     monFiltre = new FiltreDuPremier(this, monModele, completeur);
     completeur->setModel(monFiltre);
 }

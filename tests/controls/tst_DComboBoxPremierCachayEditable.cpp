@@ -78,6 +78,7 @@ private Q_SLOTS:
     void completionDUneMethodeDeSaisie();
     void completeurEtranger();
     void completeurQuiSurvit();
+    void completeurProprietaireDuModele();
     void completionEnListe();
     void editableCompletionSuitLeModele();
     void remplissage();
@@ -173,6 +174,25 @@ void tst_DComboBoxPremierCachayEditable::completeurQuiSurvit()
     }
     modele.setStringList({u"x"_s, u"y"_s, u"z"_s});
     QCOMPARE(completeur.model()->rowCount(), 3);
+}
+
+void tst_DComboBoxPremierCachayEditable::completeurProprietaireDuModele()
+{
+    DComboBox combo;
+    combo.setEditable(true);
+    auto * const completeur = new QCompleter({u"abricot"_s, u"avocat"_s}, &combo);
+    QPointer<QAbstractItemModel> const modele = completeur->model();
+    QCOMPARE(modele->parent(), completeur);
+    combo.setModel(modele);
+    combo.setCompleter(completeur);
+    combo.CachePremierElement();
+    QVERIFY(modele);
+    QCOMPARE(combo.model(), modele.data());
+    QCOMPARE(combo.count(), 2);
+    QVERIFY(completeur->model() != modele);
+    QCOMPARE(completeur->model()->rowCount(), 1);
+    combo.setModel(new QStringListModel(&combo));
+    QVERIFY(!modele); // nobody else would free it
 }
 
 void tst_DComboBoxPremierCachayEditable::completionEnListe()

@@ -108,7 +108,8 @@ void DComboBox::showPopup()
     // The base counts the hidden row too.
     setMaxVisibleItems(std::min(lignes, std::numeric_limits<int>::max() - 1) + 1);
     {
-        // The base highlights the current item, which may be the hidden one.
+        // The base highlights the current item, which may be the hidden one. That signal cannot
+        // be muted alone: whoever watches this combo box hears of nothing in the meantime.
         std::optional<QSignalBlocker> muet;
         if (currentIndex() == 0)
             muet.emplace(this);

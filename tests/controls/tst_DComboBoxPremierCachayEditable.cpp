@@ -83,6 +83,7 @@ private Q_SLOTS:
     void editableCompletionSuitLeModele();
     void remplissage();
     void editableTexteEntier();
+    void editableTexteEntierQuittay();
     void editableSansDeleguay();
 };
 
@@ -261,6 +262,25 @@ void tst_DComboBoxPremierCachayEditable::editableTexteEntier()
     combo.lineEdit()->clear();
     QTest::keyClicks(&combo, u"abricot"_s);
     QTest::keyClick(&combo, Qt::Key_Return);
+    QCOMPARE(combo.currentIndex(), 0);
+}
+
+void tst_DComboBoxPremierCachayEditable::editableTexteEntierQuittay()
+{
+    QWidget fenetre;
+    DComboBox combo(&fenetre);
+    QLineEdit autre(&fenetre);
+    combo.setEditable(true);
+    combo.setInsertPolicy(QComboBox::NoInsert);
+    combo.addItems({u"abricot"_s, u"avocat"_s});
+    combo.CachePremierElement();
+    combo.setCurrentIndex(1);
+    fenetre.show();
+    QVERIFY(PrendLeFocus(combo));
+    combo.lineEdit()->clear();
+    QTest::keyClicks(&combo, u"abricot"_s);
+    QCOMPARE(combo.currentIndex(), 1);
+    autre.setFocus();
     QCOMPARE(combo.currentIndex(), 0);
 }
 

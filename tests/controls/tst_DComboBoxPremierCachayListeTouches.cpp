@@ -2,7 +2,6 @@
 #include "controls/EssaisPremierCachay.h"
 
 #include <QSignalSpy>
-#include <QStandardItemModel>
 
 using namespace Qt::StringLiterals;
 using namespace EssaisPremierCachay;
@@ -87,7 +86,7 @@ void tst_DComboBoxPremierCachayListeTouches::touches()
     DComboBox combo;
     Prepare(combo, genre);
     for (int const ligne : desactives)
-        qobject_cast<QStandardItemModel *>(combo.model())->item(ligne)->setEnabled(false);
+        Desactive(combo, ligne);
     combo.setCurrentIndex(depart);
     combo.showPopup();
     if ((genre == "table"_L1) && (touche == Qt::Key_Home || touche == Qt::Key_End)) {

@@ -12,8 +12,11 @@
 #include <QSignalBlocker>
 #include <QStyleOptionComboBox>
 #include <QTableView>
+#include <QTreeView>
 #include <QWheelEvent>
 
+#include <algorithm>
+#include <limits>
 #include <optional>
 
 namespace {
@@ -22,6 +25,27 @@ bool EstUneLettre(QKeyEvent const & evenement)
 {
     return !evenement.text().isEmpty() && evenement.text().at(0).isPrint() &&
            !(evenement.modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier));
+}
+
+// The delegate changes the state of the item then, and its view looks for no text.
+bool EstUneCoche(QKeyEvent const & evenement, QModelIndex const & courant)
+{
+    return evenement.key() == Qt::Key_Space && (courant.flags() & Qt::ItemIsUserCheckable) &&
+           (courant.flags() & Qt::ItemIsEnabled) && courant.data(Qt::CheckStateRole).isValid();
+}
+
+// As QTreeView does with these keys before it takes them for letters.
+void DeplieOuReplie(QTreeView & arbre, int touche)
+{
+    QModelIndex const courant = arbre.currentIndex();
+    if (!courant.isValid() || !arbre.itemsExpandable())
+        return;
+    if (touche == Qt::Key_Asterisk)
+        arbre.expandRecursively(courant);
+    else if (touche == Qt::Key_Plus)
+        arbre.expand(courant);
+    else if (touche == Qt::Key_Minus)
+        arbre.collapse(courant);
 }
 
 } // namespace
@@ -81,9 +105,11 @@ void DComboBox::showPopup()
     if (count() < 2)
         return;
     int const lignes = maxVisibleItems();
-    setMaxVisibleItems(lignes + 1); // the base counts the hidden row too
+    // The base counts the hidden row too.
+    setMaxVisibleItems(std::min(lignes, std::numeric_limits<int>::max() - 1) + 1);
     {
-        // The base highlights the current item, which may be the hidden one.
+        // The base highlights the current item, which may be the hidden one. That signal cannot
+        // be muted alone: whoever watches this combo box hears of nothing in the meantime.
         std::optional<QSignalBlocker> muet;
         if (currentIndex() == 0)
             muet.emplace(this);
@@ -201,13 +227,18 @@ bool DComboBox::TraiteTouche(QKeyEvent const & evenement)
 
 bool DComboBox::TraiteToucheDeLaListe(QKeyEvent const & evenement)
 {
-    QModelIndex cible;
-    if (EstUneLettre(evenement))
-        cible = monMasqueur->ChercheDansLaListe(evenement.text());
-    else if (evenement.key() == Qt::Key_Home && qobject_cast<QListView *>(view()))
-        cible = monMasqueur->DonnePremierDeLaListe(); // QListView goes to row 0, hidden or not
-    else
+    if (EstUneCoche(evenement, view()->currentIndex()))
         return false;
+    QModelIndex cible;
+    if (EstUneLettre(evenement)) {
+        if (auto * const arbre = qobject_cast<QTreeView *>(view()))
+            DeplieOuReplie(*arbre, evenement.key());
+        cible = monMasqueur->ChercheDansLaListe(evenement.text());
+    } else if (evenement.key() == Qt::Key_Home && qobject_cast<QListView *>(view())) {
+        cible = monMasqueur->DonnePremierDeLaListe(); // QListView goes to row 0, hidden or not
+    } else {
+        return false;
+    }
     if (cible.isValid())
         view()->setCurrentIndex(cible);
     return true;

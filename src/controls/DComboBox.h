@@ -25,7 +25,8 @@ public:
     ///
     /// `setCurrentIndex(0)` still makes it the current item, as do a new model and the first item
     /// of an empty combo box; its text is then shown, and the list opens with nothing selected.
-    /// Where the combo box is editable, its text typed in full and entered selects it too.
+    /// Where the combo box is editable, its text typed in full and entered or left selects it too.
+    /// `view()->keyboardSearch`, called by the host, is no key, and may find the hidden item.
     ///
     /// The item delegate keeps this in mind: with a delegate of the host's own, the first item is
     /// not hidden. The view is a list, a tree or a table; others cannot hide a row. A completer

@@ -29,11 +29,12 @@ void DComboBoxDeleguay::paint(QPainter * peintre, QStyleOptionViewItem const & o
         QStyledItemDelegate::paint(peintre, option, index);
         return;
     }
+    auto const * vue = qobject_cast<QAbstractItemView const *>(option.widget);
+    if (!vue)
+        vue = monCombo->view();
     QRect rectangle = option.rect;
-    if (auto const * const vue = qobject_cast<QAbstractItemView const *>(option.widget)) {
-        rectangle.setLeft(0); // an item may be narrower than the list, and moved in it
-        rectangle.setWidth(vue->viewport()->width());
-    }
+    rectangle.setLeft(0); // an item may be narrower than the list, and moved in it
+    rectangle.setWidth(vue->viewport()->width());
     QStyleOption separateur;
     separateur.rect = rectangle;
     monCombo->style()->drawPrimitive(QStyle::PE_IndicatorToolBarSeparator, &separateur, peintre,

@@ -21,11 +21,11 @@ constexpr int kEspacement = 7;
 
 constexpr int kColonnes = 2; // label and widget
 
+constexpr auto kFeuilleDeStyle = "QFrame{background-color:transparent;}"
+                                 "QFrame>QLabel { color: gray; font-weight: bold; }"_L1;
+
 // The line of a QFrame takes its colours from the background, and would be transparent too.
-constexpr auto kFeuilleDeStyle =
-    "QFrame{background-color:transparent;}"
-    "QFrame>QLabel { color: gray; font-weight: bold; }"
-    "QFrame#Separateur{border:none;border-top:1px solid palette(mid);}"_L1;
+constexpr auto kFeuilleDuSeparateur = "border:none;border-top:1px solid palette(mid);"_L1;
 
 bool PrendLeFocusAuClavier(QWidget const & widget)
 {
@@ -78,6 +78,7 @@ void DMenuAction::AjouteSeparateur()
 {
     auto * const separateur = new QFrame(this);
     separateur->setObjectName(u"Separateur"_s);
+    separateur->setStyleSheet(kFeuilleDuSeparateur);
     separateur->setFrameShape(QFrame::HLine);
     separateur->setFrameShadow(QFrame::Sunken);
     separateur->setSizePolicy(QSizePolicy::Expanding, separateur->sizePolicy().verticalPolicy());

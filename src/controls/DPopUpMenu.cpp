@@ -2,31 +2,22 @@
 #include "controls/DPopUpMenu.h"
 
 #include "foundation/GeometrieEcran.h"
+#include "foundation/GeometrieEcranCalculs_p.h"
 
 #include <QScopedValueRollback>
 #include <QScreen>
 
-#include <algorithm>
 #include <array>
 
 namespace {
 
 constexpr int kEcart = 10; // pixels between the pop-up and the rectangle
 
-QRect RameneDans(QRect const & limites, QRect rect)
-{
-    rect.moveLeft(
-        std::max(std::min(rect.left(), limites.right() - rect.width() + 1), limites.left()));
-    rect.moveTop(
-        std::max(std::min(rect.top(), limites.bottom() - rect.height() + 1), limites.top()));
-    return rect;
-}
-
 // For a rectangle with no room above it. Along the edge that the pop-up goes to, it stays as near
 // as the screen allows to where it is.
 QRect PlaceAilleurs(QRect const & limites, QRect const & ancre, QRect const & popup)
 {
-    QRect const dansLEcran = RameneDans(limites, popup);
+    QRect const dansLEcran = RoutinesGeometrie::RameneDans(limites, popup);
     int const enDessous = ancre.bottom() + 1 + kEcart;
     int const aDroite = ancre.right() + 1 + kEcart;
     int const aGauche = ancre.left() - kEcart - popup.width();
@@ -59,12 +50,11 @@ void DPopUpMenu::AfficheToi(QPoint const & position, QSize const & taille)
         adjustSize();
         setAttribute(Qt::WA_Resized, false);
     }
-    bool const placeParHote = testAttribute(Qt::WA_Moved) && pos() != maDernierePlace;
-    if (!placeParHote)
+    if (!testAttribute(Qt::WA_Moved))
         move(position);
     Replace(); // a hidden pop-up is told of its move when it is shown
-    maDernierePlace = pos();
     show();
+    setAttribute(Qt::WA_Moved, false); // until its host moves it
 }
 
 void DPopUpMenu::moveEvent(QMoveEvent * evenement)
@@ -90,7 +80,8 @@ QRect DPopUpMenu::DonneAncre() const
 {
     if (maTaille.width() <= 0 && maTaille.height() <= 0)
         return {};
-    // Nothing intersects a rectangle without width or height, such as that of a text cursor.
+    // QRect::intersects takes one without width, such as that of a text cursor, to lie between two
+    // columns, and would let the pop-up stand on the second of them.
     return {maPosition, maTaille.expandedTo(QSize(1, 1))};
 }
 
@@ -99,15 +90,14 @@ void DPopUpMenu::Replace()
     if (monReplacementEnCours)
         return;
     QScopedValueRollback const enCours(monReplacementEnCours, true);
-    bool const placeParNous = pos() == maDernierePlace;
+    bool const placeParHote = testAttribute(Qt::WA_Moved);
     QRect const ancre = DonneAncre();
     QRect const popup = rect().translated(pos());
     RoutinesFenetre::DeplaceFenetreSiSorsDeLecranOuSurRect(this, popup, ancre, QRect(), QRect(),
                                                            kEcart, RoutinesFenetre::kAuDessusForce);
-    // Above the rectangle the pop-up may be off the screen, and would be sent back and forth.
+    // Above the rectangle the pop-up may be off the screen, and would stay there.
     QScreen const * const ecran = RoutinesGeneralesQt::EcranLePlusProche(popup.topLeft());
     if (ecran && !ecran->availableGeometry().contains(rect().translated(pos())))
         move(PlaceAilleurs(ecran->availableGeometry(), ancre, popup).topLeft());
-    if (placeParNous)
-        maDernierePlace = pos();
+    setAttribute(Qt::WA_Moved, placeParHote); // set by any move, also by ours
 }

@@ -41,6 +41,5 @@ private:
 
     QPoint maPosition; // of the rectangle to keep clear of
     QSize maTaille = QSize(0, 0);
-    QPoint maDernierePlace; // where it is if its host has not moved it since
     bool monReplacementEnCours = false;
 };

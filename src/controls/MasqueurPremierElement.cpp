@@ -52,12 +52,17 @@ public:
         , monMasqueur(masqueur)
     {
         setSourceModel(modele);
+        monCachay = DonneCachay();
         // Another row may be the first one now. Connected after those of the base, which bring
         // its own rows up to date.
-        connect(modele, &QAbstractItemModel::rowsInserted, this, &FiltreDuPremier::invalidate);
-        connect(modele, &QAbstractItemModel::rowsRemoved, this, &FiltreDuPremier::invalidate);
-        connect(modele, &QAbstractItemModel::rowsMoved, this, &FiltreDuPremier::invalidate);
-        connect(modele, &QAbstractItemModel::layoutChanged, this, &FiltreDuPremier::invalidate);
+        auto const suis = [this, modele](auto signal) {
+            connect(modele, signal, this, &FiltreDuPremier::PriseLignesChangees);
+        };
+        suis(&QAbstractItemModel::rowsInserted);
+        suis(&QAbstractItemModel::rowsRemoved);
+        suis(&QAbstractItemModel::rowsMoved);
+        suis(&QAbstractItemModel::layoutChanged);
+        suis(&QAbstractItemModel::modelReset);
     }
 
 protected:
@@ -67,8 +72,23 @@ protected:
     }
 
 private:
+    void PriseLignesChangees()
+    {
+        QModelIndex const cachay = DonneCachay();
+        if (cachay == monCachay)
+            return; // each new filtering looks at every row
+        monCachay = cachay;
+        invalidate();
+    }
+
+    QModelIndex DonneCachay() const
+    {
+        return monMasqueur ? monMasqueur->DonneCachay() : QModelIndex();
+    }
+
     // A completer may outlive the combo box.
     QPointer<MasqueurPremierElement const> monMasqueur;
+    QPersistentModelIndex monCachay; // left out since the last filtering
 };
 
 } // namespace
@@ -110,6 +130,12 @@ bool MasqueurPremierElement::EstCachay(QModelIndex const & index) const
 {
     return index.isValid() && index.row() == 0 && index.parent() == monCombo->rootModelIndex() &&
            EstActif();
+}
+
+QModelIndex MasqueurPremierElement::DonneCachay() const
+{
+    QModelIndex const premier = monCombo->model()->index(0, 0, monCombo->rootModelIndex());
+    return EstCachay(premier) ? premier : QModelIndex();
 }
 
 int MasqueurPremierElement::DonneLigneSuivante(int depart, int pas) const
@@ -194,6 +220,8 @@ void MasqueurPremierElement::FiltreCompleteur()
     }
     if (completeur->model() != monModele || filtray)
         return;
+    if (monModele->QObject::parent() == completeur)
+        monModele->setParent(monCombo); // it would go when the completer takes another one
     monFiltre = new FiltreDuPremier(this, monModele, completeur);
     completeur->setModel(monFiltre);
 }

@@ -30,6 +30,8 @@ public:
     /// No item of the list is current or selected, if it was the hidden one.
     void OublieCourantCachay();
     bool EstCachay(QModelIndex const & index) const;
+    /// The first item while it is hidden; else, or when there is none, an invalid index.
+    QModelIndex DonneCachay() const;
 
     /// The next row in steps of `pas`, 1 or -1, that is enabled, no separator and not hidden; -1
     /// when there is none. `depart` may be outside.

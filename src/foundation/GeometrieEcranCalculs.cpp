@@ -35,15 +35,6 @@ QPoint Arrondis(double x, double y)
     return {static_cast<int>(std::lround(x)), static_cast<int>(std::lround(y))};
 }
 
-void RameneDans(QRect & rect, QRect const & limites)
-{
-    rect.translate(-std::max(rect.right() - limites.right(), 0),
-                   -std::max(rect.bottom() - limites.bottom(), 0));
-    // Last, so that the left and top edges win.
-    rect.translate(std::max(limites.left() - rect.left(), 0),
-                   std::max(limites.top() - rect.top(), 0));
-}
-
 void PlaceAuDessus(QRect & rect, QRect const & obstacle, int ecart)
 {
     rect.moveBottom(obstacle.top() - 1 - ecart);
@@ -68,6 +59,16 @@ qsizetype RoutinesGeometrie::DonneIndiceLePlusProche(QList<QRect> const & ecrans
     return meilleur;
 }
 
+QRect RoutinesGeometrie::RameneDans(QRect const & limites, QRect rect)
+{
+    rect.translate(-std::max(rect.right() - limites.right(), 0),
+                   -std::max(rect.bottom() - limites.bottom(), 0));
+    // Last, so that the left and top edges win.
+    rect.translate(std::max(limites.left() - rect.left(), 0),
+                   std::max(limites.top() - rect.top(), 0));
+    return rect;
+}
+
 QRect RoutinesGeometrie::AjusteDans(QRect const & disponible, QRect rect,
                                     Ajustement const & ajustement)
 {
@@ -77,7 +78,7 @@ QRect RoutinesGeometrie::AjusteDans(QRect const & disponible, QRect rect,
 
     QPoint const milieuDuTitre(rect.center().x(), rect.top());
     if (ajustement.force || !disponible.contains(milieuDuTitre)) {
-        RameneDans(rect, disponible.adjusted(marge, marge, -marge, -marge));
+        rect = RameneDans(disponible.adjusted(marge, marge, -marge, -marge), rect);
         reserve += QSize(marge, marge);
     }
     if (ajustement.redimensionne) {
@@ -129,7 +130,7 @@ RoutinesGeometrie::Placement RoutinesGeometrie::PlaceHorsDe(Obstacles const & ob
     // Of the frame, only the sides: the rectangle has its top and bottom where they are wanted.
     QRect const limites =
         obstacles.disponible.adjusted(obstacles.cadre.left(), 0, -obstacles.cadre.right(), 0);
-    RameneDans(rect, limites);
+    rect = RameneDans(limites, rect);
 
     if (rect.intersects(obstacles.rectC))
         rect.moveBottom(obstacles.rectC.top() - obstacles.ecart);

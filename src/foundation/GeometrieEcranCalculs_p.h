@@ -20,6 +20,9 @@ namespace RoutinesGeometrie {
 FABRELGUI_EXPORT qsizetype DonneIndiceLePlusProche(QList<QRect> const & ecrans,
                                                    QPoint const & point);
 
+/// `rect` moved into `limites`; one that is too large keeps its left and top edges inside.
+FABRELGUI_EXPORT QRect RameneDans(QRect const & limites, QRect rect);
+
 struct Ajustement
 {
     int hauteurTitre; // of a title bar

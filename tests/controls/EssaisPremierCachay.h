@@ -5,11 +5,12 @@
 
 #include <QHeaderView>
 #include <QListView>
+#include <QStandardItemModel>
 #include <QTableView>
 #include <QTreeView>
 #include <QtTest>
 
-// What the tests of the list of a combo box with a hidden first item have in common.
+// What the tests of a combo box with a hidden first item have in common.
 namespace EssaisPremierCachay {
 
 using namespace Qt::StringLiterals;
@@ -19,6 +20,28 @@ inline QStringList const & DonneTextes()
     static QStringList const textes = {u"abricot"_s, u"avocat"_s, u"banane"_s, u"cerise"_s,
                                        u"datte"_s};
     return textes;
+}
+
+/// While it lives, each letter is a new search.
+class SansIntervalle
+{
+public:
+    SansIntervalle() { QApplication::setKeyboardInputInterval(0); }
+    ~SansIntervalle() { QApplication::setKeyboardInputInterval(-1); } // as the platform has it
+};
+
+inline void Desactive(QComboBox & combo, int ligne)
+{
+    qobject_cast<QStandardItemModel *>(combo.model())->item(ligne)->setEnabled(false);
+}
+
+inline void Roule(QComboBox & combo, int delta)
+{
+    QPointF const centre = QRectF(combo.rect()).center();
+    QWheelEvent evenement(centre, combo.mapToGlobal(centre), QPoint(), QPoint(0, delta),
+                          Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase, false);
+    QCoreApplication::sendEvent(&combo, &evenement);
+    QVERIFY(evenement.isAccepted());
 }
 
 inline QAbstractItemView * CreeVue(QString const & genre)

@@ -98,14 +98,21 @@ void tst_DComboBox::separateurSansVue()
     combo.view()->setStyle(&style);
     combo.addItem(u"un"_s);
     combo.insertSeparator(1);
+    combo.view()->resize(300, 100);
     QStyleOptionViewItem option;
     option.rect = QRect(30, 20, 10, 6);
     QImage image(50, 50, QImage::Format_RGB32);
     QPainter peintre(&image);
 
-    combo.itemDelegate()->paint(&peintre, option, combo.model()->index(1, 0));
-
-    QCOMPARE(style.mesSeparateurs, QList<QRect>{option.rect});
+    int const largeur = combo.view()->viewport()->width();
+    QVERIFY(largeur > 200);
+    for (QWidget const * const widget : {static_cast<QWidget *>(nullptr), combo.view()->viewport(),
+                                         static_cast<QWidget *>(&combo)}) {
+        style.mesSeparateurs.clear();
+        option.widget = widget;
+        combo.itemDelegate()->paint(&peintre, option, combo.model()->index(1, 0));
+        QCOMPARE(style.mesSeparateurs, QList<QRect>{QRect(0, 20, largeur, 6)});
+    }
 }
 
 void tst_DComboBox::descriptionExacte_data()

@@ -20,6 +20,44 @@ bool PrendLeFocus(QComboBox & combo)
     return QTest::qWaitForWindowActive(&combo) && combo.hasFocus();
 }
 
+/// Counts how often its rows are looked at.
+class ModeleCompteur : public QStringListModel
+{
+public:
+    using QStringListModel::QStringListModel;
+
+    QModelIndex index(int ligne, int colonne, QModelIndex const & parent) const override
+    {
+        ++mesDemandes;
+        return QStringListModel::index(ligne, colonne, parent);
+    }
+    QVariant data(QModelIndex const & index, int role) const override
+    {
+        ++mesDemandes;
+        return QStringListModel::data(index, role);
+    }
+
+    mutable int mesDemandes = 0;
+};
+
+int CompteDemandes(int lignes)
+{
+    ModeleCompteur modele;
+    DComboBox combo;
+    combo.setEditable(true);
+    combo.setModel(&modele);
+    combo.CachePremierElement();
+    combo.addItem(u"premier"_s);
+    // QCompleter itself looks at every row anew for the text of the current item, if that is
+    // hidden.
+    combo.setCurrentIndex(-1);
+    modele.mesDemandes = 0;
+    for (int i = 1; i < lignes; ++i)
+        combo.addItem(QString::number(i));
+    int const demandes = modele.mesDemandes;
+    return combo.completer()->model()->rowCount() == lignes - 1 ? demandes : -1;
+}
+
 QString Complete(QComboBox & combo, Qt::Key lettre)
 {
     combo.lineEdit()->clear();
@@ -40,9 +78,12 @@ private Q_SLOTS:
     void completionDUneMethodeDeSaisie();
     void completeurEtranger();
     void completeurQuiSurvit();
+    void completeurProprietaireDuModele();
     void completionEnListe();
     void editableCompletionSuitLeModele();
+    void remplissage();
     void editableTexteEntier();
+    void editableTexteEntierQuittay();
     void editableSansDeleguay();
 };
 
@@ -136,6 +177,25 @@ void tst_DComboBoxPremierCachayEditable::completeurQuiSurvit()
     QCOMPARE(completeur.model()->rowCount(), 3);
 }
 
+void tst_DComboBoxPremierCachayEditable::completeurProprietaireDuModele()
+{
+    DComboBox combo;
+    combo.setEditable(true);
+    auto * const completeur = new QCompleter({u"abricot"_s, u"avocat"_s}, &combo);
+    QPointer<QAbstractItemModel> const modele = completeur->model();
+    QCOMPARE(modele->parent(), completeur);
+    combo.setModel(modele);
+    combo.setCompleter(completeur);
+    combo.CachePremierElement();
+    QVERIFY(modele);
+    QCOMPARE(combo.model(), modele.data());
+    QCOMPARE(combo.count(), 2);
+    QVERIFY(completeur->model() != modele);
+    QCOMPARE(completeur->model()->rowCount(), 1);
+    combo.setModel(new QStringListModel(&combo));
+    QVERIFY(!modele); // nobody else would free it
+}
+
 void tst_DComboBoxPremierCachayEditable::completionEnListe()
 {
     DComboBox combo;
@@ -175,6 +235,20 @@ void tst_DComboBoxPremierCachayEditable::editableCompletionSuitLeModele()
     QCOMPARE(Complete(combo, Qt::Key_P), u"pomme"_s);
     modele.setStringList({u"menthe"_s, u"melon"_s});
     QCOMPARE(Complete(combo, Qt::Key_M), u"melon"_s);
+    modele.sort(0);
+    QCOMPARE(Complete(combo, Qt::Key_M), u"menthe"_s);
+    modele.moveRow({}, 1, {}, 0);
+    QCOMPARE(Complete(combo, Qt::Key_M), u"melon"_s);
+}
+
+void tst_DComboBoxPremierCachayEditable::remplissage()
+{
+    constexpr int kLignes = 500;
+    int const demandes = CompteDemandes(kLignes);
+    QVERIFY(demandes > 0);
+    int const demandesPourLeDouble = CompteDemandes(2 * kLignes);
+    QVERIFY2(demandesPourLeDouble < 3 * demandes, // not as the square of the rows
+             qPrintable(u"%1, then %2"_s.arg(demandes).arg(demandesPourLeDouble)));
 }
 
 void tst_DComboBoxPremierCachayEditable::editableTexteEntier()
@@ -188,6 +262,25 @@ void tst_DComboBoxPremierCachayEditable::editableTexteEntier()
     combo.lineEdit()->clear();
     QTest::keyClicks(&combo, u"abricot"_s);
     QTest::keyClick(&combo, Qt::Key_Return);
+    QCOMPARE(combo.currentIndex(), 0);
+}
+
+void tst_DComboBoxPremierCachayEditable::editableTexteEntierQuittay()
+{
+    QWidget fenetre;
+    DComboBox combo(&fenetre);
+    QLineEdit autre(&fenetre);
+    combo.setEditable(true);
+    combo.setInsertPolicy(QComboBox::NoInsert);
+    combo.addItems({u"abricot"_s, u"avocat"_s});
+    combo.CachePremierElement();
+    combo.setCurrentIndex(1);
+    fenetre.show();
+    QVERIFY(PrendLeFocus(combo));
+    combo.lineEdit()->clear();
+    QTest::keyClicks(&combo, u"abricot"_s);
+    QCOMPARE(combo.currentIndex(), 1);
+    autre.setFocus();
     QCOMPARE(combo.currentIndex(), 0);
 }
 

@@ -1,27 +1,8 @@
 // tests/controls/tst_DComboBoxPremierCachayLettres.cpp
-#include "controls/DComboBox.h"
-
-#include <QStandardItemModel>
-#include <QtTest>
+#include "controls/EssaisPremierCachay.h"
 
 using namespace Qt::StringLiterals;
-
-namespace {
-
-// Each letter is a new search.
-class SansIntervalle
-{
-public:
-    SansIntervalle() { QApplication::setKeyboardInputInterval(0); }
-    ~SansIntervalle() { QApplication::setKeyboardInputInterval(-1); } // as the platform has it
-};
-
-void Desactive(QComboBox & combo, int ligne)
-{
-    qobject_cast<QStandardItemModel *>(combo.model())->item(ligne)->setEnabled(false);
-}
-
-} // namespace
+using namespace EssaisPremierCachay;
 
 class tst_DComboBoxPremierCachayLettres : public QObject
 {

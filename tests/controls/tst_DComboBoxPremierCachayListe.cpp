@@ -5,6 +5,8 @@
 #include <QScrollBar>
 #include <QSignalSpy>
 
+#include <limits>
+
 using namespace Qt::StringLiterals;
 using namespace EssaisPremierCachay;
 
@@ -74,12 +76,14 @@ void tst_DComboBoxPremierCachayListe::nombreDeLignes_data()
     QTest::newRow("all but one") << 3 << QSet<int>({1, 2, 3});
     QTest::newRow("all") << 4 << QSet<int>({1, 2, 3, 4});
     QTest::newRow("more") << 5 << QSet<int>({1, 2, 3, 4});
+    QTest::newRow("no limit") << std::numeric_limits<int>::max() << QSet<int>({1, 2, 3, 4});
 }
 
 void tst_DComboBoxPremierCachayListe::nombreDeLignes()
 {
     QFETCH(int, maximum);
     QFETCH(QSet<int>, visibles);
+    QTest::failOnWarning(QRegularExpression(u"setMaxVisibleItems"_s));
     DComboBox combo;
     combo.setStyle(&monStyle);
     Prepare(combo, {});

@@ -2,7 +2,6 @@
 #include "controls/EssaisPremierCachay.h"
 
 #include <QSignalSpy>
-#include <QStandardItemModel>
 
 using namespace Qt::StringLiterals;
 using namespace EssaisPremierCachay;
@@ -21,7 +20,11 @@ private Q_SLOTS:
     void lettres_data();
     void lettres();
     void lettresEtEspace();
+    void espaceCoche_data();
+    void espaceCoche();
+    void espaceSansCase();
     void arbreDeplie();
+    void plusEtMoinsDeplient();
     void lignesCacheesParLHote();
 };
 
@@ -83,7 +86,7 @@ void tst_DComboBoxPremierCachayListeTouches::touches()
     DComboBox combo;
     Prepare(combo, genre);
     for (int const ligne : desactives)
-        qobject_cast<QStandardItemModel *>(combo.model())->item(ligne)->setEnabled(false);
+        Desactive(combo, ligne);
     combo.setCurrentIndex(depart);
     combo.showPopup();
     if ((genre == "table"_L1) && (touche == Qt::Key_Home || touche == Qt::Key_End)) {
@@ -180,6 +183,45 @@ void tst_DComboBoxPremierCachayListeTouches::lettresEtEspace()
     combo.hidePopup();
 }
 
+void tst_DComboBoxPremierCachayListeTouches::espaceCoche_data()
+{
+    Genres();
+}
+
+void tst_DComboBoxPremierCachayListeTouches::espaceCoche()
+{
+    QFETCH(QString, genre);
+    DComboBox combo;
+    Prepare(combo, genre);
+    auto * const modele = qobject_cast<QStandardItemModel *>(combo.model());
+    for (int i = 0; i < combo.count(); ++i)
+        modele->item(i)->setCheckable(true);
+    combo.setCurrentIndex(2);
+    combo.showPopup();
+    for (Qt::CheckState const etat : {Qt::Checked, Qt::Unchecked}) {
+        QTest::keyClick(combo.view(), Qt::Key_Space);
+        QCOMPARE(modele->item(2)->checkState(), etat);
+        QCOMPARE(combo.view()->currentIndex().row(), 2);
+    }
+    QCOMPARE(modele->item(0)->checkState(), Qt::Unchecked);
+    combo.hidePopup();
+}
+
+// The view would then look for a text that begins with a space, hidden or not.
+void tst_DComboBoxPremierCachayListeTouches::espaceSansCase()
+{
+    DComboBox combo;
+    Prepare(combo, {});
+    combo.setItemText(0, u" aucun"_s);
+    auto * const modele = qobject_cast<QStandardItemModel *>(combo.model());
+    modele->item(2)->setFlags(modele->item(2)->flags() | Qt::ItemIsUserCheckable); // and no state
+    combo.setCurrentIndex(2);
+    combo.showPopup();
+    QTest::keyClick(combo.view(), Qt::Key_Space);
+    QCOMPARE(combo.view()->currentIndex().row(), 2);
+    combo.hidePopup();
+}
+
 void tst_DComboBoxPremierCachayListeTouches::arbreDeplie()
 {
     QStandardItemModel modele;
@@ -206,6 +248,43 @@ void tst_DComboBoxPremierCachayListeTouches::arbreDeplie()
     QCOMPARE(arbre->currentIndex(), enfant(2));
     QTest::keyClick(arbre, Qt::Key_E);
     QCOMPARE(arbre->currentIndex(), enfant(1));
+    combo.hidePopup();
+}
+
+void tst_DComboBoxPremierCachayListeTouches::plusEtMoinsDeplient()
+{
+    QStandardItemModel modele;
+    for (QString const & texte : {u"- aucun -"_s, u"racine"_s, u"-1"_s})
+        modele.appendRow(new QStandardItem(texte));
+    auto * const enfant = new QStandardItem(u"enfant"_s);
+    modele.item(1)->appendRow(enfant);
+    enfant->appendRow(new QStandardItem(u"petit-enfant"_s));
+    DComboBox combo;
+    combo.setModel(&modele);
+    auto * const arbre = new QTreeView;
+    combo.setView(arbre);
+    combo.CachePremierElement();
+    combo.setCurrentIndex(1);
+    combo.show();
+    combo.showPopup();
+    QModelIndex const racine = modele.index(1, 0);
+    QTest::keyClick(arbre, Qt::Key_Plus);
+    QVERIFY(arbre->isExpanded(racine));
+    QVERIFY(!arbre->isExpanded(enfant->index()));
+    QTest::keyClick(arbre, Qt::Key_Asterisk);
+    QVERIFY(arbre->isExpanded(enfant->index()));
+    QCOMPARE(arbre->currentIndex(), racine);
+    QTest::keyClick(arbre, Qt::Key_Minus);
+    QVERIFY(!arbre->isExpanded(racine));
+    QCOMPARE(arbre->currentIndex().row(), 2); // it is a letter as well
+
+    arbre->setCurrentIndex(racine);
+    arbre->setItemsExpandable(false);
+    QTest::keyClick(arbre, Qt::Key_Plus);
+    QVERIFY(!arbre->isExpanded(racine));
+    arbre->selectionModel()->clear();
+    QTest::keyClick(arbre, Qt::Key_Plus); // there is nothing to expand
+    QVERIFY(!arbre->currentIndex().isValid());
     combo.hidePopup();
 }
 

@@ -281,8 +281,8 @@ void tst_DMenuAction::feuilleDeStyle()
     MenuTemoin cadre;
     auto * const label = new QLabel(u"Titre"_s);
     cadre.AjouteWidget(label, new QLineEdit);
-    QVERIFY(cadre.styleSheet().contains(u"QFrame{background-color:transparent;}"_s));
-    QVERIFY(cadre.styleSheet().contains(u"QFrame>QLabel { color: gray; font-weight: bold; }"_s));
+    QCOMPARE(cadre.styleSheet(), u"QFrame{background-color:transparent;}"
+                                 "QFrame>QLabel { color: gray; font-weight: bold; }"_s);
     cadre.AjouteSeparateur();
     auto * const separateur = cadre.findChild<QFrame *>(u"Separateur"_s);
     PendantQuIlEstOuvert(cadre, [&] {

@@ -3,12 +3,9 @@
 
 #include <QApplication>
 #include <QLabel>
-#include <QSignalSpy>
 #include <QTemporaryFile>
 #include <QVBoxLayout>
 #include <QtTest>
-
-using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -54,16 +51,13 @@ private Q_SLOTS:
     void affichageApresAgrandissement();
     void placeDeLHote_data();
     void placeDeLHote();
+    void placeDeLHoteRepetee();
     void placeDeLHotePuisAncre();
     void sansAncre();
     void deplaceVisible_data();
     void deplaceVisible();
     void agrandi_data();
     void agrandi();
-    void fermeture_data();
-    void fermeture();
-    void fermetureDeux();
-    void detruitParLeReceveur();
 };
 
 void tst_DPopUpMenu::cleanup()
@@ -179,6 +173,7 @@ void tst_DPopUpMenu::placeDeLHote_data()
     QTest::addColumn<QPoint>("place");
     QTest::addColumn<QPoint>("attendue");
     QTest::newRow("clear of all") << QPoint(700, 700) << QPoint(700, 700);
+    QTest::newRow("at the origin") << QPoint(0, 0) << QPoint(0, 0);
     QTest::newRow("touching the anchor") << QPoint(460, 300) << QPoint(460, 300);
     QTest::newRow("one pixel over it") << QPoint(459, 300) << QPoint(459, 190);
     QTest::newRow("over it") << QPoint(380, 290) << QPoint(380, 190);
@@ -194,6 +189,18 @@ void tst_DPopUpMenu::placeDeLHote()
     popup.move(place);
     popup.AfficheToi(kAncre.topLeft(), kAncre.size());
     QCOMPARE(popup.pos(), attendue);
+}
+
+void tst_DPopUpMenu::placeDeLHoteRepetee()
+{
+    DPopUpMenu popup;
+    popup.resize(kTaille);
+    for (int i = 0; i < 3; ++i) {
+        popup.move(600, 600); // at times where it is already
+        popup.AfficheToi(kAncre.topLeft(), kAncre.size());
+        QCOMPARE(popup.pos(), QPoint(600, 600));
+        popup.close();
+    }
 }
 
 void tst_DPopUpMenu::placeDeLHotePuisAncre()
@@ -261,66 +268,6 @@ void tst_DPopUpMenu::agrandi()
     QCOMPARE(popup.geometry(), avant);
     popup.resize(taille);
     QCOMPARE(popup.pos(), attendue);
-}
-
-void tst_DPopUpMenu::fermeture_data()
-{
-    QTest::addColumn<QString>("moyen");
-    QTest::newRow("close") << u"close"_s;
-    QTest::newRow("escape") << u"escape"_s;
-    QTest::newRow("click outside") << u"click"_s;
-}
-
-void tst_DPopUpMenu::fermeture()
-{
-    QFETCH(QString, moyen);
-    DPopUpMenu popup;
-    popup.resize(kTaille);
-    popup.AfficheToi(kAncre.topLeft(), kAncre.size());
-    QSignalSpy espion(&popup, &DPopUpMenu::SignalPopupEnFermeture);
-    bool visiblePendant = false;
-    connect(&popup, &DPopUpMenu::SignalPopupEnFermeture, this,
-            [&] { visiblePendant = popup.isVisible(); });
-    if (moyen == "close"_L1) {
-        popup.close();
-    } else if (moyen == "escape"_L1) {
-        QTest::keyClick(&popup, Qt::Key_Escape);
-    } else {
-        QPointF const dehors(-20, -20);
-        QMouseEvent clic(QEvent::MouseButtonPress, dehors, popup.mapToGlobal(dehors),
-                         Qt::LeftButton, Qt::LeftButton, {});
-        QCoreApplication::sendEvent(&popup, &clic);
-    }
-    QVERIFY(!popup.isVisible());
-    QCOMPARE(espion.count(), 1);
-    QVERIFY(visiblePendant);
-    QCoreApplication::processEvents();
-    QCOMPARE(espion.count(), 1);
-}
-
-void tst_DPopUpMenu::fermetureDeux()
-{
-    DPopUpMenu popup;
-    popup.resize(kTaille);
-    QSignalSpy espion(&popup, &DPopUpMenu::SignalPopupEnFermeture);
-    for (int i = 1; i <= 2; ++i) {
-        popup.AfficheToi(kAncre.topLeft(), kAncre.size());
-        popup.close();
-        QCOMPARE(espion.count(), i);
-    }
-    popup.AfficheToi(kAncre.topLeft(), kAncre.size());
-    popup.hide(); // no closing
-    QCOMPARE(espion.count(), 2);
-}
-
-void tst_DPopUpMenu::detruitParLeReceveur()
-{
-    QPointer<DPopUpMenu> const popup = new DPopUpMenu;
-    popup->resize(kTaille);
-    popup->AfficheToi(kAncre.topLeft(), kAncre.size());
-    connect(popup, &DPopUpMenu::SignalPopupEnFermeture, this, [&] { delete popup; });
-    popup->close();
-    QVERIFY(!popup);
 }
 
 int main(int nombre, char ** arguments)

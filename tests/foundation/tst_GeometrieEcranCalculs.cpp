@@ -15,6 +15,8 @@ class tst_GeometrieEcranCalculs : public QObject
 private Q_SLOTS:
     void ecranLePlusProche_data();
     void ecranLePlusProche();
+    void ramene_data();
+    void ramene();
     void ajuste_data();
     void ajuste();
     void centre_data();
@@ -70,6 +72,28 @@ void tst_GeometrieEcranCalculs::ecranLePlusProche()
     QFETCH(QPoint, point);
     QFETCH(qsizetype, indice);
     QCOMPARE(DonneIndiceLePlusProche(ecrans, point), indice);
+}
+
+void tst_GeometrieEcranCalculs::ramene_data()
+{
+    QTest::addColumn<QRect>("rect");
+    QTest::addColumn<QRect>("attendu");
+    QTest::newRow("inside") << QRect(10, 20, 30, 40) << QRect(10, 20, 30, 40);
+    QTest::newRow("at the bottom right") << QRect(970, 760, 30, 40) << QRect(970, 760, 30, 40);
+    QTest::newRow("one pixel beyond") << QRect(971, 761, 30, 40) << QRect(970, 760, 30, 40);
+    QTest::newRow("off the top left") << QRect(-1, -99, 30, 40) << QRect(0, 0, 30, 40);
+    QTest::newRow("too large") << QRect(50, 60, 1200, 900) << QRect(0, 0, 1200, 900);
+}
+
+void tst_GeometrieEcranCalculs::ramene()
+{
+    QFETCH(QRect, rect);
+    QFETCH(QRect, attendu);
+    QPoint const ailleurs(300, -200);
+    QRect const limites(0, 0, 1000, 800);
+    QCOMPARE(RameneDans(limites, rect), attendu);
+    QCOMPARE(RameneDans(limites.translated(ailleurs), rect.translated(ailleurs)),
+             attendu.translated(ailleurs));
 }
 
 void tst_GeometrieEcranCalculs::ajuste_data()

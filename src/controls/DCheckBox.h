@@ -37,7 +37,7 @@ public:
 
 Q_SIGNALS:
     void stateChanged(int etat);
-    void clicked(bool cochay);
+    void clicked(bool cochay = false);
     void pressed();
     void released();
     void toggled(bool cochay);

@@ -11,7 +11,8 @@
 #include <QStylePainter>
 #include <QTextDocument>
 
-#include <cmath>
+#include <algorithm>
+#include <iterator>
 
 using namespace Qt::StringLiterals;
 
@@ -108,9 +109,7 @@ QSize DToolButtonRiche::sizeHint() const
         return QToolButton::sizeHint();
     QTextDocument document;
     RemplisDocument(document);
-    QSizeF const taille = document.size();
-    return {static_cast<int>(std::ceil(taille.width())),
-            static_cast<int>(std::ceil(taille.height()))};
+    return document.size().toSize();
 }
 
 void DToolButtonRiche::paintEvent(QPaintEvent * evenement)

@@ -34,7 +34,7 @@ public:
     /// The plain text of the HTML, without the pictures; or else the text as it was set.
     QString text() const;
 
-    /// The size of the HTML, rounded up; or else that of the base class.
+    /// The size of the HTML, rounded; or else that of the base class.
     QSize sizeHint() const override;
 
 protected:

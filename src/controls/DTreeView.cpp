@@ -184,6 +184,8 @@ QList<int> DTreeView::DonneTourDesColonnes() const
     return tour;
 }
 
+// One pixel per turn, in numbers first: from the second `resizeSection` on, Qt would lay out what
+// it stretches before each one, and the turns would go by those widths.
 void DTreeView::RepartisPixels(int delta, QList<int> largeurs)
 {
     int const minimum = header()->minimumSectionSize();

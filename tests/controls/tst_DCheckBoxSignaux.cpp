@@ -15,6 +15,7 @@ private Q_SLOTS:
     void ordre_data();
     void ordre();
     void aucunAuGel();
+    void cliqueSansArgument();
     void suppressionParUnReceveur_data();
     void suppressionParUnReceveur();
     void suppressionDansUneBoucle_data();
@@ -198,6 +199,13 @@ void tst_DCheckBoxSignaux::aucunAuGel()
     controle.setEnabled(false);
     Fais(kClicLibelle, controle);
     QCOMPARE(mesSignaux, QStringList());
+}
+
+// As the signal of any Qt button, to connections by name.
+void tst_DCheckBoxSignaux::cliqueSansArgument()
+{
+    QVERIFY(DCheckBox::staticMetaObject.indexOfSignal("clicked()") >= 0);
+    QVERIFY(DCheckBox::staticMetaObject.indexOfSignal("clicked(bool)") >= 0);
 }
 
 void tst_DCheckBoxSignaux::suppressionParUnReceveur_data()

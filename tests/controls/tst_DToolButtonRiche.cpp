@@ -6,7 +6,6 @@
 #include <QTextDocument>
 #include <QtTest>
 
-#include <cmath>
 
 using namespace Qt::StringLiterals;
 
@@ -142,7 +141,7 @@ void tst_DToolButtonRiche::tailleDuDocument()
     document.setDefaultFont(police);
     document.setHtml(html);
 
-    QSize const attendue(std::ceil(document.size().width()), std::ceil(document.size().height()));
+    QSize const attendue = document.size().toSize();
     QCOMPARE(bouton.sizeHint(), attendue);
     QCOMPARE(bouton.minimumSizeHint(), attendue);
 }

@@ -6,7 +6,6 @@
 #include <QTextDocument>
 #include <QtTest>
 
-
 using namespace Qt::StringLiterals;
 
 namespace {

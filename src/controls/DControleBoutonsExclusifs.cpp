@@ -11,6 +11,8 @@
 #include <QPainter>
 #include <QStyle>
 
+#include <utility>
+
 using namespace Qt::StringLiterals;
 
 namespace {

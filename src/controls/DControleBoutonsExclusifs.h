@@ -22,7 +22,8 @@ class QButtonGroup;
 /// also when it is the only one, "ADroite" for the last, and an empty text for the others. Where
 /// the layout goes from right to left the first button is the rightmost one and keeps its value.
 ///
-/// Tab enters the row at the checked button, the arrow keys move on. A slot of `toggled` that gets
+/// The row owns the Tab focus of its buttons: Tab enters at the checked one, the arrow keys move
+/// on, and a focus policy that a host gives a button does not last. A slot of `toggled` that gets
 /// rid of the row or of a button does so with `deleteLater`. The separator of a button that is
 /// deleted stays.
 class FABRELGUI_EXPORT DControleBoutonsExclusifs : public QFrame

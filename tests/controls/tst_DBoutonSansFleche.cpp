@@ -1,47 +1,16 @@
 // tests/controls/tst_DBoutonSansFleche.cpp
-#include "controls/DBoutonSansFleche.h"
+#include "controls/EssaisSansFleche.h"
 
 #include "controls/RenduBoutons.h"
-#include "style/DStyleProxy.h"
+#include "controls/StyleNommay.h"
 
 #include <QMenu>
-#include <QStyleFactory>
+#include <QProxyStyle>
 #include <QtTest>
 
+using namespace EssaisSansFleche;
 using namespace Qt::StringLiterals;
 using RenduBoutons::Rendu;
-
-namespace {
-
-constexpr QSize kTaille(80, 30);
-
-std::unique_ptr<QStyle> DonneStyle(QString const & nom)
-{
-    if (nom == "DStyleProxy"_L1)
-        return std::make_unique<DStyleProxy>(QStyleFactory::create(u"Fusion"_s));
-    return std::unique_ptr<QStyle>(QStyleFactory::create(nom));
-}
-
-struct Reglages
-{
-    QToolButton::ToolButtonPopupMode mode = QToolButton::DelayedPopup;
-    Qt::LayoutDirection sens = Qt::LeftToRight;
-    Qt::ArrowType fleche = Qt::NoArrow;
-    bool autoRaise = false;
-};
-
-void Regle(QToolButton & bouton, QStyle * style, Reglages const & reglages = {})
-{
-    bouton.setStyle(style);
-    bouton.setText(u"abc"_s);
-    bouton.setArrowType(reglages.fleche);
-    bouton.setPopupMode(reglages.mode);
-    bouton.setLayoutDirection(reglages.sens);
-    bouton.setAutoRaise(reglages.autoRaise);
-    bouton.resize(kTaille);
-}
-
-} // namespace
 
 class tst_DBoutonSansFleche : public QObject
 {
@@ -97,7 +66,7 @@ void tst_DBoutonSansFleche::aucuneFleche_data()
 void tst_DBoutonSansFleche::aucuneFleche()
 {
     QFETCH(QString, nomStyle);
-    auto const style = DonneStyle(nomStyle);
+    auto const style = DonneStyleNommay(nomStyle);
     QFETCH(QToolButton::ToolButtonPopupMode, mode);
     QFETCH(Qt::LayoutDirection, sens);
     QFETCH(bool, autoRaise);
@@ -129,7 +98,7 @@ void tst_DBoutonSansFleche::menuDUneAction_data()
 void tst_DBoutonSansFleche::menuDUneAction()
 {
     QFETCH(QString, nomStyle);
-    auto const style = DonneStyle(nomStyle);
+    auto const style = DonneStyleNommay(nomStyle);
     QMenu menu;
     QAction action(u"abc"_s);
     action.setMenu(&menu);
@@ -195,7 +164,7 @@ void tst_DBoutonSansFleche::flecheDuBoutonReste_data()
 void tst_DBoutonSansFleche::flecheDuBoutonReste()
 {
     QFETCH(QString, nomStyle);
-    auto const style = DonneStyle(nomStyle);
+    auto const style = DonneStyleNommay(nomStyle);
     QMenu menu;
     QToolButton sansFleche;
     Regle(sansFleche, style.get());
@@ -218,7 +187,7 @@ void tst_DBoutonSansFleche::enfoncayPendantLeMenu_data()
 void tst_DBoutonSansFleche::enfoncayPendantLeMenu()
 {
     QFETCH(QString, nomStyle);
-    auto const style = DonneStyle(nomStyle);
+    auto const style = DonneStyleNommay(nomStyle);
     QToolButton enfoncay;
     Regle(enfoncay, style.get());
     enfoncay.setDown(true);
@@ -249,7 +218,7 @@ void tst_DBoutonSansFleche::menuSOuvre_data()
 
 void tst_DBoutonSansFleche::menuSOuvre()
 {
-    auto const style = DonneStyle(u"Fusion"_s);
+    auto const style = DonneStyleNommay(u"Fusion"_s);
     QFETCH(QToolButton::ToolButtonPopupMode, mode);
     QFETCH(QPoint, position);
     QMenu menu;
@@ -268,7 +237,7 @@ void tst_DBoutonSansFleche::menuSOuvre()
 // Deliberate: the part for the menu is where it is in the base class, though nobody sees it.
 void tst_DBoutonSansFleche::partieDuMenuGardee()
 {
-    auto const style = DonneStyle(u"Fusion"_s);
+    auto const style = DonneStyleNommay(u"Fusion"_s);
     QMenu menu;
     DBoutonSansFleche bouton;
     Regle(bouton, style.get(), {.mode = QToolButton::MenuButtonPopup});

@@ -1,77 +1,10 @@
 // tests/controls/tst_DListViewClique.cpp
-#include "controls/DListViewClique.h"
+#include "controls/EssaisListeClique.h"
 
 #include <QtTest>
 
+using namespace EssaisListeClique;
 using namespace Qt::StringLiterals;
-
-namespace {
-
-/// A shown list of four items, with what it tells.
-struct Banc
-{
-    Banc()
-        : presses(&liste, &QListWidget::pressed)
-        , clics(&liste, &QListWidget::clicked)
-        , doubles(&liste, &QListWidget::doubleClicked)
-        , activations(&liste, &QListWidget::activated)
-        , selections(&liste, &QListWidget::itemSelectionChanged)
-        , courants(&liste, &QListWidget::currentRowChanged)
-    {
-        liste.addItems({u"un"_s, u"deux"_s, u"trois"_s, u"quatre"_s});
-        liste.resize(200, 300);
-        liste.show();
-    }
-
-    QPoint Milieu(int rangee) const { return liste.visualItemRect(liste.item(rangee)).center(); }
-    static QPoint Vide() { return {100, 280}; }
-    QPoint Position(int rangee) const { return rangee < 0 ? Vide() : Milieu(rangee); }
-
-    void Presse(QPoint const & position, Qt::MouseButton bouton = Qt::LeftButton)
-    {
-        QTest::mousePress(liste.viewport(), bouton, {}, position);
-    }
-    void Relache(QPoint const & position, Qt::MouseButton bouton = Qt::LeftButton)
-    {
-        QTest::mouseRelease(liste.viewport(), bouton, {}, position);
-    }
-
-    /// Waits for the window to be active; what the list told until then is forgotten.
-    bool Active()
-    {
-        liste.activateWindow();
-        bool const estActive = QTest::qWaitForWindowActive(&liste);
-        OublieSignaux();
-        return estActive;
-    }
-    void OublieSignaux()
-    {
-        for (auto * const espion :
-             {&presses, &clics, &doubles, &activations, &selections, &courants})
-            espion->clear();
-    }
-
-    /// The rows that a signal told.
-    static QList<int> Rangees(QSignalSpy const & espion)
-    {
-        QList<int> rangees;
-        for (auto const & arguments : espion)
-            rangees.append(arguments.at(0).toModelIndex().row());
-        return rangees;
-    }
-
-    DListViewClique liste;
-    QSignalSpy presses;
-    QSignalSpy clics;
-    QSignalSpy doubles;
-    QSignalSpy activations;
-    QSignalSpy selections;
-    QSignalSpy courants;
-};
-
-using Rangees = QList<int>;
-
-} // namespace
 
 class tst_DListViewClique : public QObject
 {
@@ -93,14 +26,8 @@ private Q_SLOTS:
     void boutons();
     void itemDesactive();
     void listeDesactivee();
-    void itemRetiray();
-    void autreItemRetiray();
-    void itemDeplacay();
-    void listeVidee();
     void clavier();
     void tabulation();
-    void destruction_data();
-    void destruction();
 };
 
 void tst_DListViewClique::cleanup()
@@ -287,50 +214,6 @@ void tst_DListViewClique::listeDesactivee()
     QCOMPARE(banc.clics.count(), 0);
 }
 
-void tst_DListViewClique::itemRetiray()
-{
-    Banc banc;
-    QPoint const position = banc.Milieu(1);
-    banc.Presse(position);
-    delete banc.liste.takeItem(1);
-    banc.Relache(position); // over the item that came into its place
-    QCOMPARE(banc.clics.count(), 0);
-}
-
-void tst_DListViewClique::autreItemRetiray()
-{
-    Banc banc;
-    banc.Presse(banc.Milieu(2));
-    delete banc.liste.takeItem(0);
-    banc.Relache(banc.Milieu(1)); // where the item has gone
-    QCOMPARE(Banc::Rangees(banc.clics), Rangees{1});
-    QCOMPARE(banc.clics.at(0).at(0).toModelIndex().data().toString(), u"trois"_s);
-}
-
-void tst_DListViewClique::itemDeplacay()
-{
-    Banc banc;
-    banc.Presse(banc.Milieu(0));
-    QVERIFY(banc.liste.model()->moveRow({}, 0, {}, 3));
-    banc.Relache(banc.Milieu(0));
-    QCOMPARE(banc.clics.count(), 0);
-    banc.Relache(banc.Milieu(2));
-    QCOMPARE(Banc::Rangees(banc.clics), Rangees{2});
-    QCOMPARE(banc.clics.at(0).at(0).toModelIndex().data().toString(), u"un"_s);
-}
-
-void tst_DListViewClique::listeVidee()
-{
-    Banc banc;
-    QPoint const position = banc.Milieu(1);
-    banc.Presse(position);
-    banc.liste.clear();
-    banc.Relache(position);
-    banc.liste.addItems({u"un"_s, u"deux"_s});
-    banc.Relache(position);
-    QCOMPARE(banc.clics.count(), 0);
-}
-
 void tst_DListViewClique::clavier()
 {
     Banc banc;
@@ -354,33 +237,6 @@ void tst_DListViewClique::tabulation()
     QCOMPARE(liste.focusPolicy(), plain.focusPolicy());
     QCOMPARE(liste.tabKeyNavigation(), plain.tabKeyNavigation());
     QCOMPARE(liste.nextInFocusChain(), static_cast<QWidget const *>(liste.viewport()));
-}
-
-void tst_DListViewClique::destruction_data()
-{
-    QTest::addColumn<bool>("auClic");
-    QTest::newRow("pressed") << false;
-    QTest::newRow("clicked") << true;
-}
-
-void tst_DListViewClique::destruction()
-{
-    QFETCH(bool, auClic);
-    QPointer<DListViewClique> const liste = new DListViewClique;
-    liste->addItem(u"un"_s);
-    liste->show();
-    auto const detruis = [liste] { delete liste; };
-    if (auClic)
-        connect(liste, &DListViewClique::clicked, this, detruis);
-    else
-        connect(liste, &DListViewClique::pressed, this, detruis);
-    QPointF const position = liste->visualItemRect(liste->item(0)).center();
-    for (auto const type : {QEvent::MouseButtonPress, QEvent::MouseButtonRelease}) {
-        QMouseEvent evenement(type, position, position, Qt::LeftButton, Qt::LeftButton, {});
-        if (liste)
-            QCoreApplication::sendEvent(liste->viewport(), &evenement);
-    }
-    QVERIFY(!liste);
 }
 
 QTEST_MAIN(tst_DListViewClique)

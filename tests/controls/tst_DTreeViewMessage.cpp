@@ -1,115 +1,19 @@
 // tests/controls/tst_DTreeViewMessage.cpp
-#include "controls/DTreeView.h"
+#include "controls/EssaisMessage.h"
 
-#include "controls/Encre.h"
-
-#include <QHeaderView>
-#include <QProxyStyle>
 #include <QScrollBar>
-#include <QStandardItemModel>
 #include <QtTest>
 
-#include <memory>
-
+using namespace EssaisMessage;
 using namespace Qt::StringLiterals;
 
-namespace {
-
-constexpr QSize kTaille(300, 200);
-constexpr int kPixelsFont = 20;
-
-QFont DonneFont()
-{
-    QFont font;
-    font.setPixelSize(kPixelsFont);
-    font.setBold(true); // strokes wider than a pixel
-    return font;
-}
-
-int DonneHauteurLigne()
-{
-    return QFontMetrics(DonneFont()).height();
-}
-
-/// Counts the paint events of a widget, and the pixels that they covered.
-class Temoin : public QObject
-{
-public:
-    explicit Temoin(QWidget * widget) { widget->installEventFilter(this); }
-
-    bool eventFilter(QObject *, QEvent * evenement) override
-    {
-        if (evenement->type() == QEvent::Paint)
-            maRegion |= static_cast<QPaintEvent *>(evenement)->region();
-        return false;
-    }
-
-    QRegion maRegion;
-};
-
-/// Has a tree color the rows that it has room for below its last one.
-class StyleRangeesVides : public QProxyStyle
-{
-public:
-    int styleHint(StyleHint demande, QStyleOption const * option, QWidget const * widget,
-                  QStyleHintReturn * retour) const override
-    {
-        if (demande == SH_ItemView_PaintAlternatingRowColorsForEmptyArea)
-            return 1;
-        return QProxyStyle::styleHint(demande, option, widget, retour);
-    }
-};
-
-/// A shown tree on white, without a model; its header is hidden.
-struct Banc
-{
-    Banc()
-    {
-        QPalette palette;
-        palette.setColor(QPalette::Base, Qt::white);
-        vue.setPalette(palette);
-        vue.setFrameShape(QFrame::NoFrame);
-        vue.setHeaderHidden(true);
-        vue.header()->setFont(DonneFont());
-        vue.resize(kTaille);
-        vue.show();
-    }
-
-    QImage Peins()
-    {
-        QImage image = Encre::ImageBlanche(vue.viewport()->size());
-        vue.viewport()->render(&image);
-        return image;
-    }
-    QRect Encre() { return Encre::BornesEncre(Peins()); }
-    /// By its color: a style may draw branches, the focus or the row under the mouse.
-    bool MontreMessage() { return Encre::BornesDe(Peins(), Qt::gray).isValid(); }
-
-    DTreeView vue;
-};
-
-std::unique_ptr<QStandardItemModel> DonneModele(int rangees)
-{
-    // Items without a text leave no ink.
-    return std::make_unique<QStandardItemModel>(rangees, 1);
-}
-
-} // namespace
-
-// The message of an empty tree.
+// The message of an empty tree: how it looks, and where it stands.
 class tst_DTreeViewMessage : public QObject
 {
     Q_OBJECT
 
 private Q_SLOTS:
     void cleanup();
-    void sansMessage();
-    void sansModele();
-    void modeleVideEtRempli();
-    void racine();
-    void modeleReinitialisay();
-    void modeleDetruit();
-    void modeleRemplacay();
     void gris();
     void enHautAGauche();
     void coupeALaLargeur();
@@ -129,119 +33,6 @@ private Q_SLOTS:
 void tst_DTreeViewMessage::cleanup()
 {
     QVERIFY(QApplication::topLevelWidgets().isEmpty());
-}
-
-// The base paints the empty tree until there is a message.
-void tst_DTreeViewMessage::sansMessage()
-{
-    StyleRangeesVides style;
-    Banc banc;
-    auto const modele = DonneModele(0);
-    QPalette palette = banc.vue.palette();
-    palette.setColor(QPalette::AlternateBase, Qt::red);
-    banc.vue.setPalette(palette);
-    banc.vue.setStyle(&style);
-    banc.vue.setAlternatingRowColors(true);
-    auto const montreRangees = [&banc] { return Encre::BornesDe(banc.Peins(), Qt::red).isValid(); };
-    for (auto * const vide : {static_cast<QStandardItemModel *>(nullptr), modele.get()}) {
-        banc.vue.setModel(vide);
-        QVERIFY(montreRangees());
-    }
-    banc.vue.AfficheMessageSiVide(u"Aucun mot"_s);
-    QVERIFY(!montreRangees());
-    modele->setRowCount(1);
-    QVERIFY(montreRangees());
-}
-
-void tst_DTreeViewMessage::sansModele()
-{
-    Banc banc;
-    QCoreApplication::processEvents();
-    Temoin const temoin(banc.vue.viewport());
-    banc.vue.AfficheMessageSiVide(u"Aucun mot"_s);
-    QTRY_COMPARE(temoin.maRegion, QRegion(banc.vue.viewport()->rect()));
-    QVERIFY(banc.MontreMessage());
-}
-
-// Each change repaints the whole view by itself.
-void tst_DTreeViewMessage::modeleVideEtRempli()
-{
-    Banc banc;
-    auto const modele = DonneModele(0);
-    banc.vue.setModel(modele.get());
-    banc.vue.AfficheMessageSiVide(u"Aucun mot"_s);
-    QVERIFY(banc.MontreMessage());
-    for (bool const rempli : {true, false, true, false}) {
-        QCoreApplication::processEvents();
-        Temoin const temoin(banc.vue.viewport());
-        modele->setRowCount(rempli ? 1 : 0);
-        QTRY_COMPARE(temoin.maRegion, QRegion(banc.vue.viewport()->rect()));
-        QCOMPARE(banc.MontreMessage(), !rempli);
-    }
-}
-
-// What counts is the rows that the view shows.
-void tst_DTreeViewMessage::racine()
-{
-    Banc banc;
-    auto const modele = DonneModele(2);
-    auto * const parent = new QStandardItem;
-    modele->setItem(0, 0, parent);
-    banc.vue.setModel(modele.get());
-    banc.vue.AfficheMessageSiVide(u"Aucun mot"_s);
-    QVERIFY(!banc.MontreMessage());
-    banc.vue.setRootIndex(parent->index());
-    QVERIFY(banc.MontreMessage());
-    parent->appendRow(new QStandardItem);
-    QVERIFY(!banc.MontreMessage());
-    parent->removeRow(0);
-    QVERIFY(banc.MontreMessage());
-    banc.vue.setRootIndex({});
-    QVERIFY(!banc.MontreMessage());
-}
-
-void tst_DTreeViewMessage::modeleReinitialisay()
-{
-    Banc banc;
-    auto const modele = DonneModele(3);
-    banc.vue.setModel(modele.get());
-    banc.vue.AfficheMessageSiVide(u"Aucun mot"_s);
-    QVERIFY(!banc.MontreMessage());
-    QCoreApplication::processEvents();
-    Temoin const temoin(banc.vue.viewport());
-    modele->clear();
-    QTRY_COMPARE(temoin.maRegion, QRegion(banc.vue.viewport()->rect()));
-    QVERIFY(banc.MontreMessage());
-}
-
-void tst_DTreeViewMessage::modeleDetruit()
-{
-    Banc banc;
-    auto modele = DonneModele(3);
-    banc.vue.setModel(modele.get());
-    banc.vue.AfficheMessageSiVide(u"Aucun mot"_s);
-    QVERIFY(!banc.MontreMessage());
-    QCoreApplication::processEvents();
-    Temoin const temoin(banc.vue.viewport());
-    modele.reset();
-    QTRY_COMPARE(temoin.maRegion, QRegion(banc.vue.viewport()->rect()));
-    QVERIFY(banc.MontreMessage());
-}
-
-void tst_DTreeViewMessage::modeleRemplacay()
-{
-    Banc banc;
-    auto const plein = DonneModele(3);
-    auto const vide = DonneModele(0);
-    banc.vue.AfficheMessageSiVide(u"Aucun mot"_s);
-    for (QStandardItemModel * const modele :
-         {plein.get(), vide.get(), plein.get(), static_cast<QStandardItemModel *>(nullptr)}) {
-        QCoreApplication::processEvents();
-        Temoin const temoin(banc.vue.viewport());
-        banc.vue.setModel(modele);
-        QTRY_COMPARE(temoin.maRegion, QRegion(banc.vue.viewport()->rect()));
-        QCOMPARE(banc.MontreMessage(), modele != plein.get());
-    }
 }
 
 void tst_DTreeViewMessage::gris()

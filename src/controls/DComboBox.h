@@ -29,8 +29,11 @@ public:
     /// `view()->keyboardSearch`, called by the host, is no key, and may find the hidden item.
     ///
     /// The item delegate keeps this in mind: with a delegate of the host's own, the first item is
-    /// not hidden. The view is a list, a tree or a table; others cannot hide a row. A completer
-    /// that works on the combo box's model is put on a filter of it.
+    /// not hidden. The view is a list, a tree or a table; others cannot hide a row.
+    ///
+    /// A completer that works on the combo box's model, whenever it comes, is put on a filter of it
+    /// before it completes anything typed, pasted or dropped. Asked by the host before that, it
+    /// may offer the hidden item.
     void CachePremierElement();
     bool PremierElementCachay() const;
 

@@ -4,8 +4,10 @@
 #include "controls/DComboBoxDeleguay_p.h"
 
 #include <QAbstractItemView>
+#include <QChildEvent>
 #include <QComboBox>
 #include <QCompleter>
+#include <QLineEdit>
 #include <QListView>
 #include <QSortFilterProxyModel>
 #include <QTableView>
@@ -97,6 +99,7 @@ MasqueurPremierElement::MasqueurPremierElement(QComboBox * combo)
     : QObject(combo)
     , monCombo(combo)
 {
+    combo->installEventFilter(this);
 }
 
 bool MasqueurPremierElement::EstActif() const
@@ -115,6 +118,7 @@ void MasqueurPremierElement::Synchronise()
         ReveleLigne();
     if (actif)
         CacheLigne();
+    SuisChamp();
     FiltreCompleteur();
     if (actif && maVue->isVisible())
         OublieCourantCachay();
@@ -164,9 +168,39 @@ QModelIndex MasqueurPremierElement::DonnePremierDeLaListe() const
     return DonneCandidatsDeLaListe().value(0);
 }
 
+bool MasqueurPremierElement::eventFilter(QObject * objet, QEvent * evenement)
+{
+    QEvent::Type const type = evenement->type();
+    if (objet == monCombo && (type == QEvent::ChildAdded || type == QEvent::ChildPolished))
+        FiltreEnfant(*static_cast<QChildEvent *>(evenement));
+    // A line edit that is being destroyed is still the combo box's, and no line edit any more. The
+    // arrows with Ctrl go through the completions, and edit no text before.
+    else if (objet == monCombo->lineEdit() && qobject_cast<QLineEdit *>(objet) &&
+             (objet != monChamp || type == QEvent::KeyPress))
+        Synchronise();
+    return false;
+}
+
 void MasqueurPremierElement::PriseLignesChangees()
 {
     Synchronise();
+}
+
+void MasqueurPremierElement::PriseTexteSaisi()
+{
+    Synchronise();
+}
+
+// A child is added when it is no more than a QWidget yet, and polished when it is complete.
+void MasqueurPremierElement::FiltreEnfant(QChildEvent const & evenement)
+{
+    auto * const enfant = qobject_cast<QWidget *>(evenement.child());
+    if (!enfant || enfant->isWindow())
+        return;
+    if (evenement.added())
+        enfant->installEventFilter(this);
+    else if (!qobject_cast<QLineEdit *>(enfant))
+        enfant->removeEventFilter(this);
 }
 
 // The view was told of its model first, and so hears of a change before this does.
@@ -188,6 +222,21 @@ void MasqueurPremierElement::SuisModele()
     suis(&QAbstractItemModel::rowsMoved);
     suis(&QAbstractItemModel::layoutChanged);
     suis(&QAbstractItemModel::modelReset);
+}
+
+// No event tells of a new completer, but the line edit tells of its text before it has it
+// completed: then the completer is put on the filter.
+void MasqueurPremierElement::SuisChamp()
+{
+    QLineEdit * const champ = monCombo->lineEdit();
+    if (champ == monChamp)
+        return;
+    if (monChamp)
+        disconnect(monChamp, nullptr, this, nullptr);
+    monChamp = champ;
+    if (champ)
+        connect(champ, &QLineEdit::textEdited, this, &MasqueurPremierElement::PriseTexteSaisi,
+                Qt::UniqueConnection);
 }
 
 void MasqueurPremierElement::CacheLigne()

@@ -10,13 +10,15 @@
 class QAbstractItemModel;
 class QAbstractItemView;
 class QComboBox;
+class QLineEdit;
 class QSortFilterProxyModel;
 
 /// Keeps the first row of a combo box out of its list and its completer for as long as the item
 /// delegate says so, and finds the rows that remain.
 ///
-/// The combo box is its parent. Views, models, completers and delegates may be replaced without a
-/// word, so `Synchronise` is called before each use.
+/// The combo box is its parent. Views, models, line edits, completers and delegates may be replaced
+/// without a word, so `Synchronise` is called before each use. It filters the events of the combo
+/// box and of its line edit to be there in time, and takes none away.
 class MasqueurPremierElement : public QObject
 {
     Q_OBJECT
@@ -42,9 +44,14 @@ public:
     QModelIndex ChercheDansLaListe(QString const & lettres);
     QModelIndex DonnePremierDeLaListe() const;
 
+    bool eventFilter(QObject * objet, QEvent * evenement) override;
+
 private:
     void PriseLignesChangees();
+    void PriseTexteSaisi();
+    void FiltreEnfant(QChildEvent const & evenement);
     void SuisModele();
+    void SuisChamp();
     void CacheLigne();
     void ReveleLigne();
     void FiltreCompleteur();
@@ -55,6 +62,7 @@ private:
     QComboBox * monCombo;
     QPointer<QAbstractItemView> maVue;
     QPointer<QAbstractItemModel> monModele;
+    QPointer<QLineEdit> monChamp;
     QPointer<QSortFilterProxyModel> monFiltre; // owned by the completer
     QPersistentModelIndex maLigne;             // hidden in the view
     RechercheAuClavier maRecherche;

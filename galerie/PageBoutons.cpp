@@ -258,12 +258,16 @@ QWidget * PageBoutons::CreeCliquables()
     auto * const etiquette =
         new DLabelClickable(TraductionGalerie(TexteGalerie("Une étiquette cliquable")));
     etiquette->setCursor(Qt::PointingHandCursor);
-    disposition->addWidget(etiquette);
     auto * const abregee = new DLabelElisionClickable(TraductionGalerie(
         TexteGalerie("Une étiquette <b>cliquable</b>, bien trop longue pour sa place")));
     abregee->setCursor(Qt::PointingHandCursor);
     abregee->setFixedWidth(kLargeurElision);
-    disposition->addWidget(abregee);
+    auto * const etiquettes = new QVBoxLayout;
+    etiquettes->addStretch();
+    etiquettes->addWidget(etiquette);
+    etiquettes->addWidget(abregee);
+    etiquettes->addStretch();
+    disposition->addLayout(etiquettes);
     disposition->addStretch();
     return groupe;
 }

@@ -82,7 +82,7 @@ PageCombos::PageCombos(QWidget * parent)
         this, TraductionGalerie(TexteGalerie("Combos et menus")),
         TraductionGalerie(TexteGalerie(
             "Les listes déroulantes, une fenêtre qui s’ouvre à côté de son bouton et un menu fait "
-            "de rangées. L’image de ce qui s’ouvre se trouve à côté.")));
+            "de rangées. La plupart ont à côté l’image de ce qui s’ouvre.")));
     auto * const grille = new QGridLayout;
     grille->addWidget(CreeAvecSeparateurs(), 0, 0);
     grille->addWidget(CreePremierCachay(), 0, 1);

@@ -338,6 +338,7 @@ void PageTactile::Demontre()
     PriseEcarter();
     Annonce(*monGlisser);
     mesGestes->Entraine(*maListe);
+    QCoreApplication::sendPostedEvents(maListe->viewport(), QEvent::HoverLeave); // in a picture too
 }
 
 QWidget & PageTactile::PreteCible() const

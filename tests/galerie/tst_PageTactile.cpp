@@ -114,7 +114,7 @@ void tst_PageTactile::demonstration()
               u"Liste · QScroller::Inactive"_s,
               u"Liste · tactile = false"_s,
               u"Liste · HoverLeave"_s};
-    QTRY_COMPARE(DonneTrace(), trace);
+    QCOMPARE(DonneTrace(), trace);
     QVERIFY(PreteAire(u"Liste"_s).verticalScrollBar()->value() > 0);
 }
 

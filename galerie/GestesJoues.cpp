@@ -6,6 +6,8 @@
 #include <QGestureEvent>
 #include <QPinchGesture>
 #include <QPointingDevice>
+#include <QScrollBar>
+#include <QScrollEvent>
 #include <QScroller>
 #include <QTabletEvent>
 #include <QTouchEvent>
@@ -23,6 +25,7 @@ namespace {
 constexpr int kDoigt = 0;
 constexpr int kDureeGlissement = 160; // ms
 constexpr int kPasDuPincement = 4;
+constexpr double kTrait = 3;    // logical pixels that the pen moves
 constexpr qint64 kPause = 1000; // ms: long enough for a finger to stand still
 
 QPointingDevice * PreteEcranTactile()
@@ -75,7 +78,7 @@ GestesJoues::~GestesJoues() = default;
 
 void GestesJoues::Touche(QWidget & cible, int fois)
 {
-    if (!cible.isVisible())
+    if (!cible.isVisible() || monDoigt)
         return;
     QPoint const milieu = DonneMilieu(cible);
     for (int i = 0; i < fois; ++i) {
@@ -111,11 +114,22 @@ void GestesJoues::Pince(QWidget & cible, double facteur)
 
 void GestesJoues::PoseStylet(QWidget & cible)
 {
-    QPointF const milieu = cible.rect().center();
-    for (auto const & [type, boutons] : {std::pair(QEvent::TabletPress, Qt::LeftButton),
-                                         std::pair(QEvent::TabletRelease, Qt::NoButton)}) {
-        QTabletEvent evenement(type, monStylet, milieu, cible.mapToGlobal(milieu), 1.0, 0, 0, 0, 0,
-                               0, Qt::NoModifier, Qt::LeftButton, boutons);
+    QPointF const depart = cible.rect().center();
+    QPointF const arrivee = depart + QPointF(kTrait, 0);
+    struct
+    {
+        QEvent::Type type;
+        QPointF position;
+        Qt::MouseButton bouton; // that has changed
+        Qt::MouseButton boutons;
+    } const etapes[] = {
+        {QEvent::TabletPress, depart, Qt::LeftButton, Qt::LeftButton},
+        {QEvent::TabletMove, arrivee, Qt::NoButton, Qt::LeftButton},
+        {QEvent::TabletRelease, arrivee, Qt::LeftButton, Qt::NoButton},
+    };
+    for (auto const & [type, position, bouton, boutons] : etapes) {
+        QTabletEvent evenement(type, monStylet, position, cible.mapToGlobal(position), 1.0, 0, 0, 0,
+                               0, 0, Qt::NoModifier, bouton, boutons);
         QCoreApplication::sendEvent(&cible, &evenement);
     }
 }
@@ -129,6 +143,10 @@ void GestesJoues::Entraine(QAbstractScrollArea & aire)
     EnvoieToucher(aire, QEvent::TouchBegin, depart);
     defileur.handleInput(QScroller::InputPress, depart, 0);
     defileur.handleInput(QScroller::InputMove, arrivee, kPause);
+    // The scroller itself scrolls at the tick of a timer, which there is no waiting for.
+    QPointF const avant(aire.horizontalScrollBar()->value(), aire.verticalScrollBar()->value());
+    QScrollEvent defilement(avant + depart - arrivee, QPointF(), QScrollEvent::ScrollUpdated);
+    QCoreApplication::sendEvent(&cible, &defilement);
     defileur.handleInput(QScroller::InputMove, arrivee, 2 * kPause);
     defileur.handleInput(QScroller::InputRelease, arrivee, 3 * kPause);
     defileur.stop();

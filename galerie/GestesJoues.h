@@ -21,17 +21,17 @@ public:
     explicit GestesJoues(QObject * parent = nullptr);
     ~GestesJoues() override;
 
-    /// Taps in the middle of `cible`.
+    /// Taps in the middle of `cible`. Nothing while a finger is on its way.
     void Touche(QWidget & cible, int fois);
 
-    /// Moves the finger up on `cible`, in the time of a flick, and returns at once. Nothing while
-    /// it is on its way.
+    /// Moves a finger up on `cible`, in the time of a flick, and returns at once. Nothing while one
+    /// is on its way.
     void Glisse(QWidget & cible);
 
     /// Two fingers on `cible`, in some steps of that factor each.
     void Pince(QWidget & cible, double facteur);
 
-    /// Clicks in the middle of `cible` with a pen.
+    /// Presses a pen in the middle of `cible`, moves it a little and lifts it.
     void PoseStylet(QWidget & cible);
 
     /// Puts a finger on `aire`, drags, stands still and leaves, whether the window is shown or not,

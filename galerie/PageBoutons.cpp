@@ -10,6 +10,7 @@
 #include "controls/DControleBoutonsExclusifs.h"
 #include "controls/DImageCliquable.h"
 #include "controls/DLabelClickable.h"
+#include "controls/DLabelElisionClickable.h"
 #include "controls/DRadioButton.h"
 #include "controls/DToggleButton.h"
 #include "controls/DToolButtonRiche.h"
@@ -36,6 +37,7 @@ namespace {
 constexpr int kHauteurTrace = 72;
 constexpr int kEcart = 16;       // between two groups
 constexpr int kLargeurMenu = 20; // at least, of the part of a button that opens its menu
+constexpr int kLargeurElision = 150;
 
 constexpr auto kSemaine = "semaine"_L1; // the button with a part for a menu
 
@@ -81,7 +83,7 @@ QWidget * PageBoutons::CreeCases()
         {u"caseCochee"_s, TexteGalerie("Une option <b>cochée</b>"), true},
         {u"caseLongue"_s,
          TexteGalerie("Une longue option, dont le texte <i>riche</i> passe à la ligne où la place "
-                      "manque et mène à une <a href=\"#aide\">page d’aide</a>"),
+                      "manque ; un clic sur son <a href=\"#lien\">lien</a> ne fait que la cocher"),
          false},
         {u"caseFigee"_s, TexteGalerie("Une valeur figée"), true},
         {u"caseInactive"_s, TexteGalerie("Une case désactivée"), true},
@@ -247,7 +249,7 @@ QWidget * PageBoutons::CreeGroupesExclusifs()
 QWidget * PageBoutons::CreeCliquables()
 {
     auto * const groupe =
-        new QGroupBox(TraductionGalerie(TexteGalerie("Image et étiquette cliquables")));
+        new QGroupBox(TraductionGalerie(TexteGalerie("Image et étiquettes cliquables")));
     auto * const disposition = new QHBoxLayout(groupe);
     auto * const image =
         new DImageCliquable(RoutinesGeneralesQt::DonnePixmapAvecDPI(u":/images/echantillon.png"_s));
@@ -256,7 +258,16 @@ QWidget * PageBoutons::CreeCliquables()
     auto * const etiquette =
         new DLabelClickable(TraductionGalerie(TexteGalerie("Une étiquette cliquable")));
     etiquette->setCursor(Qt::PointingHandCursor);
-    disposition->addWidget(etiquette);
+    auto * const abregee = new DLabelElisionClickable(TraductionGalerie(
+        TexteGalerie("Une étiquette <b>cliquable</b>, bien trop longue pour sa place")));
+    abregee->setCursor(Qt::PointingHandCursor);
+    abregee->setFixedWidth(kLargeurElision);
+    auto * const etiquettes = new QVBoxLayout;
+    etiquettes->addStretch();
+    etiquettes->addWidget(etiquette);
+    etiquettes->addWidget(abregee);
+    etiquettes->addStretch();
+    disposition->addLayout(etiquettes);
     disposition->addStretch();
     return groupe;
 }
@@ -322,6 +333,8 @@ void PageBoutons::SuisBoutons()
     maTrace->Suis(image, &DImageCliquable::SignalImageCliquee, u"SignalImageCliquee"_s);
     maTrace->Suis(image, &DImageCliquable::SignalImageDoubleCliquee, u"SignalImageDoubleCliquee"_s);
     maTrace->Suis(findChild<DLabelClickable *>(), &DLabelClickable::SignalCliquer,
+                  u"SignalCliquer"_s);
+    maTrace->Suis(findChild<DLabelElisionClickable *>(), &DLabelElisionClickable::SignalCliquer,
                   u"SignalCliquer"_s);
 }
 

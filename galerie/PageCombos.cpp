@@ -35,17 +35,28 @@ constexpr int kLargeurFleche = 16;
 constexpr int kRayonPiste = 10;
 constexpr int kRayonPouce = 8;
 
-// A picture of the list of `combo`, as wide as the combo box and as high as its rows.
-ApercuFenetre * CreeApercuListe(DComboBox & combo)
+// As wide as the combo box and as high as its rows.
+QSize DonneTailleListe(DComboBox & combo)
 {
     QAbstractItemView const & vue = *combo.view();
     int hauteur = 0;
     for (int ligne = combo.PremierElementCachay() ? 1 : 0; ligne < combo.count(); ++ligne)
         hauteur += vue.sizeHintForIndex(combo.model()->index(ligne, 0)).height();
-    auto & fenetre = *qobject_cast<QFrame *>(vue.window());
-    fenetre.resize(combo.sizeHint().width(),
-                   hauteur + 2 * (vue.frameWidth() + fenetre.frameWidth()));
-    return new ApercuFenetre(TraductionGalerie(TexteGalerie("Ce qui s’ouvre")), fenetre);
+    auto const & fenetre = *qobject_cast<QFrame *>(vue.window());
+    return {combo.sizeHint().width(), hauteur + 2 * (vue.frameWidth() + fenetre.frameWidth())};
+}
+
+ApercuFenetre * CreeApercuListe(DComboBox & combo)
+{
+    return new ApercuFenetre(TraductionGalerie(TexteGalerie("Ce qui s’ouvre")),
+                             *combo.view()->window(), [&combo] { return DonneTailleListe(combo); });
+}
+
+DCheckBox * CreeOption(QString const & nom, ChaineLocalisable texte, bool cochay)
+{
+    auto * const option = new DCheckBox(TraductionGalerie(texte), nullptr, cochay);
+    option->setObjectName(nom);
+    return option;
 }
 
 QLabel * CreeEtiquette(QString const & texte, QWidget * compagnon)
@@ -71,7 +82,7 @@ PageCombos::PageCombos(QWidget * parent)
         this, TraductionGalerie(TexteGalerie("Combos et menus")),
         TraductionGalerie(TexteGalerie(
             "Les listes déroulantes, une fenêtre qui s’ouvre à côté de son bouton et un menu fait "
-            "de rangées. L’image de ce qui s’ouvre se trouve à côté.")));
+            "de rangées. La plupart ont à côté l’image de ce qui s’ouvre.")));
     auto * const grille = new QGridLayout;
     grille->addWidget(CreeAvecSeparateurs(), 0, 0);
     grille->addWidget(CreePremierCachay(), 0, 1);
@@ -192,9 +203,8 @@ QWidget * PageCombos::CreePopUp()
     auto * const contenu = new QVBoxLayout(monPopUp);
     contenu->addWidget(
         new QLabel(TraductionGalerie(TexteGalerie("Ce que la recherche regarde :"))));
-    contenu->addWidget(
-        new DCheckBox(TraductionGalerie(TexteGalerie("Les <b>titres</b>")), nullptr, true));
-    contenu->addWidget(new DCheckBox(TraductionGalerie(TexteGalerie("Les <i>notes</i>"))));
+    contenu->addWidget(CreeOption(u"chercheTitres"_s, TexteGalerie("Les <b>titres</b>"), true));
+    contenu->addWidget(CreeOption(u"chercheNotes"_s, TexteGalerie("Les <i>notes</i>"), false));
 
     auto * const groupe =
         new QGroupBox(TraductionGalerie(TexteGalerie("Fenêtre à côté de son bouton")));
@@ -202,7 +212,6 @@ QWidget * PageCombos::CreePopUp()
     grille->addWidget(monBoutonPopUp, 0, 0, Qt::AlignLeading);
     grille->addWidget(mesFermetures, 1, 0, Qt::AlignTop);
     grille->addWidget(CreeLegende(), 0, 1);
-    monPopUp->adjustSize();
     grille->addWidget(
         new ApercuFenetre(TraductionGalerie(TexteGalerie("Ce qui s’ouvre")), *monPopUp), 1, 1,
         Qt::AlignTop | Qt::AlignLeading);
@@ -215,13 +224,16 @@ QWidget * PageCombos::CreeMenuAction()
 {
     monMenu = new DMenuAction(this);
     auto * const taille = new QSpinBox;
+    taille->setObjectName(u"taille"_s);
     taille->setRange(6, 72); // points
     taille->setValue(12);
     taille->setAccessibleName(TraductionGalerie(TexteGalerie("Taille")));
     auto * const bascule = new DToggleButton(kRayonPiste, kRayonPouce);
+    bascule->setObjectName(u"cesure"_s);
     bascule->setAccessibleName(TraductionGalerie(TexteGalerie("Césure")));
     bascule->setChecked(true);
     monWidgetDeRangee = new QLineEdit;
+    monWidgetDeRangee->setObjectName(u"remarque"_s);
     monWidgetDeRangee->setAccessibleName(TraductionGalerie(TexteGalerie("Remarque")));
     monMenu->AjouteWidget(new QLabel(TraductionGalerie(TexteGalerie("Taille"))), taille);
     monMenu->AjouteWidget(new QLabel(TraductionGalerie(TexteGalerie("Césure"))), bascule);
@@ -235,9 +247,8 @@ QWidget * PageCombos::CreeMenuAction()
 
     auto * const groupe = new QGroupBox(TraductionGalerie(TexteGalerie("Menu de rangées")));
     auto * const grille = new QGridLayout(groupe);
-    QWidget & menu = *monMenu->window();
-    menu.adjustSize();
-    monApercuMenu = new ApercuFenetre(TraductionGalerie(TexteGalerie("Ce qui s’ouvre")), menu);
+    monApercuMenu =
+        new ApercuFenetre(TraductionGalerie(TexteGalerie("Ce qui s’ouvre")), *monMenu->window());
     grille->addWidget(monBoutonMenu, 0, 0, Qt::AlignLeading);
     grille->addWidget(maRangeeAffichee, 1, 0, Qt::AlignTop);
     grille->addWidget(CreeLegende(), 0, 1);
@@ -302,6 +313,5 @@ void PageCombos::PriseOuvreMenu()
 void PageCombos::PriseRangeeAffichee()
 {
     monMenu->AfficherRangeeDuWidget(monWidgetDeRangee, maRangeeAffichee->isChecked());
-    monMenu->window()->adjustSize();
     monApercuMenu->Actualise();
 }

@@ -15,8 +15,8 @@ class QLabel;
 class QLineEdit;
 class QPushButton;
 
-/// The combo boxes, the pop-up beside its button and the menu of rows, each with a picture of what
-/// opens.
+/// The combo boxes, the pop-up beside its button and the menu of rows, with pictures of what opens
+/// where that is not plain to see when it is closed.
 class PageCombos : public QWidget
 {
     Q_OBJECT

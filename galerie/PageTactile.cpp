@@ -16,10 +16,12 @@
 #include <QGridLayout>
 #include <QGroupBox>
 #include <QHBoxLayout>
+#include <QHoverEvent>
 #include <QLabel>
 #include <QListWidget>
 #include <QLocale>
 #include <QMetaEnum>
+#include <QMouseEvent>
 #include <QPushButton>
 #include <QScrollArea>
 #include <QVBoxLayout>
@@ -40,6 +42,39 @@ template <typename Enumeration>
 QString DonneCle(Enumeration valeur)
 {
     return QString::fromLatin1(QMetaEnum::fromType<Enumeration>().valueToKey(valeur));
+}
+
+// Whether the trace tells of what comes to an area itself: its property, and the focus that hands
+// the finger from one of two nested areas to the other.
+bool EstPourAire(QObject const & aire, QEvent const & evenement)
+{
+    switch (evenement.type()) {
+    case QEvent::DynamicPropertyChange:
+        return static_cast<QDynamicPropertyChangeEvent const &>(evenement).propertyName() ==
+               kTactile;
+    case QEvent::FocusIn:
+    case QEvent::FocusOut:
+        return qobject_cast<QScrollArea const *>(&aire) != nullptr;
+    default:
+        return false;
+    }
+}
+
+bool EstPourViewport(QEvent const & evenement)
+{
+    switch (evenement.type()) {
+    case QEvent::MouseButtonPress:
+    case QEvent::MouseButtonRelease:
+    case QEvent::MouseButtonDblClick:
+        return true;
+    case QEvent::MouseMove:
+        return static_cast<QMouseEvent const &>(evenement).buttons() != Qt::NoButton;
+    case QEvent::HoverLeave:
+        // The manager's: a mouse that leaves is at (-1, -1) then.
+        return static_cast<QHoverEvent const &>(evenement).position().isNull();
+    default:
+        return false;
+    }
 }
 
 QLabel * CreeParagraphe(ChaineLocalisable texte)
@@ -91,15 +126,12 @@ PageTactile::PageTactile(QWidget * parent)
 
 bool PageTactile::eventFilter(QObject * objet, QEvent * evenement)
 {
-    QString const nom = static_cast<QWidget *>(objet)->accessibleName();
-    auto const type = evenement->type();
-    if (type == QEvent::DynamicPropertyChange) {
-        if (static_cast<QDynamicPropertyChangeEvent *>(evenement)->propertyName() == kTactile)
-            maTrace->Ajoute(nom + u" · tactile = "_s + objet->property(kTactile).toString());
-    } else if (objet != maListe &&
-               (type == QEvent::MouseButtonPress || type == QEvent::MouseButtonRelease ||
-                type == QEvent::MouseButtonDblClick)) {
-        maTrace->Ajoute(nom + u" · "_s + DonneCle(type)); // of a viewport
+    bool const aire = qobject_cast<QAbstractScrollArea const *>(objet) != nullptr;
+    if (aire ? EstPourAire(*objet, *evenement) : EstPourViewport(*evenement)) {
+        QString const quoi = evenement->type() == QEvent::DynamicPropertyChange
+                                 ? u"tactile = "_s + objet->property(kTactile).toString()
+                                 : DonneCle(evenement->type());
+        maTrace->Ajoute(static_cast<QWidget *>(objet)->accessibleName() + u" · "_s + quoi);
     }
     return QWidget::eventFilter(objet, evenement);
 }
@@ -141,7 +173,6 @@ QWidget * PageTactile::CreeListe()
         maListe->addItem(
             TraductionGalerie(TexteGalerie("Rang {1}"), {UniChaine(locale().toString(rang))}));
     RendsTactile(*maListe, nom);
-    maListe->installEventFilter(this); // for its property
 
     auto * const groupe = new QGroupBox(nom);
     auto * const disposition = new QVBoxLayout(groupe);
@@ -212,13 +243,16 @@ QLayout * PageTactile::CreeBoutons()
 void PageTactile::RendsTactile(QAbstractScrollArea & aire, QString const & nom)
 {
     aire.viewport()->setAccessibleName(nom);
-    // Before the managers, whose filters are asked first then: what they swallow is not told.
+    // Before the managers: their filters are asked first then, and what they swallow is not told;
+    // what they do about a state is told after it.
     aire.viewport()->installEventFilter(this);
-    auto * const defileur = new DDefileurTactile(&aire);
-    connect(defileur, &DDefileurTactile::SignalChangementEtat, this,
+    // Not a manager's own signal: after a hand-over and back it tells of the area around, too.
+    connect(QScroller::scroller(aire.viewport()), &QScroller::stateChanged, this,
             [this, nom](QScroller::State etat) {
                 maTrace->Ajoute(nom + u" · QScroller::"_s + DonneCle(etat));
             });
+    new DDefileurTactile(&aire);
+    aire.installEventFilter(this); // last: the focus is told before what comes of it
 }
 
 void PageTactile::Branche()
@@ -304,6 +338,7 @@ void PageTactile::Demontre()
     PriseEcarter();
     Annonce(*monGlisser);
     mesGestes->Entraine(*maListe);
+    QCoreApplication::sendPostedEvents(maListe->viewport(), QEvent::HoverLeave); // in a picture too
 }
 
 QWidget & PageTactile::PreteCible() const

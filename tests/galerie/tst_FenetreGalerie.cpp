@@ -1,6 +1,7 @@
 // tests/galerie/tst_FenetreGalerie.cpp
 #include "FenetreGalerie.h"
 
+#include "ApercuFenetre.h"
 #include "Langues.h"
 #include "Pages.h"
 #include "ThemeGalerie.h"
@@ -8,6 +9,7 @@
 
 #include "controls/DCheckBox.h"
 #include "controls/DRadioButton.h"
+#include "controls/DToggleButton.h"
 #include "foundation/ThemesQt.h"
 #include "noyau/Traductions.h"
 
@@ -24,6 +26,22 @@ void MontreToutesLesPages(FenetreGalerie & fenetre)
         fenetre.MontrePage(i);
 }
 
+// The window's picture may have corners that show nothing, where its preview shows the page.
+QImage DonneInterieur(QWidget & widget)
+{
+    QImage const image = widget.grab().toImage().convertToFormat(QImage::Format_RGB32);
+    return image.copy(image.rect().adjusted(8, 8, -8, -8));
+}
+
+bool EstDansUnApercu(QWidget & fenetre, QWidget const & galerie)
+{
+    QImage const image = DonneInterieur(fenetre);
+    auto const apercus = galerie.findChildren<ApercuFenetre *>();
+    return std::any_of(apercus.begin(), apercus.end(), [&image](ApercuFenetre * apercu) {
+        return DonneInterieur(*apercu) == image;
+    });
+}
+
 } // namespace
 
 class tst_FenetreGalerie : public QObject
@@ -36,6 +54,7 @@ private Q_SLOTS:
 
     void langueRefaitLesPages();
     void saisiesGardees();
+    void saisiesDansLesApercus();
     void lettresUniques_data();
     void lettresUniques();
     void themeSuivi();
@@ -127,6 +146,32 @@ void tst_FenetreGalerie::saisiesGardees()
     auto const * const table = fenetre.findChild<QTableView *>(u"tableVariables"_s);
     QVERIFY(table->model()->rowCount() > 0);
     QVERIFY(table->model()->rowCount() < ThemesQt::Instance()->DonneNoms().size());
+}
+
+// What stands in a window that is closed is kept, and seen in its picture.
+void tst_FenetreGalerie::saisiesDansLesApercus()
+{
+    FenetreGalerie fenetre(monTheme);
+    MontreToutesLesPages(fenetre);
+    fenetre.findChild<QSpinBox *>(u"taille"_s)->setValue(60);
+    fenetre.findChild<DToggleButton *>(u"cesure"_s)->setChecked(false);
+    fenetre.findChild<QLineEdit *>(u"remarque"_s)->setText(u"Relu"_s);
+    fenetre.findChild<DCheckBox *>(u"chercheTitres"_s)->MetsCochay(false);
+    fenetre.findChild<DCheckBox *>(u"chercheNotes"_s)->MetsCochay(true);
+
+    fenetre.MetsLangue(kLangueAnglais);
+    MontreToutesLesPages(fenetre);
+
+    auto & taille = *fenetre.findChild<QSpinBox *>(u"taille"_s);
+    auto & notes = *fenetre.findChild<DCheckBox *>(u"chercheNotes"_s);
+    QCOMPARE(taille.value(), 60);
+    QVERIFY(!fenetre.findChild<DToggleButton *>(u"cesure"_s)->isChecked());
+    QCOMPARE(fenetre.findChild<QLineEdit *>(u"remarque"_s)->text(), u"Relu"_s);
+    QVERIFY(!fenetre.findChild<DCheckBox *>(u"chercheTitres"_s)->EstCochay());
+    QVERIFY(notes.EstCochay());
+    QCoreApplication::processEvents(); // the pictures follow
+    for (QWidget * const saisie : {static_cast<QWidget *>(&taille), static_cast<QWidget *>(&notes)})
+        QVERIFY2(EstDansUnApercu(*saisie->window(), fenetre), qPrintable(saisie->objectName()));
 }
 
 void tst_FenetreGalerie::lettresUniques_data()

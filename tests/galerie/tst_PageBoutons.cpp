@@ -8,6 +8,7 @@
 #include "controls/DControleBoutonsExclusifs.h"
 #include "controls/DImageCliquable.h"
 #include "controls/DLabelClickable.h"
+#include "controls/DLabelElisionClickable.h"
 #include "controls/DRadioButton.h"
 #include "controls/DToggleButton.h"
 #include "controls/DToolButtonRiche.h"
@@ -38,6 +39,8 @@ private Q_SLOTS:
     void groupesExclusifs();
     void partieDuMenu();
     void imageEtEtiquetteCliquables();
+    void etiquetteAbregeeCliquable_data();
+    void etiquetteAbregeeCliquable();
 
 private:
     template <typename T>
@@ -222,6 +225,29 @@ void tst_PageBoutons::imageEtEtiquetteCliquables()
     QVERIFY(trace.contains(u"DImageCliquable::SignalImageCliquee()"_s));
     QCOMPARE(trace.count(u"DImageCliquable::SignalImageDoubleCliquee()"_s), 1);
     QCOMPARE(trace.last(), u"DLabelClickable::SignalCliquer()"_s);
+}
+
+void tst_PageBoutons::etiquetteAbregeeCliquable_data()
+{
+    QTest::addColumn<eLangue>("langue");
+    QTest::newRow("French") << kLangueFrancais;
+    QTest::newRow("English") << kLangueAnglais;
+}
+
+void tst_PageBoutons::etiquetteAbregeeCliquable()
+{
+    QFETCH(eLangue, langue);
+    Traductions::MetsLanguePourApplicationCourante(langue);
+    maPage = std::make_unique<PageBoutons>();
+    maPage->show();
+    QVERIFY(QTest::qWaitForWindowExposed(maPage.get()));
+    auto * const etiquette = maPage->findChild<DLabelElisionClickable *>();
+    QVERIFY(etiquette->EstEliday());
+    QVERIFY(!etiquette->DonneTexte().contains(u'<'));
+
+    QTest::mousePress(etiquette, Qt::LeftButton);
+
+    QCOMPARE(DonneTrace(), QStringList{u"DLabelElisionClickable::SignalCliquer()"_s});
 }
 
 QTEST_MAIN(tst_PageBoutons)

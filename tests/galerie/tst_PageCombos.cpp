@@ -5,6 +5,7 @@
 
 #include "controls/DComboBoxAvecDLabelElision.h"
 #include "controls/DComboSansDeco.h"
+#include "controls/DLabelElision.h"
 #include "controls/DMenuAction.h"
 #include "controls/DPopUpMenu.h"
 #include "noyau/Traductions.h"
@@ -31,6 +32,8 @@ private Q_SLOTS:
     void menuDeRangees();
     void rangeeCachee();
     void apercus();
+    void premierRangHorsDeLApercu();
+    void apercusSuiventLeTheme();
     void apercuSuitLaFermeture();
 
 private:
@@ -51,6 +54,7 @@ void tst_PageCombos::init()
 void tst_PageCombos::cleanup()
 {
     maPage.reset();
+    qApp->setStyleSheet(QString());
     QVERIFY(QApplication::topLevelWidgets().isEmpty());
 }
 
@@ -101,12 +105,19 @@ void tst_PageCombos::premierRangCachay()
 void tst_PageCombos::texteAbregay()
 {
     auto & combo = *maPage->findChild<DComboBoxAvecDLabelElision *>();
+    QVERIFY(combo.itemText(0).contains(u"<b>"));
     QImage const avant = combo.grab().toImage();
+    // Draws the closed combo box; made before the one that draws the list.
+    auto const & label = *combo.findChild<DLabelElision *>();
+    QVERIFY(combo.itemText(0).contains(label.DonneTexte().right(8)));
+    QVERIFY(label.DonneModeElision() != DLabelElision::kSansElision);
+    QVERIFY(label.EstEliday());
+    QVERIFY(label.DonneLongueurLigne() < combo.width());
 
     combo.setCurrentIndex(1);
 
-    QVERIFY(combo.itemText(0).contains(u"<b>"));
     QVERIFY(combo.grab().toImage() != avant);
+    QCOMPARE(label.DonneTexte(), u"Un guide court"_s);
 }
 
 void tst_PageCombos::moisChoisi()
@@ -184,6 +195,32 @@ void tst_PageCombos::apercus()
         unie.fill(image.pixelColor(image.rect().center()));
         QVERIFY(image != unie);
     }
+}
+
+void tst_PageCombos::premierRangHorsDeLApercu()
+{
+    auto & combo = *maPage->findChild<DComboBox *>(u"premierCachay"_s);
+    auto const & apercu = *combo.parentWidget()->findChild<ApercuFenetre *>();
+    int const rang = combo.view()->sizeHintForIndex(combo.model()->index(1, 0)).height();
+    QCOMPARE(combo.count(), 4);
+
+    QVERIFY(apercu.height() >= 3 * rang);
+    QVERIFY(apercu.height() < 4 * rang);
+    QVERIFY(!combo.view()->visualRect(combo.model()->index(0, 0)).isValid());
+}
+
+void tst_PageCombos::apercusSuiventLeTheme()
+{
+    QList<QImage> avant;
+    auto const apercus = maPage->findChildren<ApercuFenetre *>();
+    for (ApercuFenetre * const apercu : apercus)
+        avant.append(apercu->grab().toImage());
+
+    qApp->setStyleSheet(
+        u"QAbstractItemView, QFrame, QMenu { background-color: #101820; color: #f0e8d8; }"_s);
+
+    for (int i = 0; i < apercus.size(); ++i)
+        QTRY_VERIFY2(apercus[i]->grab().toImage() != avant[i], qPrintable(QString::number(i)));
 }
 
 void tst_PageCombos::apercuSuitLaFermeture()

@@ -26,6 +26,8 @@ private Q_SLOTS:
     void toucherDeuxFois();
     void glisser_data();
     void glisser();
+    void uneSeulePrise();
+    void passationDuDoigt();
     void stylet();
     void pincer_data();
     void pincer();
@@ -35,13 +37,19 @@ private Q_SLOTS:
 private:
     void Montre();
     void Appuie(QString const & bouton);
+    void Choisis(QString const & cible);
+    QAbstractScrollArea & PreteAire(QString const & nom) const;
     QStringList DonneTrace() const;
 
+    int monIntervalle = 0; // ms
     std::unique_ptr<PageTactile> maPage;
 };
 
 void tst_PageTactile::init()
 {
+    // Two taps of a slow computer are a double tap all the same.
+    monIntervalle = QApplication::doubleClickInterval();
+    QApplication::setDoubleClickInterval(60000);
     Traductions::MetsLanguePourApplicationCourante(kLangueFrancais);
     maPage = std::make_unique<PageTactile>();
     maPage->resize(900, 760);
@@ -50,6 +58,7 @@ void tst_PageTactile::init()
 void tst_PageTactile::cleanup()
 {
     maPage.reset();
+    QApplication::setDoubleClickInterval(monIntervalle);
     QVERIFY(QApplication::topLevelWidgets().isEmpty());
 }
 
@@ -57,7 +66,7 @@ void tst_PageTactile::cleanup()
 void tst_PageTactile::Montre()
 {
     maPage->show();
-    QVERIFY(QTest::qWaitForWindowExposed(maPage.get()));
+    QVERIFY(QTest::qWaitForWindowActive(maPage.get())); // which brings the focus to an area
     QTRY_VERIFY(!DonneTrace().isEmpty());
     Appuie(u"effacer"_s);
 }
@@ -65,6 +74,22 @@ void tst_PageTactile::Montre()
 void tst_PageTactile::Appuie(QString const & bouton)
 {
     QTest::keyClick(maPage->findChild<QPushButton *>(bouton), Qt::Key_Space);
+}
+
+void tst_PageTactile::Choisis(QString const & cible)
+{
+    auto & choix = *maPage->findChild<QComboBox *>(u"cible"_s);
+    choix.setCurrentText(cible);
+    QCOMPARE(choix.currentText(), cible);
+}
+
+QAbstractScrollArea & tst_PageTactile::PreteAire(QString const & nom) const
+{
+    QAbstractScrollArea * aire = nullptr;
+    for (auto * const candidate : maPage->findChildren<QAbstractScrollArea *>())
+        if (candidate->accessibleName() == nom)
+            aire = candidate;
+    return *aire;
 }
 
 QStringList tst_PageTactile::DonneTrace() const
@@ -79,7 +104,7 @@ void tst_PageTactile::demonstration()
     QCoreApplication::processEvents();
 
     // Hidden, as in a picture.
-    QStringList trace{u"— Stylet —"_s, u"Liste · MouseButtonPress"_s,
+    QStringList trace{u"— Stylet —"_s, u"Liste · MouseButtonPress"_s, u"Liste · MouseMove"_s,
                       u"Liste · MouseButtonRelease"_s, u"— Écarter —"_s};
     trace += QStringList(4, u"DZoomTactile::SignalZoomTactile(1.1)"_s);
     trace += {u"— Glisser —"_s,
@@ -87,8 +112,10 @@ void tst_PageTactile::demonstration()
               u"Liste · QScroller::Pressed"_s,
               u"Liste · QScroller::Dragging"_s,
               u"Liste · QScroller::Inactive"_s,
-              u"Liste · tactile = false"_s};
+              u"Liste · tactile = false"_s,
+              u"Liste · HoverLeave"_s};
     QCOMPARE(DonneTrace(), trace);
+    QVERIFY(PreteAire(u"Liste"_s).verticalScrollBar()->value() > 0);
 }
 
 void tst_PageTactile::effacer()
@@ -132,6 +159,7 @@ void tst_PageTactile::glisser_data()
 {
     QTest::addColumn<QString>("cible");
     QTest::newRow("item view") << u"Liste"_s;
+    QTest::newRow("inner area, which has the focus") << u"Aire intérieure"_s;
     QTest::newRow("outer area") << u"Aire extérieure"_s;
 }
 
@@ -139,22 +167,63 @@ void tst_PageTactile::glisser()
 {
     QFETCH(QString, cible);
     Montre();
-    auto & choix = *maPage->findChild<QComboBox *>(u"cible"_s);
-    choix.setCurrentText(cible);
-    QCOMPARE(choix.currentText(), cible);
+    Choisis(cible);
+    auto & aire = PreteAire(cible);
+    aire.setFocus();
+    QVERIFY(aire.hasFocus());
 
     Appuie(u"glisser"_s);
 
-    QTRY_VERIFY(DonneTrace().contains(cible + u" · QScroller::Inactive"_s));
+    QTRY_VERIFY_WITH_TIMEOUT(DonneTrace().contains(cible + u" · QScroller::Inactive"_s), 20000);
     QStringList const trace = DonneTrace();
     QVERIFY(trace.indexOf(cible + u" · QScroller::Pressed"_s) <
             trace.indexOf(cible + u" · QScroller::Dragging"_s));
     QCOMPARE(trace.contains(cible + u" · MouseButtonPress"_s), false); // no tap
-    QAbstractScrollArea * aire = nullptr;
-    for (auto * const candidate : maPage->findChildren<QAbstractScrollArea *>())
-        if (candidate->accessibleName() == cible)
-            aire = candidate;
-    QVERIFY(aire->verticalScrollBar()->value() > 0);
+    QVERIFY(aire.verticalScrollBar()->value() > 0);
+    for (QString const & autre : {u"Aire extérieure"_s, u"Aire intérieure"_s}) {
+        if (autre == cible)
+            continue;
+        QVERIFY(trace.filter(autre + u" · QScroller::"_s).isEmpty());
+        QCOMPARE(PreteAire(autre).verticalScrollBar()->value(), 0);
+    }
+}
+
+void tst_PageTactile::uneSeulePrise()
+{
+    Montre();
+    Appuie(u"glisser"_s);
+
+    Appuie(u"toucher"_s);
+    Appuie(u"glisser"_s);
+
+    QTRY_VERIFY_WITH_TIMEOUT(DonneTrace().contains(u"Liste · tactile = false"_s), 20000);
+    QCOMPARE(DonneTrace().count(u"Liste · QScroller::Pressed"_s), 1);
+    QCOMPARE(DonneTrace().count(u"Liste · MouseButtonPress"_s), 0);
+}
+
+void tst_PageTactile::passationDuDoigt()
+{
+    QString const exterieure = u"Aire extérieure"_s;
+    QString const interieure = u"Aire intérieure"_s;
+    Montre();
+    PreteAire(u"Liste"_s).setFocus();
+    Appuie(u"effacer"_s);
+
+    PreteAire(interieure).setFocus();
+    PreteAire(exterieure).setFocus();
+
+    QCOMPARE(DonneTrace(), (QStringList{interieure + u" · FocusIn"_s, interieure + u" · FocusOut"_s,
+                                        exterieure + u" · FocusIn"_s}));
+
+    // The scroller that came back is the outer area's, whoever gave it back.
+    Choisis(exterieure);
+    Appuie(u"effacer"_s);
+    Appuie(u"glisser"_s);
+
+    QTRY_VERIFY_WITH_TIMEOUT(DonneTrace().contains(exterieure + u" · QScroller::Inactive"_s),
+                             20000);
+    QCOMPARE(DonneTrace().count(exterieure + u" · QScroller::Pressed"_s), 1);
+    QCOMPARE(DonneTrace().filter(interieure).size(), 0);
 }
 
 void tst_PageTactile::stylet()
@@ -164,7 +233,7 @@ void tst_PageTactile::stylet()
     Appuie(u"stylet"_s);
 
     QCOMPARE(DonneTrace(), (QStringList{u"— Stylet —"_s, u"Liste · MouseButtonPress"_s,
-                                        u"Liste · MouseButtonRelease"_s}));
+                                        u"Liste · MouseMove"_s, u"Liste · MouseButtonRelease"_s}));
 }
 
 void tst_PageTactile::pincer_data()

@@ -3,23 +3,13 @@
 // Touches that end otherwise than by one finger that leaves the area's window.
 #include "touch/DDefileurTactile.h"
 
-#include "touch/EssaisTactiles.h"
+#include "touch/AireTouchee.h"
 
+using namespace AireTouchee;
 using namespace EssaisTactiles;
 using namespace Qt::StringLiterals;
 
 namespace {
-
-constexpr int kLignes = 500;
-
-QListWidget * CreeListe(QWidget * parent, int lignes = kLignes)
-{
-    auto * const liste = new QListWidget(parent);
-    liste->setGeometry(0, 0, 200, 300);
-    for (int i = 0; i < lignes; ++i)
-        liste->addItem(QString::number(i));
-    return liste;
-}
 
 QAbstractScrollArea * CreeAire(QWidget * parent, bool estListe)
 {
@@ -35,23 +25,6 @@ void AjouteAires()
     QTest::addColumn<bool>("estListe");
     QTest::newRow("an item view") << true;
     QTest::newRow("another area") << false;
-}
-
-bool Montre(QWidget & fenetre)
-{
-    fenetre.resize(200, 300);
-    fenetre.show();
-    return QTest::qWaitForWindowExposed(&fenetre);
-}
-
-QScroller::State Etat(QAbstractScrollArea * aire)
-{
-    return QScroller::scroller(aire->viewport())->state();
-}
-
-auto Doigt(QAbstractScrollArea * aire)
-{
-    return QTest::touchEvent(aire->viewport(), DonneEcranTactile());
 }
 
 } // namespace

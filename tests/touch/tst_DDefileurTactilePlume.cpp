@@ -3,8 +3,9 @@
 // What comes of the events of a pen and of a mouse, and of the mouse events that are made of a pen.
 #include "touch/DDefileurTactile.h"
 
-#include "touch/EssaisTactiles.h"
+#include "touch/AireTouchee.h"
 
+using namespace AireTouchee;
 using namespace EssaisTactiles;
 using Outil = QPointingDevice::PointerType;
 
@@ -24,13 +25,6 @@ QListWidget * CreeListe(QWidget * parent)
     for (int i = 0; i < 20; ++i)
         liste->addItem(QString::number(i));
     return liste;
-}
-
-bool Montre(QWidget & fenetre)
-{
-    fenetre.resize(200, 300);
-    fenetre.show();
-    return QTest::qWaitForWindowExposed(&fenetre);
 }
 
 } // namespace

@@ -3,41 +3,15 @@
 // What a person with a finger gets: touches that take Qt's whole way from the window on.
 #include "touch/DDefileurTactile.h"
 
-#include "touch/EssaisTactiles.h"
+#include "touch/AireTouchee.h"
 
+using namespace AireTouchee;
 using namespace EssaisTactiles;
 using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int kLignes = 500;
 constexpr int kEssais = 10;
-
-QListWidget * CreeListe(QWidget * parent, int lignes = kLignes)
-{
-    auto * const liste = new QListWidget(parent);
-    liste->setGeometry(0, 0, 200, 300);
-    for (int i = 0; i < lignes; ++i)
-        liste->addItem(QString::number(i));
-    return liste;
-}
-
-bool Montre(QWidget & fenetre)
-{
-    fenetre.resize(200, 300);
-    fenetre.show();
-    return QTest::qWaitForWindowExposed(&fenetre);
-}
-
-QScroller::State Etat(QAbstractScrollArea * aire)
-{
-    return QScroller::scroller(aire->viewport())->state();
-}
-
-auto Doigt(QAbstractScrollArea * aire)
-{
-    return QTest::touchEvent(aire->viewport(), DonneEcranTactile());
-}
 
 } // namespace
 

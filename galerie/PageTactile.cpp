@@ -12,6 +12,7 @@
 #include "touch/DZoomTactile.h"
 
 #include <QComboBox>
+#include <QCoreApplication>
 #include <QDynamicPropertyChangeEvent>
 #include <QGridLayout>
 #include <QGroupBox>

@@ -6,6 +6,7 @@
 #include "foundation/ThemesQt.h"
 
 #include <QKeyEvent>
+#include <QLocale>
 #include <QMouseEvent>
 #include <QPainter>
 

@@ -4,6 +4,7 @@
 #include "foundation/GeometrieEcran.h"
 
 #include <QActionEvent>
+#include <QCoreApplication>
 #include <QGridLayout>
 #include <QKeyEvent>
 #include <QLabel>

@@ -11,6 +11,7 @@
 #include "noyau/RoutinesBureau.h"
 #include "noyau/Traductions.h"
 
+#include <QAbstractButton>
 #include <QApplication>
 #include <QCloseEvent>
 #include <QDialogButtonBox>

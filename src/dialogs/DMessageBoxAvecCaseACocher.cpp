@@ -8,7 +8,9 @@
 #include "noyau/DAlerteInfo.h"
 
 #include <QCheckBox>
+#include <QEvent>
 #include <QGridLayout>
+#include <QTextDocument>
 
 using namespace Qt::StringLiterals;
 

@@ -18,15 +18,6 @@ public:
     using DDefileurTactile::PriseChangementEtatQScroller;
 };
 
-QListWidget * CreeListe(QWidget * parent)
-{
-    auto * const liste = new QListWidget(parent);
-    liste->setGeometry(0, 0, 200, 300);
-    for (int i = 0; i < 20; ++i)
-        liste->addItem(QString::number(i));
-    return liste;
-}
-
 } // namespace
 
 class tst_DDefileurTactilePlume : public QObject

@@ -85,7 +85,7 @@ void DBoutonAvecMenu::mousePressEvent(QMouseEvent * evenement)
         return;
     }
     evenement->accept();
-    Q_EMIT menuCliquay(property("identifiant"));
+    Q_EMIT menuCliquay(property(kProprieteIdentifiant));
 }
 
 void DBoutonAvecMenu::keyPressEvent(QKeyEvent * evenement)
@@ -96,7 +96,7 @@ void DBoutonAvecMenu::keyPressEvent(QKeyEvent * evenement)
     }
     evenement->accept();
     if (!evenement->isAutoRepeat())
-        Q_EMIT menuCliquay(property("identifiant"));
+        Q_EMIT menuCliquay(property(kProprieteIdentifiant));
 }
 
 void DBoutonAvecMenu::paintEvent(QPaintEvent * evenement)

@@ -6,6 +6,9 @@
 #include <QPushButton>
 #include <QVariant>
 
+/// The dynamic property of a button that holds its identifier, which is contract with hosts.
+constexpr char const * kProprieteIdentifiant = "identifiant";
+
 /// A button of a `DControleBoutonsExclusifs`: with a line of the accent colour along the bottom
 /// while it is checked and enabled, and where it is made so with a part at its end, in the
 /// direction of the layout, that asks for a menu.

@@ -35,6 +35,7 @@ public:
     /// before it completes anything typed, pasted or dropped. Asked by the host before that, it
     /// may offer the hidden item.
     void CachePremierElement();
+    /// False until `CachePremierElement`, and with a delegate of the host's own.
     bool PremierElementCachay() const;
 
     /// Shows the list in `vue`, which the combo box takes, and deletes the view that it had. The

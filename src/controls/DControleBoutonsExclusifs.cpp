@@ -17,7 +17,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr char const * kIdentifiant = "identifiant";
 constexpr char const * kEtiquette = "etiquette";
 constexpr int kLargeurSeparateur = 1; // logical pixels
 
@@ -92,7 +91,7 @@ QAbstractButton * DControleBoutonsExclusifs::DonneBouton(QVariant const & identi
 {
     auto const boutons = monGroupe->buttons();
     for (auto * const bouton : boutons)
-        if (bouton->property(kIdentifiant) == identifiant)
+        if (bouton->property(kProprieteIdentifiant) == identifiant)
             return bouton;
     return nullptr;
 }
@@ -100,7 +99,7 @@ QAbstractButton * DControleBoutonsExclusifs::DonneBouton(QVariant const & identi
 QVariant DControleBoutonsExclusifs::DonneIdentifiant(QAbstractButton const * bouton) const
 {
     bool const estDuGroupe = bouton && bouton->group() == monGroupe;
-    return estDuGroupe ? bouton->property(kIdentifiant) : QVariant();
+    return estDuGroupe ? bouton->property(kProprieteIdentifiant) : QVariant();
 }
 
 QVariant DControleBoutonsExclusifs::DonneIdentifiantCochay() const
@@ -172,7 +171,7 @@ QAbstractButton * DControleBoutonsExclusifs::CreeControle(UniChaine const & text
                                                           bool avecMenu)
 {
     auto * const bouton = new DBoutonAvecMenu(texte, avecMenu, this);
-    bouton->setProperty(kIdentifiant, identifiant);
+    bouton->setProperty(kProprieteIdentifiant, identifiant);
     bouton->setProperty(kEtiquette, QString(texte));
     bouton->setCheckable(true);
     bouton->setAutoDefault(false);

@@ -55,8 +55,10 @@ public:
 
     /// Without effect for an unknown identifier, and when it would leave no button checked.
     void MetsCochay(QVariant const & identifiant, bool cochay);
+    /// Without effect for an unknown identifier.
     void MetsTooltipSurBouton(QVariant const & identifiant, UniChaine const & texte);
-    /// Shows or hides the part for the menu of a button that was made with one.
+    /// Shows or hides the part for the menu of a button that was made with one; without effect for
+    /// any other.
     void AjusterAffichageMenuBoutons(QVariant const & identifiant, bool visible);
 
 Q_SIGNALS:

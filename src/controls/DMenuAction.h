@@ -34,6 +34,7 @@ public:
     /// Adds a row; without a label or without a widget its place stays empty, without both there is
     /// no row.
     void AjouteWidget(QLabel * label, QWidget * widget);
+    /// Adds a row with a line over both columns: a `QFrame` with the object name "Separateur".
     void AjouteSeparateur();
 
     /// Shows or hides all that is in the row of `widget`, its label too; nothing for a widget that
@@ -41,6 +42,7 @@ public:
     void AfficherRangeeDuWidget(QWidget const * widget, bool const & visible);
 
 Q_SIGNALS:
+    /// Opens the menu, before the emission returns: emitting it is as good as the function.
     void SignalOuvreMenu(QPoint position);
 
 protected:

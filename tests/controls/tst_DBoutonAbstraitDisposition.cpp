@@ -12,6 +12,8 @@ class tst_DBoutonAbstraitDisposition : public QObject
 
 private Q_SLOTS:
     void cleanup();
+    void elements_data();
+    void elements();
     void uneLigneTantQuIlYADeLaPlace_data();
     void uneLigneTantQuIlYADeLaPlace();
     void plusieursLignesQuandElleManque_data();
@@ -60,6 +62,28 @@ int HauteurDUneLigne(eGenre genre)
 void tst_DBoutonAbstraitDisposition::cleanup()
 {
     QVERIFY(QApplication::topLevelWidgets().isEmpty());
+}
+
+void tst_DBoutonAbstraitDisposition::elements_data()
+{
+    AjouteGenres();
+}
+
+void tst_DBoutonAbstraitDisposition::elements()
+{
+    QFETCH(eGenre, genre);
+    std::unique_ptr<DBoutonAbstrait> const controle(Cree(genre, u"abc"_s));
+    QVERIFY(controle->hasMouseTracking());
+    auto * const disposition = qobject_cast<QHBoxLayout *>(controle->layout());
+    QVERIFY(disposition);
+    QCOMPARE(disposition->contentsMargins(), QMargins());
+    QCOMPARE(disposition->count(), 3);
+    QCOMPARE(disposition->itemAt(0)->widget(), &Indicateur(*controle));
+    QCOMPARE(disposition->itemAt(1)->widget(), &Libelle(*controle));
+    QVERIFY(disposition->itemAt(2)->spacerItem());
+    QCOMPARE(disposition->stretch(2), 1);
+    QCOMPARE(disposition->stretch(0) + disposition->stretch(1), 0);
+    QCOMPARE(Libelle(*controle).textFormat(), Qt::RichText);
 }
 
 void tst_DBoutonAbstraitDisposition::uneLigneTantQuIlYADeLaPlace_data()

@@ -1,7 +1,7 @@
 // tests/touch/tst_DGestionnaireTapGesture.cpp
 #include "touch/DGestionnaireTapGesture.h"
 
-#include "touch/EssaisTactiles.h"
+#include "touch/WidgetTouchay.h"
 
 using namespace EssaisTactiles;
 
@@ -71,20 +71,16 @@ void tst_DGestionnaireTapGesture::sansWidget()
 
 void tst_DGestionnaireTapGesture::tapEnClic()
 {
-    QWidget widget;
-    widget.resize(200, 200);
-    Temoin const temoin(&widget, kTraces);
-    new DGestionnaireTapGesture(&widget);
-    widget.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&widget));
+    WidgetTouchay banc;
+    QVERIFY(banc.Montre());
 
-    QTest::touchEvent(&widget, DonneEcranTactile()).press(0, QPoint(30, 40), &widget);
-    QCOMPARE(temoin.Compte(), 0); // nor what Qt makes of the touch
-    QTest::touchEvent(&widget, DonneEcranTactile()).release(0, QPoint(30, 40), &widget);
-    QCOMPARE(temoin.DonneTypes(), kClic);
-    for (Temoin::Trace const & trace : temoin.DonneTraces()) {
+    QTest::touchEvent(&banc.widget, DonneEcranTactile()).press(0, QPoint(30, 40), &banc.widget);
+    QCOMPARE(banc.temoin.Compte(), 0); // nor what Qt makes of the touch
+    QTest::touchEvent(&banc.widget, DonneEcranTactile()).release(0, QPoint(30, 40), &banc.widget);
+    QCOMPARE(banc.temoin.DonneTypes(), kClic);
+    for (Temoin::Trace const & trace : banc.temoin.DonneTraces()) {
         QCOMPARE(trace.position, QPointF(30, 40));
-        QCOMPARE(trace.globale, widget.mapToGlobal(QPointF(30, 40)));
+        QCOMPARE(trace.globale, banc.widget.mapToGlobal(QPointF(30, 40)));
         QCOMPARE(trace.bouton, Qt::LeftButton);
         QCOMPARE(trace.boutons, Qt::LeftButton); // of the release too
         QCOMPARE(trace.touches, Qt::NoModifier);
@@ -95,63 +91,47 @@ void tst_DGestionnaireTapGesture::tapEnClic()
 
 void tst_DGestionnaireTapGesture::deuxTapsEnDoubleClic()
 {
-    QWidget widget;
-    widget.resize(200, 200);
-    Temoin const temoin(&widget, kTraces);
-    new DGestionnaireTapGesture(&widget);
-    widget.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&widget));
+    WidgetTouchay banc;
+    QVERIFY(banc.Montre());
 
-    Tape(&widget, QPoint(30, 40));
-    Tape(&widget, QPoint(30, 40));
+    Tape(&banc.widget, QPoint(30, 40));
+    Tape(&banc.widget, QPoint(30, 40));
     // Qt has made a double click of the second touch as well.
-    QCOMPARE(temoin.DonneTypes(), kClic + kDoubleClic);
+    QCOMPARE(banc.temoin.DonneTypes(), kClic + kDoubleClic);
 }
 
 void tst_DGestionnaireTapGesture::troisiemeTapEnClic()
 {
-    QWidget widget;
-    widget.resize(200, 200);
-    Temoin const temoin(&widget, kTraces);
-    new DGestionnaireTapGesture(&widget);
-    widget.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&widget));
+    WidgetTouchay banc;
+    QVERIFY(banc.Montre());
 
     for (int i = 0; i < 4; ++i)
-        Tape(&widget, QPoint(30, 40));
-    QCOMPARE(temoin.DonneTypes(), kClic + kDoubleClic + kClic + kDoubleClic);
+        Tape(&banc.widget, QPoint(30, 40));
+    QCOMPARE(banc.temoin.DonneTypes(), kClic + kDoubleClic + kClic + kDoubleClic);
 }
 
 void tst_DGestionnaireTapGesture::tapsLents()
 {
-    QWidget widget;
-    widget.resize(200, 200);
-    Temoin const temoin(&widget, kTraces);
-    new DGestionnaireTapGesture(&widget);
-    widget.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&widget));
+    WidgetTouchay banc;
+    QVERIFY(banc.Montre());
 
     QGuiApplication::styleHints()->setMouseDoubleClickInterval(0); // any time is too long
-    Tape(&widget, QPoint(30, 40));
-    Tape(&widget, QPoint(30, 40));
-    QCOMPARE(temoin.DonneTypes(), kClic + kClic);
+    Tape(&banc.widget, QPoint(30, 40));
+    Tape(&banc.widget, QPoint(30, 40));
+    QCOMPARE(banc.temoin.DonneTypes(), kClic + kClic);
 }
 
 void tst_DGestionnaireTapGesture::tapLentRecommenceLAttente()
 {
-    QWidget widget;
-    widget.resize(200, 200);
-    Temoin const temoin(&widget, kTraces);
-    new DGestionnaireTapGesture(&widget);
-    widget.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&widget));
+    WidgetTouchay banc;
+    QVERIFY(banc.Montre());
 
     QGuiApplication::styleHints()->setMouseDoubleClickInterval(0);
-    Tape(&widget, QPoint(30, 40));
-    Tape(&widget, QPoint(30, 40));
+    Tape(&banc.widget, QPoint(30, 40));
+    Tape(&banc.widget, QPoint(30, 40));
     QGuiApplication::styleHints()->setMouseDoubleClickInterval(kLong);
-    Tape(&widget, QPoint(30, 40));
-    QCOMPARE(temoin.DonneTypes(), kClic + kClic + kDoubleClic);
+    Tape(&banc.widget, QPoint(30, 40));
+    QCOMPARE(banc.temoin.DonneTypes(), kClic + kClic + kDoubleClic);
 }
 
 void tst_DGestionnaireTapGesture::gesteEnCours_data()
@@ -193,33 +173,25 @@ void tst_DGestionnaireTapGesture::gesteEnCours()
 
 void tst_DGestionnaireTapGesture::glissementSansClic()
 {
-    QWidget widget;
-    widget.resize(200, 200);
-    Temoin const temoin(&widget, kTraces);
-    new DGestionnaireTapGesture(&widget);
-    widget.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&widget));
+    WidgetTouchay banc;
+    QVERIFY(banc.Montre());
 
-    QTest::touchEvent(&widget, DonneEcranTactile()).press(0, QPoint(10, 10), &widget);
-    QTest::touchEvent(&widget, DonneEcranTactile()).move(0, QPoint(150, 10), &widget);
-    QTest::touchEvent(&widget, DonneEcranTactile()).release(0, QPoint(150, 10), &widget);
-    QCOMPARE(temoin.Compte(), 0);
+    QTest::touchEvent(&banc.widget, DonneEcranTactile()).press(0, QPoint(10, 10), &banc.widget);
+    QTest::touchEvent(&banc.widget, DonneEcranTactile()).move(0, QPoint(150, 10), &banc.widget);
+    QTest::touchEvent(&banc.widget, DonneEcranTactile()).release(0, QPoint(150, 10), &banc.widget);
+    QCOMPARE(banc.temoin.Compte(), 0);
 }
 
 void tst_DGestionnaireTapGesture::tapSurUnEnfant()
 {
-    QWidget widget;
-    widget.resize(200, 200);
-    QFrame enfant(&widget);
+    WidgetTouchay banc;
+    QFrame enfant(&banc.widget);
     enfant.setGeometry(100, 50, 80, 80);
-    Temoin const temoin(&widget, kTraces);
-    new DGestionnaireTapGesture(&widget);
-    widget.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&widget));
+    QVERIFY(banc.Montre());
 
     Tape(&enfant, QPoint(5, 6));
-    QCOMPARE(temoin.DonneTypes(), kClic);
-    QCOMPARE(temoin.DonneTraces().first().position, QPointF(105, 56));
+    QCOMPARE(banc.temoin.DonneTypes(), kClic);
+    QCOMPARE(banc.temoin.DonneTraces().first().position, QPointF(105, 56));
 }
 
 void tst_DGestionnaireTapGesture::autreGeste()

@@ -4,7 +4,7 @@
 // finger or a pen.
 #include "touch/DGestionnaireTapGesture.h"
 
-#include "touch/EssaisTactiles.h"
+#include "touch/WidgetTouchay.h"
 
 using namespace EssaisTactiles;
 
@@ -75,22 +75,18 @@ void tst_DGestionnaireTapGesturePlume::sourisSynthetique()
 // A touch that is taken away leaves the tap without an end.
 void tst_DGestionnaireTapGesturePlume::toucherAnnulay()
 {
-    QWidget widget;
-    widget.resize(200, 200);
-    Temoin const temoin(&widget, kTraces);
-    new DGestionnaireTapGesture(&widget);
-    widget.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&widget));
+    WidgetTouchay banc;
+    QVERIFY(banc.Montre());
 
-    QTest::touchEvent(&widget, DonneEcranTactile()).press(0, QPoint(30, 40), &widget);
+    QTest::touchEvent(&banc.widget, DonneEcranTactile()).press(0, QPoint(30, 40), &banc.widget);
     QMouseEvent souris = FaisSouris(QEvent::MouseButtonDblClick, Qt::MouseEventSynthesizedBySystem);
-    QCoreApplication::sendEvent(&widget, &souris);
-    QCOMPARE(temoin.Compte(), 0); // a finger is down
+    QCoreApplication::sendEvent(&banc.widget, &souris);
+    QCOMPARE(banc.temoin.Compte(), 0); // a finger is down
     QTouchEvent annulation = FaisToucher(QEvent::TouchCancel);
-    QCoreApplication::sendEvent(&widget, &annulation);
-    QCoreApplication::sendEvent(&widget, &souris);
-    QCOMPARE(temoin.DonneTypes(), QList{QEvent::MouseButtonDblClick});
-    QTest::touchEvent(&widget, DonneEcranTactile()).release(0, QPoint(30, 40), &widget);
+    QCoreApplication::sendEvent(&banc.widget, &annulation);
+    QCoreApplication::sendEvent(&banc.widget, &souris);
+    QCOMPARE(banc.temoin.DonneTypes(), QList{QEvent::MouseButtonDblClick});
+    QTest::touchEvent(&banc.widget, DonneEcranTactile()).release(0, QPoint(30, 40), &banc.widget);
 }
 
 void tst_DGestionnaireTapGesturePlume::plume()

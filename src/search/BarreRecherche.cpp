@@ -58,6 +58,7 @@ QLineEdit * CreeChamp(QWidget * parent, ChaineLocalisable const & invite)
     champ->setFixedHeight(kHauteurChamp);
     champ->setMinimumWidth(kLargeurMinChamp);
     champ->setPlaceholderText(TraductionGui(invite));
+    champ->setAccessibleName(champ->placeholderText()); // which goes once there is a text
     champ->setClearButtonEnabled(true);
     return champ;
 }

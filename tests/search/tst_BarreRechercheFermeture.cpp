@@ -1,0 +1,440 @@
+// tests/search/tst_BarreRechercheFermeture.cpp
+#include "search/HoteEspion.h"
+#include "search/PiecesBarre.h"
+
+#include <QtTest>
+
+#include <QDialog>
+#include <QPushButton>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+// Writes down what the host and the receivers of a bar hear, with "!" once the bar is hidden.
+class JournalFermeture : public QObject
+{
+public:
+    explicit JournalFermeture(BarreRecherche * barre)
+        : espion(barre)
+    {
+        auto const note = [this, barre](QString const & nom) {
+            lignes << (barre->isHidden() ? u'!' + nom : nom);
+        };
+        espion.pendantUnAppel = note;
+        connect(barre, &BarreRecherche::SignalFermeture, this, [=] { note(u"Fermeture"_s); });
+        connect(barre, &BarreRecherche::SignalBarreRechercheFermay, this,
+                [=] { note(u"Fermay"_s); });
+    }
+
+    HoteEspion espion;
+    QStringList lignes;
+};
+
+// Sees the releases of Escape that arrive at an object, and lets them pass.
+class TemoinEchap : public QObject
+{
+public:
+    bool eventFilter(QObject *, QEvent * evenement) override
+    {
+        if (evenement->type() == QEvent::KeyRelease &&
+            static_cast<QKeyEvent *>(evenement)->key() == Qt::Key_Escape)
+            ++releves;
+        return false;
+    }
+
+    int releves = 0;
+};
+
+// The way in which a host keeps the press of Escape from its dialog.
+class GardeEchap : public QObject
+{
+public:
+    bool eventFilter(QObject *, QEvent * evenement) override
+    {
+        if (evenement->type() != QEvent::KeyPress ||
+            static_cast<QKeyEvent *>(evenement)->key() != Qt::Key_Escape)
+            return false;
+        evenement->accept();
+        return true;
+    }
+};
+
+} // namespace
+
+class tst_BarreRechercheFermeture : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void cleanup();
+
+    void parLeBouton();
+    void parLaPrise();
+    void parEchap_data();
+    void parEchap();
+    void echapAuRelachement();
+    void autresTouches_data();
+    void autresTouches();
+    void echapAilleurs_data();
+    void echapAilleurs();
+    void echapNonAvalay();
+    void parLHote();
+    void fermetureRedefinie();
+    void dansUnDialogue_data();
+    void dansUnDialogue();
+    void chaqueAffichage();
+    void reouverture();
+    void suppression_data();
+    void suppression();
+    void suppressionParAnnulation();
+    void menuSurvit();
+    void menuOuvert();
+    void rienNeReste();
+};
+
+void tst_BarreRechercheFermeture::cleanup()
+{
+    EnvoieSuppressions();
+    QVERIFY(QApplication::topLevelWidgets().isEmpty());
+}
+
+void tst_BarreRechercheFermeture::parLeBouton()
+{
+    FenetreDeBarre essai;
+    QVERIFY(essai.Montre());
+    JournalFermeture const journal(essai.barre);
+    QTest::mouseClick(essai.pieces.fermer, Qt::LeftButton);
+    QCOMPARE(journal.lignes, QStringList({u"AnnulerRemplacerTout"_s, u"Fermay"_s, u"Fermeture"_s}));
+    QVERIFY(essai.barre->isHidden());
+}
+
+void tst_BarreRechercheFermeture::parLaPrise()
+{
+    FenetreDeBarre essai;
+    QVERIFY(essai.Montre());
+    essai.barre->MetsCallback(nullptr);
+    QSignalSpy const espion(essai.barre, &BarreRecherche::SignalBarreRechercheFermay);
+    WidgetRechercheAbstrait & recherche = *essai.barre;
+    recherche.PriseBoutonFermer();
+    QCOMPARE(espion.size(), 1);
+    QVERIFY(essai.barre->isHidden());
+}
+
+void tst_BarreRechercheFermeture::parEchap_data()
+{
+    QTest::addColumn<bool>("recherche");
+    QTest::newRow("search field") << true;
+    QTest::newRow("replace field") << false;
+}
+
+void tst_BarreRechercheFermeture::parEchap()
+{
+    QFETCH(bool, recherche);
+    FenetreDeBarre essai;
+    essai.pieces.Action(u"Remplacer"_s)->trigger();
+    QVERIFY(essai.Montre());
+    essai.barre->MetEnCoursDeRemplacerTout(true);
+    JournalFermeture const journal(essai.barre);
+    QLineEdit * const champ = recherche ? essai.pieces.recherche : essai.pieces.remplacement;
+    champ->setFocus();
+
+    QTest::keyClick(champ, Qt::Key_Escape);
+
+    // Not the order of the button, and what runs goes on.
+    QCOMPARE(journal.lignes, QStringList({u"Fermeture"_s, u"!Fermay"_s}));
+    QVERIFY(essai.barre->isHidden());
+}
+
+void tst_BarreRechercheFermeture::echapAuRelachement()
+{
+    FenetreDeBarre essai;
+    QVERIFY(essai.Montre());
+    JournalFermeture const journal(essai.barre);
+    QTest::keyPress(essai.pieces.recherche, Qt::Key_Escape);
+    QVERIFY(journal.lignes.isEmpty());
+    QVERIFY(essai.barre->isVisible());
+    QTest::keyRelease(essai.pieces.recherche, Qt::Key_Escape);
+    QCOMPARE(journal.lignes.size(), 2);
+    QVERIFY(essai.barre->isHidden());
+}
+
+void tst_BarreRechercheFermeture::autresTouches_data()
+{
+    QTest::addColumn<Qt::Key>("touche");
+    QTest::newRow("Return") << Qt::Key_Return;
+    QTest::newRow("letter") << Qt::Key_A;
+    QTest::newRow("F3") << Qt::Key_F3;
+    QTest::newRow("arrow") << Qt::Key_Down;
+}
+
+void tst_BarreRechercheFermeture::autresTouches()
+{
+    QFETCH(Qt::Key, touche);
+    FenetreDeBarre essai;
+    QVERIFY(essai.Montre());
+    QSignalSpy const espion(essai.barre, &BarreRecherche::SignalFermeture);
+    QTest::keyClick(essai.pieces.recherche, touche);
+    QCOMPARE(espion.size(), 0);
+    QVERIFY(essai.barre->isVisible());
+}
+
+void tst_BarreRechercheFermeture::echapAilleurs_data()
+{
+    QTest::addColumn<QToolButton * PiecesBarre::*>("bouton");
+    QTest::newRow("options") << &PiecesBarre::options;
+    QTest::newRow("previous") << &PiecesBarre::precedent;
+    QTest::newRow("next") << &PiecesBarre::suivant;
+    QTest::newRow("close") << &PiecesBarre::fermer;
+    QTest::newRow("replace") << &PiecesBarre::remplacer;
+    QTest::newRow("all") << &PiecesBarre::tout;
+}
+
+void tst_BarreRechercheFermeture::echapAilleurs()
+{
+    QFETCH(QToolButton * PiecesBarre::*, bouton);
+    FenetreDeBarre essai;
+    essai.pieces.Action(u"Remplacer"_s)->trigger();
+    QVERIFY(essai.Montre());
+    JournalFermeture const journal(essai.barre);
+    (essai.pieces.*bouton)->setFocus();
+    QTest::keyClick(essai.pieces.*bouton, Qt::Key_Escape);
+    QTest::keyClick(essai.barre, Qt::Key_Escape);
+    QVERIFY(journal.lignes.isEmpty());
+    QVERIFY(essai.barre->isVisible());
+}
+
+void tst_BarreRechercheFermeture::echapNonAvalay()
+{
+    FenetreDeBarre essai;
+    QVERIFY(essai.Montre());
+    QLineEdit * const champ = essai.pieces.recherche;
+    TemoinEchap temoin;
+    // Qt asks the filter that came last first: the witness comes behind the bar.
+    champ->removeEventFilter(essai.barre);
+    champ->installEventFilter(&temoin);
+    champ->installEventFilter(essai.barre);
+
+    QTest::keyClick(champ, Qt::Key_Escape);
+
+    QVERIFY(essai.barre->isHidden());
+    QCOMPARE(temoin.releves, 1);
+}
+
+void tst_BarreRechercheFermeture::parLHote()
+{
+    FenetreDeBarre essai;
+    QVERIFY(essai.Montre());
+    JournalFermeture const journal(essai.barre);
+    essai.barre->CacheToi();
+    QCOMPARE(journal.lignes, QStringList{u"Fermeture"_s});
+    QVERIFY(essai.barre->isHidden());
+}
+
+void tst_BarreRechercheFermeture::fermetureRedefinie()
+{
+    class BarreDerivee : public BarreRecherche
+    {
+    public:
+        using BarreRecherche::BarreRecherche;
+        void CacheToi() override { ++fermetures; }
+
+        int fermetures = 0;
+    };
+    BarreDerivee barre;
+    PiecesBarre const pieces(barre);
+    QTest::keyClick(pieces.recherche, Qt::Key_Escape);
+    QCOMPARE(barre.fermetures, 1);
+    QTest::mouseClick(pieces.fermer, Qt::LeftButton);
+    QCOMPARE(barre.fermetures, 2);
+}
+
+void tst_BarreRechercheFermeture::dansUnDialogue_data()
+{
+    QTest::addColumn<bool>("garde");
+    QTest::newRow("the press goes to the dialog") << false;
+    QTest::newRow("the host keeps the press") << true;
+}
+
+void tst_BarreRechercheFermeture::dansUnDialogue()
+{
+    QFETCH(bool, garde);
+    QDialog dialogue;
+    auto * const barre = new BarreRecherche(&dialogue, true);
+    barre->resize(400, barre->height());
+    GardeEchap gardien;
+    if (garde)
+        barre->installEventFilter(&gardien);
+    dialogue.show();
+    QVERIFY(QTest::qWaitForWindowActive(&dialogue));
+    QTRY_VERIFY(PiecesBarre(*barre).recherche->hasFocus());
+
+    QTest::keyClick(dialogue.windowHandle(), Qt::Key_Escape);
+
+    QCOMPARE(dialogue.isVisible(), garde);
+    if (garde)
+        QVERIFY(barre->isHidden());
+}
+
+void tst_BarreRechercheFermeture::chaqueAffichage()
+{
+    FenetreDeBarre essai;
+    auto * const document = new QLineEdit(&essai.fenetre);
+    document->move(0, 60);
+    essai.pieces.recherche->setText(u"mot"_s);
+    QVERIFY(essai.Montre());
+    QTRY_VERIFY(essai.pieces.recherche->hasFocus());
+    QCOMPARE(essai.pieces.recherche->selectedText(), u"mot"_s);
+
+    essai.pieces.recherche->deselect();
+    document->setFocus();
+    essai.barre->hide();
+    essai.barre->AfficheToi();
+    QTRY_VERIFY(essai.pieces.recherche->hasFocus());
+    QCOMPARE(essai.pieces.recherche->selectedText(), u"mot"_s);
+
+    // Shown already, nothing happens.
+    document->setFocus();
+    essai.barre->AfficheToi();
+    QVERIFY(document->hasFocus());
+    essai.barre->PrendsFocus();
+    QVERIFY(essai.pieces.recherche->hasFocus());
+}
+
+void tst_BarreRechercheFermeture::reouverture()
+{
+    FenetreDeBarre essai;
+    QVERIFY(essai.Montre());
+    essai.pieces.recherche->setText(u"mot"_s);
+    essai.pieces.Action(u"Remplacer"_s)->trigger();
+    essai.pieces.Action(u"commence par"_s)->trigger();
+    QTest::mouseClick(essai.pieces.fermer, Qt::LeftButton);
+    essai.barre->AfficheToi();
+    // Closing destroys nothing: the bar comes back as it was.
+    QCOMPARE(essai.pieces.recherche->text(), u"mot"_s);
+    QVERIFY(essai.pieces.remplacement->isVisible());
+    QVERIFY(essai.pieces.Action(u"commence par"_s)->isChecked());
+    QCOMPARE(essai.barre->height(), 50);
+}
+
+void tst_BarreRechercheFermeture::suppression_data()
+{
+    QTest::addColumn<bool>("fermay");
+    QTest::addColumn<bool>("echap");
+    QTest::addColumn<QStringList>("entendus");
+    QTest::newRow("button, first signal") << true << false << QStringList{u"Fermay"_s};
+    QTest::newRow("button, second signal")
+        << false << false << QStringList{u"Fermay"_s, u"Fermeture"_s};
+    QTest::newRow("Escape, first signal") << false << true << QStringList{u"Fermeture"_s};
+    QTest::newRow("Escape, second signal")
+        << true << true << QStringList{u"Fermeture"_s, u"Fermay"_s};
+}
+
+void tst_BarreRechercheFermeture::suppression()
+{
+    QFETCH(bool, fermay);
+    QFETCH(bool, echap);
+    FenetreDeBarre essai;
+    QVERIFY(essai.Montre());
+    QStringList entendus;
+    auto const entends = [&](QString const & nom, bool fatal) {
+        entendus << nom;
+        if (fatal)
+            delete essai.barre;
+    };
+    connect(essai.barre, &BarreRecherche::SignalFermeture, this,
+            [&] { entends(u"Fermeture"_s, !fermay); });
+    connect(essai.barre, &BarreRecherche::SignalBarreRechercheFermay, this,
+            [&] { entends(u"Fermay"_s, fermay); });
+
+    if (echap)
+        QTest::keyClick(essai.fenetre.windowHandle(), Qt::Key_Escape);
+    else
+        QTest::mouseClick(essai.pieces.fermer, Qt::LeftButton);
+
+    QTEST(entendus, "entendus");
+    QVERIFY(essai.fenetre.findChild<BarreRecherche *>() == nullptr);
+}
+
+void tst_BarreRechercheFermeture::suppressionParAnnulation()
+{
+    for (bool const fermeture : {false, true}) {
+        FenetreDeBarre essai;
+        QVERIFY(essai.Montre());
+        essai.barre->MetEnCoursDeRemplacerTout(true);
+        HoteEspion hote(essai.barre);
+        QSignalSpy const espion(essai.barre, &BarreRecherche::SignalBarreRechercheFermay);
+        hote.pendantUnAppel = [&](QString const &) {
+            hote.OublieRecherche();
+            delete essai.barre;
+        };
+        QTest::mouseClick(fermeture ? essai.pieces.fermer : essai.pieces.annuler, Qt::LeftButton);
+        QCOMPARE(hote.DonneNoms(), QStringList{u"AnnulerRemplacerTout"_s});
+        QCOMPARE(espion.size(), 0);
+    }
+}
+
+void tst_BarreRechercheFermeture::menuSurvit()
+{
+    auto * const barre = new BarreRecherche(nullptr, true, true, true, true);
+    PiecesBarre const pieces(*barre);
+    QPointer<QMenu> const menu(pieces.Menu());
+    QPointer<QAction> const remplacer(pieces.Action(u"Remplacer"_s));
+    QList<QPointer<QAction>> autres;
+    for (QString const & texte :
+         {u"contient"_s, u"commence par"_s, u"Mot entier"_s, u"respecter la casse"_s})
+        autres.append(pieces.Action(texte));
+
+    delete barre;
+
+    for (QPointer<QAction> const & action : autres)
+        QVERIFY(action.isNull());
+    QVERIFY(!menu.isNull());
+    QVERIFY(!remplacer.isNull());
+    remplacer->trigger(); // there is no row to open any more
+    QVERIFY(remplacer->isChecked());
+    EnvoieSuppressions();
+    QVERIFY(menu.isNull());
+    QVERIFY(remplacer.isNull());
+}
+
+void tst_BarreRechercheFermeture::menuOuvert()
+{
+    auto * const barre = new BarreRecherche(nullptr, true);
+    barre->resize(400, barre->height());
+    barre->show();
+    QVERIFY(QTest::qWaitForWindowActive(barre));
+    QPointer<QMenu> const menu(PiecesBarre(*barre).Menu());
+    menu->popup(barre->mapToGlobal(QPoint(0, barre->height())));
+    QTRY_VERIFY(menu->isVisible());
+    delete barre;
+    QVERIFY(!menu.isNull());
+    QTRY_VERIFY(menu.isNull());
+}
+
+void tst_BarreRechercheFermeture::rienNeReste()
+{
+    constexpr int kBarres = 200;
+    auto const compte = [] {
+        EnvoieSuppressions();
+        return QApplication::allWidgets().size();
+    };
+    qsizetype const avant = compte();
+    QList<QPointer<QAction>> actions;
+    {
+        QWidget parent;
+        for (int rang = 0; rang < kBarres; ++rang) {
+            auto const * const barre =
+                new BarreRecherche(&parent, true, rang % 2 == 0, rang % 3 == 0, true);
+            for (QAction * const action : PiecesBarre(*barre).Menu()->actions())
+                actions.append(action);
+        }
+        QVERIFY(QApplication::allWidgets().size() >= avant + kBarres);
+    }
+    QCOMPARE(compte(), avant);
+    for (QPointer<QAction> const & action : actions)
+        QVERIFY(action.isNull());
+}
+
+QTEST_MAIN(tst_BarreRechercheFermeture)
+#include "tst_BarreRechercheFermeture.moc"

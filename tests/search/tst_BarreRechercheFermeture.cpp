@@ -5,7 +5,6 @@
 #include <QtTest>
 
 #include <QDialog>
-#include <QPushButton>
 
 using namespace Qt::StringLiterals;
 
@@ -85,12 +84,6 @@ private Q_SLOTS:
     void dansUnDialogue();
     void chaqueAffichage();
     void reouverture();
-    void suppression_data();
-    void suppression();
-    void suppressionParAnnulation();
-    void menuSurvit();
-    void menuOuvert();
-    void rienNeReste();
 };
 
 void tst_BarreRechercheFermeture::cleanup()
@@ -315,125 +308,6 @@ void tst_BarreRechercheFermeture::reouverture()
     QVERIFY(essai.pieces.remplacement->isVisible());
     QVERIFY(essai.pieces.Action(u"commence par"_s)->isChecked());
     QCOMPARE(essai.barre->height(), 50);
-}
-
-void tst_BarreRechercheFermeture::suppression_data()
-{
-    QTest::addColumn<bool>("fermay");
-    QTest::addColumn<bool>("echap");
-    QTest::addColumn<QStringList>("entendus");
-    QTest::newRow("button, first signal") << true << false << QStringList{u"Fermay"_s};
-    QTest::newRow("button, second signal")
-        << false << false << QStringList{u"Fermay"_s, u"Fermeture"_s};
-    QTest::newRow("Escape, first signal") << false << true << QStringList{u"Fermeture"_s};
-    QTest::newRow("Escape, second signal")
-        << true << true << QStringList{u"Fermeture"_s, u"Fermay"_s};
-}
-
-void tst_BarreRechercheFermeture::suppression()
-{
-    QFETCH(bool, fermay);
-    QFETCH(bool, echap);
-    FenetreDeBarre essai;
-    QVERIFY(essai.Montre());
-    QStringList entendus;
-    auto const entends = [&](QString const & nom, bool fatal) {
-        entendus << nom;
-        if (fatal)
-            delete essai.barre;
-    };
-    connect(essai.barre, &BarreRecherche::SignalFermeture, this,
-            [&] { entends(u"Fermeture"_s, !fermay); });
-    connect(essai.barre, &BarreRecherche::SignalBarreRechercheFermay, this,
-            [&] { entends(u"Fermay"_s, fermay); });
-
-    if (echap)
-        QTest::keyClick(essai.fenetre.windowHandle(), Qt::Key_Escape);
-    else
-        QTest::mouseClick(essai.pieces.fermer, Qt::LeftButton);
-
-    QTEST(entendus, "entendus");
-    QVERIFY(essai.fenetre.findChild<BarreRecherche *>() == nullptr);
-}
-
-void tst_BarreRechercheFermeture::suppressionParAnnulation()
-{
-    for (bool const fermeture : {false, true}) {
-        FenetreDeBarre essai;
-        QVERIFY(essai.Montre());
-        essai.barre->MetEnCoursDeRemplacerTout(true);
-        HoteEspion hote(essai.barre);
-        QSignalSpy const espion(essai.barre, &BarreRecherche::SignalBarreRechercheFermay);
-        hote.pendantUnAppel = [&](QString const &) {
-            hote.OublieRecherche();
-            delete essai.barre;
-        };
-        QTest::mouseClick(fermeture ? essai.pieces.fermer : essai.pieces.annuler, Qt::LeftButton);
-        QCOMPARE(hote.DonneNoms(), QStringList{u"AnnulerRemplacerTout"_s});
-        QCOMPARE(espion.size(), 0);
-    }
-}
-
-void tst_BarreRechercheFermeture::menuSurvit()
-{
-    auto * const barre = new BarreRecherche(nullptr, true, true, true, true);
-    PiecesBarre const pieces(*barre);
-    QPointer<QMenu> const menu(pieces.Menu());
-    QPointer<QAction> const remplacer(pieces.Action(u"Remplacer"_s));
-    QList<QPointer<QAction>> autres;
-    for (QString const & texte :
-         {u"contient"_s, u"commence par"_s, u"Mot entier"_s, u"respecter la casse"_s})
-        autres.append(pieces.Action(texte));
-
-    delete barre;
-
-    for (QPointer<QAction> const & action : autres)
-        QVERIFY(action.isNull());
-    QVERIFY(!menu.isNull());
-    QVERIFY(!remplacer.isNull());
-    remplacer->trigger(); // there is no row to open any more
-    QVERIFY(remplacer->isChecked());
-    EnvoieSuppressions();
-    QVERIFY(menu.isNull());
-    QVERIFY(remplacer.isNull());
-}
-
-void tst_BarreRechercheFermeture::menuOuvert()
-{
-    auto * const barre = new BarreRecherche(nullptr, true);
-    barre->resize(400, barre->height());
-    barre->show();
-    QVERIFY(QTest::qWaitForWindowActive(barre));
-    QPointer<QMenu> const menu(PiecesBarre(*barre).Menu());
-    menu->popup(barre->mapToGlobal(QPoint(0, barre->height())));
-    QTRY_VERIFY(menu->isVisible());
-    delete barre;
-    QVERIFY(!menu.isNull());
-    QTRY_VERIFY(menu.isNull());
-}
-
-void tst_BarreRechercheFermeture::rienNeReste()
-{
-    constexpr int kBarres = 200;
-    auto const compte = [] {
-        EnvoieSuppressions();
-        return QApplication::allWidgets().size();
-    };
-    qsizetype const avant = compte();
-    QList<QPointer<QAction>> actions;
-    {
-        QWidget parent;
-        for (int rang = 0; rang < kBarres; ++rang) {
-            auto const * const barre =
-                new BarreRecherche(&parent, true, rang % 2 == 0, rang % 3 == 0, true);
-            for (QAction * const action : PiecesBarre(*barre).Menu()->actions())
-                actions.append(action);
-        }
-        QVERIFY(QApplication::allWidgets().size() >= avant + kBarres);
-    }
-    QCOMPARE(compte(), avant);
-    for (QPointer<QAction> const & action : actions)
-        QVERIFY(action.isNull());
 }
 
 QTEST_MAIN(tst_BarreRechercheFermeture)

@@ -1,5 +1,5 @@
 // tests/search/tst_WidgetRechercheAbstrait.cpp
-#include "search/HoteEspion.h"
+#include "search/FrontalEspion.h"
 
 #include <QtTest>
 
@@ -9,79 +9,6 @@ using namespace Qt::StringLiterals;
 using CstRecherche::eTypeRecherche;
 
 namespace {
-
-// What the controls of the front end below say at each refresh.
-constexpr auto kChaineLue = "lue";
-constexpr auto kRemplacementLu = "remplacement lu";
-constexpr short kOptionsLues = 0x12;
-
-// A front end without controls, which records the virtual calls on it.
-class FrontalEspion : public WidgetRechercheAbstrait
-{
-public:
-    using WidgetRechercheAbstrait::AfficheToi;
-    using WidgetRechercheAbstrait::DonnePermetRemplacer;
-    using WidgetRechercheAbstrait::PriseBoutonAnnuler;
-    using WidgetRechercheAbstrait::RetiensChaineRecherche;
-    using WidgetRechercheAbstrait::RetiensChaineRemplacement;
-    using WidgetRechercheAbstrait::RetiensSensRecherche;
-    using WidgetRechercheAbstrait::WidgetRechercheAbstrait;
-
-    void AfficheMessageTexteIntrouvable(bool) const override {}
-    void AfficheToi() override { journal << u"AfficheToi"_s; }
-    void ActualiseOccurrences(int const & position, int const & total) override
-    {
-        journal << u"ActualiseOccurrences(%1, %2)"_s.arg(position).arg(total);
-    }
-    void CacheToi() override { journal << u"CacheToi"_s; }
-    QWidget * DonneMoiEnWidget() override { return nullptr; }
-    void MetsChaineAChercher(UniChaine chaine) override
-    {
-        journal << u"MetsChaineAChercher("_s + QString(chaine) + u')';
-    }
-    void ModifieSensRecherche(eTypeRecherche type) override
-    {
-        journal << u"ModifieSensRecherche(%1)"_s.arg(int(type));
-        RetiensSensRecherche(type);
-    }
-    void PrendsChaineRecherche(QString const &) override { journal << u"PrendsChaineRecherche"_s; }
-    void PrendsChaineRemplacement(QString const &) override
-    {
-        journal << u"PrendsChaineRemplacement"_s;
-    }
-    void PrendsFocus() override { journal << u"PrendsFocus"_s; }
-    void PriseBoutonFermer() override {}
-
-    QStringList journal;
-
-protected:
-    void ActualiserEtatPanneau() override
-    {
-        journal << u"ActualiserEtatPanneau"_s;
-        RetiensChaineRecherche(QString::fromLatin1(kChaineLue));
-        RetiensChaineRemplacement(QString::fromLatin1(kRemplacementLu));
-        PrendsOptions(kOptionsLues);
-    }
-    void PriseActualiserEtatPanneau() override {}
-    void PriseBoutonChercher() override {}
-    void PriseChercherSuivant() override {}
-    void PriseChercherPrecedent() override {}
-    void PriseBoutonRemplacerTout() override {}
-    void PriseBoutonRemplacer() override {}
-};
-
-// A host that writes its calls into the journal of the front end, among the virtual calls.
-class HoteDuFrontal
-{
-public:
-    explicit HoteDuFrontal(FrontalEspion * frontal)
-        : espion(frontal)
-    {
-        espion.pendantUnAppel = [frontal](QString const & nom) { frontal->journal << nom; };
-    }
-
-    HoteEspion espion;
-};
 
 enum class Geste
 {
@@ -123,15 +50,6 @@ void Fais(FrontalEspion & frontal, Geste geste)
     }
 }
 
-// A front end in a state that no gesture leaves behind.
-void Prepare(FrontalEspion & frontal, eTypeRecherche sens)
-{
-    frontal.RetiensChaineRecherche(u"ancienne"_s);
-    frontal.RetiensChaineRemplacement(u"ancien remplacement"_s);
-    frontal.PrendsOptions(0x40);
-    frontal.RetiensSensRecherche(sens);
-}
-
 } // namespace
 
 class tst_WidgetRechercheAbstrait : public QObject
@@ -150,11 +68,6 @@ private Q_SLOTS:
     void remplacementGardeLeSens_data();
     void remplacementGardeLeSens();
     void remplacerToutGardeLesAutresOptions();
-    void ouverture_data();
-    void ouverture();
-    void ouvertureSansHote();
-    void copieGardeLHote();
-    void affectationGardeLHote();
     void hoteRetiray();
     void annulationParDefautNeFaitRien();
     void hoteSansAnnulation();
@@ -318,87 +231,6 @@ void tst_WidgetRechercheAbstrait::remplacerToutGardeLesAutresOptions()
     // 0x12 was read from the controls: upward and downward at once, which a host has to accept.
     QCOMPARE(hote.appels.constFirst().options, short(kOptionsLues | 0x24));
     QCOMPARE(hote.appels.constFirst().remplacement, QString::fromLatin1(kRemplacementLu));
-}
-
-void tst_WidgetRechercheAbstrait::ouverture_data()
-{
-    QTest::addColumn<int>("type");
-    QTest::addColumn<QString>("chaine");
-    QTest::addColumn<QStringList>("appels");
-
-    QStringList const nettoie = {u"Nettoyer"_s, u"ActualiseOccurrences(0, 0)"_s};
-    QStringList const montre = {u"AfficheToi"_s, u"ModifieSensRecherche(0)"_s, u"Chercher"_s};
-    QTest::newRow("new search") << 0 << u"mot"_s
-                                << nettoie +
-                                       QStringList{u"MetsChaineAChercher(mot)"_s,
-                                                   u"PrendsFocus"_s} +
-                                       montre;
-    QTest::newRow("new search, text with white space around it")
-        << 0 << u" \t deux mots\n"_s
-        << nettoie + QStringList{u"MetsChaineAChercher(deux mots)"_s, u"PrendsFocus"_s} + montre;
-    QTest::newRow("new search, blanks only")
-        << 0 << u"   "_s << nettoie + QStringList{u"PrendsFocus"_s} + montre;
-    QTest::newRow("new search, empty text")
-        << 0 << QString() << nettoie + QStringList{u"PrendsFocus"_s} + montre;
-    QTest::newRow("forward ignores the text")
-        << 1 << u"x"_s << QStringList{u"AfficheToi"_s, u"ModifieSensRecherche(1)"_s, u"Chercher"_s};
-    QTest::newRow("backward ignores the text")
-        << 2 << u"x"_s << QStringList{u"AfficheToi"_s, u"ModifieSensRecherche(2)"_s, u"Chercher"_s};
-}
-
-void tst_WidgetRechercheAbstrait::ouverture()
-{
-    QFETCH(int, type);
-    QFETCH(QString, chaine);
-    FrontalEspion frontal;
-    HoteDuFrontal const hote(&frontal);
-    frontal.AfficheToi(eTypeRecherche(type), UniChaine(chaine));
-    QTEST(frontal.journal, "appels");
-    QCOMPARE(int(hote.espion.appels.constLast().sens), type);
-}
-
-void tst_WidgetRechercheAbstrait::ouvertureSansHote()
-{
-    FrontalEspion frontal;
-    frontal.AfficheToi(CstRecherche::kNouvelleRecherche, UniChaine("mot"_L1));
-    QStringList const appels = {u"ActualiseOccurrences(0, 0)"_s, u"MetsChaineAChercher(mot)"_s,
-                                u"PrendsFocus"_s, u"AfficheToi"_s, u"ModifieSensRecherche(0)"_s};
-    QCOMPARE(frontal.journal, appels);
-}
-
-void tst_WidgetRechercheAbstrait::copieGardeLHote()
-{
-    FrontalEspion frontal(true);
-    HoteEspion const hote(&frontal);
-    Prepare(frontal, CstRecherche::kVersLeHaut);
-
-    FrontalEspion copie(frontal);
-
-    QVERIFY(copie.DonnePermetRemplacer());
-    QCOMPARE(copie.DonneChaineRecherche(), u"ancienne"_s);
-    QCOMPARE(copie.DonneChaineRemplacement(), u"ancien remplacement"_s);
-    QCOMPARE(copie.DonneOptions(), short(0x40));
-    QCOMPARE(copie.DonneSensRecherche(), CstRecherche::kVersLeHaut);
-    copie.BoutonAnnulerRemplacerTout();
-    QCOMPARE(hote.DonneNoms(), QStringList{u"AnnulerRemplacerTout"_s});
-}
-
-void tst_WidgetRechercheAbstrait::affectationGardeLHote()
-{
-    FrontalEspion frontal(true);
-    HoteEspion const hote(&frontal);
-    Prepare(frontal, CstRecherche::kVersLeHaut);
-    FrontalEspion autre;
-
-    autre = frontal;
-
-    QVERIFY(autre.DonnePermetRemplacer());
-    QCOMPARE(autre.DonneChaineRecherche(), u"ancienne"_s);
-    QCOMPARE(autre.DonneChaineRemplacement(), u"ancien remplacement"_s);
-    QCOMPARE(autre.DonneOptions(), short(0x40));
-    QCOMPARE(autre.DonneSensRecherche(), CstRecherche::kVersLeHaut);
-    autre.BoutonAnnulerRemplacerTout();
-    QCOMPARE(hote.DonneNoms(), QStringList{u"AnnulerRemplacerTout"_s});
 }
 
 void tst_WidgetRechercheAbstrait::hoteRetiray()

@@ -387,7 +387,8 @@ bool BarreRecherche::eventFilter(QObject * objet, QEvent * evenement)
         static_cast<QKeyEvent *>(evenement)->key() != Qt::Key_Escape)
         return false;
     QPointer<BarreRecherche> const moi(this);
-    // Deliberate: unlike the close button, Escape cancels nothing and tells of the closing last.
+    // Deliberate: whatever the press did, such as to close the menu of the options, its release
+    // closes the bar. Unlike the close button it cancels nothing and tells of the closing last.
     CacheToi();
     if (moi != nullptr)
         Q_EMIT SignalBarreRechercheFermay();
@@ -434,4 +435,5 @@ void BarreRecherche::MontreRemplacement(bool visible)
     // Deliberate: the spacing between the rows is not counted, the band is that tight.
     setFixedHeight(hauteurRemplacement + monChampRecherche->height() + marges.top() +
                    marges.bottom());
+    updateGeometry();
 }

@@ -73,6 +73,7 @@ private Q_SLOTS:
     void parEchap_data();
     void parEchap();
     void echapAuRelachement();
+    void echapDuMenu();
     void autresTouches_data();
     void autresTouches();
     void echapAilleurs_data();
@@ -147,6 +148,21 @@ void tst_BarreRechercheFermeture::echapAuRelachement()
     QVERIFY(essai.barre->isVisible());
     QTest::keyRelease(essai.pieces.recherche, Qt::Key_Escape);
     QCOMPARE(journal.lignes.size(), 2);
+    QVERIFY(essai.barre->isHidden());
+}
+
+void tst_BarreRechercheFermeture::echapDuMenu()
+{
+    FenetreDeBarre essai;
+    QVERIFY(essai.Montre());
+    QMenu * const menu = essai.pieces.Menu();
+    menu->popup(essai.fenetre.mapToGlobal(QPoint()));
+    QTRY_VERIFY(menu->isVisible());
+    QTest::keyPress(menu, Qt::Key_Escape);
+    QVERIFY(!menu->isVisible());
+    QVERIFY(essai.barre->isVisible());
+    // The key comes up in the field, which has the focus again.
+    QTest::keyRelease(essai.fenetre.windowHandle(), Qt::Key_Escape);
     QVERIFY(essai.barre->isHidden());
 }
 

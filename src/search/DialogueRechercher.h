@@ -1,0 +1,131 @@
+// search/DialogueRechercher.h
+#pragma once
+
+#include "FabrelGuiExport.h"
+
+#include "search/WidgetRechercheAbstrait.h"
+
+#include <QDialog>
+
+#include <initializer_list>
+
+class QAbstractButton;
+class QCheckBox;
+class QLineEdit;
+class QPushButton;
+struct ChaineLocalisable;
+
+/// The search dialog: the front end with every option in sight, for searches that are set up first
+/// and then asked for. It is not modal; the document is edited while it stands open.
+///
+/// The mask of the constructor, bits of `CstRecherche::eOption`, says which options it offers, and
+/// nothing else shows; `kTexteEdite` offers nothing. Two bits that exclude each other, `kHaut` and
+/// `kBas`, `kCommencePar` and `kContient`, are a choice. `kHaut`, `kBas` or `kContient` without its
+/// fellow is a choice already made; `kCommencePar` without its fellow can be switched off. As in
+/// the bar a search for whole words and one for beginnings exclude each other: while "commence par"
+/// is on, "mot entier" is disabled and does not count. It opens with "contient", "vers le bas"
+/// and "boucler".
+///
+/// The option word has the bits of what is checked. Its direction is the one that the host sees,
+/// also where the direction is not offered, and the choice on screen follows each direction that
+/// the host sets. A search that the dialog asks for goes upward when "vers le haut" is checked.
+///
+/// Nothing is searched while one types. Return searches, in the replacement field it replaces;
+/// neither works without a text to search for, nor while everything is being replaced. Escape and
+/// the button of the window do what "Fermer" does, and end in `QDialog::rejected`.
+///
+/// It opens where the last search dialog of the process was left, brought back to a screen when its
+/// title bar is on none. The host may delete it in `CallbackChercher` and in each callback of
+/// replacing, and a receiver in its signals.
+class FABRELGUI_EXPORT DialogueRechercher : public QDialog, public WidgetRechercheAbstrait
+{
+    Q_OBJECT
+
+public:
+    /// `remplacer` adds the replacement field, "Remplacer", "Tout remplacer" and "Annuler".
+    DialogueRechercher(QWidget * parent, bool remplacer, short masque);
+    ~DialogueRechercher() override;
+
+    using WidgetRechercheAbstrait::AfficheToi;
+
+    /// In a bubble over the dialog or, while it is hidden, over its parent.
+    void AfficheMessageTexteIntrouvable(bool pourListe) const override;
+    /// Shows the dialog in front of its window, and activates it.
+    void AfficheToi() override;
+    /// While everything is being replaced only "Annuler" and "Fermer" can be pressed.
+    void MetEnCoursDeRemplacerTout(bool enCours) override;
+    void CacheToi() override;
+    QWidget * DonneMoiEnWidget() override;
+    void MetsChaineAChercher(UniChaine chaine) override;
+    void ModifieSensRecherche(CstRecherche::eTypeRecherche type) override;
+    void PrendsChaineRecherche(QString const & chaine) override;
+    /// Also to the replacement field, where there is one.
+    void PrendsChaineRemplacement(QString const & chaine) override;
+    /// The search field takes the focus with all its text selected.
+    void PrendsFocus() override;
+
+Q_SIGNALS:
+    /// The dialog is about to be hidden, by the host or by the user.
+    void SignalFermeture();
+    /// The user closes the dialog; `SignalFermeture` follows.
+    void SignalDialogueRechercheFermay();
+
+public Q_SLOTS:
+    /// Cancels replacing everything, tells that the user closes the dialog, and hides it.
+    void PriseBoutonFermer() override;
+    void reject() override;
+
+protected Q_SLOTS:
+    void PriseActualiserEtatPanneau() override;
+    void PriseBoutonChercher() override;
+    void PriseChercherSuivant() override;
+    void PriseChercherPrecedent() override;
+    void PriseBoutonRemplacerTout() override;
+    void PriseBoutonRemplacer() override;
+    void PriseBoutonAnnuler() override;
+
+protected:
+    void ActualiserEtatPanneau() override;
+    bool eventFilter(QObject * objet, QEvent * evenement) override;
+    void showEvent(QShowEvent * evenement) override;
+    void hideEvent(QHideEvent * evenement) override;
+
+private Q_SLOTS:
+    void PriseSensChoisi();
+    void PriseActualiserBoutons();
+
+private:
+    QLineEdit * CreeChamp(QString const & nom);
+    void CreeChamps();
+    template <typename Bouton>
+    Bouton * CreeOption(short bit, QString const & nom, ChaineLocalisable const & texte);
+    void CreeOptions();
+    void Groupe(std::initializer_list<QAbstractButton *> boutons);
+    QPushButton * CreeBouton(QString const & nom, ChaineLocalisable const & texte);
+    void CreeBoutons();
+    void Dispose();
+    void DonneLettres();
+    void Branche();
+    bool EstVersLeHaut() const;
+    void SuisSens();
+    void RetiensPosition() const;
+    void ReprendsPosition();
+
+    short monMasque; // the options that are offered
+    bool monRemplacementEnCours = false;
+    QLineEdit * monChampRecherche = nullptr;
+    QLineEdit * monChampRemplacement = nullptr; // null without replacing, as are its buttons
+    // Each null unless the mask asks for it.
+    QCheckBox * maCaseMotEntier = nullptr;
+    QCheckBox * maCaseCasse = nullptr;
+    QCheckBox * maCaseBoucler = nullptr;
+    QAbstractButton * monChoixContient = nullptr;
+    QAbstractButton * monChoixCommencePar = nullptr; // a check box without `monChoixContient`
+    QAbstractButton * monChoixHaut = nullptr;
+    QAbstractButton * monChoixBas = nullptr;
+    QPushButton * monBoutonChercher = nullptr;
+    QPushButton * monBoutonRemplacer = nullptr;
+    QPushButton * monBoutonRemplacerTout = nullptr;
+    QPushButton * monBoutonAnnuler = nullptr;
+    QPushButton * monBoutonFermer = nullptr;
+};

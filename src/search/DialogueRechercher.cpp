@@ -26,7 +26,9 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr short kSens = CstRecherche::kHaut | CstRecherche::kBas;
-constexpr int kLargeurChamp = 30; // average characters, the least that a field shows
+// Average characters.
+constexpr int kLargeurChamp = 30; // the least that a field shows
+constexpr int kEcartColonnes = 2; // wider than that of a style: each column is a group
 
 // Where the last dialog of the process stood, with its frame.
 std::optional<QPoint> & DernierePosition()
@@ -380,7 +382,9 @@ void DialogueRechercher::Dispose()
     if (monChampRemplacement)
         formulaire->addRow(TraductionGui(TexteGui("Remplacer")), monChampRemplacement);
 
+    int const ecart = kEcartColonnes * fontMetrics().averageCharWidth();
     auto * const options = new QHBoxLayout;
+    options->setSpacing(ecart);
     AjouteColonne(*options, {maCaseMotEntier, maCaseCasse, maCaseBoucler});
     AjouteColonne(*options, {monChoixContient, monChoixCommencePar});
     AjouteColonne(*options, {monChoixBas, monChoixHaut});
@@ -396,6 +400,7 @@ void DialogueRechercher::Dispose()
     boutons->addWidget(monBoutonFermer);
 
     auto * const racine = new QHBoxLayout(this);
+    racine->setSpacing(ecart);
     racine->addLayout(formulaire, 1);
     racine->addLayout(boutons);
 }

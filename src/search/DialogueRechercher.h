@@ -18,25 +18,25 @@ struct ChaineLocalisable;
 /// The search dialog: the front end with every option in sight, for searches that are set up first
 /// and then asked for. It is not modal; the document is edited while it stands open.
 ///
-/// The mask of the constructor, bits of `CstRecherche::eOption`, says which options it offers, and
-/// nothing else shows; `kTexteEdite` offers nothing. Two bits that exclude each other, `kHaut` and
-/// `kBas`, `kCommencePar` and `kContient`, are a choice. `kHaut`, `kBas` or `kContient` without its
-/// fellow is a choice already made; `kCommencePar` without its fellow can be switched off. As in
-/// the bar a search for whole words and one for beginnings exclude each other: while "commence par"
-/// is on, "mot entier" is disabled and does not count. It opens with "contient", "vers le bas"
-/// and "boucler".
+/// The mask of the constructor, bits of `CstRecherche::eOption`, says which options it offers;
+/// `kTexteEdite` offers nothing. `kHaut` and `kBas` exclude each other, so do `kContient` and
+/// `kCommencePar`. Where only one of them is offered it is a choice already made, except that
+/// `kCommencePar` alone can be switched off. As in the bar, whole words and beginnings exclude
+/// each other: "mot entier" is disabled and does not count while "commence par" is on. A new
+/// dialog has "boucler", "contient" and "vers le bas" on.
 ///
-/// The option word has the bits of what is checked. Its direction is the one that the host sees,
-/// also where the direction is not offered, and the choice on screen follows each direction that
-/// the host sets. A search that the dialog asks for goes upward when "vers le haut" is checked.
+/// The option word has the bits of what is checked, and the direction of the request, offered or
+/// not; the choice on screen follows a direction that the host sets. "Chercher" searches upward
+/// when "vers le haut" is checked, and otherwise downward.
 ///
-/// Nothing is searched while one types. Return searches, in the replacement field it replaces;
+/// Nothing is searched while one types. Return searches, and replaces in the replacement field;
 /// neither works without a text to search for, nor while everything is being replaced. Escape and
-/// the button of the window do what "Fermer" does, and end in `QDialog::rejected`.
+/// the close button of the window do the same as "Fermer". Every control has a letter that
+/// reaches it with Alt.
 ///
 /// It opens where the last search dialog of the process was left, brought back to a screen when its
-/// title bar is on none. The host may delete it in `CallbackChercher` and in each callback of
-/// replacing, and a receiver in its signals.
+/// title bar is on none, unless the application moved it. A host may delete it in its callbacks,
+/// except `CallbackNettoyerRecherche`; a receiver in the signals of this class.
 class FABRELGUI_EXPORT DialogueRechercher : public QDialog, public WidgetRechercheAbstrait
 {
     Q_OBJECT
@@ -65,7 +65,8 @@ public:
     void PrendsFocus() override;
 
 Q_SIGNALS:
-    /// The dialog is about to be hidden, by the host or by the user.
+    /// The dialog is about to be hidden, by the host or by the user; then come those of `QDialog`,
+    /// always as for a rejected one.
     void SignalFermeture();
     /// The user closes the dialog; `SignalFermeture` follows.
     void SignalDialogueRechercheFermay();

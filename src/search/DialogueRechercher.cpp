@@ -332,10 +332,10 @@ void DialogueRechercher::CreeOptions()
     else
         monChoixCommencePar =
             CreeOption<QCheckBox>(CstRecherche::kCommencePar, nomCommencePar, commencePar);
-    monChoixHaut =
-        CreeOption<QRadioButton>(CstRecherche::kHaut, u"ChoixHaut"_s, TexteGui("vers le haut"));
     monChoixBas =
         CreeOption<QRadioButton>(CstRecherche::kBas, u"ChoixBas"_s, TexteGui("vers le bas"));
+    monChoixHaut =
+        CreeOption<QRadioButton>(CstRecherche::kHaut, u"ChoixHaut"_s, TexteGui("vers le haut"));
 
     // A group each, also for one button: it makes a choice that is checked stay so.
     Groupe({monChoixContient, monChoixContient ? monChoixCommencePar : nullptr});

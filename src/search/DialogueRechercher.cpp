@@ -18,6 +18,7 @@
 #include <QRadioButton>
 #include <QShowEvent>
 #include <QVBoxLayout>
+#include <QWindow>
 
 #include <optional>
 
@@ -164,6 +165,17 @@ void DialogueRechercher::PrendsFocus()
     monChampRecherche->selectAll();
 }
 
+// Not the events: when a window is told that it shows, its frame is not known any more as part of
+// its position, nor yet by its size.
+void DialogueRechercher::setVisible(bool visible)
+{
+    if (visible && isHidden())
+        ReprendsPosition();
+    else if (!visible && isVisible())
+        RetiensPosition();
+    QDialog::setVisible(visible);
+}
+
 void DialogueRechercher::PriseBoutonFermer()
 {
     QPointer<DialogueRechercher> const vivant(this);
@@ -247,19 +259,9 @@ bool DialogueRechercher::eventFilter(QObject * objet, QEvent * evenement)
 
 void DialogueRechercher::showEvent(QShowEvent * evenement)
 {
-    // Before the base, which centres a window that was not moved.
-    if (!evenement->spontaneous())
-        ReprendsPosition();
     QDialog::showEvent(evenement);
     if (!evenement->spontaneous())
         PrendsFocus();
-}
-
-void DialogueRechercher::hideEvent(QHideEvent * evenement)
-{
-    if (!evenement->spontaneous())
-        RetiensPosition();
-    QDialog::hideEvent(evenement);
 }
 
 void DialogueRechercher::PriseSensChoisi()
@@ -465,17 +467,25 @@ void DialogueRechercher::SuisSens()
     PrendsOptions(static_cast<short>((DonneOptions() & ~kSens) | sens));
 }
 
-void DialogueRechercher::RetiensPosition() const
+void DialogueRechercher::RetiensPosition()
 {
-    if (!isMinimized() && !isMaximized())
-        DernierePosition() = pos();
+    // So that the base does not centre this dialog the next time.
+    setAttribute(Qt::WA_Moved);
+    // Not `pos()`: where the frame comes late, as on X11, a widget may never hear of its size.
+    if (windowHandle() && !isMinimized() && !isMaximized())
+        DernierePosition() = windowHandle()->framePosition();
 }
 
 void DialogueRechercher::ReprendsPosition()
 {
-    // A place that the application chose is left to it.
+    // A place that the application chose is left to it, and a dialog that was open stays.
     if (DernierePosition() && !testAttribute(Qt::WA_Moved))
         move(*DernierePosition());
-    if (testAttribute(Qt::WA_Moved))
-        RoutinesGeneralesQt::AjusteDansEcran(*this, false, false, false);
+    if (!testAttribute(Qt::WA_Moved))
+        return;
+    if (!testAttribute(Qt::WA_Resized)) {
+        adjustSize();
+        setAttribute(Qt::WA_Resized, false); // no size that anybody asked for
+    }
+    RoutinesGeneralesQt::AjusteDansEcran(*this, true, false, false);
 }

@@ -63,6 +63,7 @@ public:
     void PrendsChaineRemplacement(QString const & chaine) override;
     /// The search field takes the focus with all its text selected.
     void PrendsFocus() override;
+    void setVisible(bool visible) override;
 
 Q_SIGNALS:
     /// The dialog is about to be hidden, by the host or by the user; then come those of `QDialog`,
@@ -89,7 +90,6 @@ protected:
     void ActualiserEtatPanneau() override;
     bool eventFilter(QObject * objet, QEvent * evenement) override;
     void showEvent(QShowEvent * evenement) override;
-    void hideEvent(QHideEvent * evenement) override;
 
 private Q_SLOTS:
     void PriseSensChoisi();
@@ -109,7 +109,7 @@ private:
     void Branche();
     bool EstVersLeHaut() const;
     void SuisSens();
-    void RetiensPosition() const;
+    void RetiensPosition();
     void ReprendsPosition();
 
     short monMasque; // the options that are offered

@@ -71,6 +71,7 @@ private Q_SLOTS:
     void motEntierOuDebut();
     void choixDejaFaits();
     void debutSeul();
+    void desactivay();
     void rafraichiParChaqueControle();
 
     void boutonsSansTexte();
@@ -307,6 +308,16 @@ void tst_DialogueRechercher::debutSeul()
     QVERIFY(!EstActif(*banc.dialogue, "CaseMotEntier"));
     Clique(*banc.dialogue, "ChoixCommencePar");
     QCOMPARE(banc.dialogue->DonneOptions(), short(0x21));
+}
+
+// What the user chose holds while an application keeps the whole dialog out of use.
+void tst_DialogueRechercher::desactivay()
+{
+    Banc const banc;
+    Clique(*banc.dialogue, "CaseCasse");
+    banc.dialogue->setEnabled(false);
+    banc.dialogue->ChercherPrecedent();
+    QCOMPARE(banc.hote.appels.last().options, short(0x16));
 }
 
 // A host may read the state at any time; it is not called for it.

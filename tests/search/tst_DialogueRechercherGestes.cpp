@@ -24,6 +24,7 @@ private Q_SLOTS:
     void ouverture_data();
     void ouverture();
     void ouvertureSimple();
+    void focus();
     void sensParLHote();
     void sensParLHoteSansChoix();
     void sensParLUtilisateur();
@@ -141,6 +142,17 @@ void tst_DialogueRechercherGestes::ouvertureSimple()
     banc.dialogue->AfficheToi();
     QVERIFY(!banc.dialogue->isMinimized());
     QCOMPARE(banc.hote.DonneNoms(), QStringList());
+}
+
+void tst_DialogueRechercherGestes::focus()
+{
+    Banc const banc;
+    auto * const champ = Controle<QLineEdit>(*banc.dialogue, "ChampRecherche");
+    champ->deselect();
+    Controle(*banc.dialogue, "CaseCasse")->setFocus();
+    banc.dialogue->PrendsFocus();
+    QCOMPARE(banc.dialogue->focusWidget(), champ);
+    QCOMPARE(champ->selectedText(), u"texte"_s);
 }
 
 void tst_DialogueRechercherGestes::sensParLHote()

@@ -63,6 +63,8 @@ private Q_SLOTS:
     void detruitOuvert();
     void fermayDeToutesLesFacons();
     void placeParLApplication();
+    void dejaOuvert();
+    void tailleNaturelle();
     void horsDeLEcran();
     void titreALEcran();
     void rouvertHorsDeLEcran();
@@ -154,6 +156,34 @@ void tst_DialogueRechercherPosition::placeParLApplication()
     dialogue.move(kLaisseIci);
     dialogue.AfficheToi();
     QCOMPARE(dialogue.pos(), kLaisseIci);
+}
+
+// Where another was left does not matter any more.
+void tst_DialogueRechercherPosition::dejaOuvert()
+{
+    DialogueRechercher dialogue(nullptr, false, 0);
+    dialogue.AfficheToi();
+    QPoint const position = dialogue.pos();
+    Laisse(position + QPoint(60, 70));
+    dialogue.AfficheToi();
+    QCOMPARE(dialogue.pos(), position);
+}
+
+// That it is measured before it opens gives it no size for ever.
+void tst_DialogueRechercherPosition::tailleNaturelle()
+{
+    Laisse(kLaisseIci);
+    DialogueRechercher dialogue(nullptr, false, 0);
+    QFont police = dialogue.font();
+    police.setPixelSize(30);
+    dialogue.setFont(police);
+    dialogue.AfficheToi();
+    int const large = dialogue.width();
+    dialogue.hide();
+    police.setPixelSize(15);
+    dialogue.setFont(police);
+    dialogue.AfficheToi();
+    QVERIFY(dialogue.width() < large);
 }
 
 // The screen on which it was left may be gone.

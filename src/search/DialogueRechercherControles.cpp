@@ -21,7 +21,7 @@ namespace {
 
 // Average characters.
 constexpr int kLargeurChamp = 30; // the least that a field shows
-constexpr int kEcartColonnes = 2; // wider than that of a style: each column is a group
+constexpr int kEcartColonnes = 1; // on top of that of the style: each column is a group
 
 // Gives a text the first of its letters that is neither taken nor hard to type.
 QString AjouteLettre(QString texte, QString & prises)
@@ -36,7 +36,7 @@ QString AjouteLettre(QString texte, QString & prises)
     return texte;
 }
 
-void AjouteColonne(QHBoxLayout & rangee, std::initializer_list<QWidget *> widgets)
+void AjouteColonne(QHBoxLayout & rangee, int ecart, std::initializer_list<QWidget *> widgets)
 {
     auto * const colonne = new QVBoxLayout;
     for (QWidget * const widget : widgets)
@@ -47,6 +47,8 @@ void AjouteColonne(QHBoxLayout & rangee, std::initializer_list<QWidget *> widget
         return;
     }
     colonne->addStretch();
+    if (!rangee.isEmpty())
+        rangee.addSpacing(ecart);
     rangee.addLayout(colonne);
 }
 
@@ -149,10 +151,9 @@ void DialogueRechercher::Dispose()
 
     int const ecart = kEcartColonnes * fontMetrics().averageCharWidth();
     auto * const options = new QHBoxLayout;
-    options->setSpacing(ecart);
-    AjouteColonne(*options, {maCaseMotEntier, maCaseCasse, maCaseBoucler});
-    AjouteColonne(*options, {monChoixContient, monChoixCommencePar});
-    AjouteColonne(*options, {monChoixBas, monChoixHaut});
+    AjouteColonne(*options, ecart, {maCaseMotEntier, maCaseCasse, maCaseBoucler});
+    AjouteColonne(*options, ecart, {monChoixContient, monChoixCommencePar});
+    AjouteColonne(*options, ecart, {monChoixBas, monChoixHaut});
     options->addStretch();
     formulaire->setLayout(formulaire->rowCount(), QFormLayout::FieldRole, options);
 
@@ -165,8 +166,8 @@ void DialogueRechercher::Dispose()
     boutons->addWidget(monBoutonFermer);
 
     auto * const racine = new QHBoxLayout(this);
-    racine->setSpacing(ecart);
     racine->addLayout(formulaire, 1);
+    racine->addSpacing(ecart);
     racine->addLayout(boutons);
 }
 

@@ -63,7 +63,6 @@ private Q_SLOTS:
     void detruitOuvert();
     void fermayDeToutesLesFacons();
     void placeParLApplication();
-    void dejaOuvert();
     void tailleNaturelle();
     void horsDeLEcran();
     void titreALEcran();
@@ -80,6 +79,12 @@ void tst_DialogueRechercherPosition::premiereOuverture()
     dialogue->AfficheToi();
     QPoint const ecart = dialogue->geometry().center() - parent.geometry().center();
     QVERIFY(ecart.manhattanLength() <= kEcartDuCadre);
+
+    // It stays there as long as it is open, wherever another one was left meanwhile.
+    QPoint const position = dialogue->pos();
+    Laisse(kLaisseIci);
+    dialogue->AfficheToi();
+    QCOMPARE(dialogue->pos(), position);
 }
 
 void tst_DialogueRechercherPosition::rouvert()
@@ -156,17 +161,6 @@ void tst_DialogueRechercherPosition::placeParLApplication()
     dialogue.move(kLaisseIci);
     dialogue.AfficheToi();
     QCOMPARE(dialogue.pos(), kLaisseIci);
-}
-
-// Where another was left does not matter any more.
-void tst_DialogueRechercherPosition::dejaOuvert()
-{
-    DialogueRechercher dialogue(nullptr, false, 0);
-    dialogue.AfficheToi();
-    QPoint const position = dialogue.pos();
-    Laisse(position + QPoint(60, 70));
-    dialogue.AfficheToi();
-    QCOMPARE(dialogue.pos(), position);
 }
 
 // That it is measured before it opens gives it no size for ever.

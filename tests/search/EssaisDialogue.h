@@ -60,9 +60,8 @@ public:
     Banc & operator=(Banc const &) = delete;
     ~Banc()
     {
-        if (!dialogue)
-            hote.OublieRecherche();
         delete dialogue;
+        hote.OublieRecherche();
     }
 
     QPointer<DialogueRechercher> dialogue;

@@ -128,8 +128,8 @@ void DialogueRechercher::PrendsFocus()
     monChampRecherche->selectAll();
 }
 
-// Not the events: when a window is told that it shows, its frame is not known any more as part of
-// its position, nor yet by its size.
+// Not in the events: once the native window is there, a position is taken for that of the content,
+// and when it is hidden the frame may be gone.
 void DialogueRechercher::setVisible(bool visible)
 {
     if (visible && isHidden())

@@ -6,6 +6,7 @@
 
 #include <QAbstractButton>
 #include <QLineEdit>
+#include <QList>
 #include <QPointer>
 #include <QPushButton>
 #include <QTest>
@@ -14,6 +15,29 @@
 namespace EssaisDialogue {
 
 inline constexpr short kToutOffrir = 0x3ff;
+
+/// An option that the dialog offers, with its text.
+struct OptionOfferte
+{
+    short bit;
+    char const * nom;
+    QString fr;
+    QString en;
+};
+
+inline QList<OptionOfferte> Options()
+{
+    return {
+        {0x001, "CaseMotEntier", QStringLiteral("mot entier"), QStringLiteral("whole word")},
+        {0x002, "CaseCasse", QStringLiteral("sensible à la casse"),
+         QStringLiteral("case sensitive")},
+        {0x004, "CaseBoucler", QStringLiteral("boucler"), QStringLiteral("wraparound")},
+        {0x010, "ChoixHaut", QStringLiteral("vers le haut"), QStringLiteral("upward")},
+        {0x020, "ChoixBas", QStringLiteral("vers le bas"), QStringLiteral("downward")},
+        {0x040, "ChoixCommencePar", QStringLiteral("commence par"), QStringLiteral("starts with")},
+        {0x100, "ChoixContient", QStringLiteral("contient"), QStringLiteral("contains")},
+    };
+}
 
 /// A control of the dialog by its object name, or null.
 template <typename T = QAbstractButton>

@@ -54,7 +54,7 @@ DialogueRechercher::DialogueRechercher(QWidget * parent, bool remplacer, short m
 
 DialogueRechercher::~DialogueRechercher()
 {
-    // A window that is deleted while it shows gets no hide event of ours.
+    // It is its base that hides a window which is deleted while it shows.
     if (isVisible())
         RetiensPosition();
 }

@@ -18,18 +18,33 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int kMargeInterne = 2;   // pixels around the rows
-constexpr int kHauteurDuCadre = 6; // pixels: margins and frame of the view
+constexpr int kMargeInterne = 2; // pixels around the rows
+constexpr int kCadre = 6;        // pixels: twice the margin and the line of the frame
 constexpr int kRoleSelectionnableParDefaut = Qt::UserRole + 1;
 
-// Keys end here: one that the view has no use for would go on to the list, which sends what it gets
-// to the linked widget, from where it came.
+// The last cell asks for the frame too: the sum of a row is then the width of a view that cuts none
+// of its text.
+class DeleguayDesChoix : public QStyledItemDelegate
+{
+public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+
+    QSize sizeHint(QStyleOptionViewItem const & option, QModelIndex const & index) const override
+    {
+        QSize const taille = QStyledItemDelegate::sizeHint(option, index);
+        bool const derniere = index.column() == index.model()->columnCount() - 1;
+        return derniere ? taille + QSize(kCadre, 0) : taille;
+    }
+};
+
 class VueDesChoix : public QTreeView
 {
 public:
     using QTreeView::QTreeView;
 
 protected:
+    // Keys end here: one that the view has no use for would go on to the list, which sends what it
+    // gets to the linked widget, from where it came.
     void keyPressEvent(QKeyEvent * touche) override
     {
         QTreeView::keyPressEvent(touche);
@@ -311,12 +326,16 @@ void ListeChoixFlottante::InitialiseVue()
     disposition->setContentsMargins({});
     maVue = new VueDesChoix(this);
     disposition->addWidget(maVue);
-    maVue->setStyleSheet(u"QTreeView{padding: %1px;}"_s.arg(kMargeInterne));
-    // The sheet is white in every theme, so that the text may not be the theme's.
+    // The sheets are white in every theme, so that the text may not be the theme's. Before the
+    // sheet: each new polish goes back to the palette that the sheet found.
     QPalette palette;
-    palette.setColor(QPalette::Text, Qt::black);
-    palette.setColor(QPalette::Disabled, QPalette::Text, Qt::gray);
+    for (auto const role : {QPalette::Text, QPalette::WindowText}) {
+        palette.setColor(role, Qt::black);
+        palette.setColor(QPalette::Disabled, role, Qt::gray);
+    }
     maVue->setPalette(palette);
+    maVue->setStyleSheet(u"QTreeView{padding: %1px;}"_s.arg(kMargeInterne));
+    maVue->setItemDelegate(new DeleguayDesChoix(maVue));
     maVue->setFocusPolicy(Qt::NoFocus);
     maVue->setMouseTracking(true);
     maVue->setEditTriggers(QAbstractItemView::NoEditTriggers);
@@ -403,7 +422,7 @@ QSize ListeChoixFlottante::DisposeColonnes() const
 {
     QAbstractItemModel const * const modele = maVue->model();
     QList<int> largeurs(modele->columnCount(), 0);
-    QSize taille(0, kHauteurDuCadre);
+    QSize taille(0, kCadre);
     for (int rangee = 0; rangee < modele->rowCount(); ++rangee) {
         int largeur = 0;
         for (int colonne = 0; colonne < largeurs.size(); ++colonne) {
@@ -415,7 +434,8 @@ QSize ListeChoixFlottante::DisposeColonnes() const
         // Deliberate: once per cell, so that two columns double the height.
         taille.rheight() += static_cast<int>(largeurs.size()) * maVue->sizeHintForRow(rangee);
     }
-    for (int colonne = 0; colonne < largeurs.size(); ++colonne)
+    // The last one takes what is left.
+    for (int colonne = 0; colonne + 1 < largeurs.size(); ++colonne)
         maVue->header()->resizeSection(colonne, largeurs.at(colonne));
     return taille;
 }

@@ -62,7 +62,7 @@ public:
     /// list's, and die with the proposals.
     QList<QStandardItem *> DonneItemsSelectionnay() const;
     void EnleveSelection();
-    /// Not owned. Null is ignored.
+    /// Not owned; null is ignored. The frame takes 6 pixels from the widths that it asks for.
     void MetsDelegue(QStyledItemDelegate * delegue);
     /// Until the next proposals, which size the list to themselves again.
     void MetsHauteurListeFixe(int hauteur);

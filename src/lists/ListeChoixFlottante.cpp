@@ -342,6 +342,7 @@ void ListeChoixFlottante::InitialiseVue()
     maVue->setSelectionMode(QAbstractItemView::SingleSelection);
     maVue->setRootIsDecorated(false);
     maVue->setHeaderHidden(true);
+    maVue->header()->setStretchLastSection(false); // never below a default width
     maVue->setModel(new QStandardItemModel(0, 1, this));
     maVue->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     maVue->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
@@ -434,9 +435,11 @@ QSize ListeChoixFlottante::DisposeColonnes() const
         // Deliberate: once per cell, so that two columns double the height.
         taille.rheight() += static_cast<int>(largeurs.size()) * maVue->sizeHintForRow(rangee);
     }
-    // The last one takes what is left.
-    for (int colonne = 0; colonne + 1 < largeurs.size(); ++colonne)
+    // The last one takes what is left: more or less than its contents.
+    int const derniere = static_cast<int>(largeurs.size()) - 1;
+    for (int colonne = 0; colonne < derniere; ++colonne)
         maVue->header()->resizeSection(colonne, largeurs.at(colonne));
+    maVue->header()->setSectionResizeMode(derniere, QHeaderView::Stretch);
     return taille;
 }
 

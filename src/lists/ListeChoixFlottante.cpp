@@ -85,16 +85,15 @@ ListeChoixFlottante::~ListeChoixFlottante()
 // NOLINTNEXTLINE(performance-unnecessary-value-param): by value is the interface
 void ListeChoixFlottante::ActualiseListeChoix(QList<QList<QStandardItem *>> rangees)
 {
-    QStandardItemModel * const modele = PreteModele();
-    if (modele && monWidgetReference)
-        DetruitElementsDuModele(modele);
-    if (!modele || !monWidgetReference) {
+    QStandardItemModel * const modele = monWidgetReference ? PreteModele() : nullptr;
+    if (!modele) {
         for (QList<QStandardItem *> const & rangee : std::as_const(rangees))
             qDeleteAll(rangee);
         if (monWidgetReference)
-            CacheToi();
+            CacheToi(); // the host gave the view a model of its own kind, which takes no items
         return;
     }
+    DetruitElementsDuModele(modele);
     for (QList<QStandardItem *> const & rangee : std::as_const(rangees))
         modele->appendRow(rangee);
     QPoint const position = DonnePosListeChoix();
@@ -102,21 +101,18 @@ void ListeChoixFlottante::ActualiseListeChoix(QList<QList<QStandardItem *>> rang
         CacheToi();
         return;
     }
-    maVue->setMaximumWidth(monWidgetReference->width());
+    // Deliberate: selected but not current, so that Return still chooses the first row that the
+    // automatic choice accepts.
+    auto const selection =
+        maPreselection ? QItemSelectionModel::ClearAndSelect : QItemSelectionModel::Clear;
     QSize taille = DisposeColonnes();
-    // Deliberate: the row alone, and not as the current one, so that Return still chooses the first
-    // row that the automatic choice accepts.
-    maVue->selectionModel()->select(modele->index(0, 0), maPreselection
-                                                             ? QItemSelectionModel::ClearAndSelect
-                                                             : QItemSelectionModel::Clear);
-    // A fixed size undoes the greatest width above, so that the reference cuts the rows here. The
-    // least width is the host's own wish and may be larger.
-    taille.setWidth(
-        std::max(std::min(taille.width(), monWidgetReference->width()), DonneLargeurMinimum()));
+    maVue->selectionModel()->select(modele->index(0, 0), selection);
+    // A fixed size knows no greatest width, so that the reference cuts the rows here. The least
+    // width is the host's own wish and may be larger.
+    int const largeur = std::min(taille.width(), monWidgetReference->width());
+    taille.setWidth(std::max(largeur, DonneLargeurMinimum()));
     maVue->setFixedSize(taille);
     setFixedSize(taille);
-    maVue->resize(taille);
-    resize(taille);
     AfficheToi();
     move(position);
 }
@@ -354,6 +350,8 @@ void ListeChoixFlottante::PreparePourLeSysteme()
 {
     create();
     QWindow * const fenetre = windowHandle();
+    if (!fenetre)
+        return;                                     // in a graphics scene
     fenetre->setFlag(Qt::WindowDoesNotAcceptFocus); // not on a click either
     // Otherwise a modal dialog would keep the mouse from the list of its own field.
     fenetre->setTransientParent(monWidgetLiay ? monWidgetLiay->window()->windowHandle() : nullptr);

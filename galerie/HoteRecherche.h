@@ -4,6 +4,7 @@
 #include "EditeurCherchable.h"
 #include "OccurrencesTexte.h"
 #include "RemplacementTout.h"
+#include "SurlignageOccurrences.h"
 
 #include "search/UtilisateurWidgetRecherche.h"
 
@@ -13,7 +14,6 @@
 
 #include <memory>
 
-class QKeyEvent;
 class WidgetRechercheAbstrait;
 
 /// Finds and replaces in a text editor what a search front end asks for.
@@ -29,13 +29,19 @@ class WidgetRechercheAbstrait;
 ///     auto * const hote = new HoteRecherche(*editeur, *barre, this);
 ///     hote->BrancheTouches(*this);
 ///
-/// The matches that the viewport shows are highlighted by extra selections, beside those of the
-/// application; the current match is the editor's selection. The counter's first number is that of
-/// the match that is selected, 0 when none is. Both follow every edit as long as the front end is
-/// visible.
+/// While the front end is visible, the matches in the viewport are highlighted; the current one is
+/// the editor's selection. The counter tells the number of the match that is selected, 0 when the
+/// selection is none. All of it follows every edit. A no-break blank is found by a plain one, and
+/// the other way round.
 ///
-/// Editor, front end and host may die in any order. The front end must be a widget itself, as all
-/// of the library are, and has no other host.
+/// What is typed is searched for from where the caret was put last, by the user or by a command to
+/// find, so that a longer text extends a match and a shorter one goes back.
+///
+/// In a `BarreRecherche` Escape closes the bar from each of its controls, and never the dialog that
+/// the bar is in. When the bar closes, the focus goes from it to the editor.
+///
+/// Editor, front end and host may die in any order. The front end must be a widget itself, as those
+/// of the library are, and has no other host. GUI thread only.
 class HoteRecherche : public QObject, public UtilisateurWidgetRecherche
 {
     Q_OBJECT
@@ -47,16 +53,17 @@ public:
                   QObject * parent = nullptr);
     ~HoteRecherche() override;
 
-    /// Binds the usual keys in `zone` and the widgets in it: find, find next and find previous.
+    /// Binds the usual keys in `zone` and the widgets in it: find, find next, find previous.
     void BrancheTouches(QWidget & zone);
 
     bool EstEnTrainDeRemplacer() const { return monRemplacement != nullptr; }
-    /// Times of the next replace-all, as in `RemplacementTout`; for tests and demonstrations.
+    /// Milliseconds, as in `RemplacementTout`, for the next replace-all.
     void MetsDureesRemplacement(int dureeTranche, int delaiFenetre);
 
     void CallbackNettoyerRecherche() override;
     void CallbackChercher() override;
-    /// Like the next one, does nothing when the editor is read-only.
+    /// Replaces the match that is selected and goes on in the direction of the last search;
+    /// otherwise only goes on. Like the next one, does nothing when the editor is read-only.
     void CallbackRemplacer() override;
     void CallbackRemplacerTout() override;
     void CallbackAnnulerRemplacerTout() override;
@@ -78,13 +85,46 @@ public Q_SLOTS:
     void PrisePrecedent();
 
 private Q_SLOTS:
-    void PriseTexteModifiay();
     void PriseCurseurBougeay();
     void PriseRenouveler();
     void PriseBarreFerme();
+    void PriseFrontalDetruit();
+    void PriseEditeurDetruit();
     void PriseRemplacementFini(int remplacees);
 
 private:
     HoteRecherche(std::unique_ptr<EditeurCherchable> editeur, WidgetRechercheAbstrait & frontal,
                   QObject * parent);
+
+    WidgetRechercheAbstrait * PreteFrontal() const;
+    bool EstPret() const;
+    bool PeutRemplacer() const;
+    OccurrencesTexte::Plage DonneSelection() const;
+    int DonneDepart() const;
+    void MetsDepart(int position);
+
+    bool LisDemande();
+    bool Cherche();
+    void ChercheAuFil(bool occurrenceSelectionnay);
+    void VaPlusLoin(OccurrencesTexte::Plage const & depuis, bool avecMessage);
+    void Selectionne(OccurrencesTexte::Plage const & plage);
+    void Rapporte();
+    void Termine(bool avecMessage);
+
+    std::unique_ptr<EditeurCherchable> const monEditeur;
+    SurlignageOccurrences monSurlignage;
+    QPointer<QWidget> const monWidget; // the front end
+    QTimer maMinuterie;                // several changes at once are followed once
+
+    QString maChaine; // empty when nothing is searched for
+    short mesOptions = 0;
+    OccurrencesTexte mesOccurrences;
+    QPointer<QTextDocument> monDocument; // what they were found in
+    int maRevision = 0;                  // of that document; negative when they are out of date
+    QTextCursor monDepart;               // where what is typed is searched for from
+    bool jeBougeLeCurseur = false;
+
+    RemplacementTout * monRemplacement = nullptr; // null when none is under way
+    int maDureeTranche = RemplacementTout::kDureeTranche;
+    int monDelaiFenetre = RemplacementTout::kDelaiFenetre;
 };

@@ -26,34 +26,38 @@ public:
     static constexpr int kDureeTranche = 10; // ms
     /// How long it works before the window opens.
     static constexpr int kDelaiFenetre = 300; // ms
-    /// At least so many are replaced in a slice, before the clock is looked at.
+    /// So many are replaced in a slice before the clock is looked at.
     static constexpr int kRemplacementsParMesure = 32;
 
-    /// `occurrences` are those of the editor's document as it is now. The editor must outlive this
-    /// object, unlike its widget.
+    /// `occurrences` are those of the editor's document as it is now. `editeur` must outlive this
+    /// object; its widget need not.
     RemplacementTout(EditeurCherchable & editeur, OccurrencesTexte occurrences,
                      QString remplacement, QObject * parent = nullptr);
     ~RemplacementTout() override;
 
-    /// In milliseconds; 0 for the shortest slices. To be called before `Demarre`.
+    /// Puts a text in the place of another, with the format that the first character has. Returns
+    /// by how much the text has grown.
+    static int Remplace(QTextCursor & curseur, OccurrencesTexte::Plage const & plage,
+                        QString const & remplacement);
+
+    /// In milliseconds; 0 for the shortest slices. To be called before `Demarre`, like the next
+    /// one, where 0 opens the window behind the first slice.
     void MetsDureeTranche(int duree) { maDureeTranche = duree; }
-    /// In milliseconds; 0 opens the window behind the first slice.
     void MetsDelaiFenetre(int delai) { monDelaiFenetre = delai; }
 
     /// Replaces the first slice at once. True when there is more to do: then `SignalFini` follows,
-    /// and only then.
+    /// and only then. To be called once.
     bool Demarre();
-
     int DonneNombreRemplacees() const { return mesRemplacees; }
 
 Q_SIGNALS:
-    /// After each slice but the last.
+    /// After each slice.
     void SignalAvancement(int remplacees, int total);
-    /// All is replaced, or it was cancelled. A receiver may delete the sender later, not at once.
+    /// All is replaced, or it was cancelled. The sender is no longer used: it may be deleted.
     void SignalFini(int remplacees);
 
 public Q_SLOTS:
-    /// Ends it; nothing when it has ended.
+    /// Nothing when it has ended.
     void PriseAnnuler();
 
 private Q_SLOTS:
@@ -61,24 +65,36 @@ private Q_SLOTS:
     void PriseOuvrirFenetre();
 
 private:
-    void RemplaceTranche();
-    void Remplace(OccurrencesTexte::Plage const & plage);
-    QString DonneAvancement() const;
+    // What every change of the document changes, unlike its revision, which also counts the
+    // formatting of a syntax highlighter.
+    struct Empreinte
+    {
+        int caracteres = 0;
+        int pasAnnulables = 0;
+        int revision = 0; // 0 where there are undo steps
+
+        bool operator==(Empreinte const & autre) const = default;
+    };
+
+    Empreinte DonneEmpreinte() const;
     bool EstPerturbay() const;
-    void Rends();
+    bool EstFini() const { return mesRemplacees == mesOccurrences.DonneNombre(); }
+    void RemplaceTranche();
+    QString DonneAvancement() const;
+    void Arrete();
     void Finis();
 
     EditeurCherchable & monEditeur;
-    OccurrencesTexte mesOccurrences;
-    QString monRemplacement;
+    OccurrencesTexte const mesOccurrences;
+    QString const monRemplacement;
     QPointer<QTextDocument> monDocument;
     QTextCursor monCurseur;
     int mesRemplacees = 0;
-    int monDecalage = 0; // characters that the replaced ones have added
-    int maRevision = 0;  // of the document after the last slice
+    int monDecalage = 0;    // by how much the text has grown
+    Empreinte monEmpreinte; // of the document after the last slice
     int maDureeTranche = kDureeTranche;
     int monDelaiFenetre = kDelaiFenetre;
-    Qt::TextInteractionFlags monInteraction; // the editor's own, while `jeSuisEnCours`
     bool jeSuisEnCours = false;
+    Qt::TextInteractionFlags monInteraction; // the editor's own, while it is under way
     QPointer<DDialogueProgressionInfinie> maFenetre;
 };

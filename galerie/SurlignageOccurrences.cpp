@@ -1,0 +1,117 @@
+// galerie/SurlignageOccurrences.cpp
+#include "SurlignageOccurrences.h"
+
+#include <QAbstractScrollArea>
+#include <QEvent>
+#include <QTextDocument>
+
+#include <utility>
+
+namespace {
+
+// Tells our extra selections from those of the application.
+constexpr int kMarque = QTextFormat::UserProperty + 0x5243;
+
+// Readable under the text colour of a light and of a dark theme.
+constexpr QRgb kFondClair = 0xFFFFE066;
+constexpr QRgb kFondSombre = 0xFF6B5500;
+// The current match, in both.
+constexpr QRgb kFondCourante = 0xFFFF9632;
+constexpr QRgb kTexteCourante = 0xFF000000;
+
+QTextCharFormat FaisFormat(QPalette const & palette)
+{
+    bool const sombre = palette.color(QPalette::Base).lightness() < 128;
+    QTextCharFormat format;
+    format.setBackground(QColor(sombre ? kFondSombre : kFondClair));
+    format.setProperty(kMarque, true);
+    return format;
+}
+
+} // namespace
+
+SurlignageOccurrences::SurlignageOccurrences(EditeurCherchable & editeur)
+    : monEditeur(editeur)
+{
+    editeur.PreteWidget()->viewport()->installEventFilter(this);
+}
+
+SurlignageOccurrences::~SurlignageOccurrences()
+{
+    Retire();
+}
+
+void SurlignageOccurrences::Montre(OccurrencesTexte const & occurrences)
+{
+    if (monEditeur.PreteWidget() == nullptr)
+        return;
+    mesOccurrences = occurrences;
+    maRevision = monEditeur.PreteDocument()->revision();
+    if (!std::exchange(jeMontre, true))
+        ColoreSelection();
+    Renouvelle();
+}
+
+void SurlignageOccurrences::Retire()
+{
+    mesOccurrences = {};
+    if (!std::exchange(jeMontre, false) || monEditeur.PreteWidget() == nullptr)
+        return;
+    monEditeur.MetsSelections(DonneSelectionsDesAutres());
+    monEditeur.PreteWidget()->setPalette(maPalette);
+}
+
+bool SurlignageOccurrences::eventFilter(QObject *, QEvent * evenement)
+{
+    // Painting follows every scroll, resize and change of the layout, and every change of the extra
+    // selections by the application.
+    if (evenement->type() == QEvent::Paint && EstPerimay())
+        Renouvelle();
+    return false;
+}
+
+EditeurCherchable::Selections SurlignageOccurrences::DonneSelectionsDesAutres() const
+{
+    EditeurCherchable::Selections selections = monEditeur.DonneSelections();
+    selections.removeIf([](QTextEdit::ExtraSelection const & selection) {
+        return selection.format.hasProperty(kMarque);
+    });
+    return selections;
+}
+
+bool SurlignageOccurrences::EstPerimay() const
+{
+    if (!jeMontre || monEditeur.PreteWidget() == nullptr ||
+        monEditeur.PreteDocument()->revision() != maRevision)
+        return false;
+    return monEditeur.DonnePlageVisible() != maPlage ||
+           monEditeur.DonneSelections().size() - DonneSelectionsDesAutres().size() != mesSurlignees;
+}
+
+void SurlignageOccurrences::Renouvelle()
+{
+    EditeurCherchable::Selections selections = DonneSelectionsDesAutres();
+    QTextEdit::ExtraSelection surlignage;
+    surlignage.format = FaisFormat(monEditeur.PreteWidget()->palette());
+    surlignage.cursor = QTextCursor(monEditeur.PreteDocument());
+    maPlage = monEditeur.DonnePlageVisible();
+    std::span<OccurrencesTexte::Plage const> const visibles = mesOccurrences.DonneDans(maPlage);
+    for (OccurrencesTexte::Plage const & plage : visibles) {
+        surlignage.cursor.setPosition(plage.debut);
+        surlignage.cursor.setPosition(plage.fin, QTextCursor::KeepAnchor);
+        selections.append(surlignage);
+    }
+    mesSurlignees = static_cast<qsizetype>(visibles.size());
+    monEditeur.MetsSelections(selections);
+}
+
+void SurlignageOccurrences::ColoreSelection()
+{
+    QWidget & editeur = *monEditeur.PreteWidget();
+    // An editor without a palette of its own goes on following that of the application.
+    maPalette = editeur.testAttribute(Qt::WA_SetPalette) ? editeur.palette() : QPalette();
+    QPalette palette = maPalette;
+    palette.setColor(QPalette::Inactive, QPalette::Highlight, QColor(kFondCourante));
+    palette.setColor(QPalette::Inactive, QPalette::HighlightedText, QColor(kTexteCourante));
+    editeur.setPalette(palette);
+}

@@ -129,7 +129,7 @@ void HoteRecherche::CallbackNettoyerRecherche()
     maChaine.clear();
     mesOccurrences = {};
     maRevision = kRevisionPerimay;
-    monDepart = {};
+    monCurseurABougeay = true;
     monSurlignage.Retire();
 }
 
@@ -148,7 +148,7 @@ void HoteRecherche::CallbackChercher()
     // A command backward keeps the options of the last gesture where the host gives the text.
     bool const tapay = frontal.DonneSensRecherche() == CstRecherche::kVersLeBas &&
                        (frontal.DonneOptions() & CstRecherche::kTexteEdite) != 0;
-    if (nouvelle)
+    if (nouvelle || monCurseurABougeay)
         MetsDepart(depuis.debut);
     if (autreMode)
         depuis.fin = depuis.debut; // which may well find the current match again
@@ -260,7 +260,8 @@ void HoteRecherche::PriseCurseurBougeay()
 {
     if (jeBougeLeCurseur || EstEnTrainDeRemplacer() || !EstPret())
         return;
-    MetsDepart(DonneSelection().debut);
+    // No more than that: while `QTextDocument::clear` tells of the change, no cursor may come or go.
+    monCurseurABougeay = true;
     maMinuterie.start();
 }
 
@@ -344,6 +345,7 @@ void HoteRecherche::MetsDepart(int position)
 {
     monDepart = QTextCursor(monEditeur->PreteDocument()); // which moves it with its text
     monDepart.setPosition(position);
+    monCurseurABougeay = false;
 }
 
 // Reads what the front end asks for. True when only the options differ from the last time.

@@ -122,6 +122,7 @@ private:
     QPointer<QTextDocument> monDocument; // what they were found in
     int maRevision = 0;                  // of that document; negative when they are out of date
     QTextCursor monDepart;               // where what is typed is searched for from
+    bool monCurseurABougeay = true;      // by others: what is typed starts there
     bool jeBougeLeCurseur = false;
 
     RemplacementTout * monRemplacement = nullptr; // null when none is under way

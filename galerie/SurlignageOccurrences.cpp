@@ -12,18 +12,16 @@ namespace {
 // Tells our extra selections from those of the application.
 constexpr int kMarque = QTextFormat::UserProperty + 0x5243;
 
-// Readable under the text colour of a light and of a dark theme.
-constexpr QRgb kFondClair = 0xFFFFE066;
-constexpr QRgb kFondSombre = 0xFF6B5500;
+// Translucent, so that the text stays readable in a light and in a dark theme.
+constexpr QRgb kFond = 0x70FFC400;
 // The current match, in both.
 constexpr QRgb kFondCourante = 0xFFFF9632;
 constexpr QRgb kTexteCourante = 0xFF000000;
 
-QTextCharFormat FaisFormat(QPalette const & palette)
+QTextCharFormat FaisFormat()
 {
-    bool const sombre = palette.color(QPalette::Base).lightness() < 128;
     QTextCharFormat format;
-    format.setBackground(QColor(sombre ? kFondSombre : kFondClair));
+    format.setBackground(QColor::fromRgba(kFond));
     format.setProperty(kMarque, true);
     return format;
 }
@@ -73,8 +71,10 @@ bool SurlignageOccurrences::eventFilter(QObject *, QEvent * evenement)
 EditeurCherchable::Selections SurlignageOccurrences::DonneSelectionsDesAutres() const
 {
     EditeurCherchable::Selections selections = monEditeur.DonneSelections();
+    // Those of a document that has died in its editor stay: they show nothing, but Qt up to 6.4
+    // reads their text when they are taken away. All of ours being alike, it leaves them alone.
     selections.removeIf([](QTextEdit::ExtraSelection const & selection) {
-        return selection.format.hasProperty(kMarque);
+        return selection.format.hasProperty(kMarque) && !selection.cursor.isNull();
     });
     return selections;
 }
@@ -92,7 +92,7 @@ void SurlignageOccurrences::Renouvelle()
 {
     EditeurCherchable::Selections selections = DonneSelectionsDesAutres();
     QTextEdit::ExtraSelection surlignage;
-    surlignage.format = FaisFormat(monEditeur.PreteWidget()->palette());
+    surlignage.format = FaisFormat();
     surlignage.cursor = QTextCursor(monEditeur.PreteDocument());
     maPlage = monEditeur.DonnePlageVisible();
     std::span<OccurrencesTexte::Plage const> const visibles = mesOccurrences.DonneDans(maPlage);

@@ -44,7 +44,8 @@ void SurlignageOccurrences::Montre(OccurrencesTexte const & occurrences)
     if (monEditeur.PreteWidget() == nullptr)
         return;
     mesOccurrences = occurrences;
-    maRevision = monEditeur.PreteDocument()->revision();
+    monDocument = monEditeur.PreteDocument();
+    maRevision = monDocument->revision();
     if (!std::exchange(jeMontre, true))
         ColoreSelection();
     Renouvelle();
@@ -81,9 +82,9 @@ EditeurCherchable::Selections SurlignageOccurrences::DonneSelectionsDesAutres() 
 
 bool SurlignageOccurrences::EstPerimay() const
 {
-    if (!jeMontre || monEditeur.PreteWidget() == nullptr ||
-        monEditeur.PreteDocument()->revision() != maRevision)
-        return false;
+    if (!jeMontre || monDocument == nullptr || monDocument != monEditeur.PreteDocument() ||
+        monDocument->revision() != maRevision)
+        return false; // the places of the matches are no longer known
     return monEditeur.DonnePlageVisible() != maPlage ||
            monEditeur.DonneSelections().size() - DonneSelectionsDesAutres().size() != mesSurlignees;
 }

@@ -6,6 +6,8 @@
 
 #include <QObject>
 #include <QPalette>
+#include <QPointer>
+#include <QTextDocument>
 
 /// Highlights matches in an editor, by extra selections beside those of the application: only in
 /// the lines that the viewport shows, for an editor gets slow with ten thousand of them.
@@ -37,8 +39,9 @@ private:
     EditeurCherchable & monEditeur;
     OccurrencesTexte mesOccurrences;
     bool jeMontre = false;
-    int maRevision = 0;              // of the document that the matches are those of
-    OccurrencesTexte::Plage maPlage; // what was visible at the last renewal
-    qsizetype mesSurlignees = 0;     // and how many were highlighted
-    QPalette maPalette;              // the editor's own, while `jeMontre`
+    QPointer<QTextDocument> monDocument; // what the matches are those of
+    int maRevision = 0;                  // of that document
+    OccurrencesTexte::Plage maPlage;     // what was visible at the last renewal
+    qsizetype mesSurlignees = 0;         // and how many were highlighted
+    QPalette maPalette;                  // the editor's own, while `jeMontre`
 };

@@ -8,6 +8,8 @@
 #include <span>
 
 /// The matches of an expression in a text, in their order. Numbers begin with 1; 0 stands for none.
+///
+/// They are places, not cursors: every edit of a document moves each of its cursors.
 class OccurrencesTexte
 {
 public:

@@ -22,7 +22,8 @@ class RemplacementTout : public QObject
     Q_OBJECT
 
 public:
-    /// How long a slice may take, so that the user interface keeps answering.
+    /// How long a slice may take, so that the user interface keeps answering. Once per slice the
+    /// editor lays out what has changed, which for a `QTextEdit` of a megabyte takes longer.
     static constexpr int kDureeTranche = 10; // ms
     /// How long it works before the window opens.
     static constexpr int kDelaiFenetre = 300; // ms

@@ -13,7 +13,7 @@ namespace {
 constexpr int kMarque = QTextFormat::UserProperty + 0x5243;
 
 // Translucent, so that the text stays readable in a light and in a dark theme.
-constexpr QRgb kFond = 0x70FFC400;
+constexpr QRgb kFond = 0x60FFC400;
 // The current match, in both.
 constexpr QRgb kFondCourante = 0xFFFF9632;
 constexpr QRgb kTexteCourante = 0xFF000000;

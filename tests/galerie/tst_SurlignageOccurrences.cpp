@@ -3,7 +3,10 @@
 
 #include "FenetreRecherche.h"
 
+#include <QPainter>
 #include <QScrollBar>
+
+#include <cmath>
 
 using namespace Qt::StringLiterals;
 
@@ -28,6 +31,8 @@ private Q_SLOTS:
     void suitLeTexte();
     void palette_data();
     void palette();
+    void lisible_data();
+    void lisible();
     void documentMort_data() { AjouteEditeurs(); }
     void documentMort();
     void detruit();
@@ -219,6 +224,59 @@ void tst_SurlignageOccurrences::palette()
     monSurlignage->Retire();
     QCOMPARE(monWidget->palette(), avant);
     QCOMPARE(monWidget->testAttribute(Qt::WA_SetPalette), propre);
+}
+
+namespace {
+
+// As the Web Content Accessibility Guidelines define it, from 1 to 21.
+double Contraste(QColor const & a, QColor const & b)
+{
+    auto const luminance = [](QColor const & couleur) {
+        auto const lineaire = [](double canal) {
+            return canal <= 0.04045 ? canal / 12.92 : std::pow((canal + 0.055) / 1.055, 2.4);
+        };
+        return 0.2126 * lineaire(couleur.redF()) + 0.7152 * lineaire(couleur.greenF()) +
+               0.0722 * lineaire(couleur.blueF());
+    };
+    auto const [sombre, clair] = std::minmax(luminance(a), luminance(b));
+    return (clair + 0.05) / (sombre + 0.05);
+}
+
+QColor Pose(QColor const & dessus, QColor const & dessous)
+{
+    QImage image(1, 1, QImage::Format_RGB32);
+    image.fill(dessous);
+    QPainter(&image).fillRect(0, 0, 1, 1, dessus);
+    return image.pixelColor(0, 0);
+}
+
+} // namespace
+
+void tst_SurlignageOccurrences::lisible_data()
+{
+    QTest::addColumn<QColor>("fond");
+    QTest::addColumn<QColor>("texte");
+    QTest::newRow("light") << QColor(Qt::white) << QColor(Qt::black);
+    QTest::newRow("dark") << QColor(30, 30, 30) << QColor(230, 230, 230);
+}
+
+void tst_SurlignageOccurrences::lisible()
+{
+    QFETCH(QColor, fond);
+    QFETCH(QColor, texte);
+    constexpr double kContrasteVoulu = 4.5; // of normal text
+    Prepare(true, u"mot"_s);
+    Montre();
+    QColor const surlignage = monEditeur->DonneSelections().first().format.background().color();
+    QColor const affichay = Pose(surlignage, fond);
+    QVERIFY(affichay != fond);
+    QVERIFY2(Contraste(affichay, texte) >= kContrasteVoulu,
+             qPrintable(QString::number(Contraste(affichay, texte))));
+    QPalette const palette = monWidget->palette();
+    QColor const courante = palette.color(QPalette::Inactive, QPalette::Highlight);
+    QVERIFY(Contraste(courante, palette.color(QPalette::Inactive, QPalette::HighlightedText)) >=
+            kContrasteVoulu);
+    QVERIFY(courante != affichay);
 }
 
 void tst_SurlignageOccurrences::documentMort()

@@ -1,0 +1,433 @@
+// galerie/HoteRecherche.cpp
+#include "HoteRecherche.h"
+
+#include "EchapBarreRecherche.h"
+
+#include "search/BarreRecherche.h"
+
+#include <QAbstractScrollArea>
+#include <QEvent>
+#include <QPlainTextEdit>
+#include <QScopedValueRollback>
+#include <QShortcut>
+
+#include <utility>
+
+namespace {
+
+constexpr short kOptionsDuTexte =
+    CstRecherche::kMotEntier | CstRecherche::kCommencePar | CstRecherche::kRespecterCasse;
+constexpr int kRevisionPerimay = -1;
+
+QRegularExpression FaisExpression(QString const & chaine, short options)
+{
+    QRegularExpression expression;
+    if ((options & CstRecherche::kMotEntier) != 0) // it begins with the text, too
+        expression = WidgetRechercheAbstrait::DonneExpRegMotEntier(chaine);
+    else if ((options & CstRecherche::kCommencePar) != 0)
+        expression = WidgetRechercheAbstrait::DonneExpRegCommencePar(chaine);
+    else
+        expression = WidgetRechercheAbstrait::DonneExpRegContient(chaine);
+    // Letters with accents belong to words.
+    QRegularExpression::PatternOptions motif = QRegularExpression::UseUnicodePropertiesOption;
+    if ((options & CstRecherche::kRespecterCasse) == 0)
+        motif |= QRegularExpression::CaseInsensitiveOption;
+    expression.setPatternOptions(motif);
+    return expression;
+}
+
+template <typename Editeur, typename Prise>
+void BrancheEditeur(Editeur & editeur, HoteRecherche & hote, QTimer & minuterie, Prise bougeay)
+{
+    QObject::connect(&editeur, &Editeur::textChanged, &minuterie, qOverload<>(&QTimer::start),
+                     Qt::UniqueConnection);
+    QObject::connect(&editeur, &Editeur::cursorPositionChanged, &hote, bougeay,
+                     Qt::UniqueConnection);
+    QObject::connect(&editeur, &Editeur::selectionChanged, &hote, bougeay, Qt::UniqueConnection);
+}
+
+} // namespace
+
+HoteRecherche::HoteRecherche(QTextEdit & editeur, WidgetRechercheAbstrait & frontal,
+                             QObject * parent)
+    : HoteRecherche(EditeurCherchable::Fais(editeur), frontal, parent)
+{
+    BrancheEditeur(editeur, *this, maMinuterie, &HoteRecherche::PriseCurseurBougeay);
+}
+
+HoteRecherche::HoteRecherche(QPlainTextEdit & editeur, WidgetRechercheAbstrait & frontal,
+                             QObject * parent)
+    : HoteRecherche(EditeurCherchable::Fais(editeur), frontal, parent)
+{
+    BrancheEditeur(editeur, *this, maMinuterie, &HoteRecherche::PriseCurseurBougeay);
+}
+
+HoteRecherche::HoteRecherche(std::unique_ptr<EditeurCherchable> editeur,
+                             WidgetRechercheAbstrait & frontal, QObject * parent)
+    : QObject(parent)
+    , monEditeur(std::move(editeur))
+    , monSurlignage(*monEditeur)
+    , monWidget(frontal.DonneMoiEnWidget())
+{
+    maMinuterie.setSingleShot(true);
+    maMinuterie.setInterval(0); // as soon as the event loop turns
+    connect(&maMinuterie, &QTimer::timeout, this, &HoteRecherche::PriseRenouveler,
+            Qt::UniqueConnection);
+    connect(monEditeur->PreteWidget(), &QObject::destroyed, this,
+            &HoteRecherche::PriseEditeurDetruit, Qt::UniqueConnection);
+    connect(monWidget, &QObject::destroyed, this, &HoteRecherche::PriseFrontalDetruit,
+            Qt::UniqueConnection);
+    monWidget->installEventFilter(this);
+    if (auto * const barre = qobject_cast<BarreRecherche *>(monWidget)) {
+        new EchapBarreRecherche(*barre, this);
+        connect(barre, &BarreRecherche::SignalFermeture, this, &HoteRecherche::PriseBarreFerme,
+                Qt::UniqueConnection);
+    }
+    frontal.MetsCallback(this);
+}
+
+HoteRecherche::~HoteRecherche()
+{
+    bool const remplacait = EstEnTrainDeRemplacer();
+    delete monRemplacement; // gives the editor back, which it reaches through this object
+    WidgetRechercheAbstrait * const frontal = PreteFrontal();
+    if (frontal == nullptr)
+        return;
+    frontal->MetsCallback(nullptr);
+    if (remplacait)
+        frontal->MetEnCoursDeRemplacerTout(false);
+    frontal->ActualiseOccurrences(0, 0);
+}
+
+void HoteRecherche::BrancheTouches(QWidget & zone)
+{
+    struct
+    {
+        QKeySequence::StandardKey touche;
+        void (HoteRecherche::*prise)();
+    } const touches[] = {
+        {QKeySequence::Find, &HoteRecherche::PriseOuvrir},
+        {QKeySequence::FindNext, &HoteRecherche::PriseSuivant},
+        {QKeySequence::FindPrevious, &HoteRecherche::PrisePrecedent},
+    };
+    for (auto const & [touche, prise] : touches) {
+        auto * const raccourci = new QShortcut(touche, &zone);
+        raccourci->setContext(Qt::WidgetWithChildrenShortcut);
+        connect(raccourci, &QShortcut::activated, this, prise, Qt::UniqueConnection);
+        connect(this, &QObject::destroyed, raccourci, &QObject::deleteLater, Qt::UniqueConnection);
+    }
+}
+
+void HoteRecherche::MetsDureesRemplacement(int dureeTranche, int delaiFenetre)
+{
+    maDureeTranche = dureeTranche;
+    monDelaiFenetre = delaiFenetre;
+}
+
+void HoteRecherche::CallbackNettoyerRecherche()
+{
+    maChaine.clear();
+    mesOccurrences = {};
+    maRevision = kRevisionPerimay;
+    monCurseurABougeay = true;
+    monSurlignage.Retire();
+}
+
+void HoteRecherche::CallbackChercher()
+{
+    if (!EstPret())
+        return;
+    OccurrencesTexte::Plage depuis = DonneSelection();
+    bool const occurrenceSelectionnay = mesOccurrences.DonneNumero(depuis) > 0;
+    bool const autreMode = LisDemande();
+    if (EstEnTrainDeRemplacer())
+        return; // its end searches
+    Cherche();
+    WidgetRechercheAbstrait const & frontal = *PreteFrontal();
+    bool const nouvelle = frontal.DonneSensRecherche() == CstRecherche::kNouvelleRecherche;
+    // A command backward keeps the options of the last gesture where the host gives the text.
+    bool const tapay = frontal.DonneSensRecherche() == CstRecherche::kVersLeBas &&
+                       (frontal.DonneOptions() & CstRecherche::kTexteEdite) != 0;
+    if (nouvelle || monCurseurABougeay)
+        MetsDepart(depuis.debut);
+    if (autreMode)
+        depuis.fin = depuis.debut; // which may well find the current match again
+    if (nouvelle || tapay || maChaine.isEmpty())
+        ChercheAuFil(occurrenceSelectionnay);
+    else
+        VaPlusLoin(depuis, true);
+}
+
+void HoteRecherche::CallbackRemplacer()
+{
+    if (!PeutRemplacer())
+        return;
+    LisDemande();
+    Cherche();
+    OccurrencesTexte::Plage plage = DonneSelection();
+    bool const remplace = mesOccurrences.DonneNumero(plage) > 0;
+    if (remplace) {
+        QPointer<HoteRecherche> const moi(this);
+        jeBougeLeCurseur = true;
+        QTextCursor curseur(monEditeur->PreteDocument());
+        plage.fin +=
+            RemplacementTout::Remplace(curseur, plage, PreteFrontal()->DonneChaineRemplacement());
+        if (moi == nullptr)
+            return; // somebody has answered the change with that
+        jeBougeLeCurseur = false;
+        if (!EstPret())
+            return;
+        Cherche();
+    }
+    if (!maChaine.isEmpty())
+        VaPlusLoin(plage, !remplace);
+}
+
+void HoteRecherche::CallbackRemplacerTout()
+{
+    if (!PeutRemplacer())
+        return;
+    LisDemande();
+    Cherche();
+    if (mesOccurrences.DonneNombre() == 0) {
+        Termine(!maChaine.isEmpty());
+        return;
+    }
+    monSurlignage.Retire();
+    QPointer<RemplacementTout> const remplacement = new RemplacementTout(
+        *monEditeur, mesOccurrences, PreteFrontal()->DonneChaineRemplacement(), this);
+    monRemplacement = remplacement;
+    monRemplacement->MetsDureeTranche(maDureeTranche);
+    monRemplacement->MetsDelaiFenetre(monDelaiFenetre);
+    connect(monRemplacement, &RemplacementTout::SignalFini, this,
+            &HoteRecherche::PriseRemplacementFini, Qt::UniqueConnection);
+    bool const resteAFaire = remplacement->Demarre();
+    if (remplacement == nullptr)
+        return; // somebody has answered the change by deleting this host
+    WidgetRechercheAbstrait * const frontal = PreteFrontal();
+    if (!resteAFaire)
+        PriseRemplacementFini(remplacement->DonneNombreRemplacees());
+    else if (frontal != nullptr)
+        frontal->MetEnCoursDeRemplacerTout(true);
+}
+
+void HoteRecherche::CallbackAnnulerRemplacerTout()
+{
+    if (EstEnTrainDeRemplacer())
+        monRemplacement->PriseAnnuler();
+}
+
+bool HoteRecherche::eventFilter(QObject *, QEvent * evenement)
+{
+    if (evenement->type() == QEvent::Show)
+        maMinuterie.start();
+    else if (evenement->type() == QEvent::Hide)
+        monSurlignage.Retire();
+    return false;
+}
+
+void HoteRecherche::PriseOuvrir()
+{
+    if (!EstPret())
+        return;
+    QString texte = monEditeur->DonneCurseur().selectedText();
+    if (texte.contains(QChar::ParagraphSeparator) || texte.contains(QChar::LineSeparator))
+        texte.clear();
+    PreteFrontal()->AfficheToi(CstRecherche::kNouvelleRecherche, texte);
+}
+
+void HoteRecherche::PriseSuivant()
+{
+    if (!EstPret())
+        return;
+    if (PreteFrontal()->DonneChaineRecherche().isEmpty())
+        PriseOuvrir();
+    else
+        PreteFrontal()->ChercherSuivant();
+}
+
+void HoteRecherche::PrisePrecedent()
+{
+    if (!EstPret())
+        return;
+    if (PreteFrontal()->DonneChaineRecherche().isEmpty())
+        PriseOuvrir();
+    else
+        PreteFrontal()->ChercherPrecedent();
+}
+
+void HoteRecherche::PriseCurseurBougeay()
+{
+    if (jeBougeLeCurseur || EstEnTrainDeRemplacer() || !EstPret())
+        return;
+    // No more than that: while `QTextDocument::clear` tells of the change, no cursor may come or go.
+    monCurseurABougeay = true;
+    maMinuterie.start();
+}
+
+void HoteRecherche::PriseRenouveler()
+{
+    if (!EstPret() || EstEnTrainDeRemplacer() || !monWidget->isVisible())
+        return;
+    if (Cherche())
+        Termine(false);
+    else
+        Rapporte();
+}
+
+void HoteRecherche::PriseBarreFerme()
+{
+    QWidget * const foyer = monWidget->window()->focusWidget();
+    QWidget * const editeur = monEditeur->PreteWidget();
+    if (foyer != nullptr && editeur != nullptr && monWidget->isAncestorOf(foyer))
+        editeur->setFocus();
+}
+
+void HoteRecherche::PriseFrontalDetruit()
+{
+    monSurlignage.Retire();
+}
+
+void HoteRecherche::PriseEditeurDetruit()
+{
+    mesOccurrences = {};
+    if (WidgetRechercheAbstrait * const frontal = PreteFrontal())
+        frontal->ActualiseOccurrences(0, 0);
+}
+
+void HoteRecherche::PriseRemplacementFini(int remplacees)
+{
+    if (!EstEnTrainDeRemplacer())
+        return;
+    monRemplacement->deleteLater();
+    monRemplacement = nullptr;
+    if (WidgetRechercheAbstrait * const frontal = PreteFrontal())
+        frontal->MetEnCoursDeRemplacerTout(false);
+    QPointer<HoteRecherche> const moi(this);
+    if (EstPret()) {
+        Cherche();
+        Termine(false);
+    }
+    if (moi != nullptr)
+        Q_EMIT SignalRemplacementFini(remplacees);
+}
+
+WidgetRechercheAbstrait * HoteRecherche::PreteFrontal() const
+{
+    // Null as soon as the destructor of the front end has left its class, unlike the pointer.
+    return dynamic_cast<WidgetRechercheAbstrait *>(monWidget.data());
+}
+
+bool HoteRecherche::EstPret() const
+{
+    return monEditeur->PreteWidget() != nullptr && PreteFrontal() != nullptr;
+}
+
+bool HoteRecherche::PeutRemplacer() const
+{
+    return EstPret() && !EstEnTrainDeRemplacer() &&
+           monEditeur->DonneInteraction().testFlag(Qt::TextEditable);
+}
+
+OccurrencesTexte::Plage HoteRecherche::DonneSelection() const
+{
+    QTextCursor const curseur = monEditeur->DonneCurseur();
+    return {curseur.selectionStart(), curseur.selectionEnd()};
+}
+
+int HoteRecherche::DonneDepart() const
+{
+    bool const connu = monDepart.document() == monEditeur->PreteDocument();
+    return connu ? monDepart.position() : DonneSelection().debut;
+}
+
+void HoteRecherche::MetsDepart(int position)
+{
+    monDepart = QTextCursor(monEditeur->PreteDocument()); // which moves it with its text
+    monDepart.setPosition(position);
+    monCurseurABougeay = false;
+}
+
+// Reads what the front end asks for. True when only the options differ from the last time.
+bool HoteRecherche::LisDemande()
+{
+    WidgetRechercheAbstrait const & frontal = *PreteFrontal();
+    QString const chaine = OccurrencesTexte::SansInsecables(frontal.DonneChaineRecherche());
+    auto const options = static_cast<short>(frontal.DonneOptions() & kOptionsDuTexte);
+    bool const memeChaine = chaine == maChaine;
+    bool const memesOptions = options == mesOptions;
+    if (!memeChaine || !memesOptions)
+        maRevision = kRevisionPerimay;
+    maChaine = chaine;
+    mesOptions = options;
+    return memeChaine && !memesOptions;
+}
+
+// Finds all matches, unless neither the document nor the request has changed: then false.
+bool HoteRecherche::Cherche()
+{
+    QTextDocument * const document = monEditeur->PreteDocument();
+    if (document == monDocument && document->revision() == maRevision)
+        return false;
+    monDocument = document;
+    maRevision = document->revision();
+    mesOccurrences = {};
+    if (!maChaine.isEmpty())
+        mesOccurrences = OccurrencesTexte(OccurrencesTexte::SansInsecables(document->toRawText()),
+                                          FaisExpression(maChaine, mesOptions));
+    return true;
+}
+
+// The first match behind the start, while a text is being typed.
+void HoteRecherche::ChercheAuFil(bool occurrenceSelectionnay)
+{
+    bool const boucler = (PreteFrontal()->DonneOptions() & CstRecherche::kBoucler) != 0;
+    int const depart = DonneDepart();
+    int const numero = mesOccurrences.DonneSuivante(depart, boucler);
+    if (numero > 0)
+        Selectionne(mesOccurrences.DonnePlage(numero));
+    else if (occurrenceSelectionnay) // but never what the user has selected
+        Selectionne({depart, depart});
+    Termine(false);
+}
+
+// The match before or behind a place, on a command.
+void HoteRecherche::VaPlusLoin(OccurrencesTexte::Plage const & depuis, bool avecMessage)
+{
+    WidgetRechercheAbstrait const & frontal = *PreteFrontal();
+    bool const boucler = (frontal.DonneOptions() & CstRecherche::kBoucler) != 0;
+    int const numero = frontal.DonneSensRecherche() == CstRecherche::kVersLeHaut
+                           ? mesOccurrences.DonnePrecedente(depuis.debut, boucler)
+                           : mesOccurrences.DonneSuivante(depuis.fin, boucler);
+    if (numero > 0)
+        Selectionne(mesOccurrences.DonnePlage(numero));
+    MetsDepart(DonneSelection().debut);
+    Termine(avecMessage && numero == 0);
+}
+
+void HoteRecherche::Selectionne(OccurrencesTexte::Plage const & plage)
+{
+    QScopedValueRollback const garde(jeBougeLeCurseur, true);
+    QTextCursor curseur(monEditeur->PreteDocument());
+    curseur.setPosition(plage.debut);
+    curseur.setPosition(plage.fin, QTextCursor::KeepAnchor);
+    monEditeur->MetsCurseur(curseur);
+}
+
+void HoteRecherche::Rapporte()
+{
+    PreteFrontal()->ActualiseOccurrences(mesOccurrences.DonneNumero(DonneSelection()),
+                                         mesOccurrences.DonneNombre());
+    if (monWidget->isVisible())
+        monSurlignage.Montre(mesOccurrences);
+}
+
+// Tells what a search has found. Last: those who hear of it may delete whom they want.
+void HoteRecherche::Termine(bool avecMessage)
+{
+    Rapporte();
+    QPointer<HoteRecherche> const moi(this);
+    Q_EMIT SignalTrouvay(maChaine.isEmpty() || mesOccurrences.DonneNombre() > 0);
+    if (avecMessage && moi != nullptr && EstPret())
+        PreteFrontal()->AfficheMessageTexteIntrouvable(false);
+}

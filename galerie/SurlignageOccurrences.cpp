@@ -1,0 +1,118 @@
+// galerie/SurlignageOccurrences.cpp
+#include "SurlignageOccurrences.h"
+
+#include <QAbstractScrollArea>
+#include <QEvent>
+#include <QTextDocument>
+
+#include <utility>
+
+namespace {
+
+// Tells our extra selections from those of the application.
+constexpr int kMarque = QTextFormat::UserProperty + 0x5243;
+
+// Translucent, so that the text stays readable in a light and in a dark theme.
+constexpr QRgb kFond = 0x70FFC400;
+// The current match, in both.
+constexpr QRgb kFondCourante = 0xFFFF9632;
+constexpr QRgb kTexteCourante = 0xFF000000;
+
+QTextCharFormat FaisFormat()
+{
+    QTextCharFormat format;
+    format.setBackground(QColor::fromRgba(kFond));
+    format.setProperty(kMarque, true);
+    return format;
+}
+
+} // namespace
+
+SurlignageOccurrences::SurlignageOccurrences(EditeurCherchable & editeur)
+    : monEditeur(editeur)
+{
+    editeur.PreteWidget()->viewport()->installEventFilter(this);
+}
+
+SurlignageOccurrences::~SurlignageOccurrences()
+{
+    Retire();
+}
+
+void SurlignageOccurrences::Montre(OccurrencesTexte const & occurrences)
+{
+    if (monEditeur.PreteWidget() == nullptr)
+        return;
+    mesOccurrences = occurrences;
+    monDocument = monEditeur.PreteDocument();
+    maRevision = monDocument->revision();
+    if (!std::exchange(jeMontre, true))
+        ColoreSelection();
+    Renouvelle();
+}
+
+void SurlignageOccurrences::Retire()
+{
+    mesOccurrences = {};
+    if (!std::exchange(jeMontre, false) || monEditeur.PreteWidget() == nullptr)
+        return;
+    monEditeur.MetsSelections(DonneSelectionsDesAutres());
+    monEditeur.PreteWidget()->setPalette(maPalette);
+}
+
+bool SurlignageOccurrences::eventFilter(QObject *, QEvent * evenement)
+{
+    // Painting follows every scroll, resize and change of the layout, and every change of the extra
+    // selections by the application.
+    if (evenement->type() == QEvent::Paint && EstPerimay())
+        Renouvelle();
+    return false;
+}
+
+EditeurCherchable::Selections SurlignageOccurrences::DonneSelectionsDesAutres() const
+{
+    EditeurCherchable::Selections selections = monEditeur.DonneSelections();
+    // Those of a document that has died in its editor stay: they show nothing, but Qt up to 6.4
+    // reads their text when they are taken away. All of ours being alike, it leaves them alone.
+    selections.removeIf([](QTextEdit::ExtraSelection const & selection) {
+        return selection.format.hasProperty(kMarque) && !selection.cursor.isNull();
+    });
+    return selections;
+}
+
+bool SurlignageOccurrences::EstPerimay() const
+{
+    if (!jeMontre || monDocument == nullptr || monDocument != monEditeur.PreteDocument() ||
+        monDocument->revision() != maRevision)
+        return false; // the places of the matches are no longer known
+    return monEditeur.DonnePlageVisible() != maPlage ||
+           monEditeur.DonneSelections().size() - DonneSelectionsDesAutres().size() != mesSurlignees;
+}
+
+void SurlignageOccurrences::Renouvelle()
+{
+    EditeurCherchable::Selections selections = DonneSelectionsDesAutres();
+    QTextEdit::ExtraSelection surlignage;
+    surlignage.format = FaisFormat();
+    surlignage.cursor = QTextCursor(monEditeur.PreteDocument());
+    maPlage = monEditeur.DonnePlageVisible();
+    std::span<OccurrencesTexte::Plage const> const visibles = mesOccurrences.DonneDans(maPlage);
+    for (OccurrencesTexte::Plage const & plage : visibles) {
+        surlignage.cursor.setPosition(plage.debut);
+        surlignage.cursor.setPosition(plage.fin, QTextCursor::KeepAnchor);
+        selections.append(surlignage);
+    }
+    mesSurlignees = static_cast<qsizetype>(visibles.size());
+    monEditeur.MetsSelections(selections);
+}
+
+void SurlignageOccurrences::ColoreSelection()
+{
+    QWidget & editeur = *monEditeur.PreteWidget();
+    // An editor without a palette of its own goes on following that of the application.
+    maPalette = editeur.testAttribute(Qt::WA_SetPalette) ? editeur.palette() : QPalette();
+    QPalette palette = maPalette;
+    palette.setColor(QPalette::Inactive, QPalette::Highlight, QColor(kFondCourante));
+    palette.setColor(QPalette::Inactive, QPalette::HighlightedText, QColor(kTexteCourante));
+    editeur.setPalette(palette);
+}

@@ -1,0 +1,179 @@
+// tests/galerie/tst_HoteRechercheVies.cpp
+#include "FenetreRecherche.h"
+
+#include <QSignalSpy>
+
+using namespace Qt::StringLiterals;
+
+// Who dies first.
+class tst_HoteRechercheVies : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void cleanup();
+
+    void hoteDabord_data() { AjouteMoments(); }
+    void hoteDabord();
+    void editeurDabord_data() { AjouteMoments(); }
+    void editeurDabord();
+    void frontalDabord_data() { AjouteMoments(); }
+    void frontalDabord();
+    void fenetreDuHote_data() { AjouteMoments(); }
+    void fenetreDuHote();
+    void hoteEnfant_data();
+    void hoteEnfant();
+    void detruitParCeluiQuiEcoute_data();
+    void detruitParCeluiQuiEcoute();
+
+private:
+    static void AjouteMoments();
+    FenetreRecherche & Prepare(bool riche, bool pendant);
+
+    std::unique_ptr<FenetreRecherche> maFenetre;
+};
+
+void tst_HoteRechercheVies::cleanup()
+{
+    maFenetre.reset();
+    QTRY_VERIFY(QApplication::topLevelWidgets().isEmpty());
+}
+
+void tst_HoteRechercheVies::AjouteMoments()
+{
+    QTest::addColumn<bool>("riche");
+    QTest::addColumn<bool>("pendant");
+    QTest::newRow("rich") << true << false;
+    QTest::newRow("plain") << false << false;
+    QTest::newRow("rich, while everything is replaced") << true << true;
+    QTest::newRow("plain, while everything is replaced") << false << true;
+}
+
+FenetreRecherche & tst_HoteRechercheVies::Prepare(bool riche, bool pendant)
+{
+    maFenetre = std::make_unique<FenetreRecherche>(riche);
+    FenetreRecherche & fenetre = *maFenetre;
+    fenetre.Ouvre(u"mot\n"_s.repeated(200));
+    fenetre.hote->MetsDureesRemplacement(0, 0);
+    fenetre.Tape(u"mot"_s);
+    if (pendant) {
+        fenetre.Remplacement(u"remots"_s);
+        fenetre.PreteBouton(u"Tout"_s).click();
+        QCoreApplication::processEvents(); // a slice or more, and the window
+    }
+    return fenetre;
+}
+
+void tst_HoteRechercheVies::hoteDabord()
+{
+    QFETCH(bool, riche);
+    QFETCH(bool, pendant);
+    FenetreRecherche & fenetre = Prepare(riche, pendant);
+    delete fenetre.hote;
+    QCOMPARE(fenetre.DonneSurlignees(), QString());
+    QCOMPARE(fenetre.DonneCompteur(), QString());
+    QVERIFY(fenetre.editeur->DonneInteraction().testFlag(Qt::TextEditable));
+    QVERIFY(!fenetre.PreteBouton(u"Annuler"_s).isEnabled());
+    QString const texte = fenetre.DonneTexte();
+    fenetre.Tape(u"x"_s);
+    fenetre.barre->ChercherSuivant();
+    fenetre.barre->BoutonRemplacerTout();
+    QCoreApplication::processEvents();
+    QCOMPARE(fenetre.DonneTexte(), texte);
+}
+
+void tst_HoteRechercheVies::editeurDabord()
+{
+    QFETCH(bool, riche);
+    QFETCH(bool, pendant);
+    FenetreRecherche & fenetre = Prepare(riche, pendant);
+    delete fenetre.editeur->PreteWidget();
+    QCOMPARE(fenetre.DonneCompteur(), QString());
+    fenetre.Tape(u"x"_s);
+    fenetre.barre->ChercherPrecedent();
+    fenetre.barre->BoutonRemplacer();
+    fenetre.barre->BoutonRemplacerTout();
+    fenetre.barre->AfficheToi(CstRecherche::kNouvelleRecherche, u"x"_s);
+    fenetre.hote->PriseOuvrir();
+    fenetre.hote->PriseSuivant();
+    fenetre.hote->PrisePrecedent();
+    QTRY_VERIFY(!fenetre.hote->EstEnTrainDeRemplacer());
+    QVERIFY(!fenetre.PreteBouton(u"Annuler"_s).isEnabled());
+    QTest::keyClick(&fenetre.PreteChamp(), Qt::Key_Escape);
+    QVERIFY(!fenetre.barre->isVisible());
+}
+
+void tst_HoteRechercheVies::frontalDabord()
+{
+    QFETCH(bool, riche);
+    QFETCH(bool, pendant);
+    FenetreRecherche & fenetre = Prepare(riche, pendant);
+    delete fenetre.barre;
+    QCOMPARE(fenetre.DonneSurlignees(), QString());
+    fenetre.hote->PriseOuvrir();
+    fenetre.hote->PriseSuivant();
+    fenetre.hote->PrisePrecedent();
+    fenetre.hote->CallbackChercher();
+    fenetre.hote->CallbackRemplacer();
+    fenetre.hote->CallbackRemplacerTout();
+    QTRY_VERIFY(!fenetre.hote->EstEnTrainDeRemplacer());
+    // Nobody has cancelled it.
+    QCOMPARE(fenetre.DonneTexte(), (pendant ? u"remots\n"_s : u"mot\n"_s).repeated(200));
+    QVERIFY(fenetre.editeur->DonneInteraction().testFlag(Qt::TextEditable));
+    QTextCursor(&fenetre.PreteDocument()).insertText(u"x"_s);
+    QCoreApplication::processEvents();
+}
+
+void tst_HoteRechercheVies::fenetreDuHote()
+{
+    QFETCH(bool, riche);
+    QFETCH(bool, pendant);
+    Prepare(riche, pendant);
+    maFenetre.reset();
+    QCoreApplication::processEvents();
+}
+
+void tst_HoteRechercheVies::hoteEnfant_data()
+{
+    QTest::addColumn<bool>("deLEditeur");
+    QTest::newRow("of the editor") << true;
+    QTest::newRow("of the front end") << false;
+}
+
+void tst_HoteRechercheVies::hoteEnfant()
+{
+    QFETCH(bool, deLEditeur);
+    FenetreRecherche & fenetre = Prepare(true, true);
+    QPointer<HoteRecherche> const hote(fenetre.hote);
+    QWidget * parent = fenetre.barre;
+    if (deLEditeur)
+        parent = fenetre.editeur->PreteWidget();
+    hote->setParent(parent);
+    delete parent;
+    QVERIFY(hote == nullptr);
+    QCoreApplication::processEvents();
+}
+
+void tst_HoteRechercheVies::detruitParCeluiQuiEcoute_data()
+{
+    QTest::addColumn<bool>("tout");
+    QTest::newRow("host, while everything is replaced") << true;
+    QTest::newRow("host, while one is replaced") << false;
+}
+
+// By a slot that hears of the change of the text.
+void tst_HoteRechercheVies::detruitParCeluiQuiEcoute()
+{
+    QFETCH(bool, tout);
+    FenetreRecherche & fenetre = Prepare(true, false);
+    fenetre.Remplacement(u"x"_s);
+    connect(&fenetre.PreteDocument(), &QTextDocument::contentsChanged, fenetre.hote,
+            [hote = fenetre.hote] { delete hote; });
+    fenetre.PreteBouton(tout ? u"Tout"_s : u"Remplacer"_s).click();
+    QVERIFY(fenetre.DonneTexte().startsWith(u"x\n"_s));
+    QVERIFY(fenetre.editeur->DonneInteraction().testFlag(Qt::TextEditable));
+    QCoreApplication::processEvents();
+}
+
+QTEST_MAIN(tst_HoteRechercheVies)
+#include "tst_HoteRechercheVies.moc"

@@ -1,0 +1,265 @@
+// tests/galerie/tst_SurlignageOccurrences.cpp
+#include "SurlignageOccurrences.h"
+
+#include "FenetreRecherche.h"
+
+#include <QScrollBar>
+
+using namespace Qt::StringLiterals;
+
+class tst_SurlignageOccurrences : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void cleanup();
+
+    void visiblesSeulement_data() { AjouteEditeurs(); }
+    void visiblesSeulement();
+    void defilement_data() { AjouteEditeurs(); }
+    void defilement();
+    void redimensionnement_data() { AjouteEditeurs(); }
+    void redimensionnement();
+    void ligneDefileeDeCote();
+    void selectionsDeLApplication_data() { AjouteEditeurs(); }
+    void selectionsDeLApplication();
+    void selectionsRemplacees_data() { AjouteEditeurs(); }
+    void selectionsRemplacees();
+    void suitLeTexte();
+    void palette_data();
+    void palette();
+    void documentMort_data() { AjouteEditeurs(); }
+    void documentMort();
+    void detruit();
+    void editeurDetruit();
+
+private:
+    static constexpr int kLignes = 500;
+
+    void Prepare(bool riche, QString const & texte);
+    void PrepareLong(bool riche) { Prepare(riche, u"mot\n"_s.repeated(kLignes)); }
+    void Montre();
+    QList<int> DonneDebuts() const;
+    bool SurligneCeQuiSeVoit() const;
+
+    std::unique_ptr<QAbstractScrollArea> monWidget;
+    std::unique_ptr<EditeurCherchable> monEditeur;
+    std::unique_ptr<SurlignageOccurrences> monSurlignage;
+};
+
+void tst_SurlignageOccurrences::cleanup()
+{
+    monSurlignage.reset();
+    monEditeur.reset();
+    monWidget.reset();
+    QTRY_VERIFY(QApplication::topLevelWidgets().isEmpty());
+}
+
+void tst_SurlignageOccurrences::Prepare(bool riche, QString const & texte)
+{
+    if (riche) {
+        auto editeur = std::make_unique<QTextEdit>();
+        monEditeur = EditeurCherchable::Fais(*editeur);
+        monWidget = std::move(editeur);
+    } else {
+        auto editeur = std::make_unique<QPlainTextEdit>();
+        monEditeur = EditeurCherchable::Fais(*editeur);
+        monWidget = std::move(editeur);
+    }
+    monEditeur->PreteDocument()->setPlainText(texte);
+    monEditeur->MetsCurseur(QTextCursor(monEditeur->PreteDocument()));
+    monSurlignage = std::make_unique<SurlignageOccurrences>(*monEditeur);
+    monWidget->resize(300, 200);
+    monWidget->show();
+    QVERIFY(QTest::qWaitForWindowExposed(monWidget.get()));
+}
+
+void tst_SurlignageOccurrences::Montre()
+{
+    monSurlignage->Montre(
+        OccurrencesTexte(monEditeur->PreteDocument()->toPlainText(), QRegularExpression(u"mot"_s)));
+}
+
+QList<int> tst_SurlignageOccurrences::DonneDebuts() const
+{
+    QList<int> debuts;
+    for (QTextEdit::ExtraSelection const & selection : monEditeur->DonneSelections()) {
+        if (!selection.cursor.isNull() && selection.cursor.hasSelection())
+            debuts += selection.cursor.selectionStart();
+    }
+    return debuts;
+}
+
+bool tst_SurlignageOccurrences::SurligneCeQuiSeVoit() const
+{
+    OccurrencesTexte::Plage const visible = monEditeur->DonnePlageVisible();
+    QList<int> debuts;
+    for (int debut = (visible.debut + 3) / 4 * 4; debut < visible.fin; debut += 4)
+        debuts += debut;
+    return !debuts.isEmpty() && DonneDebuts() == debuts;
+}
+
+void tst_SurlignageOccurrences::visiblesSeulement()
+{
+    QFETCH(bool, riche);
+    PrepareLong(riche);
+    Montre();
+    QTRY_VERIFY(SurligneCeQuiSeVoit());
+    QCOMPARE(DonneDebuts().first(), 0);
+    QVERIFY(DonneDebuts().size() < kLignes / 4);
+    monSurlignage->Retire();
+    QVERIFY(DonneDebuts().isEmpty());
+}
+
+void tst_SurlignageOccurrences::defilement()
+{
+    QFETCH(bool, riche);
+    PrepareLong(riche);
+    Montre();
+    QScrollBar & barre = *monWidget->verticalScrollBar();
+    QTRY_VERIFY(barre.maximum() > 0);
+    barre.setValue(barre.maximum() / 2);
+    QTRY_VERIFY(SurligneCeQuiSeVoit());
+    QVERIFY(DonneDebuts().first() > 0);
+    barre.setValue(barre.maximum());
+    QTRY_COMPARE(DonneDebuts().last(), 4 * (kLignes - 1));
+}
+
+void tst_SurlignageOccurrences::redimensionnement()
+{
+    QFETCH(bool, riche);
+    PrepareLong(riche);
+    Montre();
+    qsizetype const avant = DonneDebuts().size();
+    monWidget->resize(300, 500);
+    QTRY_VERIFY(DonneDebuts().size() > avant);
+    QTRY_VERIFY(SurligneCeQuiSeVoit());
+}
+
+void tst_SurlignageOccurrences::ligneDefileeDeCote()
+{
+    Prepare(false, u"mot "_s + u"x"_s.repeated(2000));
+    static_cast<QPlainTextEdit &>(*monWidget).setLineWrapMode(QPlainTextEdit::NoWrap);
+    QScrollBar & barre = *monWidget->horizontalScrollBar();
+    QTRY_VERIFY(barre.maximum() > 0);
+    barre.setValue(barre.maximum());
+    Montre();
+    QCOMPARE(DonneDebuts(), QList<int>{0});
+}
+
+void tst_SurlignageOccurrences::selectionsDeLApplication()
+{
+    QFETCH(bool, riche);
+    Prepare(riche, u"mot mot"_s);
+    QTextEdit::ExtraSelection sienne;
+    sienne.cursor = QTextCursor(monEditeur->PreteDocument());
+    sienne.format.setProperty(QTextFormat::FullWidthSelection, true);
+    monEditeur->MetsSelections({sienne});
+    Montre();
+    QCOMPARE(monEditeur->DonneSelections().size(), 3);
+    QVERIFY(monEditeur->DonneSelections().first().format == sienne.format);
+    Montre();
+    QCOMPARE(monEditeur->DonneSelections().size(), 3);
+    monSurlignage->Retire();
+    QCOMPARE(monEditeur->DonneSelections().size(), 1);
+    QVERIFY(monEditeur->DonneSelections().first().format == sienne.format);
+}
+
+// An application that sets its own knows nothing of these.
+void tst_SurlignageOccurrences::selectionsRemplacees()
+{
+    QFETCH(bool, riche);
+    Prepare(riche, u"mot mot"_s);
+    Montre();
+    QTextEdit::ExtraSelection sienne;
+    sienne.cursor = QTextCursor(monEditeur->PreteDocument());
+    sienne.format.setProperty(QTextFormat::FullWidthSelection, true);
+    sienne.format.setBackground(Qt::red);
+    monEditeur->MetsSelections({sienne});
+    QTRY_COMPARE(monEditeur->DonneSelections().size(), 3);
+    QVERIFY(monEditeur->DonneSelections().first().format == sienne.format);
+}
+
+void tst_SurlignageOccurrences::suitLeTexte()
+{
+    Prepare(true, u"mot mot"_s);
+    Montre();
+    QTextCursor(monEditeur->PreteDocument()).insertText(u"un "_s);
+    QCOMPARE(DonneDebuts(), (QList<int>{3, 7}));
+    monWidget->resize(400, 300); // paints, with matches that are out of date
+    QCoreApplication::processEvents();
+    QCOMPARE(DonneDebuts(), (QList<int>{3, 7}));
+}
+
+void tst_SurlignageOccurrences::palette_data()
+{
+    QTest::addColumn<bool>("propre");
+    QTest::newRow("of the application") << false;
+    QTest::newRow("of its own") << true;
+}
+
+void tst_SurlignageOccurrences::palette()
+{
+    QFETCH(bool, propre);
+    Prepare(true, u"mot"_s);
+    if (propre) {
+        QPalette palette;
+        palette.setColor(QPalette::Base, Qt::black);
+        monWidget->setPalette(palette);
+    }
+    QPalette const avant = monWidget->palette();
+    Montre();
+    Montre();
+    QPalette const pendant = monWidget->palette();
+    QVERIFY(pendant.color(QPalette::Inactive, QPalette::Highlight) !=
+            avant.color(QPalette::Inactive, QPalette::Highlight));
+    QCOMPARE(pendant.color(QPalette::Active, QPalette::Highlight),
+             avant.color(QPalette::Active, QPalette::Highlight));
+    QCOMPARE(pendant.color(QPalette::Base), avant.color(QPalette::Base));
+    monSurlignage->Retire();
+    QCOMPARE(monWidget->palette(), avant);
+    QCOMPARE(monWidget->testAttribute(Qt::WA_SetPalette), propre);
+}
+
+void tst_SurlignageOccurrences::documentMort()
+{
+    QFETCH(bool, riche);
+    Prepare(riche, u"mot mot"_s);
+    Montre();
+    auto * const document = new QTextDocument(u"un mot"_s, monWidget.get());
+    if (riche) {
+        static_cast<QTextEdit &>(*monWidget).setDocument(document);
+    } else {
+        document->setDocumentLayout(new QPlainTextDocumentLayout(document));
+        static_cast<QPlainTextEdit &>(*monWidget).setDocument(document);
+    }
+    monWidget->repaint();
+    Montre();
+    QCOMPARE(DonneDebuts(), QList<int>{3});
+    monSurlignage->Retire();
+    QVERIFY(DonneDebuts().isEmpty());
+    monWidget->repaint();
+}
+
+void tst_SurlignageOccurrences::detruit()
+{
+    Prepare(true, u"mot"_s);
+    Montre();
+    monSurlignage.reset();
+    QVERIFY(monEditeur->DonneSelections().isEmpty());
+    monWidget->repaint();
+}
+
+void tst_SurlignageOccurrences::editeurDetruit()
+{
+    Prepare(true, u"mot"_s);
+    Montre();
+    monWidget.reset();
+    monSurlignage->Montre({});
+    monSurlignage->Retire();
+    QVERIFY(monEditeur->PreteWidget() == nullptr);
+    QVERIFY(monEditeur->PreteDocument() == nullptr);
+}
+
+QTEST_MAIN(tst_SurlignageOccurrences)
+#include "tst_SurlignageOccurrences.moc"

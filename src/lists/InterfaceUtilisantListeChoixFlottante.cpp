@@ -1,0 +1,7 @@
+// lists/InterfaceUtilisantListeChoixFlottante.cpp
+#include "lists/InterfaceUtilisantListeChoixFlottante.h"
+
+InterfaceUtilisantListeChoixFlottante::InterfaceUtilisantListeChoixFlottante(QObject * parent)
+    : QObject(parent)
+{
+}

@@ -1,0 +1,211 @@
+#include "lists/ListeChoixFlottante.h"
+
+#include "lists/EssaisListeChoix.h"
+
+#include <QDialog>
+#include <QStandardItemModel>
+#include <QWindow>
+#include <QtTest>
+
+using namespace EssaisListeChoix;
+using namespace Qt::StringLiterals;
+
+// The mouse over the rows, and the connections that live only while the list is shown.
+
+class tst_ListeChoixFlottanteSouris : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void cleanup();
+    void survol();
+    void clic_data();
+    void clic();
+    void clicHorsDesRangees();
+    void clicDeDroite();
+    void listeCachee();
+    void afficheeDeuxFois();
+    void cacheeDeuxFois();
+    void choixQuiCache();
+    void clicDansLaFenetre();
+    void dialogueModal();
+    void focusDuChamp();
+};
+
+namespace {
+
+// In the window of the list: the mouse comes through the window system's queue, as a real one.
+QPoint Place(Hote const & hote, int rangee)
+{
+    return hote.Vue()->viewport()->mapTo(hote.liste.data(), hote.Milieu(rangee));
+}
+
+} // namespace
+
+void tst_ListeChoixFlottanteSouris::cleanup()
+{
+    QVERIFY(QApplication::topLevelWidgets().isEmpty());
+}
+
+void tst_ListeChoixFlottanteSouris::survol()
+{
+    Hote const hote(true);
+    QSignalSpy const choix(hote.liste, &ListeChoixFlottante::SignalSelectionListeChoix);
+    hote.liste->ActualiseListeChoix(CreeRangees(CreeTextes(3), 2));
+    QVERIFY(QTest::qWaitForWindowExposed(hote.liste));
+    for (int const rangee : {2, 1, 0}) {
+        QTest::mouseMove(hote.liste->windowHandle(), Place(hote, rangee));
+        QTRY_COMPARE(hote.Rangee(), rangee);
+        QCOMPARE(hote.liste->DonneItemsSelectionnay().value(0)->text(), u"mot %1"_s.arg(rangee));
+    }
+    // The keys go on from where the mouse is.
+    QTest::keyClick(hote.champ, Qt::Key_Down);
+    QCOMPARE(hote.Rangee(), 1);
+    QCOMPARE(choix.count(), 0);
+}
+
+void tst_ListeChoixFlottanteSouris::clic_data()
+{
+    QTest::addColumn<int>("rangee");
+    QTest::newRow("a row") << 2;
+    QTest::newRow("a row that the automatic choice passes over") << 1;
+}
+
+void tst_ListeChoixFlottanteSouris::clic()
+{
+    QFETCH(int, rangee);
+    Hote const hote;
+    QSignalSpy const choix(hote.liste, &ListeChoixFlottante::SignalSelectionListeChoix);
+    Rangees const rangees = CreeRangees(CreeTextes(3));
+    hote.liste->MetsItemSelectionnableParDefaut(rangees.at(1).at(0), false);
+    hote.liste->ActualiseListeChoix(rangees);
+    QTest::mouseClick(hote.Vue()->viewport(), Qt::LeftButton, {}, hote.Milieu(rangee));
+    QCOMPARE(choix.count(), 1);
+    QCOMPARE(DernierChoix(choix), QStringList(u"mot %1"_s.arg(rangee)));
+    QVERIFY(hote.liste->isVisible());
+}
+
+void tst_ListeChoixFlottanteSouris::clicHorsDesRangees()
+{
+    // Two columns leave as much room below the rows.
+    Hote const hote;
+    QSignalSpy const choix(hote.liste, &ListeChoixFlottante::SignalSelectionListeChoix);
+    hote.liste->ActualiseListeChoix(CreeRangees(CreeTextes(3), 2));
+    QRect const derniere = hote.Vue()->visualRect(hote.Vue()->model()->index(2, 0));
+    QTest::mouseClick(hote.Vue()->viewport(), Qt::LeftButton, {},
+                      derniere.bottomLeft() + QPoint(2, derniere.height()));
+    QCOMPARE(choix.count(), 0);
+}
+
+void tst_ListeChoixFlottanteSouris::clicDeDroite()
+{
+    Hote const hote;
+    QSignalSpy const choix(hote.liste, &ListeChoixFlottante::SignalSelectionListeChoix);
+    hote.liste->ActualiseListeChoix(CreeRangees(CreeTextes(3)));
+    QTest::mouseClick(hote.Vue()->viewport(), Qt::RightButton, {}, hote.Milieu(1));
+    QCOMPARE(choix.count(), 0);
+}
+
+void tst_ListeChoixFlottanteSouris::listeCachee()
+{
+    Hote const hote;
+    QSignalSpy const choix(hote.liste, &ListeChoixFlottante::SignalSelectionListeChoix);
+    QModelIndex const aucun;
+    Q_EMIT hote.Vue()->clicked(aucun);
+    hote.liste->ActualiseListeChoix(CreeRangees(CreeTextes(3)));
+    hote.liste->CacheToi();
+    QModelIndex const index = hote.Vue()->model()->index(1, 0);
+    Q_EMIT hote.Vue()->clicked(index);
+    Q_EMIT hote.Vue()->activated(index);
+    QCOMPARE(choix.count(), 0);
+    hote.liste->AfficheToi();
+    Q_EMIT hote.Vue()->clicked(index);
+    QCOMPARE(choix.count(), 1);
+    Q_EMIT hote.Vue()->activated(index);
+    QCOMPARE(choix.count(), 2);
+}
+
+void tst_ListeChoixFlottanteSouris::afficheeDeuxFois()
+{
+    Hote const hote;
+    QSignalSpy const choix(hote.liste, &ListeChoixFlottante::SignalSelectionListeChoix);
+    for (int i = 0; i < 3; ++i)
+        hote.liste->ActualiseListeChoix(CreeRangees(CreeTextes(3)));
+    hote.liste->AfficheToi();
+    QTest::mouseClick(hote.Vue()->viewport(), Qt::LeftButton, {}, hote.Milieu(0));
+    QCOMPARE(choix.count(), 1);
+    hote.liste->CacheToi();
+    Q_EMIT hote.Vue()->clicked(hote.Vue()->model()->index(0, 0));
+    QCOMPARE(choix.count(), 1);
+}
+
+void tst_ListeChoixFlottanteSouris::cacheeDeuxFois()
+{
+    Hote const hote;
+    QSignalSpy const choix(hote.liste, &ListeChoixFlottante::SignalSelectionListeChoix);
+    hote.liste->ActualiseListeChoix(CreeRangees(CreeTextes(3)));
+    hote.liste->CacheToi();
+    hote.liste->CacheToi();
+    hote.liste->AfficheToi();
+    QTest::mouseClick(hote.Vue()->viewport(), Qt::LeftButton, {}, hote.Milieu(0));
+    QCOMPARE(choix.count(), 1);
+}
+
+void tst_ListeChoixFlottanteSouris::choixQuiCache()
+{
+    Hote const hote;
+    QSignalSpy const choix(hote.liste, &ListeChoixFlottante::SignalSelectionListeChoix);
+    connect(hote.liste, &ListeChoixFlottante::SignalSelectionListeChoix, hote.liste,
+            &ListeChoixFlottante::CacheToi);
+    hote.liste->ActualiseListeChoix(CreeRangees(CreeTextes(3)));
+    QPoint const milieu = hote.Milieu(1);
+    QTest::mouseClick(hote.Vue()->viewport(), Qt::LeftButton, {}, milieu);
+    QTest::mouseDClick(hote.Vue()->viewport(), Qt::LeftButton, {}, milieu);
+    QTest::mouseRelease(hote.Vue()->viewport(), Qt::LeftButton, {}, milieu);
+    QCOMPARE(choix.count(), 1);
+    QVERIFY(hote.liste->isHidden());
+}
+
+void tst_ListeChoixFlottanteSouris::clicDansLaFenetre()
+{
+    Hote const hote;
+    QSignalSpy const choix(hote.liste, &ListeChoixFlottante::SignalSelectionListeChoix);
+    hote.liste->ActualiseListeChoix(CreeRangees(CreeTextes(3)));
+    QVERIFY(QTest::qWaitForWindowExposed(hote.liste));
+    QTest::mouseClick(hote.liste->windowHandle(), Qt::LeftButton, {}, Place(hote, 1));
+    QTRY_COMPARE(DernierChoix(choix), QStringList(u"mot 1"_s));
+}
+
+void tst_ListeChoixFlottanteSouris::dialogueModal()
+{
+    // The dialog blocks all windows but those that belong to it, as the list of its field does.
+    Hote hote;
+    QDialog dialogue;
+    QLineEdit champ(&dialogue);
+    dialogue.open();
+    dialogue.setWindowModality(Qt::ApplicationModal);
+    dialogue.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&dialogue));
+    delete hote.liste;
+    hote.liste = new ListeChoixFlottante(nullptr, false, &champ);
+    QSignalSpy const choix(hote.liste, &ListeChoixFlottante::SignalSelectionListeChoix);
+    hote.liste->ActualiseListeChoix(CreeRangees(CreeTextes(3)));
+    QVERIFY(QTest::qWaitForWindowExposed(hote.liste));
+    QTest::mouseClick(hote.liste->windowHandle(), Qt::LeftButton, {}, Place(hote, 2));
+    QTRY_COMPARE(DernierChoix(choix), QStringList(u"mot 2"_s));
+}
+
+void tst_ListeChoixFlottanteSouris::focusDuChamp()
+{
+    Hote const hote;
+    hote.champ->setFocus();
+    QVERIFY(QTest::qWaitForWindowActive(&const_cast<Hote &>(hote).fenetre));
+    hote.liste->ActualiseListeChoix(CreeRangees(CreeTextes(3)));
+    QTRY_COMPARE(QApplication::focusWidget(), hote.champ);
+    QTest::mouseClick(hote.Vue()->viewport(), Qt::LeftButton, {}, hote.Milieu(1));
+    QCOMPARE(QApplication::focusWidget(), hote.champ);
+    QVERIFY(!hote.liste->focusWidget());
+}
+
+QTEST_MAIN(tst_ListeChoixFlottanteSouris)
+#include "tst_ListeChoixFlottanteSouris.moc"

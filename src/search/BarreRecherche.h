@@ -100,6 +100,7 @@ private Q_SLOTS:
     void PriseActualiseEtatPanneau();
 
 private:
+    // The steps of the construction, in BarreRechercheConstruction.cpp.
     void CreeBoutons();
     void CreeChamps(bool avecCompteur);
     void CreeBoutonsRemplacement();
@@ -108,6 +109,7 @@ private:
     void OrdonneTabulation();
     void Branche();
     void BrancheRemplacement();
+
     void MontreRemplacement(bool visible);
 
     QToolButton * monBoutonFermer = nullptr;

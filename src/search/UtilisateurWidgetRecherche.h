@@ -8,7 +8,8 @@
 ///
 /// Each call says that the user asked for something; what exactly is read from the front end, whose
 /// state is fresh during the call. A host is not owned and must outlive its front end, or be
-/// taken away with `MetsCallback(nullptr)`.
+/// taken away with `MetsCallback(nullptr)`. During a call it may hide the front end, but delete it
+/// only with `deleteLater`.
 class FABRELGUI_EXPORT UtilisateurWidgetRecherche
 {
 public:

@@ -1,0 +1,132 @@
+// search/DialogueRechercher.h
+#pragma once
+
+#include "FabrelGuiExport.h"
+
+#include "search/WidgetRechercheAbstrait.h"
+
+#include <QDialog>
+
+#include <initializer_list>
+
+class QAbstractButton;
+class QCheckBox;
+class QLineEdit;
+class QPushButton;
+struct ChaineLocalisable;
+
+/// The search dialog: the front end with every option in sight, for searches that are set up first
+/// and then asked for. It is not modal; the document is edited while it stands open.
+///
+/// The mask of the constructor, bits of `CstRecherche::eOption`, says which options it offers;
+/// `kTexteEdite` offers nothing. `kHaut` and `kBas` exclude each other, so do `kContient` and
+/// `kCommencePar`. Where only one of them is offered it is a choice already made, except that
+/// `kCommencePar` alone can be switched off. As in the bar, whole words and beginnings exclude
+/// each other: "mot entier" is disabled and does not count while "commence par" is on. A new
+/// dialog has "boucler", "contient" and "vers le bas" on.
+///
+/// The option word has the bits of what is checked, and the direction of the request, offered or
+/// not; the choice on screen follows a direction that the host sets. "Chercher" searches upward
+/// when "vers le haut" is checked, and otherwise downward.
+///
+/// Nothing is searched while one types. Return searches, and replaces in the replacement field;
+/// neither works without a text to search for, nor while everything is being replaced. Escape and
+/// the close button of the window do the same as "Fermer". Every control has a letter that
+/// reaches it with Alt.
+///
+/// It opens where the last search dialog of the process was left, brought back to a screen when its
+/// title bar is on none, unless the application moved it. A host may delete it in its callbacks,
+/// except `CallbackNettoyerRecherche`; a receiver in the signals of this class.
+class FABRELGUI_EXPORT DialogueRechercher : public QDialog, public WidgetRechercheAbstrait
+{
+    Q_OBJECT
+
+public:
+    /// `remplacer` adds the replacement field, "Remplacer", "Tout remplacer" and "Annuler".
+    DialogueRechercher(QWidget * parent, bool remplacer, short masque);
+    ~DialogueRechercher() override;
+
+    using WidgetRechercheAbstrait::AfficheToi;
+
+    /// In a bubble over the dialog or, while it is hidden, over its parent.
+    void AfficheMessageTexteIntrouvable(bool pourListe) const override;
+    /// Shows the dialog in front of its window, and activates it.
+    void AfficheToi() override;
+    /// While everything is being replaced only "Annuler" and "Fermer" can be pressed.
+    void MetEnCoursDeRemplacerTout(bool enCours) override;
+    void CacheToi() override;
+    QWidget * DonneMoiEnWidget() override;
+    void MetsChaineAChercher(UniChaine chaine) override;
+    void ModifieSensRecherche(CstRecherche::eTypeRecherche type) override;
+    void PrendsChaineRecherche(QString const & chaine) override;
+    /// Also to the replacement field, where there is one.
+    void PrendsChaineRemplacement(QString const & chaine) override;
+    /// The search field takes the focus with all its text selected.
+    void PrendsFocus() override;
+    void setVisible(bool visible) override;
+
+Q_SIGNALS:
+    /// The dialog is about to be hidden, by the host or by the user; then come those of `QDialog`,
+    /// always as for a rejected one.
+    void SignalFermeture();
+    /// The user closes the dialog; `SignalFermeture` follows.
+    void SignalDialogueRechercheFermay();
+
+public Q_SLOTS:
+    /// Cancels replacing everything, tells that the user closes the dialog, and hides it.
+    void PriseBoutonFermer() override;
+    void reject() override;
+
+protected Q_SLOTS:
+    void PriseActualiserEtatPanneau() override;
+    void PriseBoutonChercher() override;
+    void PriseChercherSuivant() override;
+    void PriseChercherPrecedent() override;
+    void PriseBoutonRemplacerTout() override;
+    void PriseBoutonRemplacer() override;
+    void PriseBoutonAnnuler() override;
+
+protected:
+    void ActualiserEtatPanneau() override;
+    bool eventFilter(QObject * objet, QEvent * evenement) override;
+    void showEvent(QShowEvent * evenement) override;
+
+private Q_SLOTS:
+    void PriseSensChoisi();
+    void PriseActualiserBoutons();
+
+private:
+    QLineEdit * CreeChamp(QString const & nom);
+    void CreeChamps();
+    template <typename Bouton>
+    Bouton * CreeOption(short bit, QString const & nom, ChaineLocalisable const & texte);
+    void CreeOptions();
+    void Groupe(std::initializer_list<QAbstractButton *> boutons);
+    QPushButton * CreeBouton(QString const & nom, ChaineLocalisable const & texte);
+    void CreeBoutons();
+    void Dispose();
+    void DonneLettres();
+    void Branche();
+    bool EstVersLeHaut() const;
+    void SuisSens();
+    void RetiensPosition();
+    void ReprendsPosition();
+
+    short monMasque; // the options that are offered
+    bool monRemplacementEnCours = false;
+    QLineEdit * monChampRecherche = nullptr;
+    QLineEdit * monChampRemplacement = nullptr; // null without replacing, as are its buttons
+    // Each null unless the mask asks for it.
+    QCheckBox * maCaseMotEntier = nullptr;
+    QCheckBox * maCaseCasse = nullptr;
+    QCheckBox * maCaseBoucler = nullptr;
+    QAbstractButton * monChoixContient = nullptr;
+    QAbstractButton * monChoixCommencePar = nullptr; // a check box without `monChoixContient`
+    QAbstractButton * monChoixHaut = nullptr;
+    QAbstractButton * monChoixBas = nullptr;
+    QPushButton * monBoutonChercher = nullptr;
+    QPushButton * monBoutonRemplacer = nullptr;
+    QPushButton * monBoutonRemplacerTout = nullptr;
+    QPushButton * monBoutonAnnuler = nullptr;
+    QPushButton * monBoutonFermer = nullptr;
+};

@@ -1,0 +1,215 @@
+// search/DialogueRechercherControles.cpp
+//
+// What the search dialog is made of.
+#include "search/DialogueRechercher.h"
+
+#include "foundation/TraductionGui.h"
+
+#include <QButtonGroup>
+#include <QCheckBox>
+#include <QFormLayout>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QVBoxLayout>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+// Average characters.
+constexpr int kLargeurChamp = 30; // the least that a field shows
+constexpr int kEcartColonnes = 1; // on top of that of the style: each column is a group
+
+// Gives a text the first of its letters that is neither taken nor hard to type.
+QString AjouteLettre(QString texte, QString & prises)
+{
+    for (qsizetype place = 0; place < texte.size(); ++place) {
+        QChar const lettre = texte.at(place).toLower();
+        if (lettre < u'a' || lettre > u'z' || prises.contains(lettre))
+            continue;
+        prises += lettre;
+        return texte.insert(place, u'&');
+    }
+    return texte;
+}
+
+void AjouteColonne(QHBoxLayout & rangee, int ecart, std::initializer_list<QWidget *> widgets)
+{
+    auto * const colonne = new QVBoxLayout;
+    for (QWidget * const widget : widgets)
+        if (widget)
+            colonne->addWidget(widget);
+    if (colonne->isEmpty()) {
+        delete colonne;
+        return;
+    }
+    colonne->addStretch();
+    if (!rangee.isEmpty())
+        rangee.addSpacing(ecart);
+    rangee.addLayout(colonne);
+}
+
+} // namespace
+
+QLineEdit * DialogueRechercher::CreeChamp(QString const & nom)
+{
+    auto * const champ = new QLineEdit(this);
+    champ->setObjectName(nom);
+    champ->setClearButtonEnabled(true);
+    champ->setMinimumWidth(kLargeurChamp * champ->fontMetrics().averageCharWidth());
+    return champ;
+}
+
+void DialogueRechercher::CreeChamps()
+{
+    monChampRecherche = CreeChamp(u"ChampRecherche"_s);
+    if (DonnePermetRemplacer())
+        monChampRemplacement = CreeChamp(u"ChampRemplacement"_s);
+}
+
+template <typename Bouton>
+Bouton * DialogueRechercher::CreeOption(short bit, QString const & nom,
+                                        ChaineLocalisable const & texte)
+{
+    if ((monMasque & bit) == 0)
+        return nullptr;
+    auto * const bouton = new Bouton(TraductionGui(texte), this);
+    bouton->setObjectName(nom);
+    return bouton;
+}
+
+void DialogueRechercher::CreeOptions()
+{
+    maCaseMotEntier =
+        CreeOption<QCheckBox>(CstRecherche::kMotEntier, u"CaseMotEntier"_s, TexteGui("mot entier"));
+    maCaseCasse = CreeOption<QCheckBox>(CstRecherche::kRespecterCasse, u"CaseCasse"_s,
+                                        TexteGui("sensible à la casse"));
+    maCaseBoucler =
+        CreeOption<QCheckBox>(CstRecherche::kBoucler, u"CaseBoucler"_s, TexteGui("boucler"));
+    monChoixContient =
+        CreeOption<QRadioButton>(CstRecherche::kContient, u"ChoixContient"_s, TexteGui("contient"));
+    ChaineLocalisable const commencePar = TexteGui("commence par");
+    QString const nomCommencePar = u"ChoixCommencePar"_s;
+    if (monChoixContient)
+        monChoixCommencePar =
+            CreeOption<QRadioButton>(CstRecherche::kCommencePar, nomCommencePar, commencePar);
+    else
+        monChoixCommencePar =
+            CreeOption<QCheckBox>(CstRecherche::kCommencePar, nomCommencePar, commencePar);
+    monChoixBas =
+        CreeOption<QRadioButton>(CstRecherche::kBas, u"ChoixBas"_s, TexteGui("vers le bas"));
+    monChoixHaut =
+        CreeOption<QRadioButton>(CstRecherche::kHaut, u"ChoixHaut"_s, TexteGui("vers le haut"));
+
+    // A group each, also for one button: it makes a choice that is checked stay so.
+    Groupe({monChoixContient, monChoixContient ? monChoixCommencePar : nullptr});
+    Groupe({monChoixBas, monChoixHaut});
+    if (maCaseBoucler)
+        maCaseBoucler->setChecked(true);
+}
+
+// The first of the buttons that there are begins checked.
+void DialogueRechercher::Groupe(std::initializer_list<QAbstractButton *> boutons)
+{
+    auto * const groupe = new QButtonGroup(this);
+    for (QAbstractButton * const bouton : boutons)
+        if (bouton)
+            groupe->addButton(bouton);
+    if (!groupe->buttons().isEmpty())
+        groupe->buttons().constFirst()->setChecked(true);
+}
+
+QPushButton * DialogueRechercher::CreeBouton(QString const & nom, ChaineLocalisable const & texte)
+{
+    auto * const bouton = new QPushButton(TraductionGui(texte), this);
+    bouton->setObjectName(nom);
+    return bouton;
+}
+
+void DialogueRechercher::CreeBoutons()
+{
+    monBoutonChercher = CreeBouton(u"BoutonChercher"_s, TexteGui("&Chercher"));
+    monBoutonChercher->setDefault(true);
+    if (DonnePermetRemplacer()) {
+        monBoutonRemplacer = CreeBouton(u"BoutonRemplacer"_s, TexteGui("&Remplacer"));
+        monBoutonRemplacerTout = CreeBouton(u"BoutonRemplacerTout"_s, TexteGui("&Tout remplacer"));
+        monBoutonAnnuler = CreeBouton(u"BoutonAnnuler"_s, TexteGui("Annuler"));
+    }
+    monBoutonFermer = CreeBouton(u"BoutonFermer"_s, TexteGui("&Fermer"));
+}
+
+void DialogueRechercher::Dispose()
+{
+    auto * const formulaire = new QFormLayout;
+    formulaire->setFieldGrowthPolicy(QFormLayout::AllNonFixedFieldsGrow);
+    formulaire->addRow(TraductionGui(TexteGui("Rechercher")), monChampRecherche);
+    if (monChampRemplacement)
+        formulaire->addRow(TraductionGui(TexteGui("Remplacer")), monChampRemplacement);
+
+    int const ecart = kEcartColonnes * fontMetrics().averageCharWidth();
+    auto * const options = new QHBoxLayout;
+    AjouteColonne(*options, ecart, {maCaseMotEntier, maCaseCasse, maCaseBoucler});
+    AjouteColonne(*options, ecart, {monChoixContient, monChoixCommencePar});
+    AjouteColonne(*options, ecart, {monChoixBas, monChoixHaut});
+    options->addStretch();
+    formulaire->setLayout(formulaire->rowCount(), QFormLayout::FieldRole, options);
+
+    auto * const boutons = new QVBoxLayout;
+    for (QPushButton * const bouton :
+         {monBoutonChercher, monBoutonRemplacer, monBoutonRemplacerTout, monBoutonAnnuler})
+        if (bouton)
+            boutons->addWidget(bouton);
+    boutons->addStretch();
+    boutons->addWidget(monBoutonFermer);
+
+    auto * const racine = new QHBoxLayout(this);
+    racine->addLayout(formulaire, 1);
+    racine->addSpacing(ecart);
+    racine->addLayout(boutons);
+}
+
+// Most texts have no letter for the keyboard, and which are free depends on the language and on
+// what is offered.
+void DialogueRechercher::DonneLettres()
+{
+    QString prises;
+    auto const boutons = findChildren<QAbstractButton *>(QString(), Qt::FindDirectChildrenOnly);
+    for (QAbstractButton const * const bouton : boutons)
+        if (qsizetype const place = bouton->text().indexOf(u'&'); place >= 0)
+            prises += bouton->text().at(place + 1).toLower();
+    for (QLabel * const etiquette : findChildren<QLabel *>(QString(), Qt::FindDirectChildrenOnly))
+        etiquette->setText(AjouteLettre(etiquette->text(), prises));
+    for (QAbstractButton * const bouton : boutons)
+        if (!bouton->text().contains(u'&'))
+            bouton->setText(AjouteLettre(bouton->text(), prises));
+}
+
+void DialogueRechercher::Branche()
+{
+    using Dialogue = DialogueRechercher;
+    auto const branche = [this](auto * objet, auto signal, void (Dialogue::*prise)()) {
+        if (objet)
+            connect(objet, signal, this, prise, Qt::UniqueConnection);
+    };
+    for (QLineEdit * const champ : {monChampRecherche, monChampRemplacement})
+        branche(champ, &QLineEdit::textEdited, &Dialogue::PriseActualiserEtatPanneau);
+    branche(monChampRecherche, &QLineEdit::textChanged, &Dialogue::PriseActualiserBoutons);
+    for (QAbstractButton * const option : std::initializer_list<QAbstractButton *>{
+             maCaseMotEntier, maCaseCasse, maCaseBoucler, monChoixContient, monChoixCommencePar})
+        branche(option, &QAbstractButton::clicked, &Dialogue::PriseActualiserEtatPanneau);
+    for (QAbstractButton * const sens : {monChoixHaut, monChoixBas})
+        branche(sens, &QAbstractButton::clicked, &Dialogue::PriseSensChoisi);
+    branche(monBoutonChercher, &QAbstractButton::clicked, &Dialogue::PriseBoutonChercher);
+    branche(monBoutonRemplacer, &QAbstractButton::clicked, &Dialogue::PriseBoutonRemplacer);
+    branche(monBoutonRemplacerTout, &QAbstractButton::clicked, &Dialogue::PriseBoutonRemplacerTout);
+    branche(monBoutonAnnuler, &QAbstractButton::clicked, &Dialogue::PriseBoutonAnnuler);
+    branche(monBoutonFermer, &QAbstractButton::clicked, &Dialogue::PriseBoutonFermer);
+    if (monChoixCommencePar && maCaseMotEntier)
+        connect(monChoixCommencePar, &QAbstractButton::toggled, maCaseMotEntier,
+                &QWidget::setDisabled, Qt::UniqueConnection);
+    if (monChampRemplacement)
+        monChampRemplacement->installEventFilter(this);
+}

@@ -1,0 +1,287 @@
+// search/tst_DialogueRechercherGestes.cpp
+//
+// What each gesture asks of the host, and what the host asks of the dialog.
+#include "search/EssaisDialogue.h"
+
+#include <QtTest>
+
+using namespace EssaisDialogue;
+using namespace Qt::StringLiterals;
+using CstRecherche::kNouvelleRecherche;
+using CstRecherche::kVersLeBas;
+using CstRecherche::kVersLeHaut;
+
+class tst_DialogueRechercherGestes : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void cleanup();
+
+    void gestes_data();
+    void gestes();
+    void remplacerToutVersLeHaut();
+    void ouverture_data();
+    void ouverture();
+    void ouvertureSimple();
+    void focus();
+    void sensParLHote();
+    void sensParLHoteSansChoix();
+    void sensParLUtilisateur();
+    void effectuerRecherche();
+    void effectuerRechercheVide();
+    void chaines();
+    void pasDeCompteur();
+    void sansHote();
+};
+
+void tst_DialogueRechercherGestes::cleanup()
+{
+    QVERIFY(QApplication::topLevelWidgets().isEmpty());
+}
+
+void tst_DialogueRechercherGestes::gestes_data()
+{
+    QTest::addColumn<QByteArray>("bouton");
+    QTest::addColumn<bool>("enCours");
+    QTest::addColumn<QString>("appel");
+    QTest::addColumn<short>("options");
+    QTest::addColumn<CstRecherche::eTypeRecherche>("sens");
+    QTest::newRow("find") << QByteArray("BoutonChercher") << false << u"Chercher"_s << short(0x24)
+                          << kVersLeBas;
+    QTest::newRow("replace") << QByteArray("BoutonRemplacer") << false << u"Remplacer"_s
+                             << short(0x24) << kNouvelleRecherche;
+    QTest::newRow("replace all") << QByteArray("BoutonRemplacerTout") << false << u"RemplacerTout"_s
+                                 << short(0x24) << kNouvelleRecherche;
+    QTest::newRow("cancel refreshes nothing")
+        << QByteArray("BoutonAnnuler") << true << u"AnnulerRemplacerTout"_s << short(0)
+        << kNouvelleRecherche;
+}
+
+void tst_DialogueRechercherGestes::gestes()
+{
+    QFETCH(QByteArray, bouton);
+    QFETCH(bool, enCours);
+    QFETCH(QString, appel);
+    QFETCH(short, options);
+    QFETCH(CstRecherche::eTypeRecherche, sens);
+    Banc banc;
+    banc.dialogue->PrendsChaineRemplacement(u"mieux"_s);
+    banc.dialogue->MetEnCoursDeRemplacerTout(enCours);
+    Clique(*banc.dialogue, bouton);
+    QCOMPARE(banc.hote.appels.size(), 1);
+    AppelRecherche const & fait = banc.hote.appels.first();
+    QCOMPARE(fait.nom, appel);
+    QCOMPARE(fait.chaine, u"texte"_s);
+    QCOMPARE(fait.remplacement, u"mieux"_s);
+    QCOMPARE(fait.options, options);
+    QCOMPARE(fait.sens, sens);
+}
+
+// Every match, whatever the dialog says of directions and ends.
+void tst_DialogueRechercherGestes::remplacerToutVersLeHaut()
+{
+    Banc const banc;
+    Clique(*banc.dialogue, "ChoixHaut");
+    Clique(*banc.dialogue, "CaseBoucler");
+    Clique(*banc.dialogue, "BoutonRemplacer");
+    Clique(*banc.dialogue, "BoutonRemplacerTout");
+    QCOMPARE(banc.hote.appels.first().options, short(0x10));
+    QCOMPARE(banc.hote.appels.last().options, short(0x34));
+    QCOMPARE(banc.hote.appels.last().sens, kVersLeHaut);
+}
+
+void tst_DialogueRechercherGestes::ouverture_data()
+{
+    QTest::addColumn<CstRecherche::eTypeRecherche>("type");
+    QTest::addColumn<QString>("chaine");
+    QTest::addColumn<QString>("attendue");
+    QTest::addColumn<QStringList>("appels");
+    QTest::addColumn<short>("options");
+    QStringList const nouvelle{u"Nettoyer"_s, u"Chercher"_s};
+    QTest::newRow("new") << kNouvelleRecherche << u" mot\t"_s << u"mot"_s << nouvelle
+                         << short(0x24);
+    QTest::newRow("new, blank") << kNouvelleRecherche << u"   "_s << u"avant"_s << nouvelle
+                                << short(0x24);
+    QTest::newRow("down") << kVersLeBas << u"x"_s << u"avant"_s << QStringList{u"Chercher"_s}
+                          << short(0x24);
+    QTest::newRow("up") << kVersLeHaut << u"x"_s << u"avant"_s << QStringList{u"Chercher"_s}
+                        << short(0x14);
+}
+
+void tst_DialogueRechercherGestes::ouverture()
+{
+    QFETCH(CstRecherche::eTypeRecherche, type);
+    QFETCH(QString, chaine);
+    QFETCH(QString, attendue);
+    QFETCH(QStringList, appels);
+    QFETCH(short, options);
+    DialogueRechercher dialogue(nullptr, true, kToutOffrir);
+    dialogue.PrendsChaineRecherche(u"avant"_s);
+    HoteEspion const hote(&dialogue);
+    dialogue.AfficheToi(type, UniChaine(chaine));
+    QVERIFY(dialogue.isVisible());
+    QCOMPARE(hote.DonneNoms(), appels);
+    QCOMPARE(hote.appels.last().chaine, attendue);
+    QCOMPARE(hote.appels.last().options, options);
+    QCOMPARE(hote.appels.last().sens, type);
+    auto const * const champ = Controle<QLineEdit>(dialogue, "ChampRecherche");
+    QCOMPARE(champ->text(), attendue);
+    QCOMPARE(champ->selectedText(), attendue);
+    QCOMPARE(dialogue.focusWidget(), champ);
+    QCOMPARE(Controle(dialogue, "ChoixHaut")->isChecked(), type == kVersLeHaut);
+}
+
+void tst_DialogueRechercherGestes::ouvertureSimple()
+{
+    Banc const banc;
+    QVERIFY(banc.dialogue->isVisible());
+    QCOMPARE(banc.hote.DonneNoms(), QStringList());
+    // Asked for again while it is minimised it comes back.
+    banc.dialogue->showMinimized();
+    banc.dialogue->AfficheToi();
+    QVERIFY(!banc.dialogue->isMinimized());
+    QCOMPARE(banc.hote.DonneNoms(), QStringList());
+}
+
+void tst_DialogueRechercherGestes::focus()
+{
+    Banc const banc;
+    auto * const champ = Controle<QLineEdit>(*banc.dialogue, "ChampRecherche");
+    champ->deselect();
+    Controle(*banc.dialogue, "CaseCasse")->setFocus();
+    banc.dialogue->PrendsFocus();
+    QCOMPARE(banc.dialogue->focusWidget(), champ);
+    QCOMPARE(champ->selectedText(), u"texte"_s);
+}
+
+void tst_DialogueRechercherGestes::sensParLHote()
+{
+    Banc banc;
+    auto const * const haut = Controle(*banc.dialogue, "ChoixHaut");
+    banc.dialogue->ModifieSensRecherche(kVersLeHaut);
+    QVERIFY(haut->isChecked());
+    QCOMPARE(banc.dialogue->DonneOptions(), short(0x14));
+    banc.dialogue->ModifieSensRecherche(kVersLeBas);
+    QVERIFY(!haut->isChecked());
+    banc.dialogue->ModifieSensRecherche(kVersLeHaut);
+    banc.dialogue->ModifieSensRecherche(kNouvelleRecherche);
+    QVERIFY(!haut->isChecked());
+    QCOMPARE(banc.dialogue->DonneSensRecherche(), kNouvelleRecherche);
+    QCOMPARE(banc.hote.DonneNoms(), QStringList());
+
+    banc.dialogue->ChercherPrecedent();
+    QVERIFY(haut->isChecked());
+    QCOMPARE(banc.hote.appels.last().options, short(0x14));
+    banc.dialogue->ChercherSuivant();
+    QVERIFY(!haut->isChecked());
+    QCOMPARE(banc.hote.appels.last().options, short(0x24));
+    banc.dialogue->ModifieSensRecherche(kVersLeHaut);
+    banc.dialogue->TexteDeRechercheChanger();
+    QVERIFY(!haut->isChecked());
+    QCOMPARE(banc.hote.appels.last().options, short(0x224));
+}
+
+// Upward is all that is offered: a new search goes there, what the host wants goes where it wants.
+void tst_DialogueRechercherGestes::sensParLHoteSansChoix()
+{
+    Banc banc(0x010);
+    banc.dialogue->AfficheToi(kNouvelleRecherche, {});
+    QCOMPARE(banc.hote.appels.last().options, short(0x10));
+    banc.dialogue->ChercherSuivant();
+    QCOMPARE(banc.hote.appels.last().options, short(0x20));
+    Clique(*banc.dialogue, "BoutonChercher");
+    QCOMPARE(banc.hote.appels.last().options, short(0x10));
+    QCOMPARE(banc.hote.appels.last().sens, kVersLeHaut);
+    QVERIFY(Controle(*banc.dialogue, "ChoixHaut")->isChecked());
+}
+
+void tst_DialogueRechercherGestes::sensParLUtilisateur()
+{
+    Banc banc;
+    Clique(*banc.dialogue, "ChoixHaut");
+    QCOMPARE(banc.dialogue->DonneSensRecherche(), kVersLeHaut);
+    Clique(*banc.dialogue, "BoutonRemplacer");
+    QCOMPARE(banc.hote.appels.last().sens, kVersLeHaut);
+    Clique(*banc.dialogue, "BoutonChercher");
+    QCOMPARE(banc.hote.appels.last().sens, kVersLeHaut);
+    QVERIFY(Controle(*banc.dialogue, "ChoixHaut")->isChecked());
+    Clique(*banc.dialogue, "ChoixBas");
+    QCOMPARE(banc.dialogue->DonneSensRecherche(), kVersLeBas);
+    Clique(*banc.dialogue, "BoutonChercher");
+    QCOMPARE(banc.hote.appels.last().sens, kVersLeBas);
+}
+
+// Backward, with the options of the last gesture but for the direction.
+void tst_DialogueRechercherGestes::effectuerRecherche()
+{
+    Banc banc;
+    Clique(*banc.dialogue, "CaseCasse");
+    banc.dialogue->PrendsOptions(0x022);
+    banc.dialogue->EffectuerRecherche("mot");
+    QCOMPARE(banc.hote.DonneNoms(), QStringList{u"Chercher"_s});
+    AppelRecherche const & appel = banc.hote.appels.first();
+    QCOMPARE(appel.chaine, u"mot"_s);
+    QCOMPARE(appel.sens, kVersLeHaut);
+    QCOMPARE(appel.options, short(0x012)); // a refresh would have brought "boucler" back
+    QVERIFY(Controle(*banc.dialogue, "ChoixHaut")->isChecked());
+    QCOMPARE(Controle<QLineEdit>(*banc.dialogue, "ChampRecherche")->text(), u"mot"_s);
+}
+
+void tst_DialogueRechercherGestes::effectuerRechercheVide()
+{
+    Banc const banc;
+    banc.dialogue->EffectuerRecherche({});
+    QCOMPARE(banc.hote.DonneNoms(), QStringList());
+    QCOMPARE(banc.dialogue->DonneSensRecherche(), kNouvelleRecherche);
+    QCOMPARE(banc.dialogue->DonneChaineRecherche(), u"texte"_s);
+    QVERIFY(Controle(*banc.dialogue, "ChoixBas")->isChecked());
+}
+
+void tst_DialogueRechercherGestes::chaines()
+{
+    DialogueRechercher dialogue(nullptr, true, 0);
+    auto const * const champ = Controle<QLineEdit>(dialogue, "ChampRecherche");
+    dialogue.MetsChaineAChercher("un");
+    QCOMPARE(dialogue.DonneChaineRecherche(), u"un"_s);
+    QCOMPARE(champ->text(), u"un"_s);
+    dialogue.PrendsChaineRecherche(u"deux"_s);
+    QCOMPARE(dialogue.DonneChaineRecherche(), u"deux"_s);
+    QCOMPARE(champ->text(), u"deux"_s);
+    dialogue.PrendsChaineRemplacement(u"trois"_s);
+    QCOMPARE(dialogue.DonneChaineRemplacement(), u"trois"_s);
+    QCOMPARE(Controle<QLineEdit>(dialogue, "ChampRemplacement")->text(), u"trois"_s);
+    dialogue.MetsChaineAChercher({});
+    QCOMPARE(champ->text(), QString());
+}
+
+void tst_DialogueRechercherGestes::pasDeCompteur()
+{
+    Banc const banc;
+    banc.dialogue->ActualiseOccurrences(3, 12);
+    QVERIFY(EstActif(*banc.dialogue, "BoutonChercher"));
+    banc.dialogue->ActualiseOccurrences(0, 0);
+    QVERIFY(EstActif(*banc.dialogue, "BoutonChercher"));
+}
+
+void tst_DialogueRechercherGestes::sansHote()
+{
+    DialogueRechercher dialogue(nullptr, true, kToutOffrir);
+    dialogue.AfficheToi(kNouvelleRecherche, "mot");
+    Clique(dialogue, "BoutonChercher");
+    QCOMPARE(dialogue.DonneSensRecherche(), kVersLeBas);
+    QCOMPARE(dialogue.DonneChaineRecherche(), u"mot"_s);
+    Clique(dialogue, "ChoixHaut");
+    for (auto const * const nom : {"BoutonChercher", "BoutonRemplacer", "BoutonRemplacerTout"})
+        Clique(dialogue, nom);
+    QCOMPARE(dialogue.DonneOptions(), short(0x34));
+    dialogue.MetEnCoursDeRemplacerTout(true);
+    Clique(dialogue, "BoutonAnnuler");
+    dialogue.EffectuerRecherche("autre");
+    QCOMPARE(dialogue.DonneSensRecherche(), kVersLeHaut);
+    Clique(dialogue, "BoutonFermer");
+    QVERIFY(dialogue.isHidden());
+}
+
+QTEST_MAIN(tst_DialogueRechercherGestes)
+#include "tst_DialogueRechercherGestes.moc"

@@ -102,6 +102,7 @@ class tst_Galerie : public QObject
 private Q_SLOTS:
     void captures();
     void echelleDesCaptures();
+    void texteDonnay();
     void sansEcranLesCapturesSeFont_data();
     void sansEcranLesCapturesSeFont();
     void refus_data();
@@ -190,6 +191,25 @@ void tst_Galerie::echelleDesCaptures()
     QVERIFY(std::abs(doubley.width() - simple.width() * 2) <= 8);
 }
 
+void tst_Galerie::texteDonnay()
+{
+    QTemporaryDir const dossier;
+    QImage pages[2];
+    for (int i = 0; i < 2; ++i) {
+        QFile texte(dossier.filePath(u"texte.txt"_s));
+        QVERIFY(texte.open(QIODevice::WriteOnly));
+        texte.write(i == 0 ? "Un chien, deux chiens" : "Tout autre chose");
+        texte.close();
+        Execution const execution = Execute({u"--captures"_s, dossier.path(), u"--page"_s,
+                                             u"recherche"_s, u"--texte"_s, texte.fileName()},
+                                            dossier.path(), DonneEnvironnementSansEcran());
+        QVERIFY2(execution.code == 0, qPrintable(execution.erreurs));
+        QVERIFY(pages[i].load(dossier.filePath(u"13-recherche-fr.png"_s)));
+    }
+
+    QVERIFY(pages[0] != pages[1]);
+}
+
 void tst_Galerie::sansEcranLesCapturesSeFont_data()
 {
     QTest::addColumn<QStringList>("arguments");
@@ -243,6 +263,7 @@ void tst_Galerie::refus_data()
     QTest::newRow("a directory below a file") << QStringList{u"--captures"_s, u"fichier/sous"_s};
     QTest::newRow("no name of a directory") << QStringList{u"--captures"_s, u""_s};
     QTest::newRow("an unknown language") << QStringList{u"--langue"_s, u"de"_s};
+    QTest::newRow("no name of a text") << QStringList{u"--texte"_s, u""_s};
     QTest::newRow("an unknown page") << QStringList{u"--page"_s, u"inconnue"_s};
     QTest::newRow("an unknown option") << QStringList{u"--inconnue"_s};
     QTest::newRow("an argument that is no option") << QStringList{u"page"_s};

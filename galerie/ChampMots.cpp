@@ -10,6 +10,7 @@
 #include <QEvent>
 #include <QLocale>
 #include <QStandardItem>
+#include <QTreeView>
 
 namespace {
 
@@ -25,7 +26,9 @@ ChampMots::ChampMots(MotsFrancais & mots, QWidget * parent)
     , maListe(std::make_unique<ListeChoixFlottante>(&monInterface, false, this))
 {
     setClearButtonEnabled(true);
-    maListe->setAccessibleName(TraductionGalerie(TexteGalerie("Mots proposés")));
+    QString const nom = TraductionGalerie(TexteGalerie("Mots proposés"));
+    maListe->setAccessibleName(nom);
+    maListe->PreteListeChoix()->setAccessibleName(nom);
     Branche();
 }
 

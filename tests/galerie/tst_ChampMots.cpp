@@ -126,6 +126,7 @@ void tst_ChampMots::proposeEnTapant()
 {
     QTest::keyClicks(monChamp, u"ze"_s);
     QCOMPARE(DonneProposes(), QStringList{u"zèbre"_s});
+    QVERIFY(!monChamp->PreteListe().PreteListeChoix()->accessibleName().isEmpty());
 
     QTest::keyClicks(monChamp, u"z"_s);
     QVERIFY(!monChamp->PreteListe().isVisible());

@@ -46,6 +46,16 @@ void BrancheEditeur(Editeur & editeur, HoteRecherche & hote, QTimer & minuterie,
     QObject::connect(&editeur, &Editeur::selectionChanged, &hote, bougeay, Qt::UniqueConnection);
 }
 
+// A key that works in `zone` and the widgets in it as long as the host lives.
+QShortcut * CreeRaccourci(QKeySequence::StandardKey touche, QWidget & zone, QObject const & hote)
+{
+    auto * const raccourci = new QShortcut(touche, &zone);
+    raccourci->setContext(Qt::WidgetWithChildrenShortcut);
+    QObject::connect(&hote, &QObject::destroyed, raccourci, &QObject::deleteLater,
+                     Qt::UniqueConnection);
+    return raccourci;
+}
+
 } // namespace
 
 HoteRecherche::HoteRecherche(QTextEdit & editeur, WidgetRechercheAbstrait & frontal,
@@ -101,21 +111,12 @@ HoteRecherche::~HoteRecherche()
 
 void HoteRecherche::BrancheTouches(QWidget & zone)
 {
-    struct
-    {
-        QKeySequence::StandardKey touche;
-        void (HoteRecherche::*prise)();
-    } const touches[] = {
-        {QKeySequence::Find, &HoteRecherche::PriseOuvrir},
-        {QKeySequence::FindNext, &HoteRecherche::PriseSuivant},
-        {QKeySequence::FindPrevious, &HoteRecherche::PrisePrecedent},
-    };
-    for (auto const & [touche, prise] : touches) {
-        auto * const raccourci = new QShortcut(touche, &zone);
-        raccourci->setContext(Qt::WidgetWithChildrenShortcut);
-        connect(raccourci, &QShortcut::activated, this, prise, Qt::UniqueConnection);
-        connect(this, &QObject::destroyed, raccourci, &QObject::deleteLater, Qt::UniqueConnection);
-    }
+    connect(CreeRaccourci(QKeySequence::Find, zone, *this), &QShortcut::activated, this,
+            &HoteRecherche::PriseOuvrir, Qt::UniqueConnection);
+    connect(CreeRaccourci(QKeySequence::FindNext, zone, *this), &QShortcut::activated, this,
+            &HoteRecherche::PriseSuivant, Qt::UniqueConnection);
+    connect(CreeRaccourci(QKeySequence::FindPrevious, zone, *this), &QShortcut::activated, this,
+            &HoteRecherche::PrisePrecedent, Qt::UniqueConnection);
 }
 
 void HoteRecherche::MetsDureesRemplacement(int dureeTranche, int delaiFenetre)
@@ -260,7 +261,8 @@ void HoteRecherche::PriseCurseurBougeay()
 {
     if (jeBougeLeCurseur || EstEnTrainDeRemplacer() || !EstPret())
         return;
-    // No more than that: while `QTextDocument::clear` tells of the change, no cursor may come or go.
+    // No more than that: while `QTextDocument::clear` tells of the change, no cursor may come or
+    // go.
     monCurseurABougeay = true;
     maMinuterie.start();
 }

@@ -43,8 +43,8 @@ public:
     using QTreeView::QTreeView;
 
 protected:
-    // Keys end here: one that the view has no use for would go on to the list, which sends what it
-    // gets to the linked widget, from where it came.
+    // Keys end here. One that the view has no use for would go on to the list, which sends what it
+    // gets to the linked widget, from where it came; and then to the widget's own parent.
     void keyPressEvent(QKeyEvent * touche) override
     {
         QTreeView::keyPressEvent(touche);
@@ -374,7 +374,6 @@ bool ListeChoixFlottante::TraiteToucheDuWidget(QKeyEvent * touche)
     case Qt::Key_Enter: {
         QPointer<QTreeView> const vue = maVue; // a choice may destroy the list
         QCoreApplication::sendEvent(maVue, touche);
-        touche->accept(); // or it would go on to the parent of the linked widget
         // A view takes the focus at its keys when nothing else in the application has it.
         if (vue)
             vue->clearFocus();

@@ -31,6 +31,10 @@ private Q_SLOTS:
     void dialogueModal();
 
 private:
+    /// Moves the mouse over a row until the list has noticed, which the window manager may still
+    /// be moving.
+    void Survole(Hote const & hote, int rangee);
+
     EntreeX11 monEntree;
 };
 
@@ -58,6 +62,16 @@ QPoint SurLEcran(Hote const & hote, int rangee)
 }
 
 } // namespace
+
+void tst_ListeChoixFlottanteX11::Survole(Hote const & hote, int rangee)
+{
+    int essais = 0;
+    auto const survolay = [&] {
+        monEntree.Deplace(SurLEcran(hote, rangee) + QPoint(++essais % 2, 0));
+        return hote.Rangee() == rangee;
+    };
+    QTRY_VERIFY_WITH_TIMEOUT(survolay(), kDelai);
+}
 
 void tst_ListeChoixFlottanteX11::initTestCase()
 {
@@ -114,6 +128,7 @@ void tst_ListeChoixFlottanteX11::clicSansActivation()
     Active(hote);
     QSignalSpy const activations(qApp, &QGuiApplication::focusWindowChanged);
     Montre(hote);
+    Survole(hote, 2);
     monEntree.Clique(SurLEcran(hote, 2));
     QTRY_COMPARE_WITH_TIMEOUT(choix.count(), 1, kDelai);
     QCOMPARE(DernierChoix(choix), QStringList(u"mot 2"_s));
@@ -131,8 +146,8 @@ void tst_ListeChoixFlottanteX11::survolReel()
     Active(hote);
     Montre(hote);
     for (int const rangee : {3, 1}) {
-        monEntree.Deplace(SurLEcran(hote, rangee));
-        QTRY_COMPARE_WITH_TIMEOUT(hote.Rangee(), rangee, kDelai);
+        Survole(hote, rangee);
+        QCOMPARE(hote.Rangee(), rangee);
     }
     QVERIFY(hote.champ->hasFocus());
 }
@@ -186,6 +201,7 @@ void tst_ListeChoixFlottanteX11::dialogueModal()
     QTRY_VERIFY_WITH_TIMEOUT(dialogue.isActiveWindow(), kDelai);
     QSignalSpy const choix(hote.liste, &ListeChoixFlottante::SignalSelectionListeChoix);
     Montre(hote);
+    Survole(hote, 2);
     monEntree.Clique(SurLEcran(hote, 2));
     QTRY_COMPARE_WITH_TIMEOUT(DernierChoix(choix), QStringList(u"mot 2"_s), kDelai);
     QVERIFY(dialogue.isActiveWindow());

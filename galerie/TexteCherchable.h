@@ -37,8 +37,8 @@ public:
 
     void OuvreBarre();
     void OuvreDialogue();
-    /// Opens the bar, and searches for what stands in its field, or else for `texte`, without taking
-    /// the focus from where it is.
+    /// Opens the bar, and searches for what stands in its field, or else for `texte`, without
+    /// taking the focus from where it is.
     void Demontre(QString const & texte);
     void OuvreRemplacement();
     void Cherche(QString const & texte);

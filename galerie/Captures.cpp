@@ -8,13 +8,32 @@
 #include "TraductionGalerie.h"
 
 #include <QCoreApplication>
+#include <QDeadlineTimer>
 #include <QDir>
+#include <QLineEdit>
 #include <QPixmap>
 #include <QSaveFile>
+#include <QToolButton>
+#include <QVariant>
+
+#include <algorithm>
 
 using namespace Qt::StringLiterals;
 
 namespace {
+
+constexpr int kDelaiFondus = 500; // ms; Qt's own takes 160
+
+// The button that clears a field fades in: how far it got would be in the picture.
+bool FondusEnCours(QWidget const & fenetre)
+{
+    auto const boutons = fenetre.findChildren<QToolButton *>();
+    return std::any_of(boutons.begin(), boutons.end(), [](QToolButton const * bouton) {
+        auto const * const champ = qobject_cast<QLineEdit *>(bouton->parent());
+        return champ && bouton->isVisible() && !champ->text().isEmpty() &&
+               bouton->property("opacity").toReal() < 1;
+    });
+}
 
 // Pictures are named "01-theme-fr.png" and "01-theme-sombre-fr.png".
 class Album
@@ -58,7 +77,12 @@ private:
         QString const nom = u"%1-%2%3-%4.png"_s.arg(page + 1, 2, 10, QChar(u'0'))
                                 .arg(description.nom, variante, langue);
         maFenetre.MontrePage(page);
-        QCoreApplication::processEvents(); // layouts settle on events
+        // Layouts settle on events, and what they show may ask for more.
+        for (int tour = 0; tour < 2; ++tour)
+            QCoreApplication::processEvents();
+        QDeadlineTimer const delai(kDelaiFondus);
+        while (FondusEnCours(maFenetre) && !delai.hasExpired())
+            QCoreApplication::processEvents(QEventLoop::AllEvents, kDelaiFondus);
         monSucces = maFenetre.grab().save(monDossier.filePath(nom)) && monSucces;
         mesFigures += u"<figure lang=\"%1\"><figcaption>%2</figcaption><img src=\"%3\" alt=\"%2\" "
                       "width=\"%4\"></figure>\n"_s

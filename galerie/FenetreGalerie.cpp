@@ -73,21 +73,25 @@ void EcrisSaisie(QWidget & widget, QVariant const & saisie)
         DonneSaisie(widget).write(&widget, saisie);
 }
 
-QHash<QString, QVariant> DonneSaisies(QWidget const & page)
+QHash<QString, QVariantList> DonneSaisies(QWidget const & page)
 {
-    QHash<QString, QVariant> saisies;
+    QHash<QString, QVariantList> saisies;
     for (QWidget const * const widget : DonneNommes(page))
-        saisies.insert(widget->objectName(), LisSaisie(*widget));
+        saisies[widget->objectName()].append(LisSaisie(*widget));
     return saisies;
 }
 
-void RemetsSaisies(QWidget const & page, QHash<QString, QVariant> const & saisies)
+// Widgets of one name, as the two fields of a search bar, take theirs in turn.
+void RemetsSaisies(QWidget const & page, QHash<QString, QVariantList> saisies)
 {
     for (QWidget * const widget : DonneNommes(page)) {
-        auto const saisie = saisies.find(widget->objectName());
+        auto const restantes = saisies.find(widget->objectName());
+        if (restantes == saisies.end() || restantes->isEmpty())
+            continue;
+        QVariant const saisie = restantes->takeFirst();
         // Some tell of a value that is written even when it is the same.
-        if (saisie != saisies.end() && LisSaisie(*widget) != *saisie)
-            EcrisSaisie(*widget, *saisie);
+        if (LisSaisie(*widget) != saisie)
+            EcrisSaisie(*widget, saisie);
     }
 }
 

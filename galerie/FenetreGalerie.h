@@ -39,8 +39,8 @@ public:
 private:
     struct Page
     {
-        QPointer<QWidget> widget; // null until it is shown
-        QHash<QString, QVariant> saisies;
+        QPointer<QWidget> widget;             // null until it is shown
+        QHash<QString, QVariantList> saisies; // of widgets of one name, in their order
     };
 
     QWidget * CreePanneau();

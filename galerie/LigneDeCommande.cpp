@@ -22,6 +22,7 @@ namespace {
 constexpr QLatin1StringView kOptionCaptures("captures");
 constexpr QLatin1StringView kOptionLangue("langue");
 constexpr QLatin1StringView kOptionPage("page");
+constexpr QLatin1StringView kOptionTexte("texte");
 
 // In the offscreen platform's format. A position is taken as it stands, but a size is divided by
 // the scale factor.
@@ -68,6 +69,10 @@ std::unique_ptr<QCommandLineParser> CreeAnalyseur()
         {kOptionPage,
          u"Page to begin with, and the only one that is rendered: %1."_s.arg(noms.join(u", "_s)),
          u"page"_s});
+    analyseur->addOption({kOptionTexte,
+                          u"Text in UTF-8, plain or compressed by gzip, to search in; the window "
+                          "begins with that page unless another is asked for."_s,
+                          u"file"_s});
     return analyseur;
 }
 
@@ -110,8 +115,12 @@ LigneDeCommande LisLigneDeCommande(int argc, char ** argv)
     commande.langue = DonneLangueDuCode(analyseur->value(kOptionLangue)).value_or(kLangueFrancais);
     commande.page = DonneIndexPage(analyseur->value(kOptionPage));
     commande.dossierCaptures = analyseur->value(kOptionCaptures);
+    commande.texte = analyseur->value(kOptionTexte);
     if (commande.dossierCaptures.isEmpty() && !PeutAfficher(arguments))
         commande.dossierCaptures = u"galerie-captures"_s;
+    // Pictures are of every page all the same.
+    if (!commande.texte.isEmpty() && commande.page < 0 && commande.dossierCaptures.isEmpty())
+        commande.page = DonneIndexPage(u"recherche"_s);
     return commande;
 }
 
@@ -126,6 +135,8 @@ void VerifieLigneDeCommande(QApplication const & application)
         erreur = u"Unknown page '%1'."_s.arg(analyseur->value(kOptionPage));
     else if (analyseur->isSet(kOptionCaptures) && analyseur->value(kOptionCaptures).isEmpty())
         erreur = u"Empty directory name."_s;
+    else if (analyseur->isSet(kOptionTexte) && analyseur->value(kOptionTexte).isEmpty())
+        erreur = u"Empty file name."_s;
     else if (!analyseur->positionalArguments().isEmpty())
         erreur = u"Unexpected argument '%1'."_s.arg(analyseur->positionalArguments().first());
     if (erreur.isEmpty())

@@ -12,6 +12,7 @@ struct LigneDeCommande
 {
     eLangue langue = kLangueFrancais;
     QString dossierCaptures; ///< empty for a window
+    QString texte;           ///< the file that the page on searching opens; empty for its own
     int page = -1; ///< the page to begin with, and the only one in pictures; -1 without one
 };
 

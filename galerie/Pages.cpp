@@ -7,6 +7,7 @@
 #include "PageEcrans.h"
 #include "PageFenetres.h"
 #include "PagePolices.h"
+#include "PageRecherche.h"
 #include "PageStyle.h"
 #include "PageTactile.h"
 #include "PageTexteRiche.h"
@@ -49,6 +50,8 @@ QList<DescriptionPage> const & DonnePages()
         {TexteGalerie("Vues"), u"vues"_s, [](ThemeGalerie &) -> QWidget * { return new PageVues; }},
         {TexteGalerie("Tactile"), u"tactile"_s,
          [](ThemeGalerie &) -> QWidget * { return new PageTactile; }},
+        {TexteGalerie("Recherche"), u"recherche"_s,
+         [](ThemeGalerie &) -> QWidget * { return new PageRecherche; }},
     };
     return pages;
 }

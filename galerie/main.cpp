@@ -2,6 +2,7 @@
 #include "Captures.h"
 #include "FenetreGalerie.h"
 #include "LigneDeCommande.h"
+#include "PageRecherche.h"
 #include "ThemeGalerie.h"
 
 #include "dialogs/StockageReponse.h"
@@ -45,6 +46,8 @@ int Execute(ThemeGalerie & theme, LigneDeCommande const & commande)
 {
     if (commande.dossierCaptures.isEmpty())
         NommeFichiersDesReponses();
+    if (!commande.texte.isEmpty())
+        PageRecherche::PreteMemoire().fichier = commande.texte;
     FenetreGalerie fenetre(theme);
     if (commande.page >= 0)
         fenetre.MontrePage(commande.page);

@@ -3,6 +3,7 @@
 
 #include "ApercuFenetre.h"
 #include "Langues.h"
+#include "PageRecherche.h"
 #include "Pages.h"
 #include "ThemeGalerie.h"
 #include "VueEcrans.h"
@@ -54,6 +55,7 @@ private Q_SLOTS:
 
     void langueRefaitLesPages();
     void saisiesGardees();
+    void saisiesDuMemeNom();
     void saisiesDansLesApercus();
     void lettresUniques_data();
     void lettresUniques();
@@ -70,10 +72,16 @@ void tst_FenetreGalerie::init()
     Traductions::MetsLanguePourApplicationCourante(kLangueFrancais);
     monTheme.Reinitialise();
     QVERIFY(monTheme.Applique());
+    // Whatever packages this machine has.
+    PageRecherche::PreteMemoire() = {};
+    PageRecherche::PreteMemoire().texte = u"Un texte où chercher"_s;
+    PageRecherche::PreteMemoire().mots.MetsFichier(QString());
 }
 
 void tst_FenetreGalerie::cleanup()
 {
+    // The menu of a search bar dies later.
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     QVERIFY(QApplication::topLevelWidgets().isEmpty());
     ThemesQt::DetruisToi();
 }
@@ -146,6 +154,25 @@ void tst_FenetreGalerie::saisiesGardees()
     auto const * const table = fenetre.findChild<QTableView *>(u"tableVariables"_s);
     QVERIFY(table->model()->rowCount() > 0);
     QVERIFY(table->model()->rowCount() < ThemesQt::Instance()->DonneNoms().size());
+}
+
+// Both fields of the search bar go by one name.
+void tst_FenetreGalerie::saisiesDuMemeNom()
+{
+    FenetreGalerie fenetre(monTheme);
+    MontreToutesLesPages(fenetre);
+    auto const champs = [&fenetre] {
+        return fenetre.findChildren<QLineEdit *>(u"ChampTexteRecherche"_s);
+    };
+    QCOMPARE(champs().size(), 2);
+    champs().first()->setText(u"texte"_s);
+    champs().last()->setText(u"livre"_s);
+
+    fenetre.MetsLangue(kLangueAnglais);
+    MontreToutesLesPages(fenetre);
+
+    QCOMPARE(champs().first()->text(), u"texte"_s);
+    QCOMPARE(champs().last()->text(), u"livre"_s);
 }
 
 // What stands in a window that is closed is kept, and seen in its picture.

@@ -102,6 +102,7 @@ class tst_Galerie : public QObject
 private Q_SLOTS:
     void captures();
     void echelleDesCaptures();
+    void texteDonnay();
     void sansEcranLesCapturesSeFont_data();
     void sansEcranLesCapturesSeFont();
     void refus_data();
@@ -128,7 +129,7 @@ void tst_Galerie::captures()
     for (QString const & page :
          {u"01-theme"_s, u"02-textes"_s, u"03-polices"_s, u"04-ecrans"_s, u"05-alertes"_s,
           u"06-fenetres"_s, u"07-style"_s, u"08-texteriche"_s, u"09-boutons"_s, u"10-combos"_s,
-          u"11-vues"_s, u"12-tactile"_s}) {
+          u"11-vues"_s, u"12-tactile"_s, u"13-recherche"_s}) {
         QVERIFY(images.contains(page + u"-fr.png"_s));
         QVERIFY(images.contains(page + u"-en.png"_s));
         QVERIFY2(QImage(destination + u'/' + page + u"-fr.png"_s) !=
@@ -145,7 +146,7 @@ void tst_Galerie::captures()
                      qPrintable(page));
         }
     }
-    QCOMPARE(images.size(), 48);
+    QCOMPARE(images.size(), 52);
     for (QString const & nom : images) {
         QImage const image(destination + u'/' + nom);
         QVERIFY2(!image.isNull() && !EstUniforme(image), qPrintable(nom));
@@ -188,6 +189,25 @@ void tst_Galerie::echelleDesCaptures()
     QVERIFY(!simple.isEmpty());
     QVERIFY((doubley.center() - simple.center() * 2).manhattanLength() <= 8);
     QVERIFY(std::abs(doubley.width() - simple.width() * 2) <= 8);
+}
+
+void tst_Galerie::texteDonnay()
+{
+    QTemporaryDir const dossier;
+    QImage pages[2];
+    for (int i = 0; i < 2; ++i) {
+        QFile texte(dossier.filePath(u"texte.txt"_s));
+        QVERIFY(texte.open(QIODevice::WriteOnly));
+        texte.write(i == 0 ? "Un chien, deux chiens" : "Tout autre chose");
+        texte.close();
+        Execution const execution = Execute({u"--captures"_s, dossier.path(), u"--page"_s,
+                                             u"recherche"_s, u"--texte"_s, texte.fileName()},
+                                            dossier.path(), DonneEnvironnementSansEcran());
+        QVERIFY2(execution.code == 0, qPrintable(execution.erreurs));
+        QVERIFY(pages[i].load(dossier.filePath(u"13-recherche-fr.png"_s)));
+    }
+
+    QVERIFY(pages[0] != pages[1]);
 }
 
 void tst_Galerie::sansEcranLesCapturesSeFont_data()
@@ -243,6 +263,7 @@ void tst_Galerie::refus_data()
     QTest::newRow("a directory below a file") << QStringList{u"--captures"_s, u"fichier/sous"_s};
     QTest::newRow("no name of a directory") << QStringList{u"--captures"_s, u""_s};
     QTest::newRow("an unknown language") << QStringList{u"--langue"_s, u"de"_s};
+    QTest::newRow("no name of a text") << QStringList{u"--texte"_s, u""_s};
     QTest::newRow("an unknown page") << QStringList{u"--page"_s, u"inconnue"_s};
     QTest::newRow("an unknown option") << QStringList{u"--inconnue"_s};
     QTest::newRow("an argument that is no option") << QStringList{u"page"_s};

@@ -1,0 +1,160 @@
+// galerie/MotsFrancais.cpp
+#include "MotsFrancais.h"
+
+#include "LectureTexte.h"
+
+#include <algorithm>
+#include <array>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr char16_t kFinTable = 0x180; // the letters of European languages stand below
+
+// Lower case without accents, or nothing for what is no letter and no digit.
+QString Replie(QChar caractere)
+{
+    switch (caractere.unicode()) {
+    case u'œ':
+    case u'Œ':
+        return u"oe"_s;
+    case u'æ':
+    case u'Æ':
+        return u"ae"_s;
+    default:
+        break;
+    }
+    QString replie;
+    QString const decompose = QString(caractere).normalized(QString::NormalizationForm_D);
+    for (QChar const element : decompose)
+        if (element.isLetterOrNumber() || element.isSurrogate())
+            replie += element.toCaseFolded();
+    return replie;
+}
+
+void AjouteReplie(QString & cle, QChar caractere)
+{
+    static std::array<QString, kFinTable> const table = [] {
+        std::array<QString, kFinTable> replis;
+        for (char16_t code = 0; code < kFinTable; ++code)
+            replis[code] = Replie(code);
+        return replis;
+    }();
+    char16_t const code = caractere.unicode();
+    if (code >= u'a' && code <= u'z') // most of them
+        cle += caractere;
+    else
+        cle += code < kFinTable ? table[code] : Replie(caractere);
+}
+
+} // namespace
+
+MotsFrancais::MotsFrancais()
+    : MotsFrancais(DonneFichierParDefaut())
+{
+}
+
+MotsFrancais::MotsFrancais(QString fichier)
+    : monFichier(std::move(fichier))
+{
+}
+
+QString MotsFrancais::DonneFichierParDefaut()
+{
+    return u"/usr/share/dict/french"_s;
+}
+
+void MotsFrancais::MetsFichier(QString const & fichier)
+{
+    if (fichier != monFichier)
+        *this = MotsFrancais(fichier);
+}
+
+bool MotsFrancais::Charge()
+{
+    if (!monChargement) {
+        monChargement = true;
+        mesMots = LectureTexte(monFichier).DonneTexte();
+        Decoupe();
+        auto const precede = [this](Entree const & gauche, Entree const & droite) {
+            return DonneCle(gauche) < DonneCle(droite);
+        };
+        // A list in the order of a French dictionary is sorted so already.
+        if (!std::is_sorted(mesEntrees.cbegin(), mesEntrees.cend(), precede))
+            std::stable_sort(mesEntrees.begin(), mesEntrees.end(), precede);
+    }
+    return !mesEntrees.empty();
+}
+
+QStringList MotsFrancais::Propose(QString const & debut, int combien)
+{
+    auto const [premier, dernier] = Trouve(debut);
+    QStringList mots;
+    for (auto entree = premier; entree != dernier && mots.size() < combien; ++entree)
+        mots.append(DonneMot(*entree).toString());
+    return mots;
+}
+
+int MotsFrancais::Compte(QString const & debut)
+{
+    auto const [premier, dernier] = Trouve(debut);
+    return static_cast<int>(dernier - premier);
+}
+
+void MotsFrancais::Decoupe()
+{
+    mesCles.reserve(mesMots.size());
+    qsizetype debut = 0;
+    qsizetype cle = 0;
+    mesEntrees.reserve(static_cast<std::size_t>(mesMots.count(u'\n')) + 1);
+    QChar const * const caracteres = mesMots.constData();
+    for (qsizetype i = 0, taille = mesMots.size(); i < taille; ++i) {
+        QChar const caractere = caracteres[i];
+        if (caractere != u'\n') {
+            AjouteReplie(mesCles, caractere);
+            continue;
+        }
+        AjouteEntree(debut, i, cle);
+        debut = i + 1;
+        cle = mesCles.size();
+    }
+    AjouteEntree(debut, mesMots.size(), cle);
+}
+
+// What has no letter is no word.
+void MotsFrancais::AjouteEntree(qsizetype debut, qsizetype fin, qsizetype cle)
+{
+    if (mesCles.size() > cle)
+        mesEntrees.push_back(
+            {debut, cle, static_cast<int>(fin - debut), static_cast<int>(mesCles.size() - cle)});
+}
+
+QStringView MotsFrancais::DonneMot(Entree const & entree) const
+{
+    return QStringView(mesMots).mid(entree.mot, entree.longueurMot).trimmed();
+}
+
+QStringView MotsFrancais::DonneCle(Entree const & entree) const
+{
+    return QStringView(mesCles).mid(entree.cle, entree.longueurCle);
+}
+
+std::pair<MotsFrancais::Iterateur, MotsFrancais::Iterateur>
+MotsFrancais::Trouve(QString const & debut)
+{
+    QString cle;
+    for (QChar const caractere : debut)
+        AjouteReplie(cle, caractere);
+    Charge();
+    if (cle.isEmpty())
+        return {mesEntrees.cend(), mesEntrees.cend()};
+    auto const premier = std::lower_bound(
+        mesEntrees.cbegin(), mesEntrees.cend(), cle,
+        [this](Entree const & entree, QStringView texte) { return DonneCle(entree) < texte; });
+    auto const dernier = std::upper_bound(premier, mesEntrees.cend(), cle,
+                                          [this](QStringView texte, Entree const & entree) {
+                                              return texte < DonneCle(entree).left(texte.size());
+                                          });
+    return {premier, dernier};
+}

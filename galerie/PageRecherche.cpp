@@ -1,0 +1,306 @@
+// galerie/PageRecherche.cpp
+#include "PageRecherche.h"
+
+#include "ApercuFenetre.h"
+#include "ChampMots.h"
+#include "HoteRecherche.h"
+#include "Pages.h"
+#include "TexteCherchable.h"
+#include "TraceSignaux.h"
+#include "TraductionGalerie.h"
+
+#include "lists/ListeChoixFlottante.h"
+#include "search/BarreRecherche.h"
+
+#include <QCheckBox>
+#include <QDialog>
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QGridLayout>
+#include <QGroupBox>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QRegularExpression>
+#include <QVBoxLayout>
+
+#include <utility>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+// Logical pixels.
+constexpr int kLargeurMots = 270;
+constexpr QSize kTailleDialogue(560, 420);
+
+// For the first search, the word that comes back most often of those that the text begins with.
+QString DonneMotFrequent(QString const & texte)
+{
+    constexpr int kCandidats = 5;
+    static QRegularExpression const expression(u"\\b\\p{L}{4,}\\b"_s,
+                                               QRegularExpression::UseUnicodePropertiesOption);
+    QString frequent;
+    qsizetype maximum = 0;
+    auto mots = expression.globalMatch(texte);
+    for (int i = 0; i < kCandidats && mots.hasNext(); ++i) {
+        QString const mot = mots.next().captured();
+        if (qsizetype const nombre = texte.count(mot, Qt::CaseInsensitive); nombre > maximum) {
+            maximum = nombre;
+            frequent = mot;
+        }
+    }
+    return frequent;
+}
+
+QLabel * CreeMessage()
+{
+    auto * const message = new QLabel;
+    message->setObjectName(u"messageErreur"_s); // the sheet's colour for errors
+    message->setWordWrap(true);
+    message->hide();
+    return message;
+}
+
+void MontreMessage(QLabel & etiquette, QString const & message)
+{
+    etiquette.setText(message);
+    etiquette.setVisible(!message.isEmpty());
+}
+
+} // namespace
+
+PageRecherche::PageRecherche(QWidget * parent)
+    : QWidget(parent)
+{
+    auto * const disposition = CreeMiseEnPage(
+        this, TraductionGalerie(TexteGalerie("Recherche")),
+        TraductionGalerie(TexteGalerie(
+            "La barre et le dialogue de recherche sur un vrai texte, et un champ qui propose des "
+            "mots pendant la frappe. Ctrl+F ouvre la barre.")));
+    maTrace = new TraceSignaux(TraductionGalerie(TexteGalerie("Trace")));
+    auto * const grille = new QGridLayout;
+    grille->addWidget(CreeTexte(), 0, 0, 2, 1);
+    grille->addWidget(CreeMots(), 0, 1);
+    grille->addWidget(CreeTrace(), 1, 1);
+    grille->setColumnStretch(0, 1);
+    grille->setRowStretch(1, 1);
+    disposition->addLayout(grille, 1);
+    disposition->addLayout(CreeBoutons());
+    Branche();
+
+    Memoire const & memoire = PreteMemoire();
+    if (memoire.texte) {
+        monTexte->MetsTexte(*memoire.texte);
+        MontreNom();
+    } else if (!LisFichier(memoire.fichier) &&
+               memoire.fichier == LectureTexte::DonneFichierParDefaut()) {
+        MontreMessage(*monMessage,
+                      TraductionGalerie(TexteGalerie("Le texte vient du paquet {1}, qui n’est pas "
+                                                     "installé. Tout autre texte peut s’ouvrir."),
+                                        {UniChaine("debian-reference-fr")}));
+    }
+}
+
+PageRecherche::~PageRecherche()
+{
+    Memoire & memoire = PreteMemoire();
+    if (memoire.texte)
+        memoire.texte = monTexte->DonneTexte();
+    if (maDemonstrationFaite)
+        memoire.barreOuverte = monTexte->BarreEstOuverte();
+}
+
+PageRecherche::Memoire & PageRecherche::PreteMemoire()
+{
+    static Memoire memoire;
+    return memoire;
+}
+
+void PageRecherche::showEvent(QShowEvent * evenement)
+{
+    QWidget::showEvent(evenement);
+    // Not before: what was entered on a former page stands in the fields by now.
+    if (!std::exchange(maDemonstrationFaite, true))
+        Demontre();
+}
+
+QWidget * PageRecherche::CreeTexte()
+{
+    monGroupe = new QGroupBox(TraductionGalerie(TexteGalerie("Texte")));
+    monMessage = CreeMessage();
+    monTexte = new TexteCherchable(*maTrace, *this);
+    auto * const disposition = new QVBoxLayout(monGroupe);
+    disposition->addWidget(monMessage);
+    disposition->addWidget(monTexte, 1);
+    return monGroupe;
+}
+
+QWidget * PageRecherche::CreeMots()
+{
+    monChampMots = new ChampMots(PreteMemoire().mots);
+    monChampMots->setObjectName(u"mot"_s);
+    auto * const etiquette = new QLabel(TraductionGalerie(TexteGalerie("&Mot à chercher")));
+    etiquette->setBuddy(monChampMots);
+    monMessageMots = CreeMessage();
+    maLegende = new QLabel(TraductionGalerie(TexteGalerie("Ce qui s’ouvre")));
+    maLegende->setObjectName(u"explicationPage"_s); // the sheet's colour for explanations
+    monApercu = new ApercuFenetre(TraductionGalerie(TexteGalerie("Ce qui s’ouvre")),
+                                  monChampMots->PreteListe());
+
+    auto * const groupe = new QGroupBox(TraductionGalerie(TexteGalerie("Mots proposés")));
+    groupe->setFixedWidth(kLargeurMots);
+    auto * const disposition = new QVBoxLayout(groupe);
+    disposition->addWidget(etiquette);
+    disposition->addWidget(monChampMots);
+    disposition->addWidget(monMessageMots);
+    disposition->addWidget(maLegende);
+    disposition->addWidget(monApercu);
+    return groupe;
+}
+
+QWidget * PageRecherche::CreeTrace()
+{
+    auto * const groupe = new QGroupBox(TraductionGalerie(TexteGalerie("Trace")));
+    groupe->setFixedWidth(kLargeurMots);
+    monBoutonEffacer = new QPushButton(TraductionGalerie(TexteGalerie("&Effacer la trace")));
+    monBoutonEffacer->setObjectName(u"effacer"_s);
+    auto * const disposition = new QVBoxLayout(groupe);
+    disposition->addWidget(maTrace, 1);
+    disposition->addWidget(monBoutonEffacer, 0, Qt::AlignTrailing);
+    return groupe;
+}
+
+QLayout * PageRecherche::CreeBoutons()
+{
+    auto * const boutons = new QHBoxLayout;
+    struct
+    {
+        QPushButton *& bouton;
+        QString nom;
+        ChaineLocalisable texte;
+    } const descriptions[] = {
+        {monBoutonBarre, u"barre"_s, TexteGalerie("&Barre")},
+        {monBoutonDialogue, u"dialogue"_s, TexteGalerie("&Dialogue")},
+        {monBoutonDansUnDialogue, u"dansUnDialogue"_s, TexteGalerie("Dans &un dialogue")},
+        {monBoutonOuvrir, u"ouvrir"_s, TexteGalerie("&Ouvrir…")},
+    };
+    for (auto const & description : descriptions) {
+        description.bouton = new QPushButton(TraductionGalerie(description.texte));
+        description.bouton->setObjectName(description.nom);
+        boutons->addWidget(description.bouton);
+    }
+    maCaseRiche = new QCheckBox(TraductionGalerie(TexteGalerie("Dans un &QTextEdit")));
+    maCaseRiche->setObjectName(u"editeurRiche"_s);
+    boutons->addWidget(maCaseRiche);
+    boutons->addStretch();
+    return boutons;
+}
+
+void PageRecherche::Branche()
+{
+    connect(monBoutonBarre, &QPushButton::clicked, monTexte, &TexteCherchable::OuvreBarre,
+            Qt::UniqueConnection);
+    connect(monBoutonDialogue, &QPushButton::clicked, monTexte, &TexteCherchable::OuvreDialogue,
+            Qt::UniqueConnection);
+    connect(monBoutonDansUnDialogue, &QPushButton::clicked, this,
+            &PageRecherche::PriseDansUnDialogue, Qt::UniqueConnection);
+    connect(monBoutonOuvrir, &QPushButton::clicked, this, &PageRecherche::PriseOuvrir,
+            Qt::UniqueConnection);
+    connect(monBoutonEffacer, &QPushButton::clicked, maTrace, &TraceSignaux::clear,
+            Qt::UniqueConnection);
+    connect(maCaseRiche, &QCheckBox::toggled, this, &PageRecherche::PriseTexteRiche,
+            Qt::UniqueConnection);
+    connect(monChampMots, &ChampMots::SignalMotChoisi, this, &PageRecherche::PriseMotChoisi,
+            Qt::UniqueConnection);
+}
+
+// The text that is shown stays when the file cannot be read.
+bool PageRecherche::LisFichier(QString const & fichier)
+{
+    LectureTexte const lecture(fichier);
+    MontreMessage(*monMessage, lecture.DonneMessage());
+    if (lecture.DonneResultat() != LectureTexte::kLu)
+        return false;
+    PreteMemoire().fichier = fichier;
+    PreteMemoire().texte = lecture.DonneTexte();
+    monTexte->MetsTexte(lecture.DonneTexte());
+    MontreNom();
+    return true;
+}
+
+void PageRecherche::MontreNom()
+{
+    monGroupe->setTitle(QFileInfo(PreteMemoire().fichier).fileName());
+}
+
+// The page shows what it is for before the user has touched anything.
+void PageRecherche::Demontre()
+{
+    // The list is read here, so that no keystroke waits for it.
+    bool const avecMots = PreteMemoire().mots.Charge();
+    if (!avecMots)
+        MontreMessage(*monMessageMots,
+                      TraductionGalerie(TexteGalerie("Les mots viennent du paquet {1}, qui n’est "
+                                                     "pas installé."),
+                                        {UniChaine("wfrench")}));
+    maLegende->setVisible(avecMots);
+    monApercu->setVisible(avecMots);
+    if (monChampMots->text().isEmpty() && avecMots)
+        monChampMots->setText(u"ete"_s); // an accent is not needed
+    monChampMots->PreparePourApercu(monChampMots->text());
+    monApercu->Actualise();
+    if (PreteMemoire().barreOuverte && PreteMemoire().texte) {
+        monTexte->OuvreRemplacement();
+        monTexte->Demontre(DonneMotFrequent(*PreteMemoire().texte));
+    }
+}
+
+// In a dialog, where Escape closes the bar first and then the dialog.
+void PageRecherche::PriseDansUnDialogue()
+{
+    auto * const dialogue = new QDialog(this);
+    dialogue->setAttribute(Qt::WA_DeleteOnClose);
+    dialogue->setObjectName(u"dialogueAvecBarre"_s);
+    dialogue->setWindowTitle(TraductionGalerie(TexteGalerie("Barre de recherche d’un dialogue")));
+    auto * const editeur = new QPlainTextEdit(monTexte->DonneTexte());
+    editeur->setAccessibleName(TraductionGalerie(TexteGalerie("Texte")));
+    auto * const barre = new BarreRecherche(dialogue, true, true, true, true);
+    barre->hide();
+    auto * const disposition = new QVBoxLayout(dialogue);
+    disposition->addWidget(editeur);
+    disposition->addWidget(barre);
+    auto * const hote = new HoteRecherche(*editeur, *barre, dialogue);
+    hote->BrancheTouches(*dialogue);
+    dialogue->resize(kTailleDialogue);
+    dialogue->show();
+    hote->PriseOuvrir();
+}
+
+void PageRecherche::PriseOuvrir()
+{
+    auto * const dialogue =
+        new QFileDialog(this, TraductionGalerie(TexteGalerie("Ouvrir un texte")),
+                        QFileInfo(PreteMemoire().fichier).path());
+    dialogue->setAttribute(Qt::WA_DeleteOnClose);
+    dialogue->setFileMode(QFileDialog::ExistingFile);
+    connect(dialogue, &QFileDialog::fileSelected, this, &PageRecherche::PriseFichierChoisi,
+            Qt::UniqueConnection);
+    dialogue->open();
+}
+
+void PageRecherche::PriseFichierChoisi(QString const & fichier)
+{
+    LisFichier(fichier);
+}
+
+void PageRecherche::PriseTexteRiche(bool riche)
+{
+    monTexte->MetsRiche(riche);
+}
+
+void PageRecherche::PriseMotChoisi(QString const & mot)
+{
+    monTexte->Cherche(mot);
+}

@@ -3,14 +3,12 @@
 
 #include "lists/InterfaceUtilisantListeChoixFlottante.h"
 
-#include <QCoreApplication>
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QStandardItemModel>
 #include <QStyledItemDelegate>
 #include <QTreeView>
 #include <QVBoxLayout>
-#include <QWindow>
 
 #include <algorithm>
 
@@ -125,10 +123,12 @@ void ListeChoixFlottante::ActualisePosListeChoix()
 
 void ListeChoixFlottante::AfficheToi()
 {
-    for (auto const signal : {&QTreeView::activated, &QTreeView::clicked}) {
-        QMetaObject::Connection const connexion =
-            connect(maVue, signal, this, &ListeChoixFlottante::PrisePropositionSelectionnay,
-                    Qt::UniqueConnection);
+    // Null for what a list that is shown already has.
+    for (QMetaObject::Connection const & connexion :
+         {connect(maVue, &QTreeView::activated, this,
+                  &ListeChoixFlottante::PrisePropositionSelectionnay, Qt::UniqueConnection),
+          connect(maVue, &QTreeView::clicked, this,
+                  &ListeChoixFlottante::PrisePropositionSelectionnay, Qt::UniqueConnection)}) {
         if (connexion)
             mesConnexions.append(connexion);
     }
@@ -243,46 +243,9 @@ void ListeChoixFlottante::SelectionneItemActivay()
     Selectionne(maVue->currentIndex().row());
 }
 
-bool ListeChoixFlottante::eventFilter(QObject * objet, QEvent * evenement)
-{
-    if (objet == monWidgetLiay && evenement->type() == QEvent::Hide) {
-        CacheToi();
-        return false;
-    }
-    if (evenement->type() != QEvent::KeyPress)
-        return false;
-    auto * const touche = static_cast<QKeyEvent *>(evenement);
-    if (objet != maVue)
-        return maVue->isVisible() && TraiteToucheDuWidget(touche);
-    if (touche->key() != Qt::Key_Return)
-        return false;
-    Q_EMIT maVue->activated(maVue->currentIndex());
-    return true;
-}
-
 void ListeChoixFlottante::PriseEnFermeture()
 {
     Q_EMIT maVue->activated(maVue->currentIndex());
-}
-
-bool ListeChoixFlottante::event(QEvent * evenement)
-{
-    switch (evenement->type()) {
-    case QEvent::KeyPress:
-    case QEvent::KeyRelease:
-        if (monWidgetLiay) {
-            // Only of a window that was activated against its will; the user types on meanwhile.
-            QCoreApplication::sendEvent(monWidgetLiay, evenement);
-            return true;
-        }
-        break;
-    case QEvent::WindowActivate:
-        RendsActivation();
-        break;
-    default:
-        break;
-    }
-    return QFrame::event(evenement);
 }
 
 void ListeChoixFlottante::PrisePropositionSelectionnay(QModelIndex index)
@@ -344,54 +307,12 @@ void ListeChoixFlottante::InitialiseVue()
     maVue->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
 }
 
-// What the attribute of a window that shows without activating does not tell every system. The
-// flags of the widget stay as they are; those of its native window may change with each creation.
-void ListeChoixFlottante::PreparePourLeSysteme()
-{
-    create();
-    QWindow * const fenetre = windowHandle();
-    if (!fenetre)
-        return;                                     // in a graphics scene
-    fenetre->setFlag(Qt::WindowDoesNotAcceptFocus); // not on a click either
-    // Otherwise a modal dialog would keep the mouse from the list of its own field.
-    fenetre->setTransientParent(monWidgetLiay ? monWidgetLiay->window()->windowHandle() : nullptr);
-}
-
 void ListeChoixFlottante::SurveilleMort(QWidget * widget)
 {
     if (widget) {
         connect(widget, &QObject::destroyed, this, &ListeChoixFlottante::CacheToi,
                 Qt::UniqueConnection);
     }
-}
-
-bool ListeChoixFlottante::TraiteToucheDuWidget(QKeyEvent * touche)
-{
-    switch (touche->key()) {
-    case Qt::Key_Down:
-    case Qt::Key_Up:
-    case Qt::Key_Return:
-    case Qt::Key_Enter: {
-        QPointer<QTreeView> const vue = maVue; // a choice may destroy the list
-        QCoreApplication::sendEvent(maVue, touche);
-        // A view takes the focus at its keys when nothing else in the application has it.
-        if (vue)
-            vue->clearFocus();
-        return true;
-    }
-    case Qt::Key_Escape:
-        Q_EMIT SignalFermetureListeChoix();
-        return false;
-    default:
-        return false;
-    }
-}
-
-// On systems that activate whatever they show.
-void ListeChoixFlottante::RendsActivation()
-{
-    if (monWidgetLiay && monWidgetLiay->isVisible())
-        monWidgetLiay->window()->activateWindow();
 }
 
 QStandardItemModel * ListeChoixFlottante::PreteModele() const

@@ -51,6 +51,7 @@ public:
     void ActualiseListeChoix(QList<QList<QStandardItem *>> rangees);
     /// Moves a visible list back under the linked widget.
     void ActualisePosListeChoix();
+    /// Shows the list as it is, where it is. Only a shown list tells of clicks and keys.
     void AfficheToi();
     void CacheToi();
     /// True for the list itself and for its view, such as when the host is told of a lost focus.

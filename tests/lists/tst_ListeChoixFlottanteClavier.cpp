@@ -3,30 +3,12 @@
 #include "lists/EssaisListeChoix.h"
 
 #include <QStandardItemModel>
-#include <QWindow>
 #include <QtTest>
 
 using namespace EssaisListeChoix;
 using namespace Qt::StringLiterals;
 
-namespace {
-
-class Activations : public QObject
-{
-public:
-    int nombre = 0;
-
-protected:
-    bool eventFilter(QObject *, QEvent * evenement) override
-    {
-        nombre += evenement->type() == QEvent::WindowActivate;
-        return false;
-    }
-};
-
-} // namespace
-
-// Keys in the linked field, and those that reach the list itself.
+// Keys in the linked field and in the view.
 
 class tst_ListeChoixFlottanteClavier : public QObject
 {
@@ -52,11 +34,6 @@ private Q_SLOTS:
     void entreeDansLaVue();
     void fermeture();
     void fermetureCachee();
-    void autreWidget();
-    void filtreDuHote();
-    void sansFocus();
-    void activationRendue();
-    void frappeDansLaListe();
 };
 
 void tst_ListeChoixFlottanteClavier::cleanup()
@@ -319,102 +296,6 @@ void tst_ListeChoixFlottanteClavier::fermetureCachee()
     hote.liste->PriseEnFermeture();
     QCOMPARE(activations.count(), 1);
     QCOMPARE(choix.count(), 0);
-}
-
-void tst_ListeChoixFlottanteClavier::autreWidget()
-{
-    Hote const hote;
-    ChampTemoin autre(&const_cast<Hote &>(hote).fenetre);
-    autre.show();
-    hote.liste->MetsWidgetLiay(&autre);
-    hote.liste->ActualiseListeChoix(CreeRangees(CreeTextes(3)));
-    QTest::keyClick(&autre, Qt::Key_Down);
-    QCOMPARE(hote.Rangee(), -1);
-    QCOMPARE(autre.touches, QList<int>{Qt::Key_Down});
-    // Deliberate: the filters are the host's affair from then on, the former one as well.
-    QTest::keyClick(hote.champ, Qt::Key_Down);
-    QCOMPARE(hote.Rangee(), 0);
-}
-
-void tst_ListeChoixFlottanteClavier::filtreDuHote()
-{
-    Hote const hote;
-    ChampTemoin autre(&const_cast<Hote &>(hote).fenetre);
-    autre.show();
-    hote.liste->MetsWidgetLiay(&autre);
-    autre.installEventFilter(hote.liste);
-    hote.champ->removeEventFilter(hote.liste);
-    hote.liste->ActualiseListeChoix(CreeRangees(CreeTextes(3)));
-    QTest::keyClick(&autre, Qt::Key_Down);
-    QCOMPARE(hote.Rangee(), 0);
-    QTest::keyClick(hote.champ, Qt::Key_Down);
-    QCOMPARE(hote.Rangee(), 0);
-    autre.hide();
-    QVERIFY(hote.liste->isHidden());
-}
-
-void tst_ListeChoixFlottanteClavier::sansFocus()
-{
-    // A view takes the focus at its arrow keys when no widget has it.
-    Hote const hote;
-    QVERIFY(QTest::qWaitForWindowActive(&const_cast<Hote &>(hote).fenetre));
-    hote.liste->ActualiseListeChoix(CreeRangees(CreeTextes(3)));
-    QTRY_VERIFY(hote.fenetre.isActiveWindow());
-    if (QWidget * const focus = QApplication::focusWidget())
-        focus->clearFocus();
-    QVERIFY(!QApplication::focusWidget());
-    QTest::keyClick(hote.champ, Qt::Key_Down);
-    QTest::keyClick(hote.champ, Qt::Key_Down);
-    QCOMPARE(hote.Rangee(), 1);
-    QVERIFY(!QApplication::focusWidget());
-    QVERIFY(!hote.liste->focusWidget());
-}
-
-void tst_ListeChoixFlottanteClavier::activationRendue()
-{
-    Hote const hote;
-    Activations activations;
-    hote.liste->installEventFilter(&activations);
-    hote.champ->setFocus();
-    QVERIFY(QTest::qWaitForWindowActive(&const_cast<Hote &>(hote).fenetre));
-    hote.liste->ActualiseListeChoix(CreeRangees(CreeTextes(3)));
-    QVERIFY(QTest::qWaitForWindowExposed(hote.liste));
-    QCoreApplication::processEvents();
-    QTRY_VERIFY(hote.fenetre.isActiveWindow());
-    int const avant = activations.nombre; // some platforms activate whatever is shown
-    QVERIFY(avant <= 1);
-    for (int i = 1; i <= 3; ++i) {
-        // As a system that activates the list whatever it was told.
-        hote.liste->windowHandle()->setFlag(Qt::WindowDoesNotAcceptFocus, false);
-        hote.liste->activateWindow();
-        QTRY_COMPARE(activations.nombre, avant + i); // once each time: nobody fights for it
-        QTRY_VERIFY(hote.fenetre.isActiveWindow());
-        QTRY_COMPARE(QApplication::focusWidget(), hote.champ);
-        QVERIFY(hote.liste->isVisible());
-    }
-}
-
-void tst_ListeChoixFlottanteClavier::frappeDansLaListe()
-{
-    // What a system sends to a list that it activated against its will.
-    Hote const hote;
-    QSignalSpy const choix(hote.liste, &ListeChoixFlottante::SignalSelectionListeChoix);
-    hote.liste->ActualiseListeChoix(CreeRangees(CreeTextes(3)));
-    QTest::keyClicks(hote.liste, u"abc"_s);
-    QCOMPARE(hote.champ->text(), u"abc"_s);
-    QTest::keyClick(hote.liste, Qt::Key_F6); // which the field leaves to its window
-    QCOMPARE(hote.fenetre.touches, QList<int>{Qt::Key_F6});
-    QTest::keyClick(hote.liste, Qt::Key_Down);
-    QCOMPARE(hote.Rangee(), 0);
-    QTest::keyClick(hote.liste, Qt::Key_Enter);
-    QCOMPARE(choix.count(), 1);
-    QTest::keyClick(hote.liste, Qt::Key_Escape);
-    QVERIFY(hote.liste->isHidden());
-    // Without a widget the keys end in the list.
-    hote.liste->MetsWidgetLiay(nullptr);
-    hote.liste->AfficheToi();
-    QTest::keyClick(hote.liste, Qt::Key_A);
-    QCOMPARE(hote.champ->text(), u"abc"_s);
 }
 
 QTEST_MAIN(tst_ListeChoixFlottanteClavier)

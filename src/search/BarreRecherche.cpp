@@ -224,5 +224,4 @@ void BarreRecherche::MontreRemplacement(bool visible)
     // Deliberate: the spacing between the rows is not counted, the band is that tight.
     setFixedHeight(hauteurRemplacement + monChampRecherche->height() + marges.top() +
                    marges.bottom());
-    updateGeometry();
 }

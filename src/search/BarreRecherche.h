@@ -23,10 +23,11 @@ class QToolButton;
 ///   it may have closed a menu, a list or a box. The press travels on, and so does that of Return
 ///   and Enter. In a `QDialog` these would close the dialog and press its default button: install
 ///   an event filter on the bar which accepts a `QEvent::KeyPress` of `Qt::Key_Escape`,
-///   `Qt::Key_Return` and `Qt::Key_Enter` and returns true. It gets what a field has done with or
-///   has no use for.
-/// - That filter also takes Escape from the buttons of the bar, where its release does nothing. A
-///   host that wants the key to close the bar there too calls `PriseBoutonFermer` in the filter.
+///   `Qt::Key_Return` and `Qt::Key_Enter` and returns true. A field keeps none of these presses, so
+///   that they arrive at the bar after it.
+/// - That filter also takes Escape that comes from the buttons of the bar, where its release does
+///   nothing. So that the key closes the bar there too, the host may call `PriseBoutonFermer` from
+///   the filter while the focus is in neither field.
 /// - Escape does not cancel a replacement of everything that is running; the close button does.
 /// - The focus, when the bar closes, goes wherever Qt leads it. Give it back to the document on
 ///   `SignalBarreRechercheFermay`.

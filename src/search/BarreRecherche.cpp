@@ -34,6 +34,8 @@ BarreRecherche::BarreRecherche(QWidget * parent, bool remplacer, bool commencePa
     if (occurrences)
         BarreRecherche::ActualiseOccurrences(0, 0);
     Branche(); // last: no slot may run on a half-built bar
+    // Deliberate: it finds no slot of the bar named on_<object>_<signal>. Qt sees no subclass from
+    // here; one that names slots so calls it again.
     QMetaObject::connectSlotsByName(this);
 }
 
@@ -224,5 +226,4 @@ void BarreRecherche::MontreRemplacement(bool visible)
     // Deliberate: the spacing between the rows is not counted, the band is that tight.
     setFixedHeight(hauteurRemplacement + monChampRecherche->height() + marges.top() +
                    marges.bottom());
-    updateGeometry();
 }

@@ -19,17 +19,23 @@ class QToolButton;
 ///
 /// What the host has to see to:
 ///
-/// - Escape closes the bar when the key is released in one of its fields; the press travels on. In
-///   a `QDialog` that press would close the dialog: install an event filter on the bar which
-///   accepts a `QEvent::KeyPress` of `Qt::Key_Escape` and returns true. A field has no use for the
-///   key, so that its press arrives at the bar.
+/// - Escape closes the bar when the key is released in one of its fields, whatever its press did:
+///   it may have closed a menu, a list or a box. The press travels on, and so does that of Return
+///   and Enter. In a `QDialog` these would close the dialog and press its default button: install
+///   an event filter on the bar which accepts a `QEvent::KeyPress` of `Qt::Key_Escape`,
+///   `Qt::Key_Return` and `Qt::Key_Enter` and returns true. A field keeps none of these presses, so
+///   that they arrive at the bar after it.
+/// - That filter also takes Escape that comes from the buttons of the bar, where its release does
+///   nothing. So that the key closes the bar there too, the host may call `PriseBoutonFermer` from
+///   the filter while the focus is in neither field.
 /// - Escape does not cancel a replacement of everything that is running; the close button does.
 /// - The focus, when the bar closes, goes wherever Qt leads it. Give it back to the document on
 ///   `SignalBarreRechercheFermay`.
 /// - With the counter both arrows start disabled, and `ActualiseOccurrences` enables them. Without
 ///   it they are always enabled but while everything is being replaced.
-/// - The bar may be deleted from its two signals, and from `CallbackAnnulerRemplacerTout`. From the
-///   other calls use `deleteLater`: a field whose key caused the call goes on using itself.
+/// - The bar may be deleted from its two signals and from `CallbackAnnulerRemplacerTout`, unless
+///   another call on the host is under way. From the other calls, and from what happens inside
+///   them, use `deleteLater`: a field whose key caused the call goes on using itself.
 ///
 /// The icons come from the resources of the application: ":/Images/rechercheX.svg",
 /// ":/Images/Options_Recherche.svg", ":/Images/recherchePrecedente.svg" and
@@ -97,6 +103,7 @@ protected:
     void ActualiserEtatPanneau() override;
 
 private Q_SLOTS:
+    // Deliberate: another name of PriseActualiserEtatPanneau. Both can be connected to by name.
     void PriseActualiseEtatPanneau();
 
 private:

@@ -216,8 +216,10 @@ void BarreRecherche::BrancheRemplacement()
     connect(this, &QObject::destroyed, monActionRemplacer, &QObject::deleteLater,
             Qt::UniqueConnection);
     auto const montre = [moi = QPointer<BarreRecherche>(this)](bool visible) {
-        if (moi != nullptr)
+        if (moi != nullptr) {
             moi->MontreRemplacement(visible);
+            moi->updateGeometry();
+        }
     };
     connect(monActionRemplacer, &QAction::triggered, monActionRemplacer, montre,
             Qt::DirectConnection);

@@ -6,10 +6,15 @@
 /// The host of a search front end: it searches its own document, then tells the front end what it
 /// found with `ActualiseOccurrences` and `AfficheMessageTexteIntrouvable`.
 ///
-/// Each call says that the user asked for something; what exactly is read from the front end, whose
-/// state is fresh during the call. A host is not owned and must outlive its front end, or be
-/// taken away with `MetsCallback(nullptr)`. During a call it may hide the front end, but delete it
-/// only with `deleteLater`.
+/// Each call says that the user asked for something; what exactly is read from the front end. While
+/// the user searches or replaces, its state is fresh during the call. `CallbackNettoyerRecherche`,
+/// `CallbackAnnulerRemplacerTout` and the search of `EffectuerRecherche` find what the last refresh
+/// read.
+///
+/// A host is not owned and must outlive its front end, or be taken away with
+/// `MetsCallback(nullptr)`. During a call it may hide the front end. To delete it then, use
+/// `deleteLater`, which is always right; at once only in the calls that the front end names, such
+/// as `CallbackAnnulerRemplacerTout` for the bar, and never inside another call.
 class FABRELGUI_EXPORT UtilisateurWidgetRecherche
 {
 public:

@@ -18,8 +18,10 @@ class UtilisateurWidgetRecherche;
 /// It searches nothing itself.
 ///
 /// It is a second base beside a widget, not a `QObject`; `DonneMoiEnWidget` leads back to the
-/// widget. The strings and the options are as fresh as the last call of the host; read them from
-/// inside a call. Without a host every gesture still refreshes them.
+/// widget. The strings and the options are as fresh as the last refresh: each gesture that searches
+/// or replaces refreshes them just before it calls the host, so read them from inside that call.
+/// Clearing, cancelling and `EffectuerRecherche` leave what the last refresh read. Without a host
+/// the same gestures still refresh.
 class FABRELGUI_EXPORT WidgetRechercheAbstrait
 {
 public:
@@ -47,9 +49,10 @@ public:
     virtual void MetEnCoursDeRemplacerTout(bool enCours);
     virtual void CacheToi() = 0;
     virtual QWidget * DonneMoiEnWidget() = 0;
-    /// Searches backward for a text that the host chose. An empty one does nothing.
+    /// Searches backward for a text that the host chose. An empty one does nothing; blanks are
+    /// searched for.
     ///
-    /// Deliberate: the options are those of the last gesture.
+    /// Deliberate: nothing is refreshed, the options are those of the last gesture.
     virtual void EffectuerRecherche(UniChaine const & chaine);
     virtual void MetsChaineAChercher(UniChaine chaine) = 0;
     virtual void ModifieSensRecherche(CstRecherche::eTypeRecherche type) = 0;

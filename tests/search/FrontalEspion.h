@@ -8,7 +8,8 @@ inline constexpr auto kChaineLue = "lue";
 inline constexpr auto kRemplacementLu = "remplacement lu";
 inline constexpr short kOptionsLues = 0x12;
 
-// A front end without controls, which records the virtual calls on it.
+// A front end without controls, which records the virtual calls on it, with the direction that a
+// refresh and a new text find.
 class FrontalEspion : public WidgetRechercheAbstrait
 {
 public:
@@ -30,7 +31,9 @@ public:
     QWidget * DonneMoiEnWidget() override { return nullptr; }
     void MetsChaineAChercher(UniChaine chaine) override
     {
-        journal << QStringLiteral("MetsChaineAChercher(") + QString(chaine) + u')';
+        journal << QStringLiteral("MetsChaineAChercher(%1, %2)")
+                       .arg(QString(chaine))
+                       .arg(int(DonneSensRecherche()));
     }
     void ModifieSensRecherche(CstRecherche::eTypeRecherche type) override
     {
@@ -53,7 +56,7 @@ public:
 protected:
     void ActualiserEtatPanneau() override
     {
-        journal << QStringLiteral("ActualiserEtatPanneau");
+        journal << QStringLiteral("ActualiserEtatPanneau(%1)").arg(int(DonneSensRecherche()));
         RetiensChaineRecherche(QString::fromLatin1(kChaineLue));
         RetiensChaineRemplacement(QString::fromLatin1(kRemplacementLu));
         PrendsOptions(kOptionsLues);

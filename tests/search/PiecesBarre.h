@@ -95,6 +95,15 @@ struct FenetreDeBarre
     PiecesBarre pieces;
 };
 
+/// The items of a menu as the user reads them, "-" for a separator.
+inline QStringList Textes(QMenu const & menu)
+{
+    QStringList textes;
+    for (QAction const * const action : menu.actions())
+        textes.append(action->isSeparator() ? QStringLiteral("-") : action->text());
+    return textes;
+}
+
 /// Menus of bars go through the event loop.
 inline void EnvoieSuppressions()
 {

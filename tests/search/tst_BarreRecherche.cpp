@@ -7,15 +7,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-// The items of a menu as the user reads them, "-" for a separator.
-QStringList Textes(QMenu const & menu)
-{
-    QStringList textes;
-    for (QAction const * const action : menu.actions())
-        textes.append(action->isSeparator() ? u"-"_s : action->text());
-    return textes;
-}
-
 QImage Image(QIcon const & icone)
 {
     return icone.pixmap(16, 16).toImage();

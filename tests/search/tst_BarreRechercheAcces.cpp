@@ -9,19 +9,6 @@
 
 using namespace Qt::StringLiterals;
 
-namespace {
-
-// The items of a menu as the user reads them, "-" for a separator.
-QStringList Textes(QMenu const & menu)
-{
-    QStringList textes;
-    for (QAction const * const action : menu.actions())
-        textes.append(action->isSeparator() ? u"-"_s : action->text());
-    return textes;
-}
-
-} // namespace
-
 class tst_BarreRechercheAcces : public QObject
 {
     Q_OBJECT

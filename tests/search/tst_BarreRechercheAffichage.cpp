@@ -13,6 +13,7 @@ private Q_SLOTS:
     void cleanup();
 
     void chaqueAffichage();
+    void affichageParLeBureau();
     void reouverture();
     void fenetreActivee();
 };
@@ -46,6 +47,24 @@ void tst_BarreRechercheAffichage::chaqueAffichage()
     QVERIFY(document->hasFocus());
     essai.barre->PrendsFocus();
     QVERIFY(essai.pieces.recherche->hasFocus());
+}
+
+void tst_BarreRechercheAffichage::affichageParLeBureau()
+{
+    FenetreDeBarre essai;
+    auto * const document = new QLineEdit(&essai.fenetre);
+    document->move(0, 60);
+    essai.pieces.recherche->setText(u"mot"_s);
+    QVERIFY(essai.Montre());
+    essai.pieces.recherche->deselect();
+    document->setFocus();
+
+    // The desktop, not the program, shows a window that was iconified.
+    essai.fenetre.showMinimized();
+    essai.fenetre.showNormal();
+
+    QTRY_VERIFY(essai.pieces.recherche->hasFocus());
+    QCOMPARE(essai.pieces.recherche->selectedText(), u"mot"_s);
 }
 
 void tst_BarreRechercheAffichage::reouverture()

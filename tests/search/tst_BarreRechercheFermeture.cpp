@@ -5,6 +5,7 @@
 #include <QtTest>
 
 #include <QDialog>
+#include <QPushButton>
 
 using namespace Qt::StringLiterals;
 
@@ -45,14 +46,16 @@ public:
     int releves = 0;
 };
 
-// The way in which a host keeps the press of Escape from its dialog.
-class GardeEchap : public QObject
+// The way in which a host keeps the keys of a dialog from it.
+class GardeTouches : public QObject
 {
 public:
     bool eventFilter(QObject *, QEvent * evenement) override
     {
-        if (evenement->type() != QEvent::KeyPress ||
-            static_cast<QKeyEvent *>(evenement)->key() != Qt::Key_Escape)
+        if (evenement->type() != QEvent::KeyPress)
+            return false;
+        int const touche = static_cast<QKeyEvent *>(evenement)->key();
+        if (touche != Qt::Key_Escape && touche != Qt::Key_Return && touche != Qt::Key_Enter)
             return false;
         evenement->accept();
         return true;
@@ -80,9 +83,12 @@ private Q_SLOTS:
     void echapAilleurs();
     void echapNonAvalay();
     void parLHote();
+    void dejaCachee();
     void fermetureRedefinie();
     void dansUnDialogue_data();
     void dansUnDialogue();
+    void retourDansUnDialogue_data();
+    void retourDansUnDialogue();
 };
 
 void tst_BarreRechercheFermeture::cleanup()
@@ -204,6 +210,7 @@ void tst_BarreRechercheFermeture::echapAilleurs()
     essai.pieces.Action(u"Remplacer"_s)->trigger();
     QVERIFY(essai.Montre());
     JournalFermeture const journal(essai.barre);
+    (essai.pieces.*bouton)->installEventFilter(essai.barre); // even if it hears of the key
     (essai.pieces.*bouton)->setFocus();
     QTest::keyClick(essai.pieces.*bouton, Qt::Key_Escape);
     QTest::keyClick(essai.barre, Qt::Key_Escape);
@@ -238,6 +245,14 @@ void tst_BarreRechercheFermeture::parLHote()
     QVERIFY(essai.barre->isHidden());
 }
 
+void tst_BarreRechercheFermeture::dejaCachee()
+{
+    BarreRecherche barre;
+    JournalFermeture const journal(&barre);
+    barre.CacheToi();
+    QCOMPARE(journal.lignes, QStringList{u"!Fermeture"_s});
+}
+
 void tst_BarreRechercheFermeture::fermetureRedefinie()
 {
     class BarreDerivee : public BarreRecherche
@@ -269,7 +284,7 @@ void tst_BarreRechercheFermeture::dansUnDialogue()
     QDialog dialogue;
     auto * const barre = new BarreRecherche(&dialogue, true);
     barre->resize(400, barre->height());
-    GardeEchap gardien;
+    GardeTouches gardien;
     if (garde)
         barre->installEventFilter(&gardien);
     dialogue.show();
@@ -281,6 +296,41 @@ void tst_BarreRechercheFermeture::dansUnDialogue()
     QCOMPARE(dialogue.isVisible(), garde);
     if (garde)
         QVERIFY(barre->isHidden());
+}
+
+void tst_BarreRechercheFermeture::retourDansUnDialogue_data()
+{
+    QTest::addColumn<Qt::Key>("touche");
+    QTest::addColumn<bool>("garde");
+    for (bool const garde : {false, true}) {
+        QTest::addRow("Return, kept %d", int(garde)) << Qt::Key_Return << garde;
+        QTest::addRow("Enter, kept %d", int(garde)) << Qt::Key_Enter << garde;
+    }
+}
+
+void tst_BarreRechercheFermeture::retourDansUnDialogue()
+{
+    QFETCH(Qt::Key, touche);
+    QFETCH(bool, garde);
+    QDialog dialogue;
+    auto * const barre = new BarreRecherche(&dialogue);
+    barre->resize(400, barre->height());
+    auto * const defaut = new QPushButton(&dialogue);
+    defaut->move(0, 60);
+    defaut->setDefault(true);
+    HoteEspion const hote(barre);
+    QSignalSpy const clics(defaut, &QPushButton::clicked);
+    GardeTouches gardien;
+    if (garde)
+        barre->installEventFilter(&gardien);
+    dialogue.show();
+    QVERIFY(QTest::qWaitForWindowActive(&dialogue));
+    QTRY_VERIFY(PiecesBarre(*barre).recherche->hasFocus());
+
+    QTest::keyClick(dialogue.windowHandle(), touche);
+
+    QCOMPARE(hote.DonneNoms(), QStringList{u"Chercher"_s});
+    QCOMPARE(clics.size(), garde ? 0 : 1);
 }
 
 QTEST_MAIN(tst_BarreRechercheFermeture)

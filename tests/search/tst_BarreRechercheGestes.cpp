@@ -41,10 +41,12 @@ private Q_SLOTS:
 
     void gestes_data();
     void gestes();
+    void precedentApresSuivant();
     void gesteSansHote();
     void chaqueFrappe();
     void effacement();
     void texteParProgramme();
+    void ordreDuTexteParProgramme();
     void remplacementTapay();
     void choixDansLeMenu();
     void suivantRedefini();
@@ -109,6 +111,18 @@ void tst_BarreRechercheGestes::gestes()
     QTEST(int(essai.barre->DonneSensRecherche()), "sens");
     for (AppelRecherche const & appel : hote.appels)
         QTEST(int(appel.options), "options");
+}
+
+void tst_BarreRechercheGestes::precedentApresSuivant()
+{
+    BarreRecherche barre;
+    PiecesBarre const pieces(barre);
+    HoteEspion const hote(&barre);
+    barre.ModifieSensRecherche(CstRecherche::kVersLeBas);
+    QTest::mouseClick(pieces.precedent, Qt::LeftButton);
+    // The new direction is there before the options are read anew.
+    QCOMPARE(hote.appels.constLast().options, short(0x14));
+    QCOMPARE(hote.appels.constLast().sens, CstRecherche::kVersLeHaut);
 }
 
 void tst_BarreRechercheGestes::gesteSansHote()
@@ -181,6 +195,20 @@ void tst_BarreRechercheGestes::texteParProgramme()
     QVERIFY(barre.DonneChaineRecherche().isEmpty());
 
     QVERIFY(hote.appels.isEmpty()); // only the user's text searches
+}
+
+void tst_BarreRechercheGestes::ordreDuTexteParProgramme()
+{
+    BarreRecherche barre;
+    QStringList retenues; // what the bar holds while its field changes
+    connect(PiecesBarre(barre).recherche, &QLineEdit::textChanged, this,
+            [&] { retenues << barre.DonneChaineRecherche(); });
+
+    barre.MetsChaineAChercher(UniChaine("un"_L1)); // the field comes first
+    barre.PrendsChaineRecherche(u"deux"_s);        // the field comes last
+    barre.MetsChaineAChercher(UniChaine("trois"_L1));
+
+    QCOMPARE(retenues, QStringList({QString(), u"deux"_s, u"deux"_s}));
 }
 
 void tst_BarreRechercheGestes::remplacementTapay()

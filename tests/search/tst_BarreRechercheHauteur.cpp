@@ -29,6 +29,8 @@ private Q_SLOTS:
     void hauteur();
     void hauteurApresChangement_data();
     void hauteurApresChangement();
+    void hauteurMesuree();
+    void rangeeSansChoix();
     void rangeeVisible();
     void rangeesPlacees();
     void placeRefaite();
@@ -99,6 +101,30 @@ void tst_BarreRechercheHauteur::hauteurApresChangement()
     QCOMPARE(essai.pieces.recherche->height(), 20);
     MontreRemplacement(*essai.barre);
     QCOMPARE(essai.barre->height(), 30);
+}
+
+void tst_BarreRechercheHauteur::hauteurMesuree()
+{
+    BarreRecherche barre(nullptr, true);
+    PiecesBarre const pieces(barre);
+    pieces.grille->setContentsMargins(0, 7, 0, 9);
+    pieces.remplacement->setFixedHeight(30);
+    for (int const attendue : {66, 36}) { // 20 + 30 and the margins, then without the 30
+        MontreRemplacement(barre);
+        QCOMPARE(barre.minimumHeight(), attendue);
+        QCOMPARE(barre.maximumHeight(), attendue);
+    }
+}
+
+void tst_BarreRechercheHauteur::rangeeSansChoix()
+{
+    FenetreDeBarre essai;
+    QVERIFY(essai.Montre());
+    // Only what the user chooses opens the row, not a program that checks the item.
+    essai.pieces.Action(u"Remplacer"_s)->setChecked(true);
+    QCOMPARE(essai.barre->height(), 30);
+    QVERIFY(essai.pieces.remplacement->isHidden());
+    QVERIFY(essai.pieces.cadre->isHidden());
 }
 
 void tst_BarreRechercheHauteur::rangeeVisible()

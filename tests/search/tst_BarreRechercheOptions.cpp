@@ -75,12 +75,16 @@ void tst_BarreRechercheOptions::optionsActualisees_data()
                        {"begins with", Mode::CommencePar, 0x40},
                        {"whole word", Mode::MotEntier, 0x01},
                        {"no mode", Mode::Aucun, 0}};
-    int const bitsDuSens[] = {0x24, 0x24, 0x14};
-    for (int sens = 0; sens < 3; ++sens)
+    struct
+    {
+        int sens;
+        int bits;
+    } const directions[] = {{-1, 0x24}, {0, 0x24}, {1, 0x24}, {2, 0x14}, {3, 0x14}};
+    for (auto const & [sens, bitsDuSens] : directions)
         for (bool const casse : {false, true})
             for (auto const & [nom, mode, bits] : modes)
                 QTest::addRow("direction %d, case %d, %s", sens, int(casse), nom)
-                    << sens << casse << mode << (bitsDuSens[sens] | bits | (casse ? 0x02 : 0));
+                    << sens << casse << mode << (bitsDuSens | bits | (casse ? 0x02 : 0));
 }
 
 void tst_BarreRechercheOptions::optionsActualisees()

@@ -21,6 +21,7 @@ enum class Geste
     Annuler,
     Nettoyer,
     Effectuer,
+    EffectuerBlancs,
     EffectuerVide
 };
 
@@ -45,6 +46,8 @@ void Fais(FrontalEspion & frontal, Geste geste)
         return frontal.NettoyerRecherche();
     case Geste::Effectuer:
         return frontal.EffectuerRecherche(UniChaine("mot"_L1));
+    case Geste::EffectuerBlancs:
+        return frontal.EffectuerRecherche(UniChaine("   "_L1));
     case Geste::EffectuerVide:
         return frontal.EffectuerRecherche(kUniChaineNulle);
     }
@@ -60,7 +63,7 @@ private Q_SLOTS:
     void cleanup();
 
     void etatDeDepart();
-    void valeursDuContrat();
+    void valeursFigees();
     void gestes_data();
     void gestes();
     void gestesSansHote_data();
@@ -71,7 +74,6 @@ private Q_SLOTS:
     void hoteRetiray();
     void annulationParDefautNeFaitRien();
     void hoteSansAnnulation();
-    void optionsSignees();
 };
 
 void tst_WidgetRechercheAbstrait::cleanup()
@@ -91,7 +93,7 @@ void tst_WidgetRechercheAbstrait::etatDeDepart()
     QVERIFY(!FrontalEspion(false).DonnePermetRemplacer());
 }
 
-void tst_WidgetRechercheAbstrait::valeursDuContrat()
+void tst_WidgetRechercheAbstrait::valeursFigees()
 {
     // Hosts and stored settings hold these numbers.
     QCOMPARE(sizeof(eTypeRecherche), sizeof(qint32));
@@ -120,16 +122,17 @@ void tst_WidgetRechercheAbstrait::gestes_data()
     QTest::addColumn<int>("sens");
 
     QString const lue = QString::fromLatin1(kChaineLue);
-    QStringList const cherche = {u"ActualiserEtatPanneau"_s, u"Chercher"_s};
-    QTest::newRow("search") << Geste::Chercher << cherche << lue << 0x12 << 1;
-    QTest::newRow("next") << Geste::Suivant << cherche << lue << 0x12 << 1;
-    QTest::newRow("previous") << Geste::Precedent << cherche << lue << 0x12 << 2;
-    QTest::newRow("typed text adds its bit") << Geste::Texte << cherche << lue << 0x212 << 1;
+    QStringList const avance = {u"ActualiserEtatPanneau(1)"_s, u"Chercher"_s};
+    QStringList const recule = {u"ActualiserEtatPanneau(2)"_s, u"Chercher"_s};
+    QTest::newRow("search") << Geste::Chercher << avance << lue << 0x12 << 1;
+    QTest::newRow("next") << Geste::Suivant << avance << lue << 0x12 << 1;
+    QTest::newRow("previous") << Geste::Precedent << recule << lue << 0x12 << 2;
+    QTest::newRow("typed text adds its bit") << Geste::Texte << avance << lue << 0x212 << 1;
     QTest::newRow("replace keeps the direction")
-        << Geste::Remplacer << QStringList{u"ActualiserEtatPanneau"_s, u"Remplacer"_s} << lue
+        << Geste::Remplacer << QStringList{u"ActualiserEtatPanneau(0)"_s, u"Remplacer"_s} << lue
         << 0x12 << 0;
     QTest::newRow("replace all adds both bits")
-        << Geste::RemplacerTout << QStringList{u"ActualiserEtatPanneau"_s, u"RemplacerTout"_s}
+        << Geste::RemplacerTout << QStringList{u"ActualiserEtatPanneau(0)"_s, u"RemplacerTout"_s}
         << lue << 0x36 << 0;
     QTest::newRow("cancel refreshes nothing")
         << Geste::Annuler << QStringList{u"AnnulerRemplacerTout"_s} << u"ancienne"_s << 0x40 << 0;
@@ -137,7 +140,10 @@ void tst_WidgetRechercheAbstrait::gestes_data()
                            << QStringList{u"Nettoyer"_s, u"ActualiseOccurrences(0, 0)"_s}
                            << u"ancienne"_s << 0x40 << 0;
     QTest::newRow("host's text goes backward without a refresh")
-        << Geste::Effectuer << QStringList{u"MetsChaineAChercher(mot)"_s, u"Chercher"_s}
+        << Geste::Effectuer << QStringList{u"MetsChaineAChercher(mot, 2)"_s, u"Chercher"_s}
+        << u"ancienne"_s << 0x40 << 2;
+    QTest::newRow("host's blanks are searched for")
+        << Geste::EffectuerBlancs << QStringList{u"MetsChaineAChercher(   , 2)"_s, u"Chercher"_s}
         << u"ancienne"_s << 0x40 << 2;
     QTest::newRow("empty text does nothing")
         << Geste::EffectuerVide << QStringList() << u"ancienne"_s << 0x40 << 0;
@@ -173,18 +179,22 @@ void tst_WidgetRechercheAbstrait::gestesSansHote_data()
     QTest::addColumn<int>("options");
     QTest::addColumn<int>("sens");
 
-    QStringList const actualise = {u"ActualiserEtatPanneau"_s};
-    QTest::newRow("search") << Geste::Chercher << actualise << 0x12 << 1;
-    QTest::newRow("next") << Geste::Suivant << actualise << 0x12 << 1;
-    QTest::newRow("previous") << Geste::Precedent << actualise << 0x12 << 2;
-    QTest::newRow("typed text") << Geste::Texte << actualise << 0x212 << 1;
-    QTest::newRow("replace") << Geste::Remplacer << actualise << 0x12 << 0;
-    QTest::newRow("replace all") << Geste::RemplacerTout << actualise << 0x36 << 0;
+    QStringList const avance = {u"ActualiserEtatPanneau(1)"_s};
+    QStringList const recule = {u"ActualiserEtatPanneau(2)"_s};
+    QStringList const reste = {u"ActualiserEtatPanneau(0)"_s};
+    QTest::newRow("search") << Geste::Chercher << avance << 0x12 << 1;
+    QTest::newRow("next") << Geste::Suivant << avance << 0x12 << 1;
+    QTest::newRow("previous") << Geste::Precedent << recule << 0x12 << 2;
+    QTest::newRow("typed text") << Geste::Texte << avance << 0x212 << 1;
+    QTest::newRow("replace") << Geste::Remplacer << reste << 0x12 << 0;
+    QTest::newRow("replace all") << Geste::RemplacerTout << reste << 0x36 << 0;
     QTest::newRow("cancel") << Geste::Annuler << QStringList() << 0x40 << 0;
     QTest::newRow("clear") << Geste::Nettoyer << QStringList{u"ActualiseOccurrences(0, 0)"_s}
                            << 0x40 << 0;
-    QTest::newRow("host's text") << Geste::Effectuer << QStringList{u"MetsChaineAChercher(mot)"_s}
-                                 << 0x40 << 2;
+    QTest::newRow("host's text") << Geste::Effectuer
+                                 << QStringList{u"MetsChaineAChercher(mot, 2)"_s} << 0x40 << 2;
+    QTest::newRow("host's blanks")
+        << Geste::EffectuerBlancs << QStringList{u"MetsChaineAChercher(   , 2)"_s} << 0x40 << 2;
     QTest::newRow("empty text") << Geste::EffectuerVide << QStringList() << 0x40 << 0;
 }
 
@@ -239,8 +249,10 @@ void tst_WidgetRechercheAbstrait::hoteRetiray()
     HoteEspion const hote(&frontal);
     frontal.BoutonChercher();
     frontal.MetsCallback(nullptr);
-    frontal.BoutonChercher();
+    frontal.ChercherPrecedent();
     QCOMPARE(hote.appels.size(), 1);
+    QCOMPARE(frontal.journal,
+             QStringList({u"ActualiserEtatPanneau(1)"_s, u"ActualiserEtatPanneau(2)"_s}));
 }
 
 void tst_WidgetRechercheAbstrait::annulationParDefautNeFaitRien()
@@ -273,13 +285,6 @@ void tst_WidgetRechercheAbstrait::hoteSansAnnulation()
     QCOMPARE(hote.nombre, 0);
     frontal.BoutonRemplacerTout();
     QCOMPARE(hote.nombre, 1);
-}
-
-void tst_WidgetRechercheAbstrait::optionsSignees()
-{
-    FrontalEspion frontal;
-    frontal.PrendsOptions(short(-1));
-    QCOMPARE(frontal.DonneOptions(), short(-1));
 }
 
 QTEST_MAIN(tst_WidgetRechercheAbstrait)

@@ -15,6 +15,7 @@ private Q_SLOTS:
 
     void ouverture_data();
     void ouverture();
+    void ouvertureSansHote_data();
     void ouvertureSansHote();
     void copieGardeLHote();
     void affectationGardeLHote();
@@ -35,12 +36,12 @@ void tst_WidgetRechercheAbstraitOuverture::ouverture_data()
     QStringList const montre = {u"AfficheToi"_s, u"ModifieSensRecherche(0)"_s, u"Chercher"_s};
     QTest::newRow("new search") << 0 << u"mot"_s
                                 << nettoie +
-                                       QStringList{u"MetsChaineAChercher(mot)"_s,
+                                       QStringList{u"MetsChaineAChercher(mot, 0)"_s,
                                                    u"PrendsFocus"_s} +
                                        montre;
     QTest::newRow("new search, text with white space around it")
         << 0 << u" \t deux mots\n"_s
-        << nettoie + QStringList{u"MetsChaineAChercher(deux mots)"_s, u"PrendsFocus"_s} + montre;
+        << nettoie + QStringList{u"MetsChaineAChercher(deux mots, 0)"_s, u"PrendsFocus"_s} + montre;
     QTest::newRow("new search, blanks only")
         << 0 << u"   "_s << nettoie + QStringList{u"PrendsFocus"_s} + montre;
     QTest::newRow("new search, empty text")
@@ -62,13 +63,24 @@ void tst_WidgetRechercheAbstraitOuverture::ouverture()
     QCOMPARE(int(hote.espion.appels.constLast().sens), type);
 }
 
+void tst_WidgetRechercheAbstraitOuverture::ouvertureSansHote_data()
+{
+    QTest::addColumn<int>("type");
+    QTest::addColumn<QStringList>("appels");
+    QTest::newRow("new search") << 0
+                                << QStringList{u"ActualiseOccurrences(0, 0)"_s,
+                                               u"MetsChaineAChercher(mot, 0)"_s, u"PrendsFocus"_s,
+                                               u"AfficheToi"_s, u"ModifieSensRecherche(0)"_s};
+    QTest::newRow("forward") << 1 << QStringList{u"AfficheToi"_s, u"ModifieSensRecherche(1)"_s};
+    QTest::newRow("backward") << 2 << QStringList{u"AfficheToi"_s, u"ModifieSensRecherche(2)"_s};
+}
+
 void tst_WidgetRechercheAbstraitOuverture::ouvertureSansHote()
 {
+    QFETCH(int, type);
     FrontalEspion frontal;
-    frontal.AfficheToi(CstRecherche::kNouvelleRecherche, UniChaine("mot"_L1));
-    QStringList const appels = {u"ActualiseOccurrences(0, 0)"_s, u"MetsChaineAChercher(mot)"_s,
-                                u"PrendsFocus"_s, u"AfficheToi"_s, u"ModifieSensRecherche(0)"_s};
-    QCOMPARE(frontal.journal, appels);
+    frontal.AfficheToi(eTypeRecherche(type), UniChaine("mot"_L1));
+    QTEST(frontal.journal, "appels");
 }
 
 void tst_WidgetRechercheAbstraitOuverture::copieGardeLHote()

@@ -47,7 +47,6 @@ DialogueRechercher::DialogueRechercher(QWidget * parent, bool remplacer, short m
     CreeOptions();
     CreeBoutons();
     Dispose();
-    DonneLettres();
     Branche();
     PriseActualiserBoutons();
 }

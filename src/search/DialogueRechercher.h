@@ -31,8 +31,8 @@ struct ChaineLocalisable;
 ///
 /// Nothing is searched while one types. Return searches, and replaces in the replacement field;
 /// neither works without a text to search for, nor while everything is being replaced. Escape and
-/// the close button of the window do the same as "Fermer". Every control has a letter that
-/// reaches it with Alt.
+/// the close button of the window do the same as "Fermer". Tab and, within a choice, the arrows
+/// reach every control that is enabled.
 ///
 /// It opens where the last search dialog of the process was left, brought back to a screen when its
 /// title bar is on none, unless the application moved it. A host may delete it in its callbacks,
@@ -105,7 +105,6 @@ private:
     QPushButton * CreeBouton(QString const & nom, ChaineLocalisable const & texte);
     void CreeBoutons();
     void Dispose();
-    void DonneLettres();
     void Branche();
     bool EstVersLeHaut() const;
     void SuisSens();

@@ -9,7 +9,6 @@
 #include <QCheckBox>
 #include <QFormLayout>
 #include <QHBoxLayout>
-#include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QRadioButton>
@@ -22,19 +21,6 @@ namespace {
 // Average characters.
 constexpr int kLargeurChamp = 30; // the least that a field shows
 constexpr int kEcartColonnes = 1; // on top of that of the style: each column is a group
-
-// Gives a text the first of its letters that is neither taken nor hard to type.
-QString AjouteLettre(QString texte, QString & prises)
-{
-    for (qsizetype place = 0; place < texte.size(); ++place) {
-        QChar const lettre = texte.at(place).toLower();
-        if (lettre < u'a' || lettre > u'z' || prises.contains(lettre))
-            continue;
-        prises += lettre;
-        return texte.insert(place, u'&');
-    }
-    return texte;
-}
 
 void AjouteColonne(QHBoxLayout & rangee, int ecart, std::initializer_list<QWidget *> widgets)
 {
@@ -169,22 +155,6 @@ void DialogueRechercher::Dispose()
     racine->addLayout(formulaire, 1);
     racine->addSpacing(ecart);
     racine->addLayout(boutons);
-}
-
-// Most texts have no letter for the keyboard, and which are free depends on the language and on
-// what is offered.
-void DialogueRechercher::DonneLettres()
-{
-    QString prises;
-    auto const boutons = findChildren<QAbstractButton *>(QString(), Qt::FindDirectChildrenOnly);
-    for (QAbstractButton const * const bouton : boutons)
-        if (qsizetype const place = bouton->text().indexOf(u'&'); place >= 0)
-            prises += bouton->text().at(place + 1).toLower();
-    for (QLabel * const etiquette : findChildren<QLabel *>(QString(), Qt::FindDirectChildrenOnly))
-        etiquette->setText(AjouteLettre(etiquette->text(), prises));
-    for (QAbstractButton * const bouton : boutons)
-        if (!bouton->text().contains(u'&'))
-            bouton->setText(AjouteLettre(bouton->text(), prises));
 }
 
 void DialogueRechercher::Branche()

@@ -60,7 +60,7 @@ void tst_DialogueRechercherOptions::optionsSelonLeMasque()
                      qPrintable(u"%1 %2"_s.arg(masque, 0, 16).arg(option.fr)));
             nombre += bouton != nullptr;
             if (bouton)
-                QCOMPARE(SansLettre(bouton->text()), option.fr);
+                QCOMPARE(bouton->text(), option.fr);
         }
         auto const boutons =
             dialogue.findChildren<QAbstractButton *>(QString(), Qt::FindDirectChildrenOnly);

@@ -7,10 +7,8 @@
 
 #include <QDialog>
 
-#include <initializer_list>
-
 class QAbstractButton;
-class QCheckBox;
+class QButtonGroup;
 class QLineEdit;
 class QPushButton;
 struct ChaineLocalisable;
@@ -20,14 +18,15 @@ struct ChaineLocalisable;
 ///
 /// The mask of the constructor, bits of `CstRecherche::eOption`, says which options it offers;
 /// `kTexteEdite` offers nothing. `kHaut` and `kBas` exclude each other, so do `kContient` and
-/// `kCommencePar`. Where only one of them is offered it is a choice already made, except that
-/// `kCommencePar` alone can be switched off. As in the bar, whole words and beginnings exclude
-/// each other: "mot entier" is disabled and does not count while "commence par" is on. A new
-/// dialog has "boucler", "contient" and "vers le bas" on.
+/// `kCommencePar`; one that is offered without the other is switched on and off, but `kContient`
+/// stays on. As in the bar, whole words and beginnings exclude each other: "mot entier" is disabled
+/// and does not count while "commence par" is on. A new dialog has "boucler", "contient" and
+/// "vers le bas" on.
 ///
-/// The option word has the bits of what is checked, and the direction of the request, offered or
-/// not; the choice on screen follows a direction that the host sets. "Chercher" searches upward
-/// when "vers le haut" is checked, and otherwise downward.
+/// The option word has the bits of what is checked, also by a program. Where no direction is
+/// offered, it has the bit of the direction of the request. What the user or the host asks for in a
+/// direction also checks that direction, but not `BoutonChercher` and `TexteDeRechercheChanger`.
+/// "Chercher" searches in the direction that is checked, and downward where none is offered.
 ///
 /// Nothing is searched while one types. Return searches, and replaces in the replacement field;
 /// neither works without a text to search for, nor while everything is being replaced. Escape and
@@ -57,12 +56,15 @@ public:
     void CacheToi() override;
     QWidget * DonneMoiEnWidget() override;
     void MetsChaineAChercher(UniChaine chaine) override;
+    /// A new search leaves the direction that is checked.
     void ModifieSensRecherche(CstRecherche::eTypeRecherche type) override;
     void PrendsChaineRecherche(QString const & chaine) override;
     /// Also to the replacement field, where there is one.
     void PrendsChaineRemplacement(QString const & chaine) override;
     /// The search field takes the focus with all its text selected.
     void PrendsFocus() override;
+    void ChercherSuivant() override;
+    void ChercherPrecedent() override;
     void setVisible(bool visible) override;
 
 Q_SIGNALS:
@@ -98,31 +100,30 @@ private Q_SLOTS:
 private:
     QLineEdit * CreeChamp(QString const & nom);
     void CreeChamps();
-    template <typename Bouton>
-    Bouton * CreeOption(short bit, QString const & nom, ChaineLocalisable const & texte);
-    void CreeOptions();
-    void Groupe(std::initializer_list<QAbstractButton *> boutons);
+    void CreeOptions(short masque);
+    QAbstractButton * CreeOption(QString const & nom, ChaineLocalisable const & texte,
+                                 QButtonGroup * groupe);
     QPushButton * CreeBouton(QString const & nom, ChaineLocalisable const & texte);
     void CreeBoutons();
     void Dispose();
     void Branche();
+    bool OffreSens() const;
     bool EstVersLeHaut() const;
-    void SuisSens();
+    void CocheSens(bool versLeHaut);
     void RetiensPosition();
     void ReprendsPosition();
 
-    short monMasque; // the options that are offered
     bool monRemplacementEnCours = false;
     QLineEdit * monChampRecherche = nullptr;
     QLineEdit * monChampRemplacement = nullptr; // null without replacing, as are its buttons
     // Each null unless the mask asks for it.
-    QCheckBox * maCaseMotEntier = nullptr;
-    QCheckBox * maCaseCasse = nullptr;
-    QCheckBox * maCaseBoucler = nullptr;
+    QAbstractButton * maCaseMotEntier = nullptr;
+    QAbstractButton * maCaseCasse = nullptr;
+    QAbstractButton * maCaseBoucler = nullptr;
     QAbstractButton * monChoixContient = nullptr;
-    QAbstractButton * monChoixCommencePar = nullptr; // a check box without `monChoixContient`
-    QAbstractButton * monChoixHaut = nullptr;
+    QAbstractButton * monChoixCommencePar = nullptr;
     QAbstractButton * monChoixBas = nullptr;
+    QAbstractButton * monChoixHaut = nullptr;
     QPushButton * monBoutonChercher = nullptr;
     QPushButton * monBoutonRemplacer = nullptr;
     QPushButton * monBoutonRemplacerTout = nullptr;

@@ -56,56 +56,53 @@ void DialogueRechercher::CreeChamps()
         monChampRemplacement = CreeChamp(u"ChampRemplacement"_s);
 }
 
-template <typename Bouton>
-Bouton * DialogueRechercher::CreeOption(short bit, QString const & nom,
-                                        ChaineLocalisable const & texte)
+void DialogueRechercher::CreeOptions(short masque)
 {
-    if ((monMasque & bit) == 0)
-        return nullptr;
-    auto * const bouton = new Bouton(TraductionGui(texte), this);
-    bouton->setObjectName(nom);
-    return bouton;
-}
-
-void DialogueRechercher::CreeOptions()
-{
-    maCaseMotEntier =
-        CreeOption<QCheckBox>(CstRecherche::kMotEntier, u"CaseMotEntier"_s, TexteGui("mot entier"));
-    maCaseCasse = CreeOption<QCheckBox>(CstRecherche::kRespecterCasse, u"CaseCasse"_s,
-                                        TexteGui("sensible à la casse"));
-    maCaseBoucler =
-        CreeOption<QCheckBox>(CstRecherche::kBoucler, u"CaseBoucler"_s, TexteGui("boucler"));
-    monChoixContient =
-        CreeOption<QRadioButton>(CstRecherche::kContient, u"ChoixContient"_s, TexteGui("contient"));
-    ChaineLocalisable const commencePar = TexteGui("commence par");
-    QString const nomCommencePar = u"ChoixCommencePar"_s;
-    if (monChoixContient)
-        monChoixCommencePar =
-            CreeOption<QRadioButton>(CstRecherche::kCommencePar, nomCommencePar, commencePar);
-    else
-        monChoixCommencePar =
-            CreeOption<QCheckBox>(CstRecherche::kCommencePar, nomCommencePar, commencePar);
-    monChoixBas =
-        CreeOption<QRadioButton>(CstRecherche::kBas, u"ChoixBas"_s, TexteGui("vers le bas"));
-    monChoixHaut =
-        CreeOption<QRadioButton>(CstRecherche::kHaut, u"ChoixHaut"_s, TexteGui("vers le haut"));
-
-    // A group each, also for one button: it makes a choice that is checked stay so.
-    Groupe({monChoixContient, monChoixContient ? monChoixCommencePar : nullptr});
-    Groupe({monChoixBas, monChoixHaut});
-    if (maCaseBoucler)
-        maCaseBoucler->setChecked(true);
-}
-
-// The first of the buttons that there are begins checked.
-void DialogueRechercher::Groupe(std::initializer_list<QAbstractButton *> boutons)
-{
-    auto * const groupe = new QButtonGroup(this);
-    for (QAbstractButton * const bouton : boutons)
+    constexpr short kSens = CstRecherche::kHaut | CstRecherche::kBas;
+    auto * const modes = (masque & CstRecherche::kContient) != 0 ? new QButtonGroup(this) : nullptr;
+    auto * const sens = (masque & kSens) == kSens ? new QButtonGroup(this) : nullptr;
+    struct
+    {
+        QAbstractButton *& bouton;
+        short bit;
+        QString nom;
+        ChaineLocalisable texte;
+        QButtonGroup * groupe; // null where it is switched on and off by itself
+    } const descriptions[] = {
+        {maCaseMotEntier, CstRecherche::kMotEntier, u"CaseMotEntier"_s, TexteGui("mot entier"),
+         nullptr},
+        {maCaseCasse, CstRecherche::kRespecterCasse, u"CaseCasse"_s,
+         TexteGui("sensible à la casse"), nullptr},
+        {maCaseBoucler, CstRecherche::kBoucler, u"CaseBoucler"_s, TexteGui("boucler"), nullptr},
+        {monChoixContient, CstRecherche::kContient, u"ChoixContient"_s, TexteGui("contient"),
+         modes},
+        {monChoixCommencePar, CstRecherche::kCommencePar, u"ChoixCommencePar"_s,
+         TexteGui("commence par"), modes},
+        {monChoixBas, CstRecherche::kBas, u"ChoixBas"_s, TexteGui("vers le bas"), sens},
+        {monChoixHaut, CstRecherche::kHaut, u"ChoixHaut"_s, TexteGui("vers le haut"), sens},
+    };
+    for (auto const & [bouton, bit, nom, texte, groupe] : descriptions)
+        if ((masque & bit) != 0)
+            bouton = CreeOption(nom, texte, groupe);
+    for (QAbstractButton * const bouton : {maCaseBoucler, monChoixContient, monChoixBas})
         if (bouton)
-            groupe->addButton(bouton);
-    if (!groupe->buttons().isEmpty())
-        groupe->buttons().constFirst()->setChecked(true);
+            bouton->setChecked(true);
+}
+
+QAbstractButton * DialogueRechercher::CreeOption(QString const & nom,
+                                                 ChaineLocalisable const & texte,
+                                                 QButtonGroup * groupe)
+{
+    QAbstractButton * bouton = nullptr;
+    if (groupe) {
+        bouton = new QRadioButton(this);
+        groupe->addButton(bouton);
+    } else {
+        bouton = new QCheckBox(this);
+    }
+    bouton->setObjectName(nom);
+    bouton->setText(TraductionGui(texte));
+    return bouton;
 }
 
 QPushButton * DialogueRechercher::CreeBouton(QString const & nom, ChaineLocalisable const & texte)

@@ -26,7 +26,9 @@ private Q_SLOTS:
     void ouvertureSimple();
     void focus();
     void sensParLHote();
-    void sensParLHoteSansChoix();
+    void unSeulSens_data();
+    void unSeulSens();
+    void gestesSansChoixDuSens();
     void sensParLUtilisateur();
     void effectuerRecherche();
     void effectuerRechercheVide();
@@ -166,7 +168,8 @@ void tst_DialogueRechercherGestes::sensParLHote()
     QVERIFY(!haut->isChecked());
     banc.dialogue->ModifieSensRecherche(kVersLeHaut);
     banc.dialogue->ModifieSensRecherche(kNouvelleRecherche);
-    QVERIFY(!haut->isChecked());
+    QVERIFY(haut->isChecked()); // as everything else that the user chose
+    QCOMPARE(banc.dialogue->DonneOptions(), short(0x14));
     QCOMPARE(banc.dialogue->DonneSensRecherche(), kNouvelleRecherche);
     QCOMPARE(banc.hote.DonneNoms(), QStringList());
 
@@ -176,23 +179,53 @@ void tst_DialogueRechercherGestes::sensParLHote()
     banc.dialogue->ChercherSuivant();
     QVERIFY(!haut->isChecked());
     QCOMPARE(banc.hote.appels.last().options, short(0x24));
-    banc.dialogue->ModifieSensRecherche(kVersLeHaut);
-    banc.dialogue->TexteDeRechercheChanger();
-    QVERIFY(!haut->isChecked());
-    QCOMPARE(banc.hote.appels.last().options, short(0x224));
 }
 
-// Upward is all that is offered: a new search goes there, what the host wants goes where it wants.
-void tst_DialogueRechercherGestes::sensParLHoteSansChoix()
+void tst_DialogueRechercherGestes::unSeulSens_data()
 {
-    Banc banc(0x010);
-    banc.dialogue->AfficheToi(kNouvelleRecherche, {});
-    QCOMPARE(banc.hote.appels.last().options, short(0x10));
-    banc.dialogue->ChercherSuivant();
-    QCOMPARE(banc.hote.appels.last().options, short(0x20));
-    Clique(*banc.dialogue, "BoutonChercher");
-    QCOMPARE(banc.hote.appels.last().options, short(0x10));
-    QCOMPARE(banc.hote.appels.last().sens, kVersLeHaut);
+    QTest::addColumn<short>("masque");
+    QTest::addColumn<QByteArray>("nom");
+    QTest::newRow("upward") << short(0x010) << QByteArray("ChoixHaut");
+    QTest::newRow("downward") << short(0x020) << QByteArray("ChoixBas");
+}
+
+// It is switched on and off, and begins downward like any other dialog.
+void tst_DialogueRechercherGestes::unSeulSens()
+{
+    QFETCH(short, masque);
+    QFETCH(QByteArray, nom);
+    Banc const banc(masque);
+    auto & dialogue = *banc.dialogue;
+    auto const * const choix = Controle(dialogue, nom);
+    auto const verifie = [&](bool versLeHaut) {
+        QCOMPARE(choix->isChecked(), versLeHaut == (masque == 0x010));
+        QCOMPARE(banc.hote.appels.last().options, short(versLeHaut ? 0x10 : 0x20));
+        QCOMPARE(banc.hote.appels.last().sens, versLeHaut ? kVersLeHaut : kVersLeBas);
+    };
+    for (bool const versLeHaut : {false, true, false}) {
+        Clique(dialogue, "BoutonChercher");
+        verifie(versLeHaut);
+        Clique(dialogue, nom);
+    }
+    dialogue.ChercherSuivant();
+    verifie(false);
+    dialogue.ChercherPrecedent();
+    verifie(true);
+    dialogue.AfficheToi(kVersLeBas, {});
+    verifie(false);
+}
+
+// The two gestures that have a direction of their own rebuild the word from what is checked.
+void tst_DialogueRechercherGestes::gestesSansChoixDuSens()
+{
+    Banc const banc;
+    Controle(*banc.dialogue, "ChoixHaut")->setChecked(true);
+    banc.dialogue->BoutonChercher();
+    QCOMPARE(banc.hote.appels.last().options, short(0x14));
+    QCOMPARE(banc.hote.appels.last().sens, kVersLeBas);
+    banc.dialogue->TexteDeRechercheChanger();
+    QCOMPARE(banc.hote.appels.last().options, short(0x214));
+    QCOMPARE(banc.hote.appels.last().sens, kVersLeBas);
     QVERIFY(Controle(*banc.dialogue, "ChoixHaut")->isChecked());
 }
 
@@ -212,10 +245,10 @@ void tst_DialogueRechercherGestes::sensParLUtilisateur()
     QCOMPARE(banc.hote.appels.last().sens, kVersLeBas);
 }
 
-// Backward, with the options of the last gesture but for the direction.
+// Backward, with the options of the last gesture.
 void tst_DialogueRechercherGestes::effectuerRecherche()
 {
-    Banc banc;
+    Banc const banc;
     Clique(*banc.dialogue, "CaseCasse");
     banc.dialogue->PrendsOptions(0x022);
     banc.dialogue->EffectuerRecherche("mot");
@@ -223,9 +256,13 @@ void tst_DialogueRechercherGestes::effectuerRecherche()
     AppelRecherche const & appel = banc.hote.appels.first();
     QCOMPARE(appel.chaine, u"mot"_s);
     QCOMPARE(appel.sens, kVersLeHaut);
-    QCOMPARE(appel.options, short(0x012)); // a refresh would have brought "boucler" back
-    QVERIFY(Controle(*banc.dialogue, "ChoixHaut")->isChecked());
+    QCOMPARE(appel.options, short(0x022)); // a refresh would have brought "boucler" back
     QCOMPARE(Controle<QLineEdit>(*banc.dialogue, "ChampRecherche")->text(), u"mot"_s);
+    // What the user sees is what the user gets.
+    QVERIFY(Controle(*banc.dialogue, "ChoixBas")->isChecked());
+    Clique(*banc.dialogue, "BoutonChercher");
+    QCOMPARE(banc.hote.appels.last().options, short(0x026));
+    QCOMPARE(banc.hote.appels.last().sens, kVersLeBas);
 }
 
 void tst_DialogueRechercherGestes::effectuerRechercheVide()

@@ -68,7 +68,6 @@ void DialogueRechercher::AfficheToi()
     setWindowState(windowState() & ~Qt::WindowMinimized);
     show();
     raise();
-    activateWindow();
 }
 
 void DialogueRechercher::MetEnCoursDeRemplacerTout(bool enCours)
@@ -119,6 +118,7 @@ void DialogueRechercher::PrendsChaineRemplacement(QString const & chaine)
 
 void DialogueRechercher::PrendsFocus()
 {
+    activateWindow();
     monChampRecherche->setFocus();
     monChampRecherche->selectAll();
 }

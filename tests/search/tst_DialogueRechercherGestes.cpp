@@ -29,6 +29,7 @@ private Q_SLOTS:
     void unSeulSens_data();
     void unSeulSens();
     void gestesSansChoixDuSens();
+    void dejaOuvert();
     void sensParLUtilisateur();
     void effectuerRecherche();
     void effectuerRechercheVide();
@@ -227,6 +228,27 @@ void tst_DialogueRechercherGestes::gestesSansChoixDuSens()
     QCOMPARE(banc.hote.appels.last().options, short(0x214));
     QCOMPARE(banc.hote.appels.last().sens, kVersLeBas);
     QVERIFY(Controle(*banc.dialogue, "ChoixHaut")->isChecked());
+}
+
+// F3 in the document: the window in which the user works stays the active one.
+void tst_DialogueRechercherGestes::dejaOuvert()
+{
+    QLineEdit document;
+    document.show();
+    Banc const banc;
+    auto & dialogue = *banc.dialogue;
+    QVERIFY(QTest::qWaitForWindowActive(&dialogue));
+    Controle(dialogue, "CaseCasse")->setFocus();
+    document.activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(&document));
+    for (auto const type : {kVersLeBas, kVersLeHaut})
+        dialogue.AfficheToi(type, "x");
+    QCoreApplication::processEvents();
+    QVERIFY(document.isActiveWindow());
+    QCOMPARE(dialogue.focusWidget(), Controle(dialogue, "CaseCasse"));
+    dialogue.AfficheToi(kNouvelleRecherche, {});
+    QVERIFY(QTest::qWaitForWindowActive(&dialogue));
+    QCOMPARE(dialogue.focusWidget(), Controle<QLineEdit>(dialogue, "ChampRecherche"));
 }
 
 void tst_DialogueRechercherGestes::sensParLUtilisateur()

@@ -33,9 +33,10 @@ struct ChaineLocalisable;
 /// the close button of the window do the same as "Fermer". Tab and, within a choice, the arrows
 /// reach every control that is enabled.
 ///
-/// It opens where the last search dialog of the process was left, brought back to a screen when its
-/// title bar is on none, unless the application moved it. A host may delete it in its callbacks,
-/// except `CallbackNettoyerRecherche`; a receiver in the signals of this class.
+/// A new one opens where the last search dialog of the process was left, unless the application
+/// moved it; one that opens again, where it was itself. Either is brought back to a screen when its
+/// title bar is on none. A host may delete it in its callbacks, except
+/// `CallbackNettoyerRecherche`; a receiver in the signals of this class.
 class FABRELGUI_EXPORT DialogueRechercher : public QDialog, public WidgetRechercheAbstrait
 {
     Q_OBJECT
@@ -49,7 +50,7 @@ public:
 
     /// In a bubble over the dialog or, while it is hidden, over its parent.
     void AfficheMessageTexteIntrouvable(bool pourListe) const override;
-    /// Shows the dialog in front of its window, and activates it.
+    /// Shows the dialog in front of its window. One that was open is not activated.
     void AfficheToi() override;
     /// While everything is being replaced only "Annuler" and "Fermer" can be pressed.
     void MetEnCoursDeRemplacerTout(bool enCours) override;
@@ -61,7 +62,7 @@ public:
     void PrendsChaineRecherche(QString const & chaine) override;
     /// Also to the replacement field, where there is one.
     void PrendsChaineRemplacement(QString const & chaine) override;
-    /// The search field takes the focus with all its text selected.
+    /// Activates the dialog; the search field takes the focus with all its text selected.
     void PrendsFocus() override;
     void ChercherSuivant() override;
     void ChercherPrecedent() override;

@@ -14,6 +14,7 @@
 #include <QShowEvent>
 #include <QWindow>
 
+#include <initializer_list>
 #include <optional>
 
 using namespace Qt::StringLiterals;

@@ -59,7 +59,8 @@ DialogueRechercher::~DialogueRechercher()
 void DialogueRechercher::AfficheMessageTexteIntrouvable(bool pourListe) const
 {
     // The widget of the field is the way to this dialog as something that is not const.
-    QWidget * const parent = isVisible() ? monChampRecherche->window() : parentWidget();
+    QWidget * const parent =
+        isVisible() && !isMinimized() ? monChampRecherche->window() : parentWidget();
     AlerteIntrouvable(parent, DonneOptions(), pourListe,
                       TexteGui("Texte introuvable dans le texte."));
 }

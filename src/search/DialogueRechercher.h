@@ -48,7 +48,7 @@ public:
 
     using WidgetRechercheAbstrait::AfficheToi;
 
-    /// In a bubble over the dialog or, while it is hidden, over its parent.
+    /// In a bubble over the dialog or, while it is hidden or minimised, over its parent.
     void AfficheMessageTexteIntrouvable(bool pourListe) const override;
     /// Shows the dialog in front of its window. One that was open is not activated.
     void AfficheToi() override;

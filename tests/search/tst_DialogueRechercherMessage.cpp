@@ -179,6 +179,11 @@ void tst_DialogueRechercherMessage::dialogueCachay()
     QVERIFY(Bulle());
     QCOMPARE(Bulle()->parentWidget(), &parent);
     delete Bulle();
+    dialogue->showMinimized();
+    dialogue->AfficheMessageTexteIntrouvable(false);
+    QVERIFY(Bulle());
+    QCOMPARE(Bulle()->parentWidget(), &parent);
+    delete Bulle();
     DialogueRechercher const orphelin(nullptr, false, 0);
     orphelin.AfficheMessageTexteIntrouvable(true);
     QVERIFY(Bulle());

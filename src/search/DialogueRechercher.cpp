@@ -6,7 +6,7 @@
 #include "foundation/GeometrieEcran.h"
 #include "foundation/TraductionGui.h"
 
-#include <QCheckBox>
+#include <QAbstractButton>
 #include <QEvent>
 #include <QLineEdit>
 #include <QPointer>
@@ -14,13 +14,12 @@
 #include <QShowEvent>
 #include <QWindow>
 
+#include <initializer_list>
 #include <optional>
 
 using namespace Qt::StringLiterals;
 
 namespace {
-
-constexpr short kSens = CstRecherche::kHaut | CstRecherche::kBas;
 
 // Where the last dialog of the process stood, with its frame.
 std::optional<QPoint> & DernierePosition()
@@ -39,15 +38,13 @@ bool EstCochay(QAbstractButton const * bouton)
 DialogueRechercher::DialogueRechercher(QWidget * parent, bool remplacer, short masque)
     : QDialog(parent)
     , WidgetRechercheAbstrait(remplacer)
-    , monMasque(masque)
 {
     setObjectName(u"DialogueRechercher"_s); // applications style it under this name
     setWindowTitle(TraductionGui(remplacer ? TexteGui("Remplacer") : TexteGui("Rechercher")));
     CreeChamps();
-    CreeOptions();
+    CreeOptions(masque);
     CreeBoutons();
     Dispose();
-    DonneLettres();
     Branche();
     PriseActualiserBoutons();
 }
@@ -62,7 +59,8 @@ DialogueRechercher::~DialogueRechercher()
 void DialogueRechercher::AfficheMessageTexteIntrouvable(bool pourListe) const
 {
     // The widget of the field is the way to this dialog as something that is not const.
-    QWidget * const parent = isVisible() ? monChampRecherche->window() : parentWidget();
+    QWidget * const parent =
+        isVisible() && !isMinimized() ? monChampRecherche->window() : parentWidget();
     AlerteIntrouvable(parent, DonneOptions(), pourListe,
                       TexteGui("Texte introuvable dans le texte."));
 }
@@ -72,7 +70,6 @@ void DialogueRechercher::AfficheToi()
     setWindowState(windowState() & ~Qt::WindowMinimized);
     show();
     raise();
-    activateWindow();
 }
 
 void DialogueRechercher::MetEnCoursDeRemplacerTout(bool enCours)
@@ -98,14 +95,13 @@ QWidget * DialogueRechercher::DonneMoiEnWidget()
 void DialogueRechercher::MetsChaineAChercher(UniChaine chaine)
 {
     PrendsChaineRecherche(chaine);
-    // Not a refresh: a host that sets a text of its own gets the options of the last gesture. But
-    // it may have set a direction with it, which the user has to see.
-    SuisSens();
 }
 
 void DialogueRechercher::ModifieSensRecherche(CstRecherche::eTypeRecherche type)
 {
     RetiensSensRecherche(type);
+    if (type != CstRecherche::kNouvelleRecherche)
+        CocheSens(type == CstRecherche::kVersLeHaut);
     ActualiserEtatPanneau();
 }
 
@@ -124,8 +120,21 @@ void DialogueRechercher::PrendsChaineRemplacement(QString const & chaine)
 
 void DialogueRechercher::PrendsFocus()
 {
+    activateWindow();
     monChampRecherche->setFocus();
     monChampRecherche->selectAll();
+}
+
+void DialogueRechercher::ChercherSuivant()
+{
+    CocheSens(false);
+    WidgetRechercheAbstrait::ChercherSuivant();
+}
+
+void DialogueRechercher::ChercherPrecedent()
+{
+    CocheSens(true);
+    WidgetRechercheAbstrait::ChercherPrecedent();
 }
 
 // Not in the events: once the native window is there, a position is taken for that of the content,
@@ -161,7 +170,7 @@ void DialogueRechercher::PriseActualiserEtatPanneau()
 
 void DialogueRechercher::PriseBoutonChercher()
 {
-    if (EstCochay(monChoixHaut))
+    if (OffreSens() && EstVersLeHaut())
         ChercherPrecedent();
     else
         BoutonChercher();
@@ -207,8 +216,8 @@ void DialogueRechercher::ActualiserEtatPanneau()
         options |= CstRecherche::kRespecterCasse;
     if (EstCochay(maCaseBoucler))
         options |= CstRecherche::kBoucler;
+    options |= EstVersLeHaut() ? CstRecherche::kHaut : CstRecherche::kBas;
     PrendsOptions(static_cast<short>(options));
-    SuisSens();
 }
 
 // Return presses the button of the field that it is pressed in.
@@ -230,8 +239,7 @@ void DialogueRechercher::showEvent(QShowEvent * evenement)
 
 void DialogueRechercher::PriseSensChoisi()
 {
-    RetiensSensRecherche(EstCochay(monChoixHaut) ? CstRecherche::kVersLeHaut
-                                                 : CstRecherche::kVersLeBas);
+    RetiensSensRecherche(EstVersLeHaut() ? CstRecherche::kVersLeHaut : CstRecherche::kVersLeBas);
     ActualiserEtatPanneau();
 }
 
@@ -253,21 +261,24 @@ void DialogueRechercher::PriseActualiserBoutons()
     monBoutonAnnuler->setEnabled(false);
 }
 
-// A new search has the direction of a choice that is already made, otherwise down.
-bool DialogueRechercher::EstVersLeHaut() const
+bool DialogueRechercher::OffreSens() const
 {
-    if (DonneSensRecherche() == CstRecherche::kNouvelleRecherche)
-        return (monMasque & kSens) == CstRecherche::kHaut;
-    return DonneSensRecherche() == CstRecherche::kVersLeHaut;
+    return monChoixHaut || monChoixBas;
 }
 
-void DialogueRechercher::SuisSens()
+bool DialogueRechercher::EstVersLeHaut() const
 {
-    bool const versLeHaut = EstVersLeHaut();
-    if (monChoixHaut && monChoixBas)
-        (versLeHaut ? monChoixHaut : monChoixBas)->setChecked(true);
-    int const sens = versLeHaut ? CstRecherche::kHaut : CstRecherche::kBas;
-    PrendsOptions(static_cast<short>((DonneOptions() & ~kSens) | sens));
+    if (!OffreSens())
+        return DonneSensRecherche() == CstRecherche::kVersLeHaut;
+    return monChoixHaut ? monChoixHaut->isChecked() : !monChoixBas->isChecked();
+}
+
+void DialogueRechercher::CocheSens(bool versLeHaut)
+{
+    if (monChoixBas)
+        monChoixBas->setChecked(!versLeHaut);
+    if (monChoixHaut)
+        monChoixHaut->setChecked(versLeHaut);
 }
 
 void DialogueRechercher::RetiensPosition()

@@ -7,10 +7,8 @@
 
 #include <QDialog>
 
-#include <initializer_list>
-
 class QAbstractButton;
-class QCheckBox;
+class QButtonGroup;
 class QLineEdit;
 class QPushButton;
 struct ChaineLocalisable;
@@ -20,23 +18,25 @@ struct ChaineLocalisable;
 ///
 /// The mask of the constructor, bits of `CstRecherche::eOption`, says which options it offers;
 /// `kTexteEdite` offers nothing. `kHaut` and `kBas` exclude each other, so do `kContient` and
-/// `kCommencePar`. Where only one of them is offered it is a choice already made, except that
-/// `kCommencePar` alone can be switched off. As in the bar, whole words and beginnings exclude
-/// each other: "mot entier" is disabled and does not count while "commence par" is on. A new
-/// dialog has "boucler", "contient" and "vers le bas" on.
+/// `kCommencePar`; one that is offered without the other is switched on and off, but `kContient`
+/// stays on. As in the bar, whole words and beginnings exclude each other: "mot entier" is disabled
+/// and does not count while "commence par" is on. A new dialog has "boucler", "contient" and
+/// "vers le bas" on.
 ///
-/// The option word has the bits of what is checked, and the direction of the request, offered or
-/// not; the choice on screen follows a direction that the host sets. "Chercher" searches upward
-/// when "vers le haut" is checked, and otherwise downward.
+/// The option word has the bits of what is checked, also by a program. Where no direction is
+/// offered, it has the bit of the direction of the request. What the user or the host asks for in a
+/// direction also checks that direction, but not `BoutonChercher` and `TexteDeRechercheChanger`.
+/// "Chercher" searches in the direction that is checked, and downward where none is offered.
 ///
 /// Nothing is searched while one types. Return searches, and replaces in the replacement field;
 /// neither works without a text to search for, nor while everything is being replaced. Escape and
-/// the close button of the window do the same as "Fermer". Every control has a letter that
-/// reaches it with Alt.
+/// the close button of the window do the same as "Fermer". Tab and, within a choice, the arrows
+/// reach every control that is enabled.
 ///
-/// It opens where the last search dialog of the process was left, brought back to a screen when its
-/// title bar is on none, unless the application moved it. A host may delete it in its callbacks,
-/// except `CallbackNettoyerRecherche`; a receiver in the signals of this class.
+/// A new one opens where the last search dialog of the process was left, unless the application
+/// moved it; one that opens again, where it was itself. Either is brought back to a screen when its
+/// title bar is on none. A host may delete it in its callbacks, except
+/// `CallbackNettoyerRecherche`; a receiver in the signals of this class.
 class FABRELGUI_EXPORT DialogueRechercher : public QDialog, public WidgetRechercheAbstrait
 {
     Q_OBJECT
@@ -48,21 +48,24 @@ public:
 
     using WidgetRechercheAbstrait::AfficheToi;
 
-    /// In a bubble over the dialog or, while it is hidden, over its parent.
+    /// In a bubble over the dialog or, while it is hidden or minimised, over its parent.
     void AfficheMessageTexteIntrouvable(bool pourListe) const override;
-    /// Shows the dialog in front of its window, and activates it.
+    /// Shows the dialog in front of its window. One that was open is not activated.
     void AfficheToi() override;
     /// While everything is being replaced only "Annuler" and "Fermer" can be pressed.
     void MetEnCoursDeRemplacerTout(bool enCours) override;
     void CacheToi() override;
     QWidget * DonneMoiEnWidget() override;
     void MetsChaineAChercher(UniChaine chaine) override;
+    /// A new search leaves the direction that is checked.
     void ModifieSensRecherche(CstRecherche::eTypeRecherche type) override;
     void PrendsChaineRecherche(QString const & chaine) override;
     /// Also to the replacement field, where there is one.
     void PrendsChaineRemplacement(QString const & chaine) override;
-    /// The search field takes the focus with all its text selected.
+    /// Activates the dialog; the search field takes the focus with all its text selected.
     void PrendsFocus() override;
+    void ChercherSuivant() override;
+    void ChercherPrecedent() override;
     void setVisible(bool visible) override;
 
 Q_SIGNALS:
@@ -98,32 +101,30 @@ private Q_SLOTS:
 private:
     QLineEdit * CreeChamp(QString const & nom);
     void CreeChamps();
-    template <typename Bouton>
-    Bouton * CreeOption(short bit, QString const & nom, ChaineLocalisable const & texte);
-    void CreeOptions();
-    void Groupe(std::initializer_list<QAbstractButton *> boutons);
+    void CreeOptions(short masque);
+    QAbstractButton * CreeOption(QString const & nom, ChaineLocalisable const & texte,
+                                 QButtonGroup * groupe);
     QPushButton * CreeBouton(QString const & nom, ChaineLocalisable const & texte);
     void CreeBoutons();
     void Dispose();
-    void DonneLettres();
     void Branche();
+    bool OffreSens() const;
     bool EstVersLeHaut() const;
-    void SuisSens();
+    void CocheSens(bool versLeHaut);
     void RetiensPosition();
     void ReprendsPosition();
 
-    short monMasque; // the options that are offered
     bool monRemplacementEnCours = false;
     QLineEdit * monChampRecherche = nullptr;
     QLineEdit * monChampRemplacement = nullptr; // null without replacing, as are its buttons
     // Each null unless the mask asks for it.
-    QCheckBox * maCaseMotEntier = nullptr;
-    QCheckBox * maCaseCasse = nullptr;
-    QCheckBox * maCaseBoucler = nullptr;
+    QAbstractButton * maCaseMotEntier = nullptr;
+    QAbstractButton * maCaseCasse = nullptr;
+    QAbstractButton * maCaseBoucler = nullptr;
     QAbstractButton * monChoixContient = nullptr;
-    QAbstractButton * monChoixCommencePar = nullptr; // a check box without `monChoixContient`
-    QAbstractButton * monChoixHaut = nullptr;
+    QAbstractButton * monChoixCommencePar = nullptr;
     QAbstractButton * monChoixBas = nullptr;
+    QAbstractButton * monChoixHaut = nullptr;
     QPushButton * monBoutonChercher = nullptr;
     QPushButton * monBoutonRemplacer = nullptr;
     QPushButton * monBoutonRemplacerTout = nullptr;

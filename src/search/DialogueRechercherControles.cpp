@@ -9,11 +9,12 @@
 #include <QCheckBox>
 #include <QFormLayout>
 #include <QHBoxLayout>
-#include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QVBoxLayout>
+
+#include <initializer_list>
 
 using namespace Qt::StringLiterals;
 
@@ -22,19 +23,6 @@ namespace {
 // Average characters.
 constexpr int kLargeurChamp = 30; // the least that a field shows
 constexpr int kEcartColonnes = 1; // on top of that of the style: each column is a group
-
-// Gives a text the first of its letters that is neither taken nor hard to type.
-QString AjouteLettre(QString texte, QString & prises)
-{
-    for (qsizetype place = 0; place < texte.size(); ++place) {
-        QChar const lettre = texte.at(place).toLower();
-        if (lettre < u'a' || lettre > u'z' || prises.contains(lettre))
-            continue;
-        prises += lettre;
-        return texte.insert(place, u'&');
-    }
-    return texte;
-}
 
 void AjouteColonne(QHBoxLayout & rangee, int ecart, std::initializer_list<QWidget *> widgets)
 {
@@ -70,56 +58,53 @@ void DialogueRechercher::CreeChamps()
         monChampRemplacement = CreeChamp(u"ChampRemplacement"_s);
 }
 
-template <typename Bouton>
-Bouton * DialogueRechercher::CreeOption(short bit, QString const & nom,
-                                        ChaineLocalisable const & texte)
+void DialogueRechercher::CreeOptions(short masque)
 {
-    if ((monMasque & bit) == 0)
-        return nullptr;
-    auto * const bouton = new Bouton(TraductionGui(texte), this);
-    bouton->setObjectName(nom);
-    return bouton;
-}
-
-void DialogueRechercher::CreeOptions()
-{
-    maCaseMotEntier =
-        CreeOption<QCheckBox>(CstRecherche::kMotEntier, u"CaseMotEntier"_s, TexteGui("mot entier"));
-    maCaseCasse = CreeOption<QCheckBox>(CstRecherche::kRespecterCasse, u"CaseCasse"_s,
-                                        TexteGui("sensible à la casse"));
-    maCaseBoucler =
-        CreeOption<QCheckBox>(CstRecherche::kBoucler, u"CaseBoucler"_s, TexteGui("boucler"));
-    monChoixContient =
-        CreeOption<QRadioButton>(CstRecherche::kContient, u"ChoixContient"_s, TexteGui("contient"));
-    ChaineLocalisable const commencePar = TexteGui("commence par");
-    QString const nomCommencePar = u"ChoixCommencePar"_s;
-    if (monChoixContient)
-        monChoixCommencePar =
-            CreeOption<QRadioButton>(CstRecherche::kCommencePar, nomCommencePar, commencePar);
-    else
-        monChoixCommencePar =
-            CreeOption<QCheckBox>(CstRecherche::kCommencePar, nomCommencePar, commencePar);
-    monChoixBas =
-        CreeOption<QRadioButton>(CstRecherche::kBas, u"ChoixBas"_s, TexteGui("vers le bas"));
-    monChoixHaut =
-        CreeOption<QRadioButton>(CstRecherche::kHaut, u"ChoixHaut"_s, TexteGui("vers le haut"));
-
-    // A group each, also for one button: it makes a choice that is checked stay so.
-    Groupe({monChoixContient, monChoixContient ? monChoixCommencePar : nullptr});
-    Groupe({monChoixBas, monChoixHaut});
-    if (maCaseBoucler)
-        maCaseBoucler->setChecked(true);
-}
-
-// The first of the buttons that there are begins checked.
-void DialogueRechercher::Groupe(std::initializer_list<QAbstractButton *> boutons)
-{
-    auto * const groupe = new QButtonGroup(this);
-    for (QAbstractButton * const bouton : boutons)
+    constexpr short kSens = CstRecherche::kHaut | CstRecherche::kBas;
+    auto * const modes = (masque & CstRecherche::kContient) != 0 ? new QButtonGroup(this) : nullptr;
+    auto * const sens = (masque & kSens) == kSens ? new QButtonGroup(this) : nullptr;
+    struct
+    {
+        QAbstractButton *& bouton;
+        short bit;
+        QString nom;
+        ChaineLocalisable texte;
+        QButtonGroup * groupe; // null where it is switched on and off by itself
+    } const descriptions[] = {
+        {maCaseMotEntier, CstRecherche::kMotEntier, u"CaseMotEntier"_s, TexteGui("mot entier"),
+         nullptr},
+        {maCaseCasse, CstRecherche::kRespecterCasse, u"CaseCasse"_s,
+         TexteGui("sensible à la casse"), nullptr},
+        {maCaseBoucler, CstRecherche::kBoucler, u"CaseBoucler"_s, TexteGui("boucler"), nullptr},
+        {monChoixContient, CstRecherche::kContient, u"ChoixContient"_s, TexteGui("contient"),
+         modes},
+        {monChoixCommencePar, CstRecherche::kCommencePar, u"ChoixCommencePar"_s,
+         TexteGui("commence par"), modes},
+        {monChoixBas, CstRecherche::kBas, u"ChoixBas"_s, TexteGui("vers le bas"), sens},
+        {monChoixHaut, CstRecherche::kHaut, u"ChoixHaut"_s, TexteGui("vers le haut"), sens},
+    };
+    for (auto const & [bouton, bit, nom, texte, groupe] : descriptions)
+        if ((masque & bit) != 0)
+            bouton = CreeOption(nom, texte, groupe);
+    for (QAbstractButton * const bouton : {maCaseBoucler, monChoixContient, monChoixBas})
         if (bouton)
-            groupe->addButton(bouton);
-    if (!groupe->buttons().isEmpty())
-        groupe->buttons().constFirst()->setChecked(true);
+            bouton->setChecked(true);
+}
+
+QAbstractButton * DialogueRechercher::CreeOption(QString const & nom,
+                                                 ChaineLocalisable const & texte,
+                                                 QButtonGroup * groupe)
+{
+    QAbstractButton * bouton = nullptr;
+    if (groupe) {
+        bouton = new QRadioButton(this);
+        groupe->addButton(bouton);
+    } else {
+        bouton = new QCheckBox(this);
+    }
+    bouton->setObjectName(nom);
+    bouton->setText(TraductionGui(texte));
+    return bouton;
 }
 
 QPushButton * DialogueRechercher::CreeBouton(QString const & nom, ChaineLocalisable const & texte)
@@ -169,22 +154,6 @@ void DialogueRechercher::Dispose()
     racine->addLayout(formulaire, 1);
     racine->addSpacing(ecart);
     racine->addLayout(boutons);
-}
-
-// Most texts have no letter for the keyboard, and which are free depends on the language and on
-// what is offered.
-void DialogueRechercher::DonneLettres()
-{
-    QString prises;
-    auto const boutons = findChildren<QAbstractButton *>(QString(), Qt::FindDirectChildrenOnly);
-    for (QAbstractButton const * const bouton : boutons)
-        if (qsizetype const place = bouton->text().indexOf(u'&'); place >= 0)
-            prises += bouton->text().at(place + 1).toLower();
-    for (QLabel * const etiquette : findChildren<QLabel *>(QString(), Qt::FindDirectChildrenOnly))
-        etiquette->setText(AjouteLettre(etiquette->text(), prises));
-    for (QAbstractButton * const bouton : boutons)
-        if (!bouton->text().contains(u'&'))
-            bouton->setText(AjouteLettre(bouton->text(), prises));
 }
 
 void DialogueRechercher::Branche()

@@ -46,12 +46,6 @@ T * Controle(QWidget const & dialogue, char const * nom)
     return dialogue.findChild<T *>(QLatin1StringView(nom), Qt::FindDirectChildrenOnly);
 }
 
-/// As the text is searched for: without the letter's mark.
-inline QString SansLettre(QString texte)
-{
-    return texte.remove(QLatin1Char('&'));
-}
-
 /// Whether the button, which may be null, can be pressed.
 inline bool EstActif(QWidget const & dialogue, char const * nom)
 {

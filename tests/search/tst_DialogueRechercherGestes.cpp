@@ -20,16 +20,11 @@ private Q_SLOTS:
 
     void gestes_data();
     void gestes();
-    void remplacerToutVersLeHaut();
     void ouverture_data();
     void ouverture();
     void ouvertureSimple();
     void focus();
-    void sensParLHote();
-    void sensParLHoteSansChoix();
-    void sensParLUtilisateur();
-    void effectuerRecherche();
-    void effectuerRechercheVide();
+    void dejaOuvert();
     void chaines();
     void pasDeCompteur();
     void sansHote();
@@ -76,19 +71,6 @@ void tst_DialogueRechercherGestes::gestes()
     QCOMPARE(fait.remplacement, u"mieux"_s);
     QCOMPARE(fait.options, options);
     QCOMPARE(fait.sens, sens);
-}
-
-// Every match, whatever the dialog says of directions and ends.
-void tst_DialogueRechercherGestes::remplacerToutVersLeHaut()
-{
-    Banc const banc;
-    Clique(*banc.dialogue, "ChoixHaut");
-    Clique(*banc.dialogue, "CaseBoucler");
-    Clique(*banc.dialogue, "BoutonRemplacer");
-    Clique(*banc.dialogue, "BoutonRemplacerTout");
-    QCOMPARE(banc.hote.appels.first().options, short(0x10));
-    QCOMPARE(banc.hote.appels.last().options, short(0x34));
-    QCOMPARE(banc.hote.appels.last().sens, kVersLeHaut);
 }
 
 void tst_DialogueRechercherGestes::ouverture_data()
@@ -155,87 +137,25 @@ void tst_DialogueRechercherGestes::focus()
     QCOMPARE(champ->selectedText(), u"texte"_s);
 }
 
-void tst_DialogueRechercherGestes::sensParLHote()
+// F3 in the document: the window in which the user works stays the active one.
+void tst_DialogueRechercherGestes::dejaOuvert()
 {
-    Banc banc;
-    auto const * const haut = Controle(*banc.dialogue, "ChoixHaut");
-    banc.dialogue->ModifieSensRecherche(kVersLeHaut);
-    QVERIFY(haut->isChecked());
-    QCOMPARE(banc.dialogue->DonneOptions(), short(0x14));
-    banc.dialogue->ModifieSensRecherche(kVersLeBas);
-    QVERIFY(!haut->isChecked());
-    banc.dialogue->ModifieSensRecherche(kVersLeHaut);
-    banc.dialogue->ModifieSensRecherche(kNouvelleRecherche);
-    QVERIFY(!haut->isChecked());
-    QCOMPARE(banc.dialogue->DonneSensRecherche(), kNouvelleRecherche);
-    QCOMPARE(banc.hote.DonneNoms(), QStringList());
-
-    banc.dialogue->ChercherPrecedent();
-    QVERIFY(haut->isChecked());
-    QCOMPARE(banc.hote.appels.last().options, short(0x14));
-    banc.dialogue->ChercherSuivant();
-    QVERIFY(!haut->isChecked());
-    QCOMPARE(banc.hote.appels.last().options, short(0x24));
-    banc.dialogue->ModifieSensRecherche(kVersLeHaut);
-    banc.dialogue->TexteDeRechercheChanger();
-    QVERIFY(!haut->isChecked());
-    QCOMPARE(banc.hote.appels.last().options, short(0x224));
-}
-
-// Upward is all that is offered: a new search goes there, what the host wants goes where it wants.
-void tst_DialogueRechercherGestes::sensParLHoteSansChoix()
-{
-    Banc banc(0x010);
-    banc.dialogue->AfficheToi(kNouvelleRecherche, {});
-    QCOMPARE(banc.hote.appels.last().options, short(0x10));
-    banc.dialogue->ChercherSuivant();
-    QCOMPARE(banc.hote.appels.last().options, short(0x20));
-    Clique(*banc.dialogue, "BoutonChercher");
-    QCOMPARE(banc.hote.appels.last().options, short(0x10));
-    QCOMPARE(banc.hote.appels.last().sens, kVersLeHaut);
-    QVERIFY(Controle(*banc.dialogue, "ChoixHaut")->isChecked());
-}
-
-void tst_DialogueRechercherGestes::sensParLUtilisateur()
-{
-    Banc banc;
-    Clique(*banc.dialogue, "ChoixHaut");
-    QCOMPARE(banc.dialogue->DonneSensRecherche(), kVersLeHaut);
-    Clique(*banc.dialogue, "BoutonRemplacer");
-    QCOMPARE(banc.hote.appels.last().sens, kVersLeHaut);
-    Clique(*banc.dialogue, "BoutonChercher");
-    QCOMPARE(banc.hote.appels.last().sens, kVersLeHaut);
-    QVERIFY(Controle(*banc.dialogue, "ChoixHaut")->isChecked());
-    Clique(*banc.dialogue, "ChoixBas");
-    QCOMPARE(banc.dialogue->DonneSensRecherche(), kVersLeBas);
-    Clique(*banc.dialogue, "BoutonChercher");
-    QCOMPARE(banc.hote.appels.last().sens, kVersLeBas);
-}
-
-// Backward, with the options of the last gesture but for the direction.
-void tst_DialogueRechercherGestes::effectuerRecherche()
-{
-    Banc banc;
-    Clique(*banc.dialogue, "CaseCasse");
-    banc.dialogue->PrendsOptions(0x022);
-    banc.dialogue->EffectuerRecherche("mot");
-    QCOMPARE(banc.hote.DonneNoms(), QStringList{u"Chercher"_s});
-    AppelRecherche const & appel = banc.hote.appels.first();
-    QCOMPARE(appel.chaine, u"mot"_s);
-    QCOMPARE(appel.sens, kVersLeHaut);
-    QCOMPARE(appel.options, short(0x012)); // a refresh would have brought "boucler" back
-    QVERIFY(Controle(*banc.dialogue, "ChoixHaut")->isChecked());
-    QCOMPARE(Controle<QLineEdit>(*banc.dialogue, "ChampRecherche")->text(), u"mot"_s);
-}
-
-void tst_DialogueRechercherGestes::effectuerRechercheVide()
-{
+    QLineEdit document;
+    document.show();
     Banc const banc;
-    banc.dialogue->EffectuerRecherche({});
-    QCOMPARE(banc.hote.DonneNoms(), QStringList());
-    QCOMPARE(banc.dialogue->DonneSensRecherche(), kNouvelleRecherche);
-    QCOMPARE(banc.dialogue->DonneChaineRecherche(), u"texte"_s);
-    QVERIFY(Controle(*banc.dialogue, "ChoixBas")->isChecked());
+    auto & dialogue = *banc.dialogue;
+    QVERIFY(QTest::qWaitForWindowActive(&dialogue));
+    Controle(dialogue, "CaseCasse")->setFocus();
+    document.activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(&document));
+    for (auto const type : {kVersLeBas, kVersLeHaut})
+        dialogue.AfficheToi(type, "x");
+    QCoreApplication::processEvents();
+    QVERIFY(document.isActiveWindow());
+    QCOMPARE(dialogue.focusWidget(), Controle(dialogue, "CaseCasse"));
+    dialogue.AfficheToi(kNouvelleRecherche, {});
+    QVERIFY(QTest::qWaitForWindowActive(&dialogue));
+    QCOMPARE(dialogue.focusWidget(), Controle<QLineEdit>(dialogue, "ChampRecherche"));
 }
 
 void tst_DialogueRechercherGestes::chaines()

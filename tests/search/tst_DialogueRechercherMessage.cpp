@@ -132,7 +132,7 @@ void tst_DialogueRechercherMessage::parLesControles_data()
     QTest::newRow("up to the beginning")
         << kToutOffrir << QList<QByteArray>{"CaseBoucler", "ChoixHaut"} << 2;
     QTest::newRow("nothing offered") << short(0) << QList<QByteArray>{} << 1;
-    QTest::newRow("upward only") << short(0x010) << QList<QByteArray>{} << 2;
+    QTest::newRow("upward only") << short(0x010) << QList<QByteArray>{"ChoixHaut"} << 2;
 }
 
 void tst_DialogueRechercherMessage::parLesControles()
@@ -176,6 +176,11 @@ void tst_DialogueRechercherMessage::dialogueCachay()
     QWidget parent;
     auto * const dialogue = new DialogueRechercher(&parent, true, kToutOffrir);
     dialogue->AfficheMessageTexteIntrouvable(true);
+    QVERIFY(Bulle());
+    QCOMPARE(Bulle()->parentWidget(), &parent);
+    delete Bulle();
+    dialogue->showMinimized();
+    dialogue->AfficheMessageTexteIntrouvable(false);
     QVERIFY(Bulle());
     QCOMPARE(Bulle()->parentWidget(), &parent);
     delete Bulle();

@@ -39,10 +39,11 @@ private Q_SLOTS:
     void etatsAuDepart();
 
     void motDesOptions();
+    void cochayParProgramme();
     void motDesOptionsSansControle();
     void contientNEstJamaisRange();
     void motEntierOuDebut();
-    void choixDejaFaits();
+    void contientSeul();
     void debutSeul();
     void desactivay();
     void rafraichiParChaqueControle();
@@ -60,7 +61,7 @@ void tst_DialogueRechercherOptions::optionsSelonLeMasque()
                      qPrintable(u"%1 %2"_s.arg(masque, 0, 16).arg(option.fr)));
             nombre += bouton != nullptr;
             if (bouton)
-                QCOMPARE(SansLettre(bouton->text()), option.fr);
+                QCOMPARE(bouton->text(), option.fr);
         }
         auto const boutons =
             dialogue.findChildren<QAbstractButton *>(QString(), Qt::FindDirectChildrenOnly);
@@ -122,18 +123,38 @@ void tst_DialogueRechercherOptions::motDesOptions()
     QCOMPARE(banc.hote.appels.size(), 32);
 }
 
+// An application restores what it kept.
+void tst_DialogueRechercherOptions::cochayParProgramme()
+{
+    for (OptionOfferte const & option : Options()) {
+        for (short const masque : {option.bit, kToutOffrir, short(-1)}) {
+            Banc const banc(masque);
+            Controle(*banc.dialogue, option.nom)->setChecked(true);
+            banc.dialogue->AfficheToi(CstRecherche::kNouvelleRecherche, {});
+            banc.dialogue->BoutonChercher();
+            banc.dialogue->BoutonRemplacer();
+            for (AppelRecherche const & appel : banc.hote.appels.mid(1)) // behind "Nettoyer"
+                QCOMPARE(appel.options & option.bit, option.bit == 0x100 ? 0 : option.bit);
+            QVERIFY(Controle(*banc.dialogue, option.nom)->isChecked());
+        }
+    }
+}
+
 // Nothing is offered, so nothing but the direction is asked for.
 void tst_DialogueRechercherOptions::motDesOptionsSansControle()
 {
     Banc banc(0);
     banc.dialogue->ChercherSuivant();
     banc.dialogue->ChercherPrecedent();
-    banc.dialogue->ModifieSensRecherche(CstRecherche::kNouvelleRecherche);
-    QCOMPARE(banc.hote.appels.at(0).options, short(0x20));
-    QCOMPARE(banc.hote.appels.at(1).options, short(0x10));
-    QCOMPARE(banc.dialogue->DonneOptions(), short(0x20));
+    Clique(*banc.dialogue, "BoutonRemplacer");
     Clique(*banc.dialogue, "BoutonChercher");
+    QList<short> options;
+    for (AppelRecherche const & appel : banc.hote.appels)
+        options << appel.options;
+    QCOMPARE(options, QList<short>({0x20, 0x10, 0x10, 0x20}));
     QCOMPARE(banc.hote.appels.last().sens, CstRecherche::kVersLeBas);
+    banc.dialogue->ModifieSensRecherche(CstRecherche::kNouvelleRecherche);
+    QCOMPARE(banc.dialogue->DonneOptions(), short(0x20));
 }
 
 void tst_DialogueRechercherOptions::contientNEstJamaisRange()
@@ -161,25 +182,15 @@ void tst_DialogueRechercherOptions::motEntierOuDebut()
     QCOMPARE(banc.dialogue->DonneOptions(), short(0x25));
 }
 
-// The one direction, or mode, that is offered cannot be switched off.
-void tst_DialogueRechercherOptions::choixDejaFaits()
+// Without "commence par" there is nothing else to choose.
+void tst_DialogueRechercherOptions::contientSeul()
 {
-    for (auto const & [masque, nom, options] :
-         {std::tuple{short(0x010), "ChoixHaut", short(0x10)},
-          std::tuple{short(0x020), "ChoixBas", short(0x20)},
-          std::tuple{short(0x100), "ChoixContient", short(0x20)}}) {
-        Banc banc(masque);
-        QVERIFY(Controle(*banc.dialogue, nom)->isChecked());
-        Clique(*banc.dialogue, nom);
-        QVERIFY(Controle(*banc.dialogue, nom)->isChecked());
-        Clique(*banc.dialogue, "BoutonChercher");
-        QCOMPARE(banc.hote.appels.last().options, options);
-    }
-    // Both are choices of their own.
-    Banc const banc(0x110);
-    for (auto const * const nom : {"ChoixHaut", "ChoixContient"}) {
-        Clique(*banc.dialogue, nom);
-        QVERIFY(Controle(*banc.dialogue, "ChoixHaut")->isChecked());
+    for (short const masque : {short(0x100), short(0x110), short(0x130)}) {
+        Banc const banc(masque);
+        Clique(*banc.dialogue, "ChoixContient");
+        QVERIFY(Controle(*banc.dialogue, "ChoixContient")->isChecked());
+        if ((masque & 0x010) != 0)
+            Clique(*banc.dialogue, "ChoixHaut"); // a choice of its own
         QVERIFY(Controle(*banc.dialogue, "ChoixContient")->isChecked());
     }
 }

@@ -95,6 +95,7 @@ void tst_DialogueRechercherPosition::rouvert()
     dialogue.move(kLaisseIci);
     for (int fois = 0; fois < 5; ++fois) {
         dialogue.CacheToi();
+        Laisse({10, 10}); // another one
         dialogue.AfficheToi();
         QCOMPARE(dialogue.pos(), kLaisseIci);
     }

@@ -91,7 +91,9 @@ void tst_DialogueRechercherX11::devantSaFenetreSansLaBloquer()
     QTest::keyClicks(&document, u"abc"_s);
     QCOMPARE(document.text(), u"abc"_s);
     QVERIFY(dialogue->isVisible());
-    QTRY_VERIFY((dialogue->AfficheToi(), dialogue->isActiveWindow()));
+    dialogue->AfficheToi(CstRecherche::kVersLeBas, {});
+    QVERIFY(document.isActiveWindow());
+    QTRY_VERIFY((dialogue->PrendsFocus(), dialogue->isActiveWindow()));
 }
 
 // The message that the close button of the frame sends.

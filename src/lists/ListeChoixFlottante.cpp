@@ -40,6 +40,13 @@ class VueDesChoix : public QTreeView
 public:
     using QTreeView::QTreeView;
 
+    // Never sideways: no bar would bring back what slid away, under the very mouse that made the
+    // row current.
+    void scrollTo(QModelIndex const & index, ScrollHint maniere) override
+    {
+        QTreeView::scrollTo(index.siblingAtColumn(0), maniere);
+    }
+
 protected:
     // Keys end here. One that the view has no use for would go on to the list, which sends what it
     // gets to the linked widget, from where it came; and then to the widget's own parent.

@@ -30,6 +30,7 @@ private Q_SLOTS:
     void clicDansLaFenetre();
     void dialogueModal();
     void focusDuChamp();
+    void survolSansDerive();
 };
 
 namespace {
@@ -205,6 +206,28 @@ void tst_ListeChoixFlottanteSouris::focusDuChamp()
     QTest::mouseClick(hote.Vue()->viewport(), Qt::LeftButton, {}, hote.Milieu(1));
     QCOMPARE(QApplication::focusWidget(), hote.champ);
     QVERIFY(!hote.liste->focusWidget());
+}
+
+void tst_ListeChoixFlottanteSouris::survolSansDerive()
+{
+    // Columns that the reference cuts: no bar would bring back what slid away under the mouse.
+    Hote const hote;
+    QString const texte(20, u'w');
+    auto const propose = [&] { hote.liste->ActualiseListeChoix(CreeRangees({texte, texte}, 3)); };
+    hote.champ->resize(3000, 28);
+    propose();
+    int const colonne = hote.Vue()->sizeHintForIndex(hote.Vue()->model()->index(0, 0)).width();
+    hote.champ->resize(3 * colonne / 2, 28);
+    propose();
+    QVERIFY(QTest::qWaitForWindowExposed(hote.liste));
+    QModelIndex const premiere = hote.Vue()->model()->index(1, 0);
+    QRect const avant = hote.Vue()->visualRect(premiere);
+    QPoint const bord(hote.Vue()->viewport()->width() - 2, avant.center().y());
+    QCOMPARE(hote.Vue()->indexAt(bord).column(), 1);
+    QTest::mouseMove(hote.liste->windowHandle(),
+                     hote.Vue()->viewport()->mapTo(hote.liste.data(), bord));
+    QTRY_COMPARE(hote.Rangee(), 1);
+    QCOMPARE(hote.Vue()->visualRect(premiere), avant);
 }
 
 QTEST_MAIN(tst_ListeChoixFlottanteSouris)

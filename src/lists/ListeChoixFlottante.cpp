@@ -6,6 +6,7 @@
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QStandardItemModel>
+#include <QStyle>
 #include <QStyledItemDelegate>
 #include <QTreeView>
 #include <QVBoxLayout>
@@ -130,13 +131,16 @@ void ListeChoixFlottante::ActualisePosListeChoix()
 
 void ListeChoixFlottante::AfficheToi()
 {
-    // Null for what a list that is shown already has.
-    for (QMetaObject::Connection const & connexion :
-         {connect(maVue, &QTreeView::activated, this,
-                  &ListeChoixFlottante::PrisePropositionSelectionnay, Qt::UniqueConnection),
-          connect(maVue, &QTreeView::clicked, this,
-                  &ListeChoixFlottante::PrisePropositionSelectionnay, Qt::UniqueConnection)}) {
-        if (connexion)
+    // A style that activates at a click would tell each one twice.
+    bool const activeAuClic =
+        maVue->style()->styleHint(QStyle::SH_ItemView_ActivateItemOnSingleClick, nullptr, maVue);
+    for (auto const signal : {&QTreeView::activated, &QTreeView::clicked}) {
+        if (activeAuClic && signal == &QTreeView::clicked)
+            continue;
+        QMetaObject::Connection const connexion =
+            connect(maVue, signal, this, &ListeChoixFlottante::PrisePropositionSelectionnay,
+                    Qt::UniqueConnection);
+        if (connexion) // null for what a list that is shown already has
             mesConnexions.append(connexion);
     }
     PreparePourLeSysteme();

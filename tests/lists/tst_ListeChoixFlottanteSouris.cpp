@@ -3,6 +3,7 @@
 #include "lists/EssaisListeChoix.h"
 
 #include <QDialog>
+#include <QProxyStyle>
 #include <QStandardItemModel>
 #include <QWindow>
 #include <QtTest>
@@ -21,6 +22,7 @@ private Q_SLOTS:
     void survol();
     void clic_data();
     void clic();
+    void styleQuiActiveAuClic();
     void clicHorsDesRangees();
     void clicDeDroite();
     void listeCachee();
@@ -40,6 +42,19 @@ QPoint Place(Hote const & hote, int rangee)
 {
     return hote.Vue()->viewport()->mapTo(hote.liste.data(), hote.Milieu(rangee));
 }
+
+// That of desktops where one click opens a file.
+class StyleAuClic : public QProxyStyle
+{
+public:
+    int styleHint(StyleHint indice, QStyleOption const * option, QWidget const * widget,
+                  QStyleHintReturn * retour) const override
+    {
+        return indice == SH_ItemView_ActivateItemOnSingleClick
+                   ? 1
+                   : QProxyStyle::styleHint(indice, option, widget, retour);
+    }
+};
 
 } // namespace
 
@@ -84,6 +99,24 @@ void tst_ListeChoixFlottanteSouris::clic()
     QCOMPARE(choix.count(), 1);
     QCOMPARE(DernierChoix(choix), QStringList(u"mot %1"_s.arg(rangee)));
     QVERIFY(hote.liste->isVisible());
+}
+
+void tst_ListeChoixFlottanteSouris::styleQuiActiveAuClic()
+{
+    StyleAuClic style;
+    Hote const hote;
+    hote.Vue()->setStyle(&style);
+    QSignalSpy const choix(hote.liste, &ListeChoixFlottante::SignalSelectionListeChoix);
+    QSignalSpy const clics(hote.Vue(), &QTreeView::clicked);
+    QSignalSpy const activations(hote.Vue(), &QTreeView::activated);
+    hote.liste->ActualiseListeChoix(CreeRangees(CreeTextes(3)));
+    QTest::mouseClick(hote.Vue()->viewport(), Qt::LeftButton, {}, hote.Milieu(2));
+    QCOMPARE(clics.count(), 1);
+    QCOMPARE(activations.count(), 1);
+    QCOMPARE(choix.count(), 1);
+    QCOMPARE(DernierChoix(choix), QStringList(u"mot 2"_s));
+    QTest::keyClick(hote.champ, Qt::Key_Return);
+    QCOMPARE(choix.count(), 2);
 }
 
 void tst_ListeChoixFlottanteSouris::clicHorsDesRangees()

@@ -102,7 +102,6 @@ void ListeChoixFlottante::ActualiseListeChoix(QList<QList<QStandardItem *>> rang
     DetruitElementsDuModele(modele);
     for (QList<QStandardItem *> const & rangee : std::as_const(rangees))
         modele->appendRow(rangee);
-    QPoint const position = DonnePosListeChoix();
     if (modele->rowCount() == 0) {
         CacheToi();
         return;
@@ -120,7 +119,7 @@ void ListeChoixFlottante::ActualiseListeChoix(QList<QList<QStandardItem *>> rang
     maVue->setFixedSize(taille);
     setFixedSize(taille);
     AfficheToi();
-    move(position);
+    move(DonnePosListeChoix());
 }
 
 void ListeChoixFlottante::ActualisePosListeChoix()
@@ -175,15 +174,13 @@ void ListeChoixFlottante::TermineActualisation()
 QList<QStandardItem *> ListeChoixFlottante::DonneItemsSelectionnay() const
 {
     // One selected cell is enough: of the preselected row only the first one is.
-    QModelIndexList const cellules =
-        maVue->selectionModel() ? maVue->selectionModel()->selectedIndexes() : QModelIndexList();
+    QModelIndexList const cellules = maVue->selectionModel()->selectedIndexes();
     return cellules.isEmpty() ? QList<QStandardItem *>() : DonneItems(cellules.first().row());
 }
 
 void ListeChoixFlottante::EnleveSelection()
 {
-    if (maVue->selectionModel())
-        maVue->selectionModel()->clear();
+    maVue->selectionModel()->clear();
 }
 
 void ListeChoixFlottante::MetsDelegue(QStyledItemDelegate * delegue)

@@ -112,7 +112,6 @@ private:
     void PreparePourLeSysteme();
     void SurveilleMort(QWidget * widget);
     bool TraiteToucheDuWidget(QKeyEvent * touche);
-    void RendsActivation();
     QStandardItemModel * PreteModele() const;
     void DetruitElementsDuModele(QStandardItemModel * modele) const;
     QList<QStandardItem *> DonneItems(int rangee) const;

@@ -4,6 +4,7 @@
 
 #include <QStandardItemModel>
 #include <QStyledItemDelegate>
+#include <QWindow>
 #include <QtTest>
 
 #include <array>
@@ -20,6 +21,7 @@ class tst_ListeChoixFlottante : public QObject
 private Q_SLOTS:
     void cleanup();
     void fenetre();
+    void fenetreNative();
     void vue();
     void constructeurs();
     void toutNul();
@@ -81,6 +83,24 @@ void tst_ListeChoixFlottante::fenetre()
     QCOMPARE(disposition->contentsMargins(), QMargins());
     QCOMPARE(disposition->count(), 1);
     QCOMPARE(disposition->itemAt(0)->widget(), hote.Vue());
+}
+
+void tst_ListeChoixFlottante::fenetreNative()
+{
+    Hote hote;
+    hote.liste->ActualiseListeChoix(CreeRangees(CreeTextes(1)));
+    QWindow const * const native = hote.liste->windowHandle();
+    QVERIFY(native->flags().testFlag(Qt::WindowDoesNotAcceptFocus));
+    QCOMPARE(native->transientParent(), hote.fenetre.windowHandle());
+    // It follows the link, at the next proposals.
+    QWidget autre;
+    autre.show();
+    hote.liste->MetsWidgetLiay(&autre);
+    hote.liste->ActualiseListeChoix(CreeRangees(CreeTextes(1)));
+    QCOMPARE(native->transientParent(), autre.windowHandle());
+    hote.liste->MetsWidgetLiay(nullptr);
+    hote.liste->ActualiseListeChoix(CreeRangees(CreeTextes(1)));
+    QVERIFY(!native->transientParent());
 }
 
 void tst_ListeChoixFlottante::vue()
@@ -226,11 +246,11 @@ void tst_ListeChoixFlottante::delegue()
 
 void tst_ListeChoixFlottante::lien()
 {
-    Hote const hote;
+    Hote hote;
     QVERIFY(hote.liste->PossedeWidgetLiay());
     hote.liste->MetsWidgetLiay(nullptr);
     QVERIFY(!hote.liste->PossedeWidgetLiay());
-    hote.liste->MetsWidgetLiay(&const_cast<Hote &>(hote).fenetre);
+    hote.liste->MetsWidgetLiay(&hote.fenetre);
     QVERIFY(hote.liste->PossedeWidgetLiay());
 }
 

@@ -61,6 +61,23 @@ public:
     }
 };
 
+// What the native window of a widget is when it appears.
+class AParution : public QObject
+{
+public:
+    bool sansFocus = false;
+
+protected:
+    bool eventFilter(QObject * objet, QEvent * evenement) override
+    {
+        if (evenement->type() == QEvent::Show) {
+            QWindow const * const native = static_cast<QWidget *>(objet)->windowHandle();
+            sansFocus = native && native->flags().testFlag(Qt::WindowDoesNotAcceptFocus);
+        }
+        return false;
+    }
+};
+
 } // namespace
 
 void tst_ListeChoixFlottante::cleanup()
@@ -88,7 +105,10 @@ void tst_ListeChoixFlottante::fenetre()
 void tst_ListeChoixFlottante::fenetreNative()
 {
     Hote hote;
+    AParution parution;
+    hote.liste->installEventFilter(&parution);
     hote.liste->ActualiseListeChoix(CreeRangees(CreeTextes(1)));
+    QVERIFY(parution.sansFocus); // too late once the system has the window
     QWindow const * const native = hote.liste->windowHandle();
     QVERIFY(native->flags().testFlag(Qt::WindowDoesNotAcceptFocus));
     QCOMPARE(native->transientParent(), hote.fenetre.windowHandle());
@@ -293,6 +313,7 @@ void tst_ListeChoixFlottante::palette()
         QCOMPARE(hote.Vue()->viewport()->palette().color(groupe, QPalette::Base),
                  QColor(Qt::white));
     }
+    QCOMPARE(hote.Vue()->palette().color(QPalette::Disabled, QPalette::Text), QColor(Qt::gray));
     QImage const image = hote.liste->grab().toImage();
     QCOMPARE(image.pixelColor(image.width() / 2, image.height() - 3), QColor(Qt::white));
     // A theme that changes while the list is shown.

@@ -6,6 +6,7 @@
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QStandardItemModel>
+#include <QStyle>
 #include <QStyledItemDelegate>
 #include <QTreeView>
 #include <QVBoxLayout>
@@ -39,6 +40,13 @@ class VueDesChoix : public QTreeView
 {
 public:
     using QTreeView::QTreeView;
+
+    // Never sideways: no bar would bring back what slid away, under the very mouse that made the
+    // row current.
+    void scrollTo(QModelIndex const & index, ScrollHint maniere) override
+    {
+        QTreeView::scrollTo(index.siblingAtColumn(0), maniere);
+    }
 
 protected:
     // Keys end here. One that the view has no use for would go on to the list, which sends what it
@@ -94,7 +102,6 @@ void ListeChoixFlottante::ActualiseListeChoix(QList<QList<QStandardItem *>> rang
     DetruitElementsDuModele(modele);
     for (QList<QStandardItem *> const & rangee : std::as_const(rangees))
         modele->appendRow(rangee);
-    QPoint const position = DonnePosListeChoix();
     if (modele->rowCount() == 0) {
         CacheToi();
         return;
@@ -112,7 +119,7 @@ void ListeChoixFlottante::ActualiseListeChoix(QList<QList<QStandardItem *>> rang
     maVue->setFixedSize(taille);
     setFixedSize(taille);
     AfficheToi();
-    move(position);
+    move(DonnePosListeChoix());
 }
 
 void ListeChoixFlottante::ActualisePosListeChoix()
@@ -123,13 +130,16 @@ void ListeChoixFlottante::ActualisePosListeChoix()
 
 void ListeChoixFlottante::AfficheToi()
 {
-    // Null for what a list that is shown already has.
-    for (QMetaObject::Connection const & connexion :
-         {connect(maVue, &QTreeView::activated, this,
-                  &ListeChoixFlottante::PrisePropositionSelectionnay, Qt::UniqueConnection),
-          connect(maVue, &QTreeView::clicked, this,
-                  &ListeChoixFlottante::PrisePropositionSelectionnay, Qt::UniqueConnection)}) {
-        if (connexion)
+    // A style that activates at a click would tell each one twice.
+    bool const activeAuClic =
+        maVue->style()->styleHint(QStyle::SH_ItemView_ActivateItemOnSingleClick, nullptr, maVue);
+    for (auto const signal : {&QTreeView::activated, &QTreeView::clicked}) {
+        if (activeAuClic && signal == &QTreeView::clicked)
+            continue;
+        QMetaObject::Connection const connexion =
+            connect(maVue, signal, this, &ListeChoixFlottante::PrisePropositionSelectionnay,
+                    Qt::UniqueConnection);
+        if (connexion) // null for what a list that is shown already has
             mesConnexions.append(connexion);
     }
     PreparePourLeSysteme();
@@ -164,15 +174,13 @@ void ListeChoixFlottante::TermineActualisation()
 QList<QStandardItem *> ListeChoixFlottante::DonneItemsSelectionnay() const
 {
     // One selected cell is enough: of the preselected row only the first one is.
-    QModelIndexList const cellules =
-        maVue->selectionModel() ? maVue->selectionModel()->selectedIndexes() : QModelIndexList();
+    QModelIndexList const cellules = maVue->selectionModel()->selectedIndexes();
     return cellules.isEmpty() ? QList<QStandardItem *>() : DonneItems(cellules.first().row());
 }
 
 void ListeChoixFlottante::EnleveSelection()
 {
-    if (maVue->selectionModel())
-        maVue->selectionModel()->clear();
+    maVue->selectionModel()->clear();
 }
 
 void ListeChoixFlottante::MetsDelegue(QStyledItemDelegate * delegue)

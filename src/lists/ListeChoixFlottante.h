@@ -92,7 +92,8 @@ Q_SIGNALS:
     /// Escape in the linked widget. The list hides; the key reaches the widget as well.
     void SignalFermetureListeChoix();
     /// The user chose a row: clones of its items, one for each column. The receiver may hide the
-    /// list, replace its proposals or destroy it.
+    /// list, replace its proposals or destroy it. A double click tells of its row twice, unless the
+    /// list is hidden at the first.
     void SignalSelectionListeChoix(QList<std::shared_ptr<QStandardItem>> items);
 
 public Q_SLOTS:
@@ -112,7 +113,6 @@ private:
     void PreparePourLeSysteme();
     void SurveilleMort(QWidget * widget);
     bool TraiteToucheDuWidget(QKeyEvent * touche);
-    void RendsActivation();
     QStandardItemModel * PreteModele() const;
     void DetruitElementsDuModele(QStandardItemModel * modele) const;
     QList<QStandardItem *> DonneItems(int rangee) const;

@@ -37,7 +37,8 @@ bool ListeChoixFlottante::event(QEvent * evenement)
         }
         break;
     case QEvent::WindowActivate:
-        RendsActivation();
+        if (monWidgetLiay) // on systems that activate whatever they show
+            monWidgetLiay->window()->activateWindow();
         break;
     default:
         break;
@@ -78,11 +79,4 @@ bool ListeChoixFlottante::TraiteToucheDuWidget(QKeyEvent * touche)
     default:
         return false;
     }
-}
-
-// On systems that activate whatever they show.
-void ListeChoixFlottante::RendsActivation()
-{
-    if (monWidgetLiay && monWidgetLiay->isVisible())
-        monWidgetLiay->window()->activateWindow();
 }

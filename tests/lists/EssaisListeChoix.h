@@ -56,12 +56,18 @@ class ChampTemoin : public QLineEdit
 public:
     using QLineEdit::QLineEdit;
     QList<int> touches;
+    QList<int> relachements;
 
 protected:
     void keyPressEvent(QKeyEvent * touche) override
     {
         touches.append(touche->key());
         QLineEdit::keyPressEvent(touche);
+    }
+    void keyReleaseEvent(QKeyEvent * touche) override
+    {
+        relachements.append(touche->key());
+        QLineEdit::keyReleaseEvent(touche);
     }
 };
 

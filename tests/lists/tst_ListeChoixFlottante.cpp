@@ -4,6 +4,7 @@
 
 #include <QStandardItemModel>
 #include <QStyledItemDelegate>
+#include <QWindow>
 #include <QtTest>
 
 #include <array>
@@ -20,6 +21,7 @@ class tst_ListeChoixFlottante : public QObject
 private Q_SLOTS:
     void cleanup();
     void fenetre();
+    void fenetreNative();
     void vue();
     void constructeurs();
     void toutNul();
@@ -59,6 +61,23 @@ public:
     }
 };
 
+// What the native window of a widget is when it appears.
+class AParution : public QObject
+{
+public:
+    bool sansFocus = false;
+
+protected:
+    bool eventFilter(QObject * objet, QEvent * evenement) override
+    {
+        if (evenement->type() == QEvent::Show) {
+            QWindow const * const native = static_cast<QWidget *>(objet)->windowHandle();
+            sansFocus = native && native->flags().testFlag(Qt::WindowDoesNotAcceptFocus);
+        }
+        return false;
+    }
+};
+
 } // namespace
 
 void tst_ListeChoixFlottante::cleanup()
@@ -81,6 +100,27 @@ void tst_ListeChoixFlottante::fenetre()
     QCOMPARE(disposition->contentsMargins(), QMargins());
     QCOMPARE(disposition->count(), 1);
     QCOMPARE(disposition->itemAt(0)->widget(), hote.Vue());
+}
+
+void tst_ListeChoixFlottante::fenetreNative()
+{
+    Hote hote;
+    AParution parution;
+    hote.liste->installEventFilter(&parution);
+    hote.liste->ActualiseListeChoix(CreeRangees(CreeTextes(1)));
+    QVERIFY(parution.sansFocus); // too late once the system has the window
+    QWindow const * const native = hote.liste->windowHandle();
+    QVERIFY(native->flags().testFlag(Qt::WindowDoesNotAcceptFocus));
+    QCOMPARE(native->transientParent(), hote.fenetre.windowHandle());
+    // It follows the link, at the next proposals.
+    QWidget autre;
+    autre.show();
+    hote.liste->MetsWidgetLiay(&autre);
+    hote.liste->ActualiseListeChoix(CreeRangees(CreeTextes(1)));
+    QCOMPARE(native->transientParent(), autre.windowHandle());
+    hote.liste->MetsWidgetLiay(nullptr);
+    hote.liste->ActualiseListeChoix(CreeRangees(CreeTextes(1)));
+    QVERIFY(!native->transientParent());
 }
 
 void tst_ListeChoixFlottante::vue()
@@ -226,11 +266,11 @@ void tst_ListeChoixFlottante::delegue()
 
 void tst_ListeChoixFlottante::lien()
 {
-    Hote const hote;
+    Hote hote;
     QVERIFY(hote.liste->PossedeWidgetLiay());
     hote.liste->MetsWidgetLiay(nullptr);
     QVERIFY(!hote.liste->PossedeWidgetLiay());
-    hote.liste->MetsWidgetLiay(&const_cast<Hote &>(hote).fenetre);
+    hote.liste->MetsWidgetLiay(&hote.fenetre);
     QVERIFY(hote.liste->PossedeWidgetLiay());
 }
 
@@ -273,6 +313,7 @@ void tst_ListeChoixFlottante::palette()
         QCOMPARE(hote.Vue()->viewport()->palette().color(groupe, QPalette::Base),
                  QColor(Qt::white));
     }
+    QCOMPARE(hote.Vue()->palette().color(QPalette::Disabled, QPalette::Text), QColor(Qt::gray));
     QImage const image = hote.liste->grab().toImage();
     QCOMPARE(image.pixelColor(image.width() / 2, image.height() - 3), QColor(Qt::white));
     // A theme that changes while the list is shown.

@@ -47,8 +47,8 @@ void tst_ListeChoixFlottanteFocus::cleanup()
 
 void tst_ListeChoixFlottanteFocus::autreWidget()
 {
-    Hote const hote;
-    ChampTemoin autre(&const_cast<Hote &>(hote).fenetre);
+    Hote hote;
+    ChampTemoin autre(&hote.fenetre);
     autre.show();
     hote.liste->MetsWidgetLiay(&autre);
     hote.liste->ActualiseListeChoix(CreeRangees(CreeTextes(3)));
@@ -62,8 +62,8 @@ void tst_ListeChoixFlottanteFocus::autreWidget()
 
 void tst_ListeChoixFlottanteFocus::filtreDuHote()
 {
-    Hote const hote;
-    ChampTemoin autre(&const_cast<Hote &>(hote).fenetre);
+    Hote hote;
+    ChampTemoin autre(&hote.fenetre);
     autre.show();
     hote.liste->MetsWidgetLiay(&autre);
     autre.installEventFilter(hote.liste);
@@ -80,8 +80,8 @@ void tst_ListeChoixFlottanteFocus::filtreDuHote()
 void tst_ListeChoixFlottanteFocus::sansFocus()
 {
     // A view takes the focus at its arrow keys when no widget has it.
-    Hote const hote;
-    QVERIFY(QTest::qWaitForWindowActive(&const_cast<Hote &>(hote).fenetre));
+    Hote hote;
+    QVERIFY(QTest::qWaitForWindowActive(&hote.fenetre));
     hote.liste->ActualiseListeChoix(CreeRangees(CreeTextes(3)));
     QTRY_VERIFY(hote.fenetre.isActiveWindow());
     if (QWidget * const focus = QApplication::focusWidget())
@@ -96,11 +96,11 @@ void tst_ListeChoixFlottanteFocus::sansFocus()
 
 void tst_ListeChoixFlottanteFocus::activationRendue()
 {
-    Hote const hote;
+    Hote hote;
     Activations activations;
     hote.liste->installEventFilter(&activations);
     hote.champ->setFocus();
-    QVERIFY(QTest::qWaitForWindowActive(&const_cast<Hote &>(hote).fenetre));
+    QVERIFY(QTest::qWaitForWindowActive(&hote.fenetre));
     hote.liste->ActualiseListeChoix(CreeRangees(CreeTextes(3)));
     QVERIFY(QTest::qWaitForWindowExposed(hote.liste));
     QCoreApplication::processEvents();
@@ -128,6 +128,7 @@ void tst_ListeChoixFlottanteFocus::frappeDansLaListe()
     QCOMPARE(hote.champ->text(), u"abc"_s);
     QTest::keyClick(hote.liste, Qt::Key_F6); // which the field leaves to its window
     QCOMPARE(hote.fenetre.touches, QList<int>{Qt::Key_F6});
+    QCOMPARE(hote.champ->relachements, QList<int>({Qt::Key_A, Qt::Key_B, Qt::Key_C, Qt::Key_F6}));
     QTest::keyClick(hote.liste, Qt::Key_Down);
     QCOMPARE(hote.Rangee(), 0);
     QTest::keyClick(hote.liste, Qt::Key_Enter);

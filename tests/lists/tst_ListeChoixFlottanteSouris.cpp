@@ -3,6 +3,7 @@
 #include "lists/EssaisListeChoix.h"
 
 #include <QDialog>
+#include <QProxyStyle>
 #include <QStandardItemModel>
 #include <QWindow>
 #include <QtTest>
@@ -21,15 +22,18 @@ private Q_SLOTS:
     void survol();
     void clic_data();
     void clic();
+    void styleQuiActiveAuClic();
     void clicHorsDesRangees();
     void clicDeDroite();
     void listeCachee();
     void afficheeDeuxFois();
     void cacheeDeuxFois();
+    void doubleClic();
     void choixQuiCache();
     void clicDansLaFenetre();
     void dialogueModal();
     void focusDuChamp();
+    void survolSansDerive();
 };
 
 namespace {
@@ -39,6 +43,19 @@ QPoint Place(Hote const & hote, int rangee)
 {
     return hote.Vue()->viewport()->mapTo(hote.liste.data(), hote.Milieu(rangee));
 }
+
+// That of desktops where one click opens a file.
+class StyleAuClic : public QProxyStyle
+{
+public:
+    int styleHint(StyleHint indice, QStyleOption const * option, QWidget const * widget,
+                  QStyleHintReturn * retour) const override
+    {
+        return indice == SH_ItemView_ActivateItemOnSingleClick
+                   ? 1
+                   : QProxyStyle::styleHint(indice, option, widget, retour);
+    }
+};
 
 } // namespace
 
@@ -83,6 +100,24 @@ void tst_ListeChoixFlottanteSouris::clic()
     QCOMPARE(choix.count(), 1);
     QCOMPARE(DernierChoix(choix), QStringList(u"mot %1"_s.arg(rangee)));
     QVERIFY(hote.liste->isVisible());
+}
+
+void tst_ListeChoixFlottanteSouris::styleQuiActiveAuClic()
+{
+    StyleAuClic style;
+    Hote const hote;
+    hote.Vue()->setStyle(&style);
+    QSignalSpy const choix(hote.liste, &ListeChoixFlottante::SignalSelectionListeChoix);
+    QSignalSpy const clics(hote.Vue(), &QTreeView::clicked);
+    QSignalSpy const activations(hote.Vue(), &QTreeView::activated);
+    hote.liste->ActualiseListeChoix(CreeRangees(CreeTextes(3)));
+    QTest::mouseClick(hote.Vue()->viewport(), Qt::LeftButton, {}, hote.Milieu(2));
+    QCOMPARE(clics.count(), 1);
+    QCOMPARE(activations.count(), 1);
+    QCOMPARE(choix.count(), 1);
+    QCOMPARE(DernierChoix(choix), QStringList(u"mot 2"_s));
+    QTest::keyClick(hote.champ, Qt::Key_Return);
+    QCOMPARE(choix.count(), 2);
 }
 
 void tst_ListeChoixFlottanteSouris::clicHorsDesRangees()
@@ -151,6 +186,20 @@ void tst_ListeChoixFlottanteSouris::cacheeDeuxFois()
     QCOMPARE(choix.count(), 1);
 }
 
+void tst_ListeChoixFlottanteSouris::doubleClic()
+{
+    // Deliberate: the view tells the first click, then an activation; one who hides the list at
+    // the first hears of no second.
+    Hote const hote;
+    QSignalSpy const choix(hote.liste, &ListeChoixFlottante::SignalSelectionListeChoix);
+    hote.liste->ActualiseListeChoix(CreeRangees(CreeTextes(3)));
+    QPoint const milieu = hote.Milieu(1);
+    QTest::mouseClick(hote.Vue()->viewport(), Qt::LeftButton, {}, milieu);
+    QTest::mouseDClick(hote.Vue()->viewport(), Qt::LeftButton, {}, milieu);
+    QCOMPARE(choix.count(), 2);
+    QCOMPARE(DernierChoix(choix), QStringList(u"mot 1"_s));
+}
+
 void tst_ListeChoixFlottanteSouris::choixQuiCache()
 {
     Hote const hote;
@@ -197,14 +246,36 @@ void tst_ListeChoixFlottanteSouris::dialogueModal()
 
 void tst_ListeChoixFlottanteSouris::focusDuChamp()
 {
-    Hote const hote;
+    Hote hote;
     hote.champ->setFocus();
-    QVERIFY(QTest::qWaitForWindowActive(&const_cast<Hote &>(hote).fenetre));
+    QVERIFY(QTest::qWaitForWindowActive(&hote.fenetre));
     hote.liste->ActualiseListeChoix(CreeRangees(CreeTextes(3)));
     QTRY_COMPARE(QApplication::focusWidget(), hote.champ);
     QTest::mouseClick(hote.Vue()->viewport(), Qt::LeftButton, {}, hote.Milieu(1));
     QCOMPARE(QApplication::focusWidget(), hote.champ);
     QVERIFY(!hote.liste->focusWidget());
+}
+
+void tst_ListeChoixFlottanteSouris::survolSansDerive()
+{
+    // Columns that the reference cuts: no bar would bring back what slid away under the mouse.
+    Hote const hote;
+    QString const texte(20, u'w');
+    auto const propose = [&] { hote.liste->ActualiseListeChoix(CreeRangees({texte, texte}, 3)); };
+    hote.champ->resize(3000, 28);
+    propose();
+    int const colonne = hote.Vue()->sizeHintForIndex(hote.Vue()->model()->index(0, 0)).width();
+    hote.champ->resize(3 * colonne / 2, 28);
+    propose();
+    QVERIFY(QTest::qWaitForWindowExposed(hote.liste));
+    QModelIndex const premiere = hote.Vue()->model()->index(1, 0);
+    QRect const avant = hote.Vue()->visualRect(premiere);
+    QPoint const bord(hote.Vue()->viewport()->width() - 2, avant.center().y());
+    QCOMPARE(hote.Vue()->indexAt(bord).column(), 1);
+    QTest::mouseMove(hote.liste->windowHandle(),
+                     hote.Vue()->viewport()->mapTo(hote.liste.data(), bord));
+    QTRY_COMPARE(hote.Rangee(), 1);
+    QCOMPARE(hote.Vue()->visualRect(premiere), avant);
 }
 
 QTEST_MAIN(tst_ListeChoixFlottanteSouris)

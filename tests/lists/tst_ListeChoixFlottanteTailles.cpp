@@ -19,6 +19,7 @@ private Q_SLOTS:
     void cleanup();
     void taille_data();
     void taille();
+    void rangeesDeHauteursDiverses();
     void reference_data();
     void reference();
     void colonnesEntieres();
@@ -85,6 +86,17 @@ void tst_ListeChoixFlottanteTailles::taille()
         QCOMPARE(widget->minimumSize(), attendue);
         QCOMPARE(widget->maximumSize(), attendue);
     }
+}
+
+void tst_ListeChoixFlottanteTailles::rangeesDeHauteursDiverses()
+{
+    Hote const hote;
+    Rangees const rangees = CreeRangees(CreeTextes(3), 2);
+    rangees.at(0).at(0)->setSizeHint({20, 40});
+    rangees.at(1).at(1)->setSizeHint({20, 90}); // each cell counts the height of its whole row
+    rangees.at(2).at(0)->setSizeHint({20, 60});
+    hote.liste->ActualiseListeChoix(rangees);
+    QCOMPARE(hote.liste->height(), 6 + 2 * (40 + 90 + 60));
 }
 
 void tst_ListeChoixFlottanteTailles::reference_data()

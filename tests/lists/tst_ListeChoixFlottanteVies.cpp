@@ -36,7 +36,9 @@ private Q_SLOTS:
     void pendantUnChoix_data();
     void pendantUnChoix();
     void choixDansUnChoix();
+    void destructionApresUnChoixInterne();
     void destructionALaFermeture();
+    void champDetruitAuChoix_data();
     void champDetruitAuChoix();
     void destructionVisible();
     void sansHote();
@@ -233,6 +235,24 @@ void tst_ListeChoixFlottanteVies::choixDansUnChoix()
     QVERIFY(!hote.liste);
 }
 
+void tst_ListeChoixFlottanteVies::destructionApresUnChoixInterne()
+{
+    Hote hote;
+    QPointer<QTreeView> const vue = hote.Vue();
+    int choix = 0;
+    connect(hote.liste, &ListeChoixFlottante::SignalSelectionListeChoix, this, [&] {
+        if (++choix > 1)
+            return;
+        hote.liste->SelectionneItemActivay();
+        delete hote.liste;
+        QVERIFY(vue); // which is still handling the click
+    });
+    hote.liste->ActualiseListeChoix(CreeRangees(CreeTextes(3)));
+    QTest::mouseClick(hote.Vue()->viewport(), Qt::LeftButton, {}, hote.Milieu(1));
+    QCOMPARE(choix, 2);
+    QTRY_VERIFY(!vue);
+}
+
 void tst_ListeChoixFlottanteVies::destructionALaFermeture()
 {
     Hote hote;
@@ -244,13 +264,30 @@ void tst_ListeChoixFlottanteVies::destructionALaFermeture()
     QCOMPARE(hote.champ->touches, QList<int>{Qt::Key_Escape});
 }
 
+void tst_ListeChoixFlottanteVies::champDetruitAuChoix_data()
+{
+    QTest::addColumn<Action>("geste");
+    QTest::newRow("click") << Action([](Hote & hote) {
+        QTest::mouseClick(hote.Vue()->viewport(), Qt::LeftButton, {}, hote.Milieu(1));
+    });
+    QTest::newRow("return") << Action([](Hote & hote) {
+        QKeyEvent retour(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier);
+        QCoreApplication::sendEvent(hote.champ, &retour);
+    });
+    QTest::newRow("return in the list") << Action([](Hote & hote) {
+        QKeyEvent retour(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier);
+        QCoreApplication::sendEvent(hote.liste, &retour);
+    });
+}
+
 void tst_ListeChoixFlottanteVies::champDetruitAuChoix()
 {
+    QFETCH(Action, geste);
     Hote hote;
     connect(hote.liste, &ListeChoixFlottante::SignalSelectionListeChoix, this,
             [&] { delete hote.champ; });
     hote.liste->ActualiseListeChoix(CreeRangees(CreeTextes(3)));
-    QTest::mouseClick(hote.Vue()->viewport(), Qt::LeftButton, {}, hote.Milieu(1));
+    geste(hote);
     QVERIFY(hote.liste->isHidden());
     QVERIFY(!hote.liste->PossedeWidgetLiay());
 }

@@ -2,13 +2,11 @@
 #include "lists/ListeChoixFlottante.h"
 
 #include "lists/InterfaceUtilisantListeChoixFlottante.h"
+#include "lists/VueDesChoix_p.h"
 
-#include <QHeaderView>
-#include <QKeyEvent>
 #include <QStandardItemModel>
 #include <QStyle>
 #include <QStyledItemDelegate>
-#include <QTreeView>
 #include <QVBoxLayout>
 
 #include <algorithm>
@@ -17,46 +15,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int kMargeInterne = 2; // pixels around the rows
-constexpr int kCadre = 6;        // pixels: twice the margin and the line of the frame
 constexpr int kRoleSelectionnableParDefaut = Qt::UserRole + 1;
-
-// The last cell asks for the frame too: the sum of a row is then the width of a view that cuts none
-// of its text.
-class DeleguayDesChoix : public QStyledItemDelegate
-{
-public:
-    using QStyledItemDelegate::QStyledItemDelegate;
-
-    QSize sizeHint(QStyleOptionViewItem const & option, QModelIndex const & index) const override
-    {
-        QSize const taille = QStyledItemDelegate::sizeHint(option, index);
-        bool const derniere = index.column() == index.model()->columnCount() - 1;
-        return derniere ? taille + QSize(kCadre, 0) : taille;
-    }
-};
-
-class VueDesChoix : public QTreeView
-{
-public:
-    using QTreeView::QTreeView;
-
-    // Never sideways: no bar would bring back what slid away, under the very mouse that made the
-    // row current.
-    void scrollTo(QModelIndex const & index, ScrollHint maniere) override
-    {
-        QTreeView::scrollTo(index.siblingAtColumn(0), maniere);
-    }
-
-protected:
-    // Keys end here. One that the view has no use for would go on to the list, which sends what it
-    // gets to the linked widget, from where it came; and then to the widget's own parent.
-    void keyPressEvent(QKeyEvent * touche) override
-    {
-        QTreeView::keyPressEvent(touche);
-        touche->accept();
-    }
-};
 
 } // namespace
 
@@ -110,7 +69,7 @@ void ListeChoixFlottante::ActualiseListeChoix(QList<QList<QStandardItem *>> rang
     // automatic choice accepts.
     auto const selection =
         maPreselection ? QItemSelectionModel::ClearAndSelect : QItemSelectionModel::Clear;
-    QSize taille = DisposeColonnes();
+    QSize taille = maVue->DisposeColonnes();
     maVue->selectionModel()->select(modele->index(0, 0), selection);
     // A fixed size knows no greatest width, so that the reference cuts the rows here. The least
     // width is the host's own wish and may be larger.
@@ -130,18 +89,15 @@ void ListeChoixFlottante::ActualisePosListeChoix()
 
 void ListeChoixFlottante::AfficheToi()
 {
+    // Invalid for what a list that is shown already has.
+    mesConnexions.append(connect(maVue, &QTreeView::activated, this,
+                                 &ListeChoixFlottante::PrisePropositionSelectionnay,
+                                 Qt::UniqueConnection));
     // A style that activates at a click would tell each one twice.
-    bool const activeAuClic =
-        maVue->style()->styleHint(QStyle::SH_ItemView_ActivateItemOnSingleClick, nullptr, maVue);
-    for (auto const signal : {&QTreeView::activated, &QTreeView::clicked}) {
-        if (activeAuClic && signal == &QTreeView::clicked)
-            continue;
-        QMetaObject::Connection const connexion =
-            connect(maVue, signal, this, &ListeChoixFlottante::PrisePropositionSelectionnay,
-                    Qt::UniqueConnection);
-        if (connexion) // null for what a list that is shown already has
-            mesConnexions.append(connexion);
-    }
+    if (!maVue->style()->styleHint(QStyle::SH_ItemView_ActivateItemOnSingleClick, nullptr, maVue))
+        mesConnexions.append(connect(maVue, &QTreeView::clicked, this,
+                                     &ListeChoixFlottante::PrisePropositionSelectionnay,
+                                     Qt::UniqueConnection));
     PreparePourLeSysteme();
     show();
 }
@@ -293,26 +249,7 @@ void ListeChoixFlottante::InitialiseVue()
     disposition->setContentsMargins({});
     maVue = new VueDesChoix(this);
     disposition->addWidget(maVue);
-    // The sheets are white in every theme, so that the text may not be the theme's. Before the
-    // sheet: each new polish goes back to the palette that the sheet found.
-    QPalette palette;
-    for (auto const role : {QPalette::Text, QPalette::WindowText}) {
-        palette.setColor(role, Qt::black);
-        palette.setColor(QPalette::Disabled, role, Qt::gray);
-    }
-    maVue->setPalette(palette);
-    maVue->setStyleSheet(u"QTreeView{padding: %1px;}"_s.arg(kMargeInterne));
-    maVue->setItemDelegate(new DeleguayDesChoix(maVue));
-    maVue->setFocusPolicy(Qt::NoFocus);
-    maVue->setMouseTracking(true);
-    maVue->setEditTriggers(QAbstractItemView::NoEditTriggers);
-    maVue->setSelectionMode(QAbstractItemView::SingleSelection);
-    maVue->setRootIsDecorated(false);
-    maVue->setHeaderHidden(true);
-    maVue->header()->setStretchLastSection(false); // never below a default width
     maVue->setModel(new QStandardItemModel(0, 1, this));
-    maVue->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    maVue->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
 }
 
 void ListeChoixFlottante::SurveilleMort(QWidget * widget)
@@ -342,31 +279,6 @@ QList<QStandardItem *> ListeChoixFlottante::DonneItems(int rangee) const
     for (int colonne = 0; modele && colonne < modele->columnCount(); ++colonne)
         items.append(modele->itemFromIndex(modele->index(rangee, colonne)));
     return items;
-}
-
-// Gives each column the width of its contents; returns the size of the widest row and of the whole.
-QSize ListeChoixFlottante::DisposeColonnes() const
-{
-    QAbstractItemModel const * const modele = maVue->model();
-    QList<int> largeurs(modele->columnCount(), 0);
-    QSize taille(0, kCadre);
-    for (int rangee = 0; rangee < modele->rowCount(); ++rangee) {
-        int largeur = 0;
-        for (int colonne = 0; colonne < largeurs.size(); ++colonne) {
-            int const cellule = maVue->sizeHintForIndex(modele->index(rangee, colonne)).width();
-            largeurs[colonne] = std::max(largeurs.at(colonne), cellule);
-            largeur += cellule;
-        }
-        taille.setWidth(std::max(taille.width(), largeur));
-        // Deliberate: once per cell, so that two columns double the height.
-        taille.rheight() += static_cast<int>(largeurs.size()) * maVue->sizeHintForRow(rangee);
-    }
-    // The last one takes what is left: more or less than its contents.
-    int const derniere = static_cast<int>(largeurs.size()) - 1;
-    for (int colonne = 0; colonne < derniere; ++colonne)
-        maVue->header()->resizeSection(colonne, largeurs.at(colonne));
-    maVue->header()->setSectionResizeMode(derniere, QHeaderView::Stretch);
-    return taille;
 }
 
 QPoint ListeChoixFlottante::DonnePosListeChoix() const

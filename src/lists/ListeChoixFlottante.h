@@ -15,6 +15,7 @@ class QStandardItemModel;
 class QStyledItemDelegate;
 class QTreeView;
 class InterfaceUtilisantListeChoixFlottante;
+class VueDesChoix;
 
 /// A small window of proposals that floats under a text control while the user types, and never
 /// takes the focus from it.
@@ -116,11 +117,10 @@ private:
     QStandardItemModel * PreteModele() const;
     void DetruitElementsDuModele(QStandardItemModel * modele) const;
     QList<QStandardItem *> DonneItems(int rangee) const;
-    QSize DisposeColonnes() const;
     QPoint DonnePosListeChoix() const;
     void Selectionne(int rangee);
 
-    QTreeView * maVue = nullptr;
+    VueDesChoix * maVue = nullptr;
     QPointer<QWidget> monWidgetLiay;
     QPointer<QWidget> monWidgetReference;
     int maLargeurMinimum = 0;

@@ -1,9 +1,10 @@
 // lists/ListeChoixFlottanteEvenements.cpp
 #include "lists/ListeChoixFlottante.h"
 
+#include "lists/VueDesChoix_p.h"
+
 #include <QCoreApplication>
 #include <QKeyEvent>
-#include <QTreeView>
 #include <QWindow>
 
 // What keeps the keyboard in the linked widget and lets it drive the list.

@@ -211,6 +211,9 @@ void TexteCherchable::hideEvent(QHideEvent * evenement)
 {
     QWidget::hideEvent(evenement);
     monFocus.clear();
+    // What the dialog found would be out of sight.
+    if (monDialogue && !evenement->spontaneous())
+        monDialogue->CacheToi();
 }
 
 void TexteCherchable::CreeEditeurs()

@@ -40,6 +40,7 @@ private Q_SLOTS:
     void remplace();
     void ouvreDialogue();
     void unSeulFrontal();
+    void dialogueFermeAvecLaPage();
     void editeurRiche();
     void editeurRicheAvecDialogue();
     void focusRenduAuRetour();
@@ -254,6 +255,16 @@ void tst_TexteCherchable::unSeulFrontal()
     monTexte->OuvreBarre();
     QVERIFY(maBarre->isVisible());
     QVERIFY(monTexte->findChild<DialogueRechercher *>()->isHidden());
+}
+
+void tst_TexteCherchable::dialogueFermeAvecLaPage()
+{
+    monTexte->OuvreDialogue();
+    auto const & dialogue = *monTexte->findChild<DialogueRechercher *>();
+
+    monTexte->hide(); // for another page of the same window
+
+    QVERIFY(dialogue.isHidden());
 }
 
 void tst_TexteCherchable::editeurRiche()

@@ -30,6 +30,7 @@ private Q_SLOTS:
 
     void texteEntier_data();
     void texteEntier();
+    void unSeulMot();
     void demontre();
     void demontreCeQuiEstSaisi();
     void demontreSansFocus();
@@ -125,6 +126,15 @@ void tst_TexteCherchable::texteEntier()
     monTexte->MetsTexte(u"Autre\u00A0!\n\nfin"_s);
 
     QCOMPARE(monTexte->DonneTexte(), u"Autre\u00A0!\n\nfin"_s);
+}
+
+// A word longer than the window stays on one line.
+void tst_TexteCherchable::unSeulMot()
+{
+    monTexte->MetsTexte(QString(2000, u'm'));
+
+    QCOMPARE(monEditeur->document()->firstBlock().layout()->lineCount(), 1);
+    QCOMPARE(PreteEditeurRiche()->wordWrapMode(), QTextOption::WordWrap);
 }
 
 void tst_TexteCherchable::demontre()

@@ -33,6 +33,7 @@ namespace {
 
 // Logical pixels.
 constexpr int kLargeurMots = 270;
+constexpr int kLargeurNom = 300; // of a file, at most: titles do not shrink
 constexpr QSize kTailleDialogue(560, 420);
 
 // For the first search, the word that comes back most often of those that the text begins with.
@@ -58,7 +59,9 @@ QLabel * CreeMessage()
 {
     auto * const message = new QLabel;
     message->setObjectName(u"messageErreur"_s); // the sheet's colour for errors
+    message->setTextFormat(Qt::PlainText);      // it may name a file that looks like something else
     message->setWordWrap(true);
+    message->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred); // whatever it names
     message->hide();
     return message;
 }
@@ -236,8 +239,11 @@ LectureTexte::eResultat PageRecherche::LisFichier(QString const & fichier)
 
 void PageRecherche::MontreNom()
 {
-    if (QString const fichier = PreteMemoire().fichier; !fichier.isEmpty())
-        monGroupe->setTitle(QFileInfo(fichier).fileName());
+    QString const nom = QFileInfo(PreteMemoire().fichier).fileName();
+    if (nom.isEmpty())
+        return;
+    QString const titre = fontMetrics().elidedText(nom, Qt::ElideMiddle, kLargeurNom);
+    monGroupe->setTitle(QString(titre).replace(u'&', u"&&"_s)); // no mnemonic
 }
 
 // The page shows what it is for before the user has touched anything.
@@ -278,7 +284,7 @@ void PageRecherche::PriseDansUnDialogue()
     auto * const editeur = new QPlainTextEdit(monTexte->DonneTexte());
     editeur->setAccessibleName(TraductionGalerie(TexteGalerie("Texte")));
     editeur->setTabChangesFocus(true);
-    auto * const barre = new BarreRecherche(dialogue, true, true, true, true);
+    auto * const barre = new BarreRecherche(nullptr, true, true, true, true);
     barre->hide();
     auto * const disposition = new QVBoxLayout(dialogue);
     disposition->addWidget(editeur);

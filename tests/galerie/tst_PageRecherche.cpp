@@ -38,6 +38,7 @@ private Q_SLOTS:
     void texteTapaySansFichier();
     void ouvreUnFichier();
     void fichierRefusay();
+    void nomDuFichier();
     void apercuTantQueRienNEstTapay();
     void demonstration();
     void demonstrationSansTexte();
@@ -45,6 +46,7 @@ private Q_SLOTS:
     void boutons();
     void motChoisi();
     void echapDansUnDialogue();
+    void tabulation();
     void texteGarday();
     void barreFermeeGardee();
     void saisieCherchee();
@@ -286,6 +288,36 @@ void tst_PageRecherche::demonstration()
     QVERIFY(!Prete<ChampMots>().PreteListe().isVisible());
 }
 
+// Neither a mnemonic nor a mark-up, and no wider window.
+void tst_PageRecherche::nomDuFichier()
+{
+    Montre();
+    auto const titre = [this] {
+        return static_cast<QGroupBox *>(
+                   Prete<QPlainTextEdit>().parentWidget()->parentWidget()->parentWidget())
+            ->title();
+    };
+    Choisis(Ecris(u"R&D <b>x<b>.txt"_s, u"a"_s));
+    QTRY_COMPARE(titre(), u"R&&D <b>x<b>.txt"_s);
+
+    QTRY_VERIFY(!maPage->findChild<QFileDialog *>());
+    Choisis(Ecris(QString(200, u'm'), u"a"_s));
+    QTRY_VERIFY(titre().startsWith(u"mm"));
+    QCOMPARE_LT(maPage->fontMetrics().horizontalAdvance(titre()), maPage->width() / 2);
+
+    QTRY_VERIFY(!maPage->findChild<QFileDialog *>());
+    QApplication::sendPostedEvents(nullptr, QEvent::LayoutRequest);
+    int const largeur = maPage->minimumSizeHint().width();
+    Choisis(Ecris(QString(200, u'n'), QString(QChar::Null)));
+    QTRY_VERIFY(MontreMessage());
+    QApplication::sendPostedEvents(nullptr, QEvent::LayoutRequest);
+    QCOMPARE_LE(maPage->minimumSizeHint().width(), largeur);
+
+    Remplace(monDossier.filePath(u"<b>absent</b>"_s), {});
+    for (auto const * const message : maPage->findChildren<QLabel *>(u"messageErreur"_s))
+        QCOMPARE(message->textFormat(), Qt::PlainText);
+}
+
 void tst_PageRecherche::apercuTantQueRienNEstTapay()
 {
     Montre();
@@ -368,6 +400,29 @@ void tst_PageRecherche::echapDansUnDialogue()
 
     QTest::keyClick(dialogue->focusWidget(), Qt::Key_Escape);
     QTRY_VERIFY(dialogue.isNull());
+}
+
+// Each in turn by the key, as they stand on the page; the editors let it through.
+void tst_PageRecherche::tabulation()
+{
+    Montre();
+    auto & editeur = Prete<QPlainTextEdit>();
+    editeur.setFocus();
+    QTest::keyClick(&editeur, Qt::Key_Tab);
+    auto const & barre = Prete<BarreRecherche>();
+    QVERIFY(barre.isAncestorOf(maPage->focusWidget()));
+    for (int i = 0; i < 20 && barre.isAncestorOf(maPage->focusWidget()); ++i)
+        QTest::keyClick(maPage->focusWidget(), Qt::Key_Tab);
+    QCOMPARE(maPage->focusWidget(), &Prete<ChampMots>());
+
+    Appuie(u"dansUnDialogue"_s);
+    auto & dialogue = Prete<QDialog>(u"dialogueAvecBarre"_s);
+    QVERIFY(QTest::qWaitForWindowActive(&dialogue));
+    auto & autre = *dialogue.findChild<QPlainTextEdit *>();
+    autre.setFocus();
+    QTest::keyClick(&autre, Qt::Key_Tab);
+    QVERIFY(dialogue.findChild<BarreRecherche *>()->isAncestorOf(dialogue.focusWidget()));
+    QCOMPARE(autre.toPlainText(), editeur.toPlainText());
 }
 
 void tst_PageRecherche::texteGarday()

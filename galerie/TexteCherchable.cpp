@@ -204,7 +204,7 @@ bool TexteCherchable::eventFilter(QObject * objet, QEvent * evenement)
 void TexteCherchable::showEvent(QShowEvent * evenement)
 {
     QWidget::showEvent(evenement);
-    if (monFocus && !isAncestorOf(monFocus))
+    if (monFocus)
         monFocus->setFocus();
     monFocus.clear();
 }

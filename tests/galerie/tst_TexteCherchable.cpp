@@ -271,6 +271,11 @@ void tst_TexteCherchable::dialogueFermeAvecLaPage()
 {
     monTexte->OuvreDialogue();
     auto const & dialogue = *monTexte->findChild<DialogueRechercher *>();
+    // A window that is minimized takes its dialogs with it and brings them back.
+    QSignalSpy ferme(&dialogue, &DialogueRechercher::SignalFermeture);
+    maFenetre->showMinimized();
+    maFenetre->showNormal();
+    QCOMPARE(ferme.count(), 0);
 
     monTexte->hide(); // for another page of the same window
 

@@ -42,6 +42,7 @@ private Q_SLOTS:
     void apercuTantQueRienNEstTapay();
     void demonstration();
     void demonstrationSansTexte();
+    void premierDesMotsAussiFrequents();
     void focusLaissay();
     void boutons();
     void motChoisi();
@@ -340,6 +341,16 @@ void tst_PageRecherche::demonstrationSansTexte()
     QVERIFY(Prete<BarreRecherche>().isVisible());
     QVERIFY(!PreteChamp(Prete<BarreRecherche>()).property("introuvable").toBool());
     QVERIFY(!MontreMessage());
+}
+
+void tst_PageRecherche::premierDesMotsAussiFrequents()
+{
+    maPage.reset();
+    PageRecherche::PreteMemoire().texte = u"Un loup, un chat : le loup et le chat."_s;
+    maPage = std::make_unique<PageRecherche>();
+    Montre();
+
+    QCOMPARE(PreteChamp(Prete<BarreRecherche>()).text(), u"loup"_s);
 }
 
 void tst_PageRecherche::focusLaissay()

@@ -85,10 +85,8 @@ void ChampMots::Propose(QString const & debut, int combien)
     }
     int const autres = mesMots.Compte(debut) - static_cast<int>(rangees.size());
     if (autres > 0) {
-        auto * const item = new QStandardItem(TraductionPlurielGalerie(
-            TextePlurielGalerie("… et {1} autre", "… et {1} autres"), autres));
-        maListe->MetsItemSelectionnableParDefaut(item, false);
-        rangees.append({item});
+        rangees.append({new QStandardItem(TraductionPlurielGalerie(
+            TextePlurielGalerie("… et {1} autre", "… et {1} autres"), autres))});
     }
     maListe->MetsLargeurMinimum(width());
     maListe->ActualiseListeChoix(rangees);

@@ -33,6 +33,7 @@ namespace {
 
 // Logical pixels.
 constexpr int kLargeurMots = 270;
+constexpr int kLargeurNom = 300; // of a file, at most: titles do not shrink
 constexpr QSize kTailleDialogue(560, 420);
 
 // For the first search, the word that comes back most often of those that the text begins with.
@@ -58,7 +59,9 @@ QLabel * CreeMessage()
 {
     auto * const message = new QLabel;
     message->setObjectName(u"messageErreur"_s); // the sheet's colour for errors
+    message->setTextFormat(Qt::PlainText);      // it may name a file that looks like something else
     message->setWordWrap(true);
+    message->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred); // whatever it names
     message->hide();
     return message;
 }
@@ -94,20 +97,22 @@ PageRecherche::PageRecherche(QWidget * parent)
     if (memoire.texte) {
         monTexte->MetsTexte(*memoire.texte);
         MontreNom();
-    } else if (!LisFichier(memoire.fichier) &&
-               memoire.fichier == LectureTexte::DonneFichierParDefaut()) {
+    } else if (LisFichier(memoire.fichier) == LectureTexte::kAbsent && !memoire.paquet.isEmpty()) {
         MontreMessage(*monMessage,
                       TraductionGalerie(TexteGalerie("Le texte vient du paquet {1}, qui n’est pas "
                                                      "installé. Tout autre texte peut s’ouvrir."),
-                                        {UniChaine("debian-reference-fr")}));
+                                        {UniChaine(memoire.paquet)}));
     }
 }
 
 PageRecherche::~PageRecherche()
 {
     Memoire & memoire = PreteMemoire();
-    if (memoire.texte)
-        memoire.texte = monTexte->DonneTexte();
+    QString const texte = monTexte->DonneTexte();
+    if (!memoire.texte && !texte.isEmpty())
+        memoire.fichier.clear(); // it could not be read: this was typed
+    if (memoire.texte || !texte.isEmpty())
+        memoire.texte = texte;
     if (maDemonstrationFaite)
         memoire.barreOuverte = monTexte->BarreEstOuverte();
 }
@@ -183,7 +188,7 @@ QLayout * PageRecherche::CreeBoutons()
     } const descriptions[] = {
         {monBoutonBarre, u"barre"_s, TexteGalerie("&Barre")},
         {monBoutonDialogue, u"dialogue"_s, TexteGalerie("&Dialogue")},
-        {monBoutonDansUnDialogue, u"dansUnDialogue"_s, TexteGalerie("Dans &un dialogue")},
+        {monBoutonDansUnDialogue, u"dansUnDialogue"_s, TexteGalerie("Barre dans &un dialogue")},
         {monBoutonOuvrir, u"ouvrir"_s, TexteGalerie("&Ouvrir…")},
     };
     for (auto const & description : descriptions) {
@@ -212,27 +217,33 @@ void PageRecherche::Branche()
             Qt::UniqueConnection);
     connect(maCaseRiche, &QCheckBox::toggled, this, &PageRecherche::PriseTexteRiche,
             Qt::UniqueConnection);
+    connect(monChampMots, &QLineEdit::textEdited, this, &PageRecherche::PriseMotTapay,
+            Qt::UniqueConnection);
     connect(monChampMots, &ChampMots::SignalMotChoisi, this, &PageRecherche::PriseMotChoisi,
             Qt::UniqueConnection);
 }
 
 // The text that is shown stays when the file cannot be read.
-bool PageRecherche::LisFichier(QString const & fichier)
+LectureTexte::eResultat PageRecherche::LisFichier(QString const & fichier)
 {
     LectureTexte const lecture(fichier);
     MontreMessage(*monMessage, lecture.DonneMessage());
-    if (lecture.DonneResultat() != LectureTexte::kLu)
-        return false;
-    PreteMemoire().fichier = fichier;
-    PreteMemoire().texte = lecture.DonneTexte();
-    monTexte->MetsTexte(lecture.DonneTexte());
-    MontreNom();
-    return true;
+    if (lecture.DonneResultat() == LectureTexte::kLu) {
+        PreteMemoire().fichier = fichier;
+        PreteMemoire().texte = lecture.DonneTexte();
+        monTexte->MetsTexte(lecture.DonneTexte());
+        MontreNom();
+    }
+    return lecture.DonneResultat();
 }
 
 void PageRecherche::MontreNom()
 {
-    monGroupe->setTitle(QFileInfo(PreteMemoire().fichier).fileName());
+    QString const nom = QFileInfo(PreteMemoire().fichier).fileName();
+    if (nom.isEmpty())
+        return;
+    QString const titre = fontMetrics().elidedText(nom, Qt::ElideMiddle, kLargeurNom);
+    monGroupe->setTitle(QString(titre).replace(u'&', u"&&"_s)); // no mnemonic
 }
 
 // The page shows what it is for before the user has touched anything.
@@ -245,8 +256,7 @@ void PageRecherche::Demontre()
                       TraductionGalerie(TexteGalerie("Les mots viennent du paquet {1}, qui n’est "
                                                      "pas installé."),
                                         {UniChaine("wfrench")}));
-    maLegende->setVisible(avecMots);
-    monApercu->setVisible(avecMots);
+    MontreApercu(avecMots);
     if (monChampMots->text().isEmpty() && avecMots)
         monChampMots->setText(u"ete"_s); // an accent is not needed
     monChampMots->PreparePourApercu(monChampMots->text());
@@ -257,16 +267,24 @@ void PageRecherche::Demontre()
     }
 }
 
+void PageRecherche::MontreApercu(bool visible)
+{
+    maLegende->setVisible(visible);
+    monApercu->setVisible(visible);
+}
+
 // In a dialog, where Escape closes the bar first and then the dialog.
 void PageRecherche::PriseDansUnDialogue()
 {
     auto * const dialogue = new QDialog(this);
     dialogue->setAttribute(Qt::WA_DeleteOnClose);
     dialogue->setObjectName(u"dialogueAvecBarre"_s);
-    dialogue->setWindowTitle(TraductionGalerie(TexteGalerie("Barre de recherche d’un dialogue")));
+    dialogue->setWindowTitle(
+        TraductionGalerie(TexteGalerie("Barre de recherche dans un dialogue")));
     auto * const editeur = new QPlainTextEdit(monTexte->DonneTexte());
     editeur->setAccessibleName(TraductionGalerie(TexteGalerie("Texte")));
-    auto * const barre = new BarreRecherche(dialogue, true, true, true, true);
+    editeur->setTabChangesFocus(true);
+    auto * const barre = new BarreRecherche(nullptr, true, true, true, true);
     barre->hide();
     auto * const disposition = new QVBoxLayout(dialogue);
     disposition->addWidget(editeur);
@@ -298,6 +316,13 @@ void PageRecherche::PriseFichierChoisi(QString const & fichier)
 void PageRecherche::PriseTexteRiche(bool riche)
 {
     monTexte->MetsRiche(riche);
+}
+
+// The list opens for real, over the place of its picture. With the picture of what it held last the
+// page would grow and shrink.
+void PageRecherche::PriseMotTapay()
+{
+    MontreApercu(false);
 }
 
 void PageRecherche::PriseMotChoisi(QString const & mot)

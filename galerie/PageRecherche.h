@@ -28,6 +28,7 @@ public:
     struct Memoire
     {
         QString fichier = LectureTexte::DonneFichierParDefaut();
+        QString paquet = QStringLiteral("debian-reference-fr"); ///< of the file; empty for another
         std::optional<QString> texte; ///< as it was left; none before the file is read
         bool barreOuverte = true;
         MotsFrancais mots;
@@ -47,14 +48,16 @@ private:
     QWidget * CreeTrace();
     QLayout * CreeBoutons();
     void Branche();
-    bool LisFichier(QString const & fichier);
+    LectureTexte::eResultat LisFichier(QString const & fichier);
     void MontreNom();
     void Demontre();
+    void MontreApercu(bool visible);
 
     void PriseDansUnDialogue();
     void PriseOuvrir();
     void PriseFichierChoisi(QString const & fichier);
     void PriseTexteRiche(bool riche);
+    void PriseMotTapay();
     void PriseMotChoisi(QString const & mot);
 
     TraceSignaux * maTrace = nullptr;

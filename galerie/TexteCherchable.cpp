@@ -85,6 +85,8 @@ Editeur * CreeEditeur()
     auto * const editeur = new Editeur;
     editeur->setAccessibleName(TraductionGalerie(TexteGalerie("Texte")));
     editeur->setTabChangesFocus(true);
+    // To break inside of a word takes Qt the square of its length: minutes for a file that is one.
+    editeur->setWordWrapMode(QTextOption::WordWrap);
     return editeur;
 }
 
@@ -202,7 +204,7 @@ bool TexteCherchable::eventFilter(QObject * objet, QEvent * evenement)
 void TexteCherchable::showEvent(QShowEvent * evenement)
 {
     QWidget::showEvent(evenement);
-    if (monFocus && !isAncestorOf(monFocus))
+    if (monFocus)
         monFocus->setFocus();
     monFocus.clear();
 }
@@ -211,6 +213,9 @@ void TexteCherchable::hideEvent(QHideEvent * evenement)
 {
     QWidget::hideEvent(evenement);
     monFocus.clear();
+    // What the dialog found would be out of sight.
+    if (monDialogue && !evenement->spontaneous())
+        monDialogue->CacheToi();
 }
 
 void TexteCherchable::CreeEditeurs()
@@ -225,7 +230,7 @@ void TexteCherchable::CreeEditeurs()
 
 void TexteCherchable::CreeBarre()
 {
-    maBarre = new BarreRecherche(this, true, true, true, true);
+    maBarre = new BarreRecherche(nullptr, true, true, true, true);
     maBarre->hide();
     monChampRecherche = maBarre->findChild<QLineEdit *>(u"ChampTexteRecherche"_s);
     maBarre->installEventFilter(this);

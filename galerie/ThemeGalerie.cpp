@@ -6,6 +6,7 @@
 #include "style/DStyleProxy.h"
 
 #include <QApplication>
+#include <QPainter>
 #include <QPalette>
 #include <QRegularExpression>
 #include <QStyleFactory>
@@ -15,6 +16,29 @@
 using namespace Qt::StringLiterals;
 
 namespace {
+
+// Qt makes a disabled icon of the lightness of the drawing alone: on a dark window a drawing in
+// grey, which suits both themes, would come out no dimmer than it is.
+class StyleGalerie : public DStyleProxy
+{
+public:
+    using DStyleProxy::DStyleProxy;
+
+    QPixmap generatedIconPixmap(QIcon::Mode mode, QPixmap const & image,
+                                QStyleOption const * option) const override
+    {
+        if (mode != QIcon::Disabled)
+            return DStyleProxy::generatedIconPixmap(mode, image, option);
+        constexpr double kOpacite = 0.4;
+        QPixmap pale(image.size());
+        pale.setDevicePixelRatio(image.devicePixelRatio());
+        pale.fill(Qt::transparent);
+        QPainter peintre(&pale);
+        peintre.setOpacity(kOpacite);
+        peintre.drawPixmap(0, 0, image);
+        return pale;
+    }
+};
 
 QColor Couleur(QString const & nom)
 {
@@ -166,7 +190,7 @@ bool ThemeGalerie::Applique() const
     // The style keeps the window's colour from when it was made, and its variable is gone with the
     // table that it added it to: another theme, another style.
     if (!monStyleDeBase.isEmpty())
-        QApplication::setStyle(new DStyleProxy(QStyleFactory::create(monStyleDeBase)));
+        QApplication::setStyle(new StyleGalerie(QStyleFactory::create(monStyleDeBase)));
     MetsBords(palette);
     qApp->setStyleSheet(ThemesQt::Instance()->AppliquerVariable(feuilles));
     return true;

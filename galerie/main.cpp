@@ -46,8 +46,10 @@ int Execute(ThemeGalerie & theme, LigneDeCommande const & commande)
 {
     if (commande.dossierCaptures.isEmpty())
         NommeFichiersDesReponses();
-    if (!commande.texte.isEmpty())
+    if (!commande.texte.isEmpty()) {
         PageRecherche::PreteMemoire().fichier = commande.texte;
+        PageRecherche::PreteMemoire().paquet.clear();
+    }
     FenetreGalerie fenetre(theme);
     if (commande.page >= 0)
         fenetre.MontrePage(commande.page);

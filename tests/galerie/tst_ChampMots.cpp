@@ -225,6 +225,11 @@ void tst_ChampMots::suisLaFenetre()
     QTRY_COMPARE(liste.pos(), avant + QPoint(40, 30));
     QCOMPARE(liste.pos(), maFenetre->mapToGlobal(monChamp->geometry().bottomLeft()));
     QCOMPARE(liste.width(), monChamp->width());
+
+    int const hauteur = monChamp->y();
+    maFenetre->resize(maFenetre->width(), 2 * maFenetre->height()); // spreads the fields
+    QTRY_VERIFY(monChamp->y() > hauteur);
+    QTRY_COMPARE(liste.pos(), maFenetre->mapToGlobal(monChamp->geometry().bottomLeft()));
 }
 
 void tst_ChampMots::quitteLeChamp()

@@ -33,14 +33,21 @@ private Q_SLOTS:
 
     void texteMontre();
     void fichierAbsent();
+    void paquetAbsent_data();
+    void paquetAbsent();
+    void texteTapaySansFichier();
     void ouvreUnFichier();
     void fichierRefusay();
+    void nomDuFichier();
+    void apercuTantQueRienNEstTapay();
     void demonstration();
     void demonstrationSansTexte();
+    void premierDesMotsAussiFrequents();
     void focusLaissay();
     void boutons();
     void motChoisi();
     void echapDansUnDialogue();
+    void tabulation();
     void texteGarday();
     void barreFermeeGardee();
     void saisieCherchee();
@@ -57,7 +64,9 @@ private:
     QLineEdit & PreteChamp(QWidget const & barre) const;
     QString DonneCompteur() const;
     QStringList DonneTrace() const;
+    QStringList DonneMessages() const;
     bool MontreMessage() const;
+    void Remplace(QString const & fichier, QString const & paquet);
 
     QTemporaryDir monDossier;
     std::unique_ptr<PageRecherche> maPage;
@@ -133,12 +142,30 @@ QStringList tst_PageRecherche::DonneTrace() const
     return Prete<TraceSignaux>().toPlainText().split(u'\n', Qt::SkipEmptyParts);
 }
 
+// Those that can be seen.
+QStringList tst_PageRecherche::DonneMessages() const
+{
+    QStringList messages;
+    for (auto const * const message : maPage->findChildren<QLabel *>(u"messageErreur"_s))
+        if (!message->isHidden() && !message->text().isEmpty())
+            messages.append(message->text());
+    return messages;
+}
+
 bool tst_PageRecherche::MontreMessage() const
 {
-    auto const messages = maPage->findChildren<QLabel *>(u"messageErreur"_s);
-    return std::any_of(messages.begin(), messages.end(), [](QLabel const * message) {
-        return !message->isHidden() && !message->text().isEmpty();
-    });
+    return !DonneMessages().isEmpty();
+}
+
+// The page by one without words that begins with `fichier`, which comes with `paquet`.
+void tst_PageRecherche::Remplace(QString const & fichier, QString const & paquet)
+{
+    maPage.reset();
+    PageRecherche::PreteMemoire() = {};
+    PageRecherche::PreteMemoire().fichier = fichier;
+    PageRecherche::PreteMemoire().paquet = paquet;
+    PageRecherche::PreteMemoire().mots.MetsFichier(monDossier.filePath(u"absent"_s));
+    maPage = std::make_unique<PageRecherche>();
 }
 
 void tst_PageRecherche::texteMontre()
@@ -154,11 +181,7 @@ void tst_PageRecherche::texteMontre()
 
 void tst_PageRecherche::fichierAbsent()
 {
-    maPage.reset();
-    PageRecherche::PreteMemoire() = {};
-    PageRecherche::PreteMemoire().fichier = monDossier.filePath(u"absent"_s);
-    PageRecherche::PreteMemoire().mots.MetsFichier(monDossier.filePath(u"absent"_s));
-    maPage = std::make_unique<PageRecherche>();
+    Remplace(monDossier.filePath(u"absent"_s), {});
     Montre();
 
     QVERIFY(MontreMessage());
@@ -168,6 +191,56 @@ void tst_PageRecherche::fichierAbsent()
 
     Choisis(monDossier.filePath(u"texte.txt"_s));
     QTRY_VERIFY(Prete<QPlainTextEdit>().toPlainText().startsWith(u"Un chien"));
+}
+
+void tst_PageRecherche::paquetAbsent_data()
+{
+    QTest::addColumn<QString>("fichier");
+    QTest::addColumn<QString>("paquet");
+    QTest::addColumn<QString>("nommay");
+    QTest::addColumn<QString>("tu");
+    QString const absent = monDossier.filePath(u"absent"_s);
+    QTest::newRow("the file of a package") << absent << u"paquet-du-texte"_s << u"paquet-du-texte"_s
+                                           << QDir::toNativeSeparators(absent);
+    QTest::newRow("a file that was asked for")
+        << absent << QString() << QDir::toNativeSeparators(absent) << u"paquet"_s;
+    QTest::newRow("there, but cannot be read")
+        << monDossier.path() << u"paquet-du-texte"_s << QDir::toNativeSeparators(monDossier.path())
+        << u"paquet-du-texte"_s;
+}
+
+void tst_PageRecherche::paquetAbsent()
+{
+    QFETCH(QString, fichier);
+    QFETCH(QString, paquet);
+    QFETCH(QString, nommay);
+    QFETCH(QString, tu);
+    Remplace(fichier, paquet);
+
+    QCOMPARE(DonneMessages().size(), 1);
+    QVERIFY2(DonneMessages().constFirst().contains(nommay),
+             qPrintable(DonneMessages().constFirst()));
+    QVERIFY(!DonneMessages().constFirst().contains(tu));
+
+    Montre(); // the list of words is asked for when the page is seen
+    QCOMPARE(DonneMessages().size(), 2);
+    QVERIFY(DonneMessages().constLast().contains(u"wfrench"));
+    QCOMPARE(PageRecherche::Memoire().paquet, u"debian-reference-fr"_s);
+}
+
+void tst_PageRecherche::texteTapaySansFichier()
+{
+    Remplace(monDossier.filePath(u"absent"_s), {});
+    Montre();
+    QTest::keyClicks(&Prete<QPlainTextEdit>(), u"Un loup"_s);
+
+    maPage.reset();
+    maPage = std::make_unique<PageRecherche>();
+
+    QCOMPARE(Prete<QPlainTextEdit>().toPlainText(), u"Un loup"_s);
+    QVERIFY(!MontreMessage());
+    for (auto const * const groupe : maPage->findChildren<QGroupBox *>())
+        QVERIFY(!groupe->title().isEmpty() && groupe->title() != u"absent"_s);
 }
 
 void tst_PageRecherche::ouvreUnFichier()
@@ -207,13 +280,55 @@ void tst_PageRecherche::demonstration()
 
     auto & barre = Prete<BarreRecherche>();
     QVERIFY(barre.isVisible());
-    QCOMPARE(PreteChamp(barre).text(), u"chien"_s); // the first long word
+    QCOMPARE(PreteChamp(barre).text(), u"chien"_s); // the long word that comes most often
     QCOMPARE(DonneCompteur(), u"1/3"_s);
     QCOMPARE(Prete<QPlainTextEdit>().textCursor().selectedText(), u"chien"_s);
     QVERIFY(!Prete<QPlainTextEdit>().extraSelections().isEmpty());
     QVERIFY(Prete<ApercuFenetre>().isVisible());
     QVERIFY(Prete<ApercuFenetre>().height() > 2 * maPage->fontMetrics().height()); // both words
     QVERIFY(!Prete<ChampMots>().PreteListe().isVisible());
+}
+
+// Neither a mnemonic nor a mark-up, and no wider window.
+void tst_PageRecherche::nomDuFichier()
+{
+    Montre();
+    auto const titre = [this] {
+        return static_cast<QGroupBox *>(
+                   Prete<QPlainTextEdit>().parentWidget()->parentWidget()->parentWidget())
+            ->title();
+    };
+    Choisis(Ecris(u"R&D <b>x<b>.txt"_s, u"a"_s));
+    QTRY_COMPARE(titre(), u"R&&D <b>x<b>.txt"_s);
+
+    QTRY_VERIFY(!maPage->findChild<QFileDialog *>());
+    Choisis(Ecris(QString(200, u'm'), u"a"_s));
+    QTRY_VERIFY(titre().startsWith(u"mm"));
+    QCOMPARE_LT(maPage->fontMetrics().horizontalAdvance(titre()), maPage->width() / 2);
+
+    QTRY_VERIFY(!maPage->findChild<QFileDialog *>());
+    QApplication::sendPostedEvents(nullptr, QEvent::LayoutRequest);
+    int const largeur = maPage->minimumSizeHint().width();
+    Choisis(Ecris(QString(200, u'n'), QString(QChar::Null)));
+    QTRY_VERIFY(MontreMessage());
+    QApplication::sendPostedEvents(nullptr, QEvent::LayoutRequest);
+    QCOMPARE_LE(maPage->minimumSizeHint().width(), largeur);
+
+    Remplace(monDossier.filePath(u"<b>absent</b>"_s), {});
+    for (auto const * const message : maPage->findChildren<QLabel *>(u"messageErreur"_s))
+        QCOMPARE(message->textFormat(), Qt::PlainText);
+}
+
+void tst_PageRecherche::apercuTantQueRienNEstTapay()
+{
+    Montre();
+    QTRY_VERIFY(Prete<ApercuFenetre>().isVisible());
+
+    QTest::keyClicks(&Prete<ChampMots>(), u"s"_s);
+
+    QVERIFY(!Prete<ApercuFenetre>().isVisible());
+    for (auto const * const legende : maPage->findChildren<QLabel *>())
+        QVERIFY(legende->isHidden() || legende->text() != u"Ce qui s’ouvre"_s);
 }
 
 void tst_PageRecherche::demonstrationSansTexte()
@@ -226,6 +341,16 @@ void tst_PageRecherche::demonstrationSansTexte()
     QVERIFY(Prete<BarreRecherche>().isVisible());
     QVERIFY(!PreteChamp(Prete<BarreRecherche>()).property("introuvable").toBool());
     QVERIFY(!MontreMessage());
+}
+
+void tst_PageRecherche::premierDesMotsAussiFrequents()
+{
+    maPage.reset();
+    PageRecherche::PreteMemoire().texte = u"Un loup, un chat : le loup et le chat."_s;
+    maPage = std::make_unique<PageRecherche>();
+    Montre();
+
+    QCOMPARE(PreteChamp(Prete<BarreRecherche>()).text(), u"loup"_s);
 }
 
 void tst_PageRecherche::focusLaissay()
@@ -286,6 +411,29 @@ void tst_PageRecherche::echapDansUnDialogue()
 
     QTest::keyClick(dialogue->focusWidget(), Qt::Key_Escape);
     QTRY_VERIFY(dialogue.isNull());
+}
+
+// Each in turn by the key, as they stand on the page; the editors let it through.
+void tst_PageRecherche::tabulation()
+{
+    Montre();
+    auto & editeur = Prete<QPlainTextEdit>();
+    editeur.setFocus();
+    QTest::keyClick(&editeur, Qt::Key_Tab);
+    auto const & barre = Prete<BarreRecherche>();
+    QVERIFY(barre.isAncestorOf(maPage->focusWidget()));
+    for (int i = 0; i < 20 && barre.isAncestorOf(maPage->focusWidget()); ++i)
+        QTest::keyClick(maPage->focusWidget(), Qt::Key_Tab);
+    QCOMPARE(maPage->focusWidget(), &Prete<ChampMots>());
+
+    Appuie(u"dansUnDialogue"_s);
+    auto & dialogue = Prete<QDialog>(u"dialogueAvecBarre"_s);
+    QVERIFY(QTest::qWaitForWindowActive(&dialogue));
+    auto & autre = *dialogue.findChild<QPlainTextEdit *>();
+    autre.setFocus();
+    QTest::keyClick(&autre, Qt::Key_Tab);
+    QVERIFY(dialogue.findChild<BarreRecherche *>()->isAncestorOf(dialogue.focusWidget()));
+    QCOMPARE(autre.toPlainText(), editeur.toPlainText());
 }
 
 void tst_PageRecherche::texteGarday()

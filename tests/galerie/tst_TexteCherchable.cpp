@@ -30,6 +30,7 @@ private Q_SLOTS:
 
     void texteEntier_data();
     void texteEntier();
+    void unSeulMot();
     void demontre();
     void demontreCeQuiEstSaisi();
     void demontreSansFocus();
@@ -40,6 +41,7 @@ private Q_SLOTS:
     void remplace();
     void ouvreDialogue();
     void unSeulFrontal();
+    void dialogueFermeAvecLaPage();
     void editeurRiche();
     void editeurRicheAvecDialogue();
     void focusRenduAuRetour();
@@ -124,6 +126,15 @@ void tst_TexteCherchable::texteEntier()
     monTexte->MetsTexte(u"Autre\u00A0!\n\nfin"_s);
 
     QCOMPARE(monTexte->DonneTexte(), u"Autre\u00A0!\n\nfin"_s);
+}
+
+// A word longer than the window stays on one line.
+void tst_TexteCherchable::unSeulMot()
+{
+    monTexte->MetsTexte(QString(2000, u'm'));
+
+    QCOMPARE(monEditeur->document()->firstBlock().layout()->lineCount(), 1);
+    QCOMPARE(PreteEditeurRiche()->wordWrapMode(), QTextOption::WordWrap);
 }
 
 void tst_TexteCherchable::demontre()
@@ -254,6 +265,21 @@ void tst_TexteCherchable::unSeulFrontal()
     monTexte->OuvreBarre();
     QVERIFY(maBarre->isVisible());
     QVERIFY(monTexte->findChild<DialogueRechercher *>()->isHidden());
+}
+
+void tst_TexteCherchable::dialogueFermeAvecLaPage()
+{
+    monTexte->OuvreDialogue();
+    auto const & dialogue = *monTexte->findChild<DialogueRechercher *>();
+    // A window that is minimized takes its dialogs with it and brings them back.
+    QSignalSpy ferme(&dialogue, &DialogueRechercher::SignalFermeture);
+    maFenetre->showMinimized();
+    maFenetre->showNormal();
+    QCOMPARE(ferme.count(), 0);
+
+    monTexte->hide(); // for another page of the same window
+
+    QVERIFY(dialogue.isHidden());
 }
 
 void tst_TexteCherchable::editeurRiche()

@@ -26,6 +26,8 @@ private Q_SLOTS:
     void variableManquante();
     void bordsSombres_data();
     void bordsSombres();
+    void iconesInactives_data();
+    void iconesInactives();
 
 private:
     ThemeGalerie monTheme;
@@ -164,6 +166,45 @@ void tst_ThemeGalerie::bordsSombres()
         contraste = std::max(contraste,
                              std::abs(image.pixelColor(x, boite.center().y()).lightness() - fond));
     QVERIFY2(contraste >= 40, qPrintable(QString::number(contraste)));
+}
+
+void tst_ThemeGalerie::iconesInactives_data()
+{
+    QTest::addColumn<QString>("icone");
+    QTest::addColumn<bool>("sombre");
+    for (char const * const nom :
+         {"Options_Recherche", "recherchePrecedente", "rechercheSuivante", "rechercheX"})
+        for (bool const sombre : {false, true})
+            QTest::addRow("%s, %s", nom, sombre ? "dark" : "light")
+                << u":/Images/%1.svg"_s.arg(QLatin1StringView(nom)) << sombre;
+}
+
+// Seen on the window, dimmer than when it is enabled, but there.
+void tst_ThemeGalerie::iconesInactives()
+{
+    QFETCH(QString, icone);
+    QFETCH(bool, sombre);
+    ThemeGalerie theme(u"Fusion"_s);
+    theme.Reinitialise();
+    if (sombre)
+        theme.Assombris();
+    QVERIFY(theme.Applique());
+    auto const contraste = [&icone](QIcon::Mode mode) {
+        QColor const fond = QApplication::palette().color(QPalette::Window);
+        QImage image(QSize(16, 16), QImage::Format_RGB32);
+        image.fill(fond);
+        QPainter peintre(&image);
+        QIcon(icone).paint(&peintre, image.rect(), Qt::AlignCenter, mode);
+        int maximum = 0;
+        for (int y = 0; y < image.height(); ++y)
+            for (int x = 0; x < image.width(); ++x)
+                maximum = std::max(maximum, std::abs(qGray(image.pixel(x, y)) - qGray(fond.rgb())));
+        return maximum;
+    };
+
+    QCOMPARE_GT(contraste(QIcon::Normal), 60); // of 255
+    QCOMPARE_LT(contraste(QIcon::Disabled), contraste(QIcon::Normal) / 2);
+    QCOMPARE_GT(contraste(QIcon::Disabled), 10);
 }
 
 QTEST_MAIN(tst_ThemeGalerie)

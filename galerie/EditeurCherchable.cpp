@@ -15,6 +15,12 @@ public:
     explicit EditeurCherchableT(Editeur & editeur)
         : monObjet(&editeur)
     {
+        connect(&editeur, &Editeur::textChanged, this, &EditeurCherchable::SignalTexteChangay,
+                Qt::UniqueConnection);
+        connect(&editeur, &Editeur::cursorPositionChanged, this,
+                &EditeurCherchable::SignalCurseurBougeay, Qt::UniqueConnection);
+        connect(&editeur, &Editeur::selectionChanged, this,
+                &EditeurCherchable::SignalCurseurBougeay, Qt::UniqueConnection);
     }
 
     QAbstractScrollArea * PreteWidget() const override { return PreteEditeur(); }
@@ -72,4 +78,18 @@ std::unique_ptr<EditeurCherchable> EditeurCherchable::Fais(QTextEdit & editeur)
 std::unique_ptr<EditeurCherchable> EditeurCherchable::Fais(QPlainTextEdit & editeur)
 {
     return std::make_unique<EditeurCherchableT<QPlainTextEdit>>(editeur);
+}
+
+OccurrencesTexte::Plage EditeurCherchable::DonneSelection() const
+{
+    QTextCursor const curseur = DonneCurseur();
+    return {curseur.selectionStart(), curseur.selectionEnd()};
+}
+
+void EditeurCherchable::Selectionne(OccurrencesTexte::Plage const & plage)
+{
+    QTextCursor curseur(PreteDocument());
+    curseur.setPosition(plage.debut);
+    curseur.setPosition(plage.fin, QTextCursor::KeepAnchor);
+    MetsCurseur(curseur);
 }

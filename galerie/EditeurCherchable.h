@@ -3,6 +3,7 @@
 
 #include "OccurrencesTexte.h"
 
+#include <QObject>
 #include <QTextEdit>
 
 #include <memory>
@@ -17,12 +18,12 @@ class QTextDocument;
 ///
 /// The editor may die first: then `PreteWidget` and `PreteDocument` are null, and nothing else may
 /// be called.
-class EditeurCherchable
+class EditeurCherchable : public QObject
 {
+    Q_OBJECT
+
 public:
     using Selections = QList<QTextEdit::ExtraSelection>;
-
-    virtual ~EditeurCherchable() = default;
 
     static std::unique_ptr<EditeurCherchable> Fais(QTextEdit & editeur);
     static std::unique_ptr<EditeurCherchable> Fais(QPlainTextEdit & editeur);
@@ -39,4 +40,14 @@ public:
     /// What the user may do with the text; it is read-only without `Qt::TextEditable`.
     virtual Qt::TextInteractionFlags DonneInteraction() const = 0;
     virtual void MetsInteraction(Qt::TextInteractionFlags interaction) = 0;
+
+    /// Empty at the caret when nothing is selected.
+    OccurrencesTexte::Plage DonneSelection() const;
+    /// With the caret behind it.
+    void Selectionne(OccurrencesTexte::Plage const & plage);
+
+Q_SIGNALS:
+    void SignalTexteChangay();
+    /// The caret or the selection has, perhaps with the text.
+    void SignalCurseurBougeay();
 };

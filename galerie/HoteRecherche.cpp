@@ -1,50 +1,18 @@
 // galerie/HoteRecherche.cpp
 #include "HoteRecherche.h"
 
-#include "EchapBarreRecherche.h"
+#include "TouchesBarreRecherche.h"
 
 #include "search/BarreRecherche.h"
 
 #include <QAbstractScrollArea>
 #include <QEvent>
-#include <QPlainTextEdit>
 #include <QScopedValueRollback>
 #include <QShortcut>
 
 #include <utility>
 
 namespace {
-
-constexpr short kOptionsDuTexte =
-    CstRecherche::kMotEntier | CstRecherche::kCommencePar | CstRecherche::kRespecterCasse;
-constexpr int kRevisionPerimay = -1;
-
-QRegularExpression FaisExpression(QString const & chaine, short options)
-{
-    QRegularExpression expression;
-    if ((options & CstRecherche::kMotEntier) != 0) // it begins with the text, too
-        expression = WidgetRechercheAbstrait::DonneExpRegMotEntier(chaine);
-    else if ((options & CstRecherche::kCommencePar) != 0)
-        expression = WidgetRechercheAbstrait::DonneExpRegCommencePar(chaine);
-    else
-        expression = WidgetRechercheAbstrait::DonneExpRegContient(chaine);
-    // Letters with accents belong to words.
-    QRegularExpression::PatternOptions motif = QRegularExpression::UseUnicodePropertiesOption;
-    if ((options & CstRecherche::kRespecterCasse) == 0)
-        motif |= QRegularExpression::CaseInsensitiveOption;
-    expression.setPatternOptions(motif);
-    return expression;
-}
-
-template <typename Editeur, typename Prise>
-void BrancheEditeur(Editeur & editeur, HoteRecherche & hote, QTimer & minuterie, Prise bougeay)
-{
-    QObject::connect(&editeur, &Editeur::textChanged, &minuterie, qOverload<>(&QTimer::start),
-                     Qt::UniqueConnection);
-    QObject::connect(&editeur, &Editeur::cursorPositionChanged, &hote, bougeay,
-                     Qt::UniqueConnection);
-    QObject::connect(&editeur, &Editeur::selectionChanged, &hote, bougeay, Qt::UniqueConnection);
-}
 
 // A key that works in `zone` and the widgets in it as long as the host lives.
 QShortcut * CreeRaccourci(QKeySequence::StandardKey touche, QWidget & zone, QObject const & hote)
@@ -58,20 +26,6 @@ QShortcut * CreeRaccourci(QKeySequence::StandardKey touche, QWidget & zone, QObj
 
 } // namespace
 
-HoteRecherche::HoteRecherche(QTextEdit & editeur, WidgetRechercheAbstrait & frontal,
-                             QObject * parent)
-    : HoteRecherche(EditeurCherchable::Fais(editeur), frontal, parent)
-{
-    BrancheEditeur(editeur, *this, maMinuterie, &HoteRecherche::PriseCurseurBougeay);
-}
-
-HoteRecherche::HoteRecherche(QPlainTextEdit & editeur, WidgetRechercheAbstrait & frontal,
-                             QObject * parent)
-    : HoteRecherche(EditeurCherchable::Fais(editeur), frontal, parent)
-{
-    BrancheEditeur(editeur, *this, maMinuterie, &HoteRecherche::PriseCurseurBougeay);
-}
-
 HoteRecherche::HoteRecherche(std::unique_ptr<EditeurCherchable> editeur,
                              WidgetRechercheAbstrait & frontal, QObject * parent)
     : QObject(parent)
@@ -83,13 +37,17 @@ HoteRecherche::HoteRecherche(std::unique_ptr<EditeurCherchable> editeur,
     maMinuterie.setInterval(0); // as soon as the event loop turns
     connect(&maMinuterie, &QTimer::timeout, this, &HoteRecherche::PriseRenouveler,
             Qt::UniqueConnection);
+    connect(monEditeur.get(), &EditeurCherchable::SignalTexteChangay, &maMinuterie,
+            qOverload<>(&QTimer::start), Qt::UniqueConnection);
+    connect(monEditeur.get(), &EditeurCherchable::SignalCurseurBougeay, this,
+            &HoteRecherche::PriseCurseurBougeay, Qt::UniqueConnection);
     connect(monEditeur->PreteWidget(), &QObject::destroyed, this,
             &HoteRecherche::PriseEditeurDetruit, Qt::UniqueConnection);
-    connect(monWidget, &QObject::destroyed, this, &HoteRecherche::PriseFrontalDetruit,
+    connect(monWidget, &QObject::destroyed, &monSurlignage, &SurlignageOccurrences::Retire,
             Qt::UniqueConnection);
     monWidget->installEventFilter(this);
     if (auto * const barre = qobject_cast<BarreRecherche *>(monWidget)) {
-        new EchapBarreRecherche(*barre, this);
+        new TouchesBarreRecherche(*barre, this);
         connect(barre, &BarreRecherche::SignalFermeture, this, &HoteRecherche::PriseBarreFerme,
                 Qt::UniqueConnection);
     }
@@ -119,17 +77,9 @@ void HoteRecherche::BrancheTouches(QWidget & zone)
             &HoteRecherche::PrisePrecedent, Qt::UniqueConnection);
 }
 
-void HoteRecherche::MetsDureesRemplacement(int dureeTranche, int delaiFenetre)
-{
-    maDureeTranche = dureeTranche;
-    monDelaiFenetre = delaiFenetre;
-}
-
 void HoteRecherche::CallbackNettoyerRecherche()
 {
-    maChaine.clear();
-    mesOccurrences = {};
-    maRevision = kRevisionPerimay;
+    maRecherche.Oublie();
     monCurseurABougeay = true;
     monSurlignage.Retire();
 }
@@ -138,8 +88,8 @@ void HoteRecherche::CallbackChercher()
 {
     if (!EstPret())
         return;
-    OccurrencesTexte::Plage depuis = DonneSelection();
-    bool const occurrenceSelectionnay = mesOccurrences.DonneNumero(depuis) > 0;
+    OccurrencesTexte::Plage depuis = monEditeur->DonneSelection();
+    bool const occurrenceSelectionnay = maRecherche.PreteOccurrences().DonneNumero(depuis) > 0;
     bool const autreMode = LisDemande();
     if (EstEnTrainDeRemplacer())
         return; // its end searches
@@ -149,11 +99,11 @@ void HoteRecherche::CallbackChercher()
     // A command backward keeps the options of the last gesture where the host gives the text.
     bool const tapay = frontal.DonneSensRecherche() == CstRecherche::kVersLeBas &&
                        (frontal.DonneOptions() & CstRecherche::kTexteEdite) != 0;
-    if (nouvelle || monCurseurABougeay)
+    if (monCurseurABougeay || monDepart.document() != monEditeur->PreteDocument())
         MetsDepart(depuis.debut);
     if (autreMode)
         depuis.fin = depuis.debut; // which may well find the current match again
-    if (nouvelle || tapay || maChaine.isEmpty())
+    if (nouvelle || tapay || maRecherche.EstVide())
         ChercheAuFil(occurrenceSelectionnay);
     else
         VaPlusLoin(depuis, true);
@@ -165,22 +115,18 @@ void HoteRecherche::CallbackRemplacer()
         return;
     LisDemande();
     Cherche();
-    OccurrencesTexte::Plage plage = DonneSelection();
-    bool const remplace = mesOccurrences.DonneNumero(plage) > 0;
+    OccurrencesTexte::Plage plage = monEditeur->DonneSelection();
+    bool const remplace = maRecherche.PreteOccurrences().DonneNumero(plage) > 0;
     if (remplace) {
         QPointer<HoteRecherche> const moi(this);
-        jeBougeLeCurseur = true;
         QTextCursor curseur(monEditeur->PreteDocument());
         plage.fin +=
             RemplacementTout::Remplace(curseur, plage, PreteFrontal()->DonneChaineRemplacement());
-        if (moi == nullptr)
+        if (moi == nullptr || !EstPret())
             return; // somebody has answered the change with that
-        jeBougeLeCurseur = false;
-        if (!EstPret())
-            return;
         Cherche();
     }
-    if (!maChaine.isEmpty())
+    if (!maRecherche.EstVide())
         VaPlusLoin(plage, !remplace);
 }
 
@@ -190,13 +136,14 @@ void HoteRecherche::CallbackRemplacerTout()
         return;
     LisDemande();
     Cherche();
-    if (mesOccurrences.DonneNombre() == 0) {
-        Termine(!maChaine.isEmpty());
+    if (maRecherche.PreteOccurrences().DonneNombre() == 0) {
+        Termine(!maRecherche.EstVide());
         return;
     }
     monSurlignage.Retire();
-    QPointer<RemplacementTout> const remplacement = new RemplacementTout(
-        *monEditeur, mesOccurrences, PreteFrontal()->DonneChaineRemplacement(), this);
+    QPointer<RemplacementTout> const remplacement =
+        new RemplacementTout(*monEditeur, maRecherche.PreteOccurrences(),
+                             PreteFrontal()->DonneChaineRemplacement(), this);
     monRemplacement = remplacement;
     monRemplacement->MetsDureeTranche(maDureeTranche);
     monRemplacement->MetsDelaiFenetre(monDelaiFenetre);
@@ -239,22 +186,12 @@ void HoteRecherche::PriseOuvrir()
 
 void HoteRecherche::PriseSuivant()
 {
-    if (!EstPret())
-        return;
-    if (PreteFrontal()->DonneChaineRecherche().isEmpty())
-        PriseOuvrir();
-    else
-        PreteFrontal()->ChercherSuivant();
+    Continue(&WidgetRechercheAbstrait::ChercherSuivant);
 }
 
 void HoteRecherche::PrisePrecedent()
 {
-    if (!EstPret())
-        return;
-    if (PreteFrontal()->DonneChaineRecherche().isEmpty())
-        PriseOuvrir();
-    else
-        PreteFrontal()->ChercherPrecedent();
+    Continue(&WidgetRechercheAbstrait::ChercherPrecedent);
 }
 
 void HoteRecherche::PriseCurseurBougeay()
@@ -285,14 +222,8 @@ void HoteRecherche::PriseBarreFerme()
         editeur->setFocus();
 }
 
-void HoteRecherche::PriseFrontalDetruit()
-{
-    monSurlignage.Retire();
-}
-
 void HoteRecherche::PriseEditeurDetruit()
 {
-    mesOccurrences = {};
     if (WidgetRechercheAbstrait * const frontal = PreteFrontal())
         frontal->ActualiseOccurrences(0, 0);
 }
@@ -331,18 +262,6 @@ bool HoteRecherche::PeutRemplacer() const
            monEditeur->DonneInteraction().testFlag(Qt::TextEditable);
 }
 
-OccurrencesTexte::Plage HoteRecherche::DonneSelection() const
-{
-    QTextCursor const curseur = monEditeur->DonneCurseur();
-    return {curseur.selectionStart(), curseur.selectionEnd()};
-}
-
-int HoteRecherche::DonneDepart() const
-{
-    bool const connu = monDepart.document() == monEditeur->PreteDocument();
-    return connu ? monDepart.position() : DonneSelection().debut;
-}
-
 void HoteRecherche::MetsDepart(int position)
 {
     monDepart = QTextCursor(monEditeur->PreteDocument()); // which moves it with its text
@@ -354,40 +273,28 @@ void HoteRecherche::MetsDepart(int position)
 bool HoteRecherche::LisDemande()
 {
     WidgetRechercheAbstrait const & frontal = *PreteFrontal();
-    QString const chaine = OccurrencesTexte::SansInsecables(frontal.DonneChaineRecherche());
-    auto const options = static_cast<short>(frontal.DonneOptions() & kOptionsDuTexte);
-    bool const memeChaine = chaine == maChaine;
-    bool const memesOptions = options == mesOptions;
-    if (!memeChaine || !memesOptions)
-        maRevision = kRevisionPerimay;
-    maChaine = chaine;
-    mesOptions = options;
-    return memeChaine && !memesOptions;
+    return maRecherche.Demande(frontal.DonneChaineRecherche(), frontal.DonneOptions());
 }
 
-// Finds all matches, unless neither the document nor the request has changed: then false.
-bool HoteRecherche::Cherche()
+void HoteRecherche::Continue(void (WidgetRechercheAbstrait::*versOu)())
 {
-    QTextDocument * const document = monEditeur->PreteDocument();
-    if (document == monDocument && document->revision() == maRevision)
-        return false;
-    monDocument = document;
-    maRevision = document->revision();
-    mesOccurrences = {};
-    if (!maChaine.isEmpty())
-        mesOccurrences = OccurrencesTexte(OccurrencesTexte::SansInsecables(document->toRawText()),
-                                          FaisExpression(maChaine, mesOptions));
-    return true;
+    WidgetRechercheAbstrait * const frontal = PreteFrontal();
+    if (!EstPret())
+        return;
+    if (frontal->DonneChaineRecherche().isEmpty())
+        PriseOuvrir();
+    else
+        (frontal->*versOu)();
 }
 
 // The first match behind the start, while a text is being typed.
 void HoteRecherche::ChercheAuFil(bool occurrenceSelectionnay)
 {
     bool const boucler = (PreteFrontal()->DonneOptions() & CstRecherche::kBoucler) != 0;
-    int const depart = DonneDepart();
-    int const numero = mesOccurrences.DonneSuivante(depart, boucler);
+    int const depart = monDepart.position();
+    int const numero = maRecherche.PreteOccurrences().DonneSuivante(depart, boucler);
     if (numero > 0)
-        Selectionne(mesOccurrences.DonnePlage(numero));
+        Selectionne(maRecherche.PreteOccurrences().DonnePlage(numero));
     else if (occurrenceSelectionnay) // but never what the user has selected
         Selectionne({depart, depart});
     Termine(false);
@@ -399,29 +306,27 @@ void HoteRecherche::VaPlusLoin(OccurrencesTexte::Plage const & depuis, bool avec
     WidgetRechercheAbstrait const & frontal = *PreteFrontal();
     bool const boucler = (frontal.DonneOptions() & CstRecherche::kBoucler) != 0;
     int const numero = frontal.DonneSensRecherche() == CstRecherche::kVersLeHaut
-                           ? mesOccurrences.DonnePrecedente(depuis.debut, boucler)
-                           : mesOccurrences.DonneSuivante(depuis.fin, boucler);
+                           ? maRecherche.PreteOccurrences().DonnePrecedente(depuis.debut, boucler)
+                           : maRecherche.PreteOccurrences().DonneSuivante(depuis.fin, boucler);
     if (numero > 0)
-        Selectionne(mesOccurrences.DonnePlage(numero));
-    MetsDepart(DonneSelection().debut);
+        Selectionne(maRecherche.PreteOccurrences().DonnePlage(numero));
+    MetsDepart(monEditeur->DonneSelection().debut);
     Termine(avecMessage && numero == 0);
 }
 
 void HoteRecherche::Selectionne(OccurrencesTexte::Plage const & plage)
 {
     QScopedValueRollback const garde(jeBougeLeCurseur, true);
-    QTextCursor curseur(monEditeur->PreteDocument());
-    curseur.setPosition(plage.debut);
-    curseur.setPosition(plage.fin, QTextCursor::KeepAnchor);
-    monEditeur->MetsCurseur(curseur);
+    monEditeur->Selectionne(plage);
 }
 
 void HoteRecherche::Rapporte()
 {
-    PreteFrontal()->ActualiseOccurrences(mesOccurrences.DonneNumero(DonneSelection()),
-                                         mesOccurrences.DonneNombre());
+    PreteFrontal()->ActualiseOccurrences(
+        maRecherche.PreteOccurrences().DonneNumero(monEditeur->DonneSelection()),
+        maRecherche.PreteOccurrences().DonneNombre());
     if (monWidget->isVisible())
-        monSurlignage.Montre(mesOccurrences);
+        monSurlignage.Montre(maRecherche.PreteOccurrences());
 }
 
 // Tells what a search has found. Last: those who hear of it may delete whom they want.
@@ -429,7 +334,7 @@ void HoteRecherche::Termine(bool avecMessage)
 {
     Rapporte();
     QPointer<HoteRecherche> const moi(this);
-    Q_EMIT SignalTrouvay(maChaine.isEmpty() || mesOccurrences.DonneNombre() > 0);
+    Q_EMIT SignalTrouvay(maRecherche.EstVide() || maRecherche.PreteOccurrences().DonneNombre() > 0);
     if (avecMessage && moi != nullptr && EstPret())
         PreteFrontal()->AfficheMessageTexteIntrouvable(false);
 }

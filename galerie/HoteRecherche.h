@@ -3,6 +3,7 @@
 
 #include "EditeurCherchable.h"
 #include "OccurrencesTexte.h"
+#include "RechercheTexte.h"
 #include "RemplacementTout.h"
 #include "SurlignageOccurrences.h"
 
@@ -38,19 +39,27 @@ class WidgetRechercheAbstrait;
 /// find, so that a longer text extends a match and a shorter one goes back.
 ///
 /// In a `BarreRecherche` Escape closes the bar from each of its controls, and never the dialog that
-/// the bar is in. When the bar closes, the focus goes from it to the editor.
+/// the bar is in; nor does Return press a button of that dialog. When the bar closes, the focus
+/// goes from it to the editor.
 ///
 /// Editor, front end and host may die in any order. The front end must be a widget itself, as those
-/// of the library are, and has no other host. GUI thread only.
+/// of the library are, and has no other host. An editor may have several, each with a front end of
+/// its own: the one that has searched last highlights. GUI thread only.
 class HoteRecherche : public QObject, public UtilisateurWidgetRecherche
 {
     Q_OBJECT
 
 public:
     HoteRecherche(QTextEdit & editeur, WidgetRechercheAbstrait & frontal,
-                  QObject * parent = nullptr);
+                  QObject * parent = nullptr)
+        : HoteRecherche(EditeurCherchable::Fais(editeur), frontal, parent)
+    {
+    }
     HoteRecherche(QPlainTextEdit & editeur, WidgetRechercheAbstrait & frontal,
-                  QObject * parent = nullptr);
+                  QObject * parent = nullptr)
+        : HoteRecherche(EditeurCherchable::Fais(editeur), frontal, parent)
+    {
+    }
     ~HoteRecherche() override;
 
     /// Binds the usual keys in `zone` and the widgets in it: find, find next, find previous.
@@ -58,7 +67,11 @@ public:
 
     bool EstEnTrainDeRemplacer() const { return monRemplacement != nullptr; }
     /// Milliseconds, as in `RemplacementTout`, for the next replace-all.
-    void MetsDureesRemplacement(int dureeTranche, int delaiFenetre);
+    void MetsDureesRemplacement(int dureeTranche, int delaiFenetre)
+    {
+        maDureeTranche = dureeTranche;
+        monDelaiFenetre = delaiFenetre;
+    }
 
     void CallbackNettoyerRecherche() override;
     void CallbackChercher() override;
@@ -88,7 +101,6 @@ private Q_SLOTS:
     void PriseCurseurBougeay();
     void PriseRenouveler();
     void PriseBarreFerme();
-    void PriseFrontalDetruit();
     void PriseEditeurDetruit();
     void PriseRemplacementFini(int remplacees);
 
@@ -99,12 +111,11 @@ private:
     WidgetRechercheAbstrait * PreteFrontal() const;
     bool EstPret() const;
     bool PeutRemplacer() const;
-    OccurrencesTexte::Plage DonneSelection() const;
-    int DonneDepart() const;
     void MetsDepart(int position);
 
     bool LisDemande();
-    bool Cherche();
+    bool Cherche() { return maRecherche.Cherche(*monEditeur->PreteDocument()); }
+    void Continue(void (WidgetRechercheAbstrait::*versOu)());
     void ChercheAuFil(bool occurrenceSelectionnay);
     void VaPlusLoin(OccurrencesTexte::Plage const & depuis, bool avecMessage);
     void Selectionne(OccurrencesTexte::Plage const & plage);
@@ -116,13 +127,9 @@ private:
     QPointer<QWidget> const monWidget; // the front end
     QTimer maMinuterie;                // several changes at once are followed once
 
-    QString maChaine; // empty when nothing is searched for
-    short mesOptions = 0;
-    OccurrencesTexte mesOccurrences;
-    QPointer<QTextDocument> monDocument; // what they were found in
-    int maRevision = 0;                  // of that document; negative when they are out of date
-    QTextCursor monDepart;               // where what is typed is searched for from
-    bool monCurseurABougeay = true;      // by others: what is typed starts there
+    RechercheTexte maRecherche;
+    QTextCursor monDepart;          // where what is typed is searched for from
+    bool monCurseurABougeay = true; // by others: what is typed starts there
     bool jeBougeLeCurseur = false;
 
     RemplacementTout * monRemplacement = nullptr; // null when none is under way

@@ -22,6 +22,19 @@ OccurrencesTexte::OccurrencesTexte(QString const & texte, QRegularExpression con
     }
 }
 
+OccurrencesTexte::OccurrencesTexte(QString const & texte, QString const & chaine,
+                                   Qt::CaseSensitivity casse)
+{
+    if (chaine.isEmpty())
+        return;
+    qsizetype debut = texte.indexOf(chaine, 0, casse);
+    while (debut >= 0) {
+        qsizetype const fin = debut + chaine.size();
+        mesPlages.append({static_cast<int>(debut), static_cast<int>(fin)});
+        debut = texte.indexOf(chaine, fin, casse);
+    }
+}
+
 QString OccurrencesTexte::SansInsecables(QString texte)
 {
     // `QString::replace` would allocate what it finds: a text of a megabyte comes here per search.

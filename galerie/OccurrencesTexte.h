@@ -7,7 +7,8 @@
 
 #include <span>
 
-/// The matches of an expression in a text, in their order. Numbers begin with 1; 0 stands for none.
+/// The matches of an expression or of another text in a text, in their order. Numbers begin with 1;
+/// 0 stands for none.
 ///
 /// They are places, not cursors: every edit of a document moves each of its cursors.
 class OccurrencesTexte
@@ -25,6 +26,8 @@ public:
     OccurrencesTexte() = default;
     /// An invalid expression matches nothing, and so does a match of no length.
     OccurrencesTexte(QString const & texte, QRegularExpression const & expression);
+    /// Of a text instead of an expression; an empty one matches nothing.
+    OccurrencesTexte(QString const & texte, QString const & chaine, Qt::CaseSensitivity casse);
 
     /// The text with plain blanks for the no-break ones, each at its old position: pass the text
     /// and what is searched for through it, and the two match whatever was typed.

@@ -12,6 +12,9 @@ namespace {
 // Tells our extra selections from those of the application.
 constexpr int kMarque = QTextFormat::UserProperty + 0x5243;
 
+// The property of an editor that holds whoever highlights in it.
+constexpr char kSurligneur[] = "surligneurOccurrences";
+
 // Translucent, so that the text stays readable in a light and in a dark theme.
 constexpr QRgb kFond = 0x60FFC400;
 // The current match, in both.
@@ -46,8 +49,10 @@ void SurlignageOccurrences::Montre(OccurrencesTexte const & occurrences)
     mesOccurrences = occurrences;
     monDocument = monEditeur.PreteDocument();
     maRevision = monDocument->revision();
-    if (!std::exchange(jeMontre, true))
+    if (!std::exchange(jeMontre, true)) {
+        PrendsLaPlace();
         ColoreSelection();
+    }
     Renouvelle();
 }
 
@@ -58,6 +63,7 @@ void SurlignageOccurrences::Retire()
         return;
     monEditeur.MetsSelections(DonneSelectionsDesAutres());
     monEditeur.PreteWidget()->setPalette(maPalette);
+    monEditeur.PreteWidget()->setProperty(kSurligneur, {});
 }
 
 bool SurlignageOccurrences::eventFilter(QObject *, QEvent * evenement)
@@ -104,6 +110,15 @@ void SurlignageOccurrences::Renouvelle()
     }
     mesSurlignees = static_cast<qsizetype>(visibles.size());
     monEditeur.MetsSelections(selections);
+}
+
+// Two would each take the highlights and the palette of the other for those of the application.
+void SurlignageOccurrences::PrendsLaPlace()
+{
+    QWidget & editeur = *monEditeur.PreteWidget();
+    if (auto * const autre = editeur.property(kSurligneur).value<SurlignageOccurrences *>())
+        autre->Retire();
+    editeur.setProperty(kSurligneur, QVariant::fromValue(this));
 }
 
 void SurlignageOccurrences::ColoreSelection()

@@ -12,6 +12,8 @@
 /// Highlights matches in an editor, by extra selections beside those of the application: only in
 /// the lines that the viewport shows, for an editor gets slow with ten thousand of them.
 ///
+/// Of several in one editor, the last one to begin highlights, and the others cease to.
+///
 /// While it does, the editor's selection wears the colour of the current match whenever the focus
 /// is elsewhere.
 class SurlignageOccurrences : public QObject
@@ -34,6 +36,7 @@ private:
     EditeurCherchable::Selections DonneSelectionsDesAutres() const;
     bool EstPerimay() const;
     void Renouvelle();
+    void PrendsLaPlace();
     void ColoreSelection();
 
     EditeurCherchable & monEditeur;

@@ -31,6 +31,7 @@ private Q_SLOTS:
     void echapContinue();
     void frappePendant();
     void gestesPendant();
+    void autreDocumentPendant();
     void lectureSeule_data() { AjouteEditeurs(); }
     void lectureSeule();
 
@@ -289,6 +290,28 @@ void tst_HoteRechercheRemplacement::gestesPendant()
     QCOMPARE(fenetre.DonneCompteur(), u"0/127"_s);
     fenetre.hote->CallbackAnnulerRemplacerTout();
     QCOMPARE(fini.size(), 1);
+}
+
+// It ends there, and what is typed is searched for from the beginning of the other one.
+void tst_HoteRechercheRemplacement::autreDocumentPendant()
+{
+    FenetreRecherche & fenetre = OuvreLong(true);
+    auto & editeur = dynamic_cast<QTextEdit &>(*fenetre.editeur->PreteWidget());
+    auto * const ancien = new QTextDocument(Long(0), &fenetre);
+    editeur.setDocument(ancien);
+    fenetre.MetsCurseur(4, 4);
+    fenetre.Tape(u"mot"_s);
+    QSignalSpy fini(fenetre.hote, &HoteRecherche::SignalRemplacementFini);
+    ToutRemplacer();
+    QVERIFY(fenetre.hote->EstEnTrainDeRemplacer());
+    QString const autre = u"mot "_s.repeated(99);
+    editeur.setDocument(new QTextDocument(autre, &fenetre));
+    QTRY_COMPARE(fini.size(), 1);
+    QCOMPARE(ancien->toPlainText(), Long(RemplacementTout::kRemplacementsParMesure));
+    QCOMPARE(fenetre.DonneTexte(), autre);
+    QCOMPARE(fenetre.DonneCompteur(), u"0/99"_s);
+    fenetre.Tape(u"m"_s);
+    QCOMPARE(fenetre.DonneSelection(), u"0-1"_s);
 }
 
 void tst_HoteRechercheRemplacement::lectureSeule()

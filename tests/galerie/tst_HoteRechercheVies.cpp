@@ -25,6 +25,8 @@ private Q_SLOTS:
     void hoteEnfant();
     void detruitParCeluiQuiEcoute_data();
     void detruitParCeluiQuiEcoute();
+    void detruitParCeQuEstTrouvay_data();
+    void detruitParCeQuEstTrouvay();
 
 private:
     static void AjouteMoments();
@@ -173,6 +175,29 @@ void tst_HoteRechercheVies::detruitParCeluiQuiEcoute()
     QVERIFY(fenetre.DonneTexte().startsWith(u"x\n"_s));
     QVERIFY(fenetre.editeur->DonneInteraction().testFlag(Qt::TextEditable));
     QCoreApplication::processEvents();
+}
+
+void tst_HoteRechercheVies::detruitParCeQuEstTrouvay_data()
+{
+    QTest::addColumn<bool>("hote");
+    QTest::newRow("host") << true;
+    QTest::newRow("editor") << false;
+}
+
+// A command that finds nothing would give a message next.
+void tst_HoteRechercheVies::detruitParCeQuEstTrouvay()
+{
+    QFETCH(bool, hote);
+    FenetreRecherche & fenetre = Prepare(true, false);
+    fenetre.Tape(u"x"_s);
+    QPointer<QObject> const victime =
+        hote ? static_cast<QObject *>(fenetre.hote) : fenetre.editeur->PreteWidget();
+    connect(fenetre.hote, &HoteRecherche::SignalTrouvay, this,
+            [victime] { delete victime.data(); });
+    fenetre.barre->ChercherSuivant();
+    QVERIFY(victime == nullptr);
+    QCOMPARE(fenetre.barre->messages, 0);
+    QCOMPARE(fenetre.DonneCompteur(), QString());
 }
 
 QTEST_MAIN(tst_HoteRechercheVies)

@@ -12,6 +12,8 @@ class tst_OccurrencesTexte : public QObject
 private Q_SLOTS:
     void plages_data();
     void plages();
+    void chaine_data();
+    void chaine();
     void insecables();
     void suivante_data();
     void suivante();
@@ -40,6 +42,14 @@ QString Montre(Plage const & plage)
     return u"%1-%2"_s.arg(plage.debut).arg(plage.fin);
 }
 
+QString MontreTout(OccurrencesTexte const & occurrences)
+{
+    QStringList plages;
+    for (int numero = 1; numero <= occurrences.DonneNombre(); ++numero)
+        plages += Montre(occurrences.DonnePlage(numero));
+    return plages.join(u' ');
+}
+
 } // namespace
 
 void tst_OccurrencesTexte::plages_data()
@@ -61,10 +71,35 @@ void tst_OccurrencesTexte::plages()
     QFETCH(QString, texte);
     QFETCH(QString, motif);
     OccurrencesTexte const occurrences(texte, QRegularExpression(motif));
-    QStringList plages;
-    for (int numero = 1; numero <= occurrences.DonneNombre(); ++numero)
-        plages += Montre(occurrences.DonnePlage(numero));
-    QTEST(plages.join(u' '), "plages");
+    QTEST(MontreTout(occurrences), "plages");
+}
+
+void tst_OccurrencesTexte::chaine_data()
+{
+    QTest::addColumn<QString>("texte");
+    QTest::addColumn<QString>("chaine");
+    QTest::addColumn<bool>("respecter");
+    QTest::addColumn<QString>("plages");
+    QTest::newRow("any case") << u"ab.Ab.AB"_s << u"aB"_s << false << u"0-2 3-5 6-8"_s;
+    QTest::newRow("its case") << u"ab.Ab.AB"_s << u"Ab"_s << true << u"3-5"_s;
+    QTest::newRow("accents") << u"É.é.e"_s << u"é"_s << false << u"0-1 2-3"_s;
+    QTest::newRow("none shares a character with another")
+        << u"aaaaa"_s << u"aa"_s << false << u"0-2 2-4"_s;
+    QTest::newRow("not an expression") << u"ab.a."_s << u"a."_s << true << u"3-5"_s;
+    QTest::newRow("nothing") << u"abc"_s << u"x"_s << false << QString();
+    QTest::newRow("empty text") << QString() << u"x"_s << false << QString();
+    QTest::newRow("nothing to search for") << u"abc"_s << QString() << false << QString();
+    QTest::newRow("units of UTF-16") << u"😀ab😀"_s << u"😀"_s << false << u"0-2 4-6"_s;
+}
+
+void tst_OccurrencesTexte::chaine()
+{
+    QFETCH(QString, texte);
+    QFETCH(QString, chaine);
+    QFETCH(bool, respecter);
+    OccurrencesTexte const occurrences(texte, chaine,
+                                       respecter ? Qt::CaseSensitive : Qt::CaseInsensitive);
+    QTEST(MontreTout(occurrences), "plages");
 }
 
 void tst_OccurrencesTexte::insecables()

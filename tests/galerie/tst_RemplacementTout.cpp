@@ -40,6 +40,8 @@ private Q_SLOTS:
     void modifiayParUnAutre_data();
     void modifiayParUnAutre();
     void miseEnFormeParUnAutre();
+    void autreTexte_data();
+    void autreTexte();
     void autreDocument();
     void editeurDetruit();
     void detruit_data();
@@ -354,6 +356,30 @@ void tst_RemplacementTout::miseEnFormeParUnAutre()
     curseur.endEditBlock();
     QTRY_COMPARE(fini.size(), 1);
     QCOMPARE(fini.at(0).at(0).toInt(), kNombre);
+}
+
+void tst_RemplacementTout::autreTexte_data()
+{
+    QTest::addColumn<bool>("annulable");
+    QTest::newRow("with undo") << true;
+    QTest::newRow("without undo") << false;
+}
+
+// As long as the one before.
+void tst_RemplacementTout::autreTexte()
+{
+    QFETCH(bool, annulable);
+    RemplacementTout & remplacement = PrepareLong();
+    QTextDocument & document = *monEditeur->PreteDocument();
+    document.setUndoRedoEnabled(annulable);
+    QSignalSpy fini(&remplacement, &RemplacementTout::SignalFini);
+    QVERIFY(remplacement.Demarre());
+    QString const texte(document.characterCount() - 1, u'x');
+    document.setPlainText(texte);
+    QTRY_COMPARE(fini.size(), 1);
+    QCOMPARE(fini.at(0).at(0).toInt(), RemplacementTout::kRemplacementsParMesure);
+    QCOMPARE(document.toPlainText(), texte);
+    QVERIFY(monEditeur->DonneInteraction().testFlag(Qt::TextEditable));
 }
 
 void tst_RemplacementTout::autreDocument()

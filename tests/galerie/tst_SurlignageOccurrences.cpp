@@ -28,6 +28,8 @@ private Q_SLOTS:
     void selectionsDeLApplication();
     void selectionsRemplacees_data() { AjouteEditeurs(); }
     void selectionsRemplacees();
+    void deuxDansUnEditeur_data();
+    void deuxDansUnEditeur();
     void suitLeTexte();
     void palette_data();
     void palette();
@@ -183,6 +185,36 @@ void tst_SurlignageOccurrences::selectionsRemplacees()
     monEditeur->MetsSelections({sienne});
     QTRY_COMPARE(monEditeur->DonneSelections().size(), 3);
     QVERIFY(monEditeur->DonneSelections().first().format == sienne.format);
+}
+
+void tst_SurlignageOccurrences::deuxDansUnEditeur_data()
+{
+    QTest::addColumn<bool>("premierDabord");
+    QTest::newRow("the first ceases first") << true;
+    QTest::newRow("the last ceases first") << false;
+}
+
+void tst_SurlignageOccurrences::deuxDansUnEditeur()
+{
+    QFETCH(bool, premierDabord);
+    Prepare(true, u"mot mot un"_s);
+    QPalette const avant = monWidget->palette();
+    Montre();
+    auto autre = std::make_unique<SurlignageOccurrences>(*monEditeur);
+    autre->Montre(OccurrencesTexte(u"mot mot un"_s, QRegularExpression(u"un"_s)));
+    monWidget->repaint();
+    QCOMPARE(DonneDebuts(), QList<int>{8});
+    if (premierDabord) {
+        monSurlignage.reset();
+        QCOMPARE(DonneDebuts(), QList<int>{8});
+        QVERIFY(monWidget->palette() != avant);
+    }
+    autre.reset();
+    QVERIFY(DonneDebuts().isEmpty());
+    QCOMPARE(monWidget->palette(), avant);
+    if (!premierDabord)
+        Montre(); // the other one is not asked any more
+    QCOMPARE(DonneDebuts().size(), premierDabord ? 0 : 2);
 }
 
 void tst_SurlignageOccurrences::suitLeTexte()

@@ -23,7 +23,8 @@ class VueDesChoix;
 /// It proposes nothing by itself: at each keystroke the host hands over the rows, already filtered,
 /// and the list sizes itself to them and appears under the linked widget. Down, Up, Return and
 /// Enter in the linked widget drive the list, Escape closes it, and the mouse moves the current
-/// row. What the user chose comes as clones in `SignalSelectionListeChoix`; the list does not hide
+/// row. Without a current row Return takes the first that the automatic choice accepts, the Enter
+/// of the keypad nothing. What the user chose comes as clones in `SignalSelectionListeChoix`; the list does not hide
 /// itself then, the host does, with `CacheToi`.
 ///
 /// The list hides when the linked widget hides or dies, so also when its window does or is

@@ -20,8 +20,9 @@ bool ListeChoixFlottante::eventFilter(QObject * objet, QEvent * evenement)
     auto * const touche = static_cast<QKeyEvent *>(evenement);
     if (objet != maVue)
         return maVue->isVisible() && TraiteToucheDuWidget(touche);
-    if (touche->key() != Qt::Key_Return)
+    if (touche->key() != Qt::Key_Return) // Deliberate: Enter is left to the view
         return false;
+    touche->accept(); // or it would go on to the list, and from there to the linked widget again
     Q_EMIT maVue->activated(maVue->currentIndex());
     return true;
 }

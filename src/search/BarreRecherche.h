@@ -26,11 +26,16 @@ class QToolButton;
 ///   `Qt::Key_Return` and `Qt::Key_Enter` and returns true. A field keeps none of these presses, so
 ///   that they arrive at the bar after it.
 /// - That filter also takes Escape that comes from the buttons of the bar, where its release does
-///   nothing. So that the key closes the bar there too, the host may call `PriseBoutonFermer` from
-///   the filter while the focus is in neither field.
+///   nothing. So that the key closes the bar there too, the host closes it from the filter at the
+///   release, while the focus is in neither field.
+/// - A key that is held down releases and presses again by itself: the first such release closes
+///   the bar, and the next press goes to what has the focus then, be it the dialog. A second filter
+///   on the fields, installed after the bar's own, keeps from them every release of Escape that
+///   `isAutoRepeat()`.
 /// - Escape does not cancel a replacement of everything that is running; the close button does.
-/// - The focus, when the bar closes, goes wherever Qt leads it. Give it back to the document on
-///   `SignalBarreRechercheFermay`.
+/// - Each showing, also by the desktop, activates the window, selects the text of the search field
+///   and gives it the focus. When the bar closes, the focus goes wherever Qt leads it: give it to
+///   the document on `SignalFermeture`, when the bar still has it.
 /// - With the counter both arrows start disabled, and `ActualiseOccurrences` enables them. Without
 ///   it they are always enabled but while everything is being replaced.
 /// - The bar may be deleted from its two signals and from `CallbackAnnulerRemplacerTout`, unless
@@ -79,7 +84,7 @@ public:
     void PrendsFocus() override;
 
 Q_SIGNALS:
-    /// The bar is about to hide.
+    /// The bar is about to hide, or is asked to while hidden.
     void SignalFermeture();
     /// The user closed the bar: before `SignalFermeture` with the button, once hidden with Escape.
     void SignalBarreRechercheFermay();

@@ -23,9 +23,10 @@ struct ChaineLocalisable;
 /// and does not count while "commence par" is on. A new dialog has "boucler", "contient" and
 /// "vers le bas" on.
 ///
-/// The option word has the bits of what is checked, also by a program. Where no direction is
-/// offered, it has the bit of the direction of the request. What the user or the host asks for in a
-/// direction also checks that direction, but not `BoutonChercher` and `TexteDeRechercheChanger`.
+/// The option word has, as of the last refresh, the bits of what is checked, also by a program.
+/// Where no direction is offered, it has the bit of the direction of the request. What the user or
+/// the host asks for in a direction also checks that direction, but not `BoutonChercher`,
+/// `TexteDeRechercheChanger` and `EffectuerRecherche`.
 /// "Chercher" searches in the direction that is checked, and downward where none is offered.
 ///
 /// Nothing is searched while one types. Return searches, and replaces in the replacement field;
@@ -69,8 +70,8 @@ public:
     void setVisible(bool visible) override;
 
 Q_SIGNALS:
-    /// The dialog is about to be hidden, by the host or by the user; then come those of `QDialog`,
-    /// always as for a rejected one.
+    /// The dialog is about to be hidden, by the host or by the user; unless it was hidden already,
+    /// those of `QDialog` follow, always as for a rejected one.
     void SignalFermeture();
     /// The user closes the dialog; `SignalFermeture` follows.
     void SignalDialogueRechercheFermay();

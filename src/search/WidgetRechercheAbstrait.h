@@ -40,7 +40,7 @@ public:
     ///
     /// CAUTION: the host is asked to search even when there is nothing to search for.
     virtual void AfficheToi(CstRecherche::eTypeRecherche type, UniChaine chaine);
-    /// Shows the front end, and nothing else.
+    /// Shows the front end, and asks nothing of the host. One that was hidden takes the focus.
     virtual void AfficheToi() = 0;
     /// What the host found: the number of the current match, from 1, and how many there are. It is
     /// ignored where no counter is offered.

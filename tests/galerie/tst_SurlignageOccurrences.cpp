@@ -270,7 +270,7 @@ double Contraste(QColor const & a, QColor const & b)
         return 0.2126 * lineaire(couleur.redF()) + 0.7152 * lineaire(couleur.greenF()) +
                0.0722 * lineaire(couleur.blueF());
     };
-    auto const [sombre, clair] = std::minmax(luminance(a), luminance(b));
+    auto const [sombre, clair] = std::minmax({luminance(a), luminance(b)});
     return (clair + 0.05) / (sombre + 0.05);
 }
 

@@ -31,6 +31,7 @@ private Q_SLOTS:
     void retourSurUneRangee();
     void entreeSansRangee();
     void retourDansLaVue();
+    void retourIgnoray();
     void entreeDansLaVue();
     void fermeture();
     void fermetureCachee();
@@ -251,6 +252,19 @@ void tst_ListeChoixFlottanteClavier::retourDansLaVue()
     QCOMPARE(DernierChoix(choix), QStringList(u"mot 2"_s));
     QKeyEvent relachement(QEvent::KeyRelease, Qt::Key_Return, Qt::NoModifier);
     QVERIFY(!hote.liste->eventFilter(hote.Vue(), &relachement));
+}
+
+// As a host forwards it that has ignored it first.
+void tst_ListeChoixFlottanteClavier::retourIgnoray()
+{
+    Hote const hote;
+    QSignalSpy const choix(hote.liste, &ListeChoixFlottante::SignalSelectionListeChoix);
+    hote.liste->ActualiseListeChoix(CreeRangees(CreeTextes(3)));
+    QKeyEvent retour(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier);
+    retour.ignore();
+    QCoreApplication::sendEvent(hote.champ, &retour);
+    QCOMPARE(choix.count(), 1);
+    QVERIFY(hote.champ->touches.isEmpty());
 }
 
 void tst_ListeChoixFlottanteClavier::entreeDansLaVue()

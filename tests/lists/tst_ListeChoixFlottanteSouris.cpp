@@ -145,8 +145,10 @@ void tst_ListeChoixFlottanteSouris::listeCachee()
 {
     Hote const hote;
     QSignalSpy const choix(hote.liste, &ListeChoixFlottante::SignalSelectionListeChoix);
-    QModelIndex const aucun;
-    Q_EMIT hote.Vue()->clicked(aucun);
+    auto & modele = *qobject_cast<QStandardItemModel *>(hote.Vue()->model());
+    modele.appendRow(new QStandardItem(u"jamais montré"_s));
+    Q_EMIT hote.Vue()->clicked(modele.index(0, 0));
+    QCOMPARE(choix.count(), 0);
     hote.liste->ActualiseListeChoix(CreeRangees(CreeTextes(3)));
     hote.liste->CacheToi();
     QModelIndex const index = hote.Vue()->model()->index(1, 0);

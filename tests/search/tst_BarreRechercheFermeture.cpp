@@ -4,9 +4,6 @@
 
 #include <QtTest>
 
-#include <QDialog>
-#include <QPushButton>
-
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -46,22 +43,6 @@ public:
     int releves = 0;
 };
 
-// The way in which a host keeps the keys of a dialog from it.
-class GardeTouches : public QObject
-{
-public:
-    bool eventFilter(QObject *, QEvent * evenement) override
-    {
-        if (evenement->type() != QEvent::KeyPress)
-            return false;
-        int const touche = static_cast<QKeyEvent *>(evenement)->key();
-        if (touche != Qt::Key_Escape && touche != Qt::Key_Return && touche != Qt::Key_Enter)
-            return false;
-        evenement->accept();
-        return true;
-    }
-};
-
 } // namespace
 
 class tst_BarreRechercheFermeture : public QObject
@@ -85,10 +66,6 @@ private Q_SLOTS:
     void parLHote();
     void dejaCachee();
     void fermetureRedefinie();
-    void dansUnDialogue_data();
-    void dansUnDialogue();
-    void retourDansUnDialogue_data();
-    void retourDansUnDialogue();
 };
 
 void tst_BarreRechercheFermeture::cleanup()
@@ -269,68 +246,6 @@ void tst_BarreRechercheFermeture::fermetureRedefinie()
     QCOMPARE(barre.fermetures, 1);
     QTest::mouseClick(pieces.fermer, Qt::LeftButton);
     QCOMPARE(barre.fermetures, 2);
-}
-
-void tst_BarreRechercheFermeture::dansUnDialogue_data()
-{
-    QTest::addColumn<bool>("garde");
-    QTest::newRow("the press goes to the dialog") << false;
-    QTest::newRow("the host keeps the press") << true;
-}
-
-void tst_BarreRechercheFermeture::dansUnDialogue()
-{
-    QFETCH(bool, garde);
-    QDialog dialogue;
-    auto * const barre = new BarreRecherche(&dialogue, true);
-    barre->resize(400, barre->height());
-    GardeTouches gardien;
-    if (garde)
-        barre->installEventFilter(&gardien);
-    dialogue.show();
-    QVERIFY(QTest::qWaitForWindowActive(&dialogue));
-    QTRY_VERIFY(PiecesBarre(*barre).recherche->hasFocus());
-
-    QTest::keyClick(dialogue.windowHandle(), Qt::Key_Escape);
-
-    QCOMPARE(dialogue.isVisible(), garde);
-    if (garde)
-        QVERIFY(barre->isHidden());
-}
-
-void tst_BarreRechercheFermeture::retourDansUnDialogue_data()
-{
-    QTest::addColumn<Qt::Key>("touche");
-    QTest::addColumn<bool>("garde");
-    for (bool const garde : {false, true}) {
-        QTest::addRow("Return, kept %d", int(garde)) << Qt::Key_Return << garde;
-        QTest::addRow("Enter, kept %d", int(garde)) << Qt::Key_Enter << garde;
-    }
-}
-
-void tst_BarreRechercheFermeture::retourDansUnDialogue()
-{
-    QFETCH(Qt::Key, touche);
-    QFETCH(bool, garde);
-    QDialog dialogue;
-    auto * const barre = new BarreRecherche(&dialogue);
-    barre->resize(400, barre->height());
-    auto * const defaut = new QPushButton(&dialogue);
-    defaut->move(0, 60);
-    defaut->setDefault(true);
-    HoteEspion const hote(barre);
-    QSignalSpy const clics(defaut, &QPushButton::clicked);
-    GardeTouches gardien;
-    if (garde)
-        barre->installEventFilter(&gardien);
-    dialogue.show();
-    QVERIFY(QTest::qWaitForWindowActive(&dialogue));
-    QTRY_VERIFY(PiecesBarre(*barre).recherche->hasFocus());
-
-    QTest::keyClick(dialogue.windowHandle(), touche);
-
-    QCOMPARE(hote.DonneNoms(), QStringList{u"Chercher"_s});
-    QCOMPARE(clics.size(), garde ? 0 : 1);
 }
 
 QTEST_MAIN(tst_BarreRechercheFermeture)

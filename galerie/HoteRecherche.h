@@ -44,7 +44,8 @@ class WidgetRechercheAbstrait;
 ///
 /// Editor, front end and host may die in any order. The front end must be a widget itself, as those
 /// of the library are, and has no other host. An editor may have several, each with a front end of
-/// its own: the one that has searched last highlights. GUI thread only.
+/// its own: the one that has searched last highlights, or whose
+/// front end was shown last. GUI thread only.
 class HoteRecherche : public QObject, public UtilisateurWidgetRecherche
 {
     Q_OBJECT
@@ -119,7 +120,8 @@ private:
     void ChercheAuFil(bool occurrenceSelectionnay);
     void VaPlusLoin(OccurrencesTexte::Plage const & depuis, bool avecMessage);
     void Selectionne(OccurrencesTexte::Plage const & plage);
-    void Rapporte();
+    void Rapporte(bool prendsLaPlace);
+    void Annonce();
     void Termine(bool avecMessage);
 
     std::unique_ptr<EditeurCherchable> const monEditeur;

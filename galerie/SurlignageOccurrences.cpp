@@ -66,6 +66,12 @@ void SurlignageOccurrences::Retire()
     monEditeur.PreteWidget()->setProperty(kSurligneur, {});
 }
 
+bool SurlignageOccurrences::EstEvincay() const
+{
+    SurlignageOccurrences const * const actif = PreteActif();
+    return actif != nullptr && actif != this;
+}
+
 bool SurlignageOccurrences::eventFilter(QObject *, QEvent * evenement)
 {
     // Painting follows every scroll, resize and change of the layout, and every change of the extra
@@ -112,13 +118,19 @@ void SurlignageOccurrences::Renouvelle()
     monEditeur.MetsSelections(selections);
 }
 
+SurlignageOccurrences * SurlignageOccurrences::PreteActif() const
+{
+    QWidget const * const editeur = monEditeur.PreteWidget();
+    return editeur == nullptr ? nullptr
+                              : editeur->property(kSurligneur).value<SurlignageOccurrences *>();
+}
+
 // Two would each take the highlights and the palette of the other for those of the application.
 void SurlignageOccurrences::PrendsLaPlace()
 {
-    QWidget & editeur = *monEditeur.PreteWidget();
-    if (auto * const autre = editeur.property(kSurligneur).value<SurlignageOccurrences *>())
+    if (SurlignageOccurrences * const autre = PreteActif())
         autre->Retire();
-    editeur.setProperty(kSurligneur, QVariant::fromValue(this));
+    monEditeur.PreteWidget()->setProperty(kSurligneur, QVariant::fromValue(this));
 }
 
 void SurlignageOccurrences::ColoreSelection()

@@ -29,6 +29,8 @@ public:
     /// their text, until the next call.
     void Montre(OccurrencesTexte const & occurrences);
     void Retire();
+    /// Another one highlights in the editor.
+    bool EstEvincay() const;
 
     bool eventFilter(QObject * objet, QEvent * evenement) override;
 
@@ -36,6 +38,7 @@ private:
     EditeurCherchable::Selections DonneSelectionsDesAutres() const;
     bool EstPerimay() const;
     void Renouvelle();
+    SurlignageOccurrences * PreteActif() const;
     void PrendsLaPlace();
     void ColoreSelection();
 

@@ -57,7 +57,8 @@ HoteRecherche::HoteRecherche(std::unique_ptr<EditeurCherchable> editeur,
 HoteRecherche::~HoteRecherche()
 {
     bool const remplacait = EstEnTrainDeRemplacer();
-    delete monRemplacement; // gives the editor back, which it reaches through this object
+    delete std::exchange(monRemplacement,
+                         nullptr); // gives the editor back, which it reaches through this object
     WidgetRechercheAbstrait * const frontal = PreteFrontal();
     if (frontal == nullptr)
         return;
@@ -200,7 +201,7 @@ void HoteRecherche::PrisePrecedent()
 
 void HoteRecherche::PriseCurseurBougeay()
 {
-    if (jeBougeLeCurseur || EstEnTrainDeRemplacer() || !EstPret())
+    if (jeBougeLeCurseur || (EstEnTrainDeRemplacer() && monRemplacement->EcrisTuLeTexte()))
         return;
     // No more than that: while `QTextDocument::clear` tells of the change, no cursor may come or
     // go.

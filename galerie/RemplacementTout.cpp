@@ -120,6 +120,7 @@ bool RemplacementTout::EstPerturbay() const
 
 void RemplacementTout::RemplaceTranche()
 {
+    jEcrisLeTexte = true;
     QElapsedTimer chronometre;
     chronometre.start();
     if (mesRemplacees == 0)
@@ -138,11 +139,11 @@ void RemplacementTout::RemplaceTranche()
     monEmpreinte = DonneEmpreinte();
     QPointer<RemplacementTout> const moi(this);
     QTextCursor(monCurseur).endEditBlock();
-    if (moi == nullptr || !jeSuisEnCours)
+    if (moi == nullptr)
         return;
-    if (maFenetre != nullptr)
+    jEcrisLeTexte = false;
+    if (jeSuisEnCours && maFenetre != nullptr)
         maFenetre->PrendsTexteSecondaire(DonneAvancement());
-    Q_EMIT SignalAvancement(mesRemplacees, mesOccurrences.DonneNombre());
 }
 
 QString RemplacementTout::DonneAvancement() const

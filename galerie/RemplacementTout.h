@@ -49,11 +49,11 @@ public:
     /// Replaces the first slice at once. True when there is more to do: then `SignalFini` follows,
     /// and only then. To be called once.
     bool Demarre();
+    /// While it does, the caret moves with the text.
+    bool EcrisTuLeTexte() const { return jEcrisLeTexte; }
     int DonneNombreRemplacees() const { return mesRemplacees; }
 
 Q_SIGNALS:
-    /// After each slice.
-    void SignalAvancement(int remplacees, int total);
     /// All is replaced, or it was cancelled. The sender is no longer used: it may be deleted.
     void SignalFini(int remplacees);
 
@@ -96,6 +96,7 @@ private:
     int maDureeTranche = kDureeTranche;
     int monDelaiFenetre = kDelaiFenetre;
     bool jeSuisEnCours = false;
+    bool jEcrisLeTexte = false;
     Qt::TextInteractionFlags monInteraction; // the editor's own, while it is under way
     QPointer<DDialogueProgressionInfinie> maFenetre;
 };

@@ -62,7 +62,7 @@ void SurlignageOccurrences::Retire()
     if (!std::exchange(jeMontre, false) || monEditeur.PreteWidget() == nullptr)
         return;
     monEditeur.MetsSelections(DonneSelectionsDesAutres());
-    monEditeur.PreteWidget()->setPalette(maPalette);
+    RendsSelection();
     monEditeur.PreteWidget()->setProperty(kSurligneur, {});
 }
 
@@ -136,10 +136,29 @@ void SurlignageOccurrences::PrendsLaPlace()
 void SurlignageOccurrences::ColoreSelection()
 {
     QWidget & editeur = *monEditeur.PreteWidget();
-    // An editor without a palette of its own goes on following that of the application.
-    maPalette = editeur.testAttribute(Qt::WA_SetPalette) ? editeur.palette() : QPalette();
+    maPalette = editeur.palette();
     QPalette palette = maPalette;
-    palette.setColor(QPalette::Inactive, QPalette::Highlight, QColor(kFondCourante));
-    palette.setColor(QPalette::Inactive, QPalette::HighlightedText, QColor(kTexteCourante));
+    palette.setBrush(QPalette::Inactive, QPalette::Highlight, QColor(kFondCourante));
+    palette.setBrush(QPalette::Inactive, QPalette::HighlightedText, QColor(kTexteCourante));
+    editeur.setPalette(palette);
+}
+
+// Nothing but what is ours: the application may have given the editor another palette meanwhile.
+void SurlignageOccurrences::RendsSelection()
+{
+    QWidget & editeur = *monEditeur.PreteWidget();
+    QPalette palette = editeur.palette();
+    for (auto const & [role, couleur] : {std::pair(QPalette::Highlight, kFondCourante),
+                                         std::pair(QPalette::HighlightedText, kTexteCourante)}) {
+        if (palette.brush(QPalette::Inactive, role) != QBrush(QColor(couleur)))
+            continue;
+        // What was not the editor's own follows that of the application again. A palette of its own
+        // has a mask of what it sets, which goes when nothing is left.
+        QPalette celuiCi;
+        celuiCi.setBrush(QPalette::Inactive, role, QColor(couleur));
+        palette.setBrush(QPalette::Inactive, role, maPalette.brush(QPalette::Inactive, role));
+        if (!maPalette.isBrushSet(QPalette::Inactive, role))
+            palette.setResolveMask(palette.resolveMask() & ~celuiCi.resolveMask());
+    }
     editeur.setPalette(palette);
 }

@@ -41,6 +41,7 @@ private:
     SurlignageOccurrences * PreteActif() const;
     void PrendsLaPlace();
     void ColoreSelection();
+    void RendsSelection();
 
     EditeurCherchable & monEditeur;
     OccurrencesTexte mesOccurrences;
@@ -49,5 +50,5 @@ private:
     int maRevision = 0;                  // of that document
     OccurrencesTexte::Plage maPlage;     // what was visible at the last renewal
     qsizetype mesSurlignees = 0;         // and how many were highlighted
-    QPalette maPalette;                  // the editor's own, while `jeMontre`
+    QPalette maPalette;                  // the editor's before `jeMontre`
 };

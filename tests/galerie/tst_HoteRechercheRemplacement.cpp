@@ -31,6 +31,7 @@ private Q_SLOTS:
     void toutEnTranches();
     void annuler_data();
     void annuler();
+    void echapContinue_data();
     void echapContinue();
     void frappePendant();
     void curseurPendant_data() { AjouteEditeurs(); }
@@ -259,15 +260,29 @@ void tst_HoteRechercheRemplacement::annuler()
     QCOMPARE(fenetre.barre->isVisible(), bouton == u"Annuler"_s);
 }
 
+void tst_HoteRechercheRemplacement::echapContinue_data()
+{
+    QTest::addColumn<QString>("bouton");
+    QTest::newRow("in the search field") << QString();
+    QTest::newRow("on the cancel button") << u"Annuler"_s;
+    QTest::newRow("on the close button") << u"Fermer la barre de recherche"_s;
+}
+
 // Escape only closes the bar: the replacement ends behind it.
 void tst_HoteRechercheRemplacement::echapContinue()
 {
+    QFETCH(QString, bouton);
     FenetreRecherche & fenetre = OuvreLong();
     QSignalSpy fini(fenetre.hote, &HoteRecherche::SignalRemplacementFini);
+    QSignalSpy ferme(fenetre.barre, &BarreRecherche::SignalBarreRechercheFermay);
     ToutRemplacer();
-    fenetre.PreteChamp().setFocus();
-    QTest::keyClick(&fenetre.PreteChamp(), Qt::Key_Escape);
+    QWidget * foyer = &fenetre.PreteChamp();
+    if (!bouton.isEmpty())
+        foyer = &fenetre.PreteBouton(bouton);
+    foyer->setFocus();
+    QTest::keyClick(foyer, Qt::Key_Escape);
     QVERIFY(!fenetre.barre->isVisible());
+    QCOMPARE(ferme.size(), 1);
     QVERIFY(fenetre.hote->EstEnTrainDeRemplacer());
     QTRY_COMPARE(fini.size(), 1);
     QCOMPARE(fenetre.DonneTexte(), Long(kNombre));

@@ -27,6 +27,9 @@ public:
     static constexpr int kDureeTranche = 10; // ms
     /// How long it works before the window opens.
     static constexpr int kDelaiFenetre = 300; // ms
+    /// Of the window, which stays with the editor's and never takes the focus from the text.
+    static constexpr Qt::WindowFlags kDrapeauxFenetre =
+        Qt::Tool | Qt::FramelessWindowHint | Qt::WindowDoesNotAcceptFocus;
     /// So many are replaced in a slice before the clock is looked at.
     static constexpr int kRemplacementsParMesure = 32;
 
@@ -51,6 +54,8 @@ public:
     bool Demarre();
     /// While it does, the caret moves with the text.
     bool EcrisTuLeTexte() const { return jEcrisLeTexte; }
+    bool eventFilter(QObject * objet, QEvent * evenement) override;
+
     int DonneNombreRemplacees() const { return mesRemplacees; }
 
 Q_SIGNALS:

@@ -36,6 +36,8 @@ private Q_SLOTS:
     void annule();
     void fenetre();
     void fenetreAnnule();
+    void fenetreSuitLaSienne();
+    void fenetreDUneFenetreCachay();
     void pasDeFenetre();
     void modifiayParUnAutre_data();
     void modifiayParUnAutre();
@@ -296,6 +298,45 @@ void tst_RemplacementTout::fenetreAnnule()
     QVERIFY(remplacement.DonneNombreRemplacees() < kNombre);
     QCOMPARE(monEditeur->PreteDocument()->toPlainText(),
              Long(u"mot"_s, remplacement.DonneNombreRemplacees()));
+    QTRY_VERIFY(monWidget->findChild<DDialogueProgressionInfinie *>() == nullptr);
+}
+
+void tst_RemplacementTout::fenetreSuitLaSienne()
+{
+    RemplacementTout & remplacement = PrepareLong();
+    monWidget->show();
+    remplacement.MetsDelaiFenetre(0);
+    QSignalSpy fini(&remplacement, &RemplacementTout::SignalFini);
+    QList<bool> visibles;
+    connect(monEditeur->PreteDocument(), &QTextDocument::contentsChanged, this, [&] {
+        auto const * const fenetre = monWidget->findChild<DDialogueProgressionInfinie *>();
+        if (fenetre == nullptr)
+            return;
+        QCOMPARE(fenetre->windowFlags(), RemplacementTout::kDrapeauxFenetre);
+        QCOMPARE(fenetre->parentWidget(), monWidget.get());
+        QVERIFY(!fenetre->isModal());
+        visibles += fenetre->isVisible();
+        monWidget->setVisible(!monWidget->isVisible());
+        visibles += fenetre->isVisible();
+    });
+    QVERIFY(remplacement.Demarre());
+    QTRY_COMPARE(fini.size(), 1);
+    QCOMPARE(visibles, (QList<bool>{true, false, false, true, true, false}));
+    // It goes in the end although it is hidden.
+    QTRY_VERIFY(monWidget->findChild<DDialogueProgressionInfinie *>() == nullptr);
+}
+
+void tst_RemplacementTout::fenetreDUneFenetreCachay()
+{
+    RemplacementTout & remplacement = PrepareLong();
+    remplacement.MetsDelaiFenetre(0);
+    QSignalSpy fini(&remplacement, &RemplacementTout::SignalFini);
+    connect(monEditeur->PreteDocument(), &QTextDocument::contentsChanged, this, [this] {
+        auto const * const fenetre = monWidget->findChild<DDialogueProgressionInfinie *>();
+        QVERIFY(fenetre == nullptr || !fenetre->isVisible());
+    });
+    QVERIFY(remplacement.Demarre());
+    QTRY_COMPARE(fini.size(), 1);
     QTRY_VERIFY(monWidget->findChild<DDialogueProgressionInfinie *>() == nullptr);
 }
 

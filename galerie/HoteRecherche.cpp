@@ -203,8 +203,7 @@ void HoteRecherche::PriseCurseurBougeay()
 {
     if (jeBougeLeCurseur || (EstEnTrainDeRemplacer() && monRemplacement->EcrisTuLeTexte()))
         return;
-    // No more than that: while `QTextDocument::clear` tells of the change, no cursor may come or
-    // go.
+    // No more: no cursor may come or go while `QTextDocument::clear` tells of the change.
     monCurseurABougeay = true;
     maMinuterie.start();
 }

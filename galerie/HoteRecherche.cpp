@@ -57,7 +57,8 @@ HoteRecherche::HoteRecherche(std::unique_ptr<EditeurCherchable> editeur,
 HoteRecherche::~HoteRecherche()
 {
     bool const remplacait = EstEnTrainDeRemplacer();
-    delete monRemplacement; // gives the editor back, which it reaches through this object
+    delete std::exchange(monRemplacement,
+                         nullptr); // gives the editor back, which it reaches through this object
     WidgetRechercheAbstrait * const frontal = PreteFrontal();
     if (frontal == nullptr)
         return;
@@ -167,10 +168,14 @@ void HoteRecherche::CallbackAnnulerRemplacerTout()
 
 bool HoteRecherche::eventFilter(QObject *, QEvent * evenement)
 {
-    if (evenement->type() == QEvent::Show)
+    if (evenement->spontaneous())
+        return false; // the window is iconified, say: all goes on behind it
+    if (evenement->type() == QEvent::Show) {
+        monSurlignage.Montre({}); // from now on, before another one follows an edit
         maMinuterie.start();
-    else if (evenement->type() == QEvent::Hide)
+    } else if (evenement->type() == QEvent::Hide) {
         monSurlignage.Retire();
+    }
     return false;
 }
 
@@ -196,10 +201,9 @@ void HoteRecherche::PrisePrecedent()
 
 void HoteRecherche::PriseCurseurBougeay()
 {
-    if (jeBougeLeCurseur || EstEnTrainDeRemplacer() || !EstPret())
+    if (jeBougeLeCurseur || (EstEnTrainDeRemplacer() && monRemplacement->EcrisTuLeTexte()))
         return;
-    // No more than that: while `QTextDocument::clear` tells of the change, no cursor may come or
-    // go.
+    // No more: no cursor may come or go while `QTextDocument::clear` tells of the change.
     monCurseurABougeay = true;
     maMinuterie.start();
 }
@@ -208,10 +212,10 @@ void HoteRecherche::PriseRenouveler()
 {
     if (!EstPret() || EstEnTrainDeRemplacer() || !monWidget->isVisible())
         return;
-    if (Cherche())
-        Termine(false);
-    else
-        Rapporte();
+    bool const nouveau = Cherche();
+    Rapporte(false);
+    if (nouveau)
+        Annonce();
 }
 
 void HoteRecherche::PriseBarreFerme()
@@ -320,21 +324,27 @@ void HoteRecherche::Selectionne(OccurrencesTexte::Plage const & plage)
     monEditeur->Selectionne(plage);
 }
 
-void HoteRecherche::Rapporte()
+// Following an edit or the caret takes no highlights away from another host.
+void HoteRecherche::Rapporte(bool prendsLaPlace)
 {
     PreteFrontal()->ActualiseOccurrences(
         maRecherche.PreteOccurrences().DonneNumero(monEditeur->DonneSelection()),
         maRecherche.PreteOccurrences().DonneNombre());
-    if (monWidget->isVisible())
+    if (monWidget->isVisible() && (prendsLaPlace || !monSurlignage.EstEvincay()))
         monSurlignage.Montre(maRecherche.PreteOccurrences());
+}
+
+void HoteRecherche::Annonce()
+{
+    Q_EMIT SignalTrouvay(maRecherche.EstVide() || maRecherche.PreteOccurrences().DonneNombre() > 0);
 }
 
 // Tells what a search has found. Last: those who hear of it may delete whom they want.
 void HoteRecherche::Termine(bool avecMessage)
 {
-    Rapporte();
+    Rapporte(true);
     QPointer<HoteRecherche> const moi(this);
-    Q_EMIT SignalTrouvay(maRecherche.EstVide() || maRecherche.PreteOccurrences().DonneNombre() > 0);
+    Annonce();
     if (avecMessage && moi != nullptr && EstPret())
         PreteFrontal()->AfficheMessageTexteIntrouvable(false);
 }

@@ -42,9 +42,15 @@ class WidgetRechercheAbstrait;
 /// the bar is in; nor does Return press a button of that dialog. When the bar closes, the focus
 /// goes from it to the editor.
 ///
-/// Editor, front end and host may die in any order. The front end must be a widget itself, as those
+/// To be copied with the six classes that it needs, `EditeurCherchable`, `OccurrencesTexte`,
+/// `RechercheTexte`, `RemplacementTout`, `SurlignageOccurrences` and `TouchesBarreRecherche`; the
+/// texts of RemplacementTout.cpp come from `TraductionGalerie`: put your own.
+///
+/// Editor, front end and host may die in any order; but who hears of the editor's caret deletes the
+/// host with `deleteLater`. The front end must be a widget itself, as those
 /// of the library are, and has no other host. An editor may have several, each with a front end of
-/// its own: the one that has searched last highlights. GUI thread only.
+/// its own: the one that has searched last highlights, or whose
+/// front end was shown last. GUI thread only.
 class HoteRecherche : public QObject, public UtilisateurWidgetRecherche
 {
     Q_OBJECT
@@ -119,7 +125,8 @@ private:
     void ChercheAuFil(bool occurrenceSelectionnay);
     void VaPlusLoin(OccurrencesTexte::Plage const & depuis, bool avecMessage);
     void Selectionne(OccurrencesTexte::Plage const & plage);
-    void Rapporte();
+    void Rapporte(bool prendsLaPlace);
+    void Annonce();
     void Termine(bool avecMessage);
 
     std::unique_ptr<EditeurCherchable> const monEditeur;

@@ -12,6 +12,7 @@
 
 #include <QAbstractScrollArea>
 #include <QElapsedTimer>
+#include <QEvent>
 #include <QPushButton>
 #include <QTimer>
 
@@ -65,6 +66,16 @@ bool RemplacementTout::Demarre()
     return true;
 }
 
+// A window manager iconifies it with its window, but leaves it there when that one is closed.
+bool RemplacementTout::eventFilter(QObject *, QEvent * evenement)
+{
+    bool const montre = evenement->type() == QEvent::Show;
+    bool const cache = evenement->type() == QEvent::Hide;
+    if (maFenetre != nullptr && !evenement->spontaneous() && (montre || cache))
+        maFenetre->setVisible(montre);
+    return false;
+}
+
 void RemplacementTout::PriseAnnuler()
 {
     if (jeSuisEnCours)
@@ -96,13 +107,14 @@ void RemplacementTout::PriseOuvrirFenetre()
         return;
     maFenetre = new DDialogueProgressionInfinie(
         widget->window(), TraductionGalerie(TexteGalerie("Remplacement en cours")),
-        DonneAvancement(), Qt::ToolTip | Qt::FramelessWindowHint);
+        DonneAvancement(), kDrapeauxFenetre);
     auto * const annuler = new QPushButton(TraductionGui(TexteGui("Annuler")));
-    annuler->setFocusPolicy(Qt::NoFocus); // a click must not take the focus from the text
+    annuler->setFocusPolicy(Qt::NoFocus);
     maFenetre->AjouterBouton(annuler);
     connect(annuler, &QPushButton::clicked, this, &RemplacementTout::PriseAnnuler,
             Qt::UniqueConnection);
-    maFenetre->show();
+    widget->window()->installEventFilter(this);
+    maFenetre->setVisible(widget->window()->isVisible());
 }
 
 RemplacementTout::Empreinte RemplacementTout::DonneEmpreinte() const
@@ -120,6 +132,7 @@ bool RemplacementTout::EstPerturbay() const
 
 void RemplacementTout::RemplaceTranche()
 {
+    jEcrisLeTexte = true;
     QElapsedTimer chronometre;
     chronometre.start();
     if (mesRemplacees == 0)
@@ -138,11 +151,11 @@ void RemplacementTout::RemplaceTranche()
     monEmpreinte = DonneEmpreinte();
     QPointer<RemplacementTout> const moi(this);
     QTextCursor(monCurseur).endEditBlock();
-    if (moi == nullptr || !jeSuisEnCours)
+    if (moi == nullptr)
         return;
-    if (maFenetre != nullptr)
+    jEcrisLeTexte = false;
+    if (jeSuisEnCours && maFenetre != nullptr)
         maFenetre->PrendsTexteSecondaire(DonneAvancement());
-    Q_EMIT SignalAvancement(mesRemplacees, mesOccurrences.DonneNombre());
 }
 
 QString RemplacementTout::DonneAvancement() const

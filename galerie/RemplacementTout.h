@@ -27,6 +27,9 @@ public:
     static constexpr int kDureeTranche = 10; // ms
     /// How long it works before the window opens.
     static constexpr int kDelaiFenetre = 300; // ms
+    /// Of the window, which stays with the editor's and never takes the focus from the text.
+    static constexpr Qt::WindowFlags kDrapeauxFenetre =
+        Qt::Tool | Qt::FramelessWindowHint | Qt::WindowDoesNotAcceptFocus;
     /// So many are replaced in a slice before the clock is looked at.
     static constexpr int kRemplacementsParMesure = 32;
 
@@ -49,11 +52,13 @@ public:
     /// Replaces the first slice at once. True when there is more to do: then `SignalFini` follows,
     /// and only then. To be called once.
     bool Demarre();
+    /// While it does, the caret moves with the text.
+    bool EcrisTuLeTexte() const { return jEcrisLeTexte; }
+    bool eventFilter(QObject * objet, QEvent * evenement) override;
+
     int DonneNombreRemplacees() const { return mesRemplacees; }
 
 Q_SIGNALS:
-    /// After each slice.
-    void SignalAvancement(int remplacees, int total);
     /// All is replaced, or it was cancelled. The sender is no longer used: it may be deleted.
     void SignalFini(int remplacees);
 
@@ -96,6 +101,7 @@ private:
     int maDureeTranche = kDureeTranche;
     int monDelaiFenetre = kDelaiFenetre;
     bool jeSuisEnCours = false;
+    bool jEcrisLeTexte = false;
     Qt::TextInteractionFlags monInteraction; // the editor's own, while it is under way
     QPointer<DDialogueProgressionInfinie> maFenetre;
 };

@@ -62,8 +62,14 @@ void SurlignageOccurrences::Retire()
     if (!std::exchange(jeMontre, false) || monEditeur.PreteWidget() == nullptr)
         return;
     monEditeur.MetsSelections(DonneSelectionsDesAutres());
-    monEditeur.PreteWidget()->setPalette(maPalette);
+    RendsSelection();
     monEditeur.PreteWidget()->setProperty(kSurligneur, {});
+}
+
+bool SurlignageOccurrences::EstEvincay() const
+{
+    SurlignageOccurrences const * const actif = PreteActif();
+    return actif != nullptr && actif != this;
 }
 
 bool SurlignageOccurrences::eventFilter(QObject *, QEvent * evenement)
@@ -112,22 +118,47 @@ void SurlignageOccurrences::Renouvelle()
     monEditeur.MetsSelections(selections);
 }
 
+SurlignageOccurrences * SurlignageOccurrences::PreteActif() const
+{
+    QWidget const * const editeur = monEditeur.PreteWidget();
+    return editeur == nullptr ? nullptr
+                              : editeur->property(kSurligneur).value<SurlignageOccurrences *>();
+}
+
 // Two would each take the highlights and the palette of the other for those of the application.
 void SurlignageOccurrences::PrendsLaPlace()
 {
-    QWidget & editeur = *monEditeur.PreteWidget();
-    if (auto * const autre = editeur.property(kSurligneur).value<SurlignageOccurrences *>())
+    if (SurlignageOccurrences * const autre = PreteActif())
         autre->Retire();
-    editeur.setProperty(kSurligneur, QVariant::fromValue(this));
+    monEditeur.PreteWidget()->setProperty(kSurligneur, QVariant::fromValue(this));
 }
 
 void SurlignageOccurrences::ColoreSelection()
 {
     QWidget & editeur = *monEditeur.PreteWidget();
-    // An editor without a palette of its own goes on following that of the application.
-    maPalette = editeur.testAttribute(Qt::WA_SetPalette) ? editeur.palette() : QPalette();
+    maPalette = editeur.palette();
     QPalette palette = maPalette;
-    palette.setColor(QPalette::Inactive, QPalette::Highlight, QColor(kFondCourante));
-    palette.setColor(QPalette::Inactive, QPalette::HighlightedText, QColor(kTexteCourante));
+    palette.setBrush(QPalette::Inactive, QPalette::Highlight, QColor(kFondCourante));
+    palette.setBrush(QPalette::Inactive, QPalette::HighlightedText, QColor(kTexteCourante));
+    editeur.setPalette(palette);
+}
+
+// Nothing but what is ours: the application may have given the editor another palette meanwhile.
+void SurlignageOccurrences::RendsSelection()
+{
+    QWidget & editeur = *monEditeur.PreteWidget();
+    QPalette palette = editeur.palette();
+    for (auto const & [role, couleur] : {std::pair(QPalette::Highlight, kFondCourante),
+                                         std::pair(QPalette::HighlightedText, kTexteCourante)}) {
+        if (palette.brush(QPalette::Inactive, role) != QBrush(QColor(couleur)))
+            continue;
+        // What was not the editor's own follows that of the application again. A palette of its own
+        // has a mask of what it sets, which goes when nothing is left.
+        QPalette celuiCi;
+        celuiCi.setBrush(QPalette::Inactive, role, QColor(couleur));
+        palette.setBrush(QPalette::Inactive, role, maPalette.brush(QPalette::Inactive, role));
+        if (!maPalette.isBrushSet(QPalette::Inactive, role))
+            palette.setResolveMask(palette.resolveMask() & ~celuiCi.resolveMask());
+    }
     editeur.setPalette(palette);
 }

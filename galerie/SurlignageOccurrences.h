@@ -29,6 +29,8 @@ public:
     /// their text, until the next call.
     void Montre(OccurrencesTexte const & occurrences);
     void Retire();
+    /// Another one highlights in the editor.
+    bool EstEvincay() const;
 
     bool eventFilter(QObject * objet, QEvent * evenement) override;
 
@@ -36,8 +38,10 @@ private:
     EditeurCherchable::Selections DonneSelectionsDesAutres() const;
     bool EstPerimay() const;
     void Renouvelle();
+    SurlignageOccurrences * PreteActif() const;
     void PrendsLaPlace();
     void ColoreSelection();
+    void RendsSelection();
 
     EditeurCherchable & monEditeur;
     OccurrencesTexte mesOccurrences;
@@ -46,5 +50,5 @@ private:
     int maRevision = 0;                  // of that document
     OccurrencesTexte::Plage maPlage;     // what was visible at the last renewal
     qsizetype mesSurlignees = 0;         // and how many were highlighted
-    QPalette maPalette;                  // the editor's own, while `jeMontre`
+    QPalette maPalette;                  // the editor's before `jeMontre`
 };

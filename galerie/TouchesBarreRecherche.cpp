@@ -5,6 +5,7 @@
 
 #include <QKeyEvent>
 #include <QLineEdit>
+#include <QPointer>
 
 #include <utility>
 
@@ -49,7 +50,11 @@ bool TouchesBarreRecherche::FiltreRelachement(QObject const * objet, QKeyEvent c
     if (evenement.isAutoRepeat() || !std::exchange(monAppuiEstVu, false))
         return true;
     if (qobject_cast<QLineEdit const *>(objet) != nullptr)
-        return false;            // the bar closes itself
-    maBarre.PriseBoutonFermer(); // last: who hears of it may delete this object
+        return false; // the bar closes itself
+    // As it does there. Who hears of it may delete the bar and this object.
+    QPointer<BarreRecherche> const barre(&maBarre);
+    barre->CacheToi();
+    if (barre != nullptr)
+        Q_EMIT barre->SignalBarreRechercheFermay();
     return true;
 }

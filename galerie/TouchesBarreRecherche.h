@@ -10,9 +10,10 @@ class QKeyEvent;
 /// Return and Enter press no default button.
 ///
 /// The bar itself closes when Escape is released in one of its fields. This object has it close
-/// from its buttons too, and from nowhere when the press was not in the bar: that one has closed a
-/// menu, a list or another window. Nor does a key that is held down close the bar before it is
-/// released: its next press would be in the dialog.
+/// from its buttons too, in the same way: a replacement that is under way goes on. The bar
+/// stays when the press was not in it: that one has closed a menu, a list or another window. Nor
+/// does a key that is held down close the bar before it is released: its next press would be in the
+/// dialog.
 class TouchesBarreRecherche : public QObject
 {
     Q_OBJECT

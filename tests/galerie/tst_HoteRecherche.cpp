@@ -46,6 +46,9 @@ private Q_SLOTS:
     void touches();
     void ouvrirAvecLaSelection_data();
     void ouvrirAvecLaSelection();
+    void deuxHotes();
+    void deuxHotesMontray();
+    void deuxHotesCachay();
 
 private:
     FenetreRecherche & Ouvre(QString const & texte, bool riche = false);
@@ -419,7 +422,7 @@ void tst_HoteRecherche::nettoyer()
     QCOMPARE(fenetre.DonneSelection(), u"0-2"_s);
     QTextCursor(&fenetre.PreteDocument()).insertText(u"ab"_s);
     QSignalSpy espion(fenetre.hote, &HoteRecherche::SignalTrouvay);
-    QVERIFY(espion.wait(1000)); // the edit has been followed
+    QTRY_VERIFY(!espion.isEmpty()); // the edit has been followed
     QCOMPARE(fenetre.DonneSurlignees(), QString());
     QCOMPARE(fenetre.DonneCompteur(), QString());
 }
@@ -495,6 +498,86 @@ void tst_HoteRecherche::ouvrirAvecLaSelection()
     fenetre.hote->PriseOuvrir();
     QTEST(fenetre.PreteChamp().text(), "champ");
     QCOMPARE(fenetre.DonneSelection(), u"0-%1"_s.arg(fin));
+}
+
+namespace {
+
+// Another bar and its host in the same plain text editor.
+struct SecondHote
+{
+    explicit SecondHote(FenetreRecherche & fenetre)
+        : barre(new BarreComptay(nullptr, true, true, true, true))
+        , hote(new HoteRecherche(dynamic_cast<QPlainTextEdit &>(*fenetre.editeur->PreteWidget()),
+                                 *barre, &fenetre))
+    {
+        fenetre.layout()->addWidget(barre);
+    }
+
+    QString DonneCompteur() const
+    {
+        return barre->findChild<QLabel *>(QString(), Qt::FindDirectChildrenOnly)->text();
+    }
+
+    BarreComptay * barre;
+    HoteRecherche * hote;
+};
+
+} // namespace
+
+// The caret that a search moves has the other one count anew, which takes no highlights away.
+void tst_HoteRecherche::deuxHotes()
+{
+    FenetreRecherche & fenetre = Ouvre(u"ab cd ab cd"_s);
+    fenetre.Tape(u"ab"_s);
+    SecondHote const second(fenetre);
+    second.barre->AfficheToi(CstRecherche::kNouvelleRecherche, u"cd"_s);
+    QCOMPARE(fenetre.DonneSelection(), u"3-5"_s);
+    QCOMPARE(fenetre.DonneSurlignees(), u"3-5 9-11"_s);
+    QTRY_COMPARE(fenetre.DonneCompteur(), u"0/2"_s); // the first one has followed
+    QCOMPARE(fenetre.DonneSurlignees(), u"3-5 9-11"_s);
+    fenetre.barre->ChercherSuivant();
+    QCOMPARE(fenetre.DonneSurlignees(), u"0-2 6-8"_s);
+    QTRY_COMPARE(second.DonneCompteur(), u"0/2"_s);
+    QCOMPARE(fenetre.DonneSurlignees(), u"0-2 6-8"_s);
+    second.barre->ChercherSuivant();
+    QTRY_COMPARE(fenetre.DonneCompteur(), u"0/2"_s);
+    QCOMPARE(fenetre.DonneSurlignees(), u"3-5 9-11"_s);
+    QSignalSpy premierSuit(fenetre.hote, &HoteRecherche::SignalTrouvay);
+    QSignalSpy secondSuit(second.hote, &HoteRecherche::SignalTrouvay);
+    QTextCursor(&fenetre.PreteDocument()).insertText(u"ab "_s);
+    QTRY_COMPARE(premierSuit.size(), 1);
+    QTRY_COMPARE(secondSuit.size(), 1);
+    QCOMPARE(fenetre.DonneSurlignees(), u"6-8 12-14"_s);
+}
+
+void tst_HoteRecherche::deuxHotesMontray()
+{
+    FenetreRecherche & fenetre = Ouvre(u"ab cd"_s);
+    SecondHote const second(fenetre);
+    second.barre->AfficheToi(CstRecherche::kNouvelleRecherche, u"cd"_s);
+    second.barre->hide();
+    fenetre.Tape(u"ab"_s);
+    QCOMPARE(fenetre.DonneSurlignees(), u"0-2"_s);
+    fenetre.MetsCurseur(1, 1); // to be followed behind
+    second.barre->show();
+    QTRY_COMPARE(fenetre.DonneSurlignees(), u"3-5"_s);
+    QTRY_COMPARE(fenetre.DonneCompteur(), u"0/1"_s);
+    QCOMPARE(fenetre.DonneSurlignees(), u"3-5"_s);
+}
+
+// The place is free: whoever follows takes it.
+void tst_HoteRecherche::deuxHotesCachay()
+{
+    FenetreRecherche & fenetre = Ouvre(u"ab cd"_s);
+    fenetre.Tape(u"ab"_s);
+    SecondHote const second(fenetre);
+    second.barre->AfficheToi(CstRecherche::kNouvelleRecherche, u"cd"_s);
+    QTRY_COMPARE(fenetre.DonneCompteur(), u"0/1"_s);
+    second.barre->CacheToi();
+    fenetre.MetsCurseur(1, 1);
+    QTRY_COMPARE(fenetre.DonneSurlignees(), u"0-2"_s);
+    second.barre->ChercherSuivant(); // not seen
+    QCOMPARE(fenetre.DonneSurlignees(), u"0-2"_s);
 }
 
 QTEST_MAIN(tst_HoteRecherche)

@@ -3,6 +3,8 @@
 
 #include "dialogs/DDialogueProgressionInfinie.h"
 
+#include "noyau/Traductions.h"
+
 #include <QSignalSpy>
 
 using namespace Qt::StringLiterals;
@@ -12,6 +14,7 @@ class tst_HoteRechercheRemplacement : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
+    void init();
     void cleanup();
 
     void remplacer_data() { AjouteEditeurs(); }
@@ -28,8 +31,13 @@ private Q_SLOTS:
     void toutEnTranches();
     void annuler_data();
     void annuler();
+    void echapContinue_data();
     void echapContinue();
     void frappePendant();
+    void curseurPendant_data() { AjouteEditeurs(); }
+    void curseurPendant();
+    void departApresTout_data() { AjouteEditeurs(); }
+    void departApresTout();
     void gestesPendant();
     void autreDocumentPendant();
     void lectureSeule_data() { AjouteEditeurs(); }
@@ -45,6 +53,11 @@ private:
 
     std::unique_ptr<FenetreRecherche> maFenetre;
 };
+
+void tst_HoteRechercheRemplacement::init()
+{
+    Traductions::MetsLanguePourApplicationCourante(kLangueFrancais);
+}
 
 void tst_HoteRechercheRemplacement::cleanup()
 {
@@ -247,15 +260,29 @@ void tst_HoteRechercheRemplacement::annuler()
     QCOMPARE(fenetre.barre->isVisible(), bouton == u"Annuler"_s);
 }
 
+void tst_HoteRechercheRemplacement::echapContinue_data()
+{
+    QTest::addColumn<QString>("bouton");
+    QTest::newRow("in the search field") << QString();
+    QTest::newRow("on the cancel button") << u"Annuler"_s;
+    QTest::newRow("on the close button") << u"Fermer la barre de recherche"_s;
+}
+
 // Escape only closes the bar: the replacement ends behind it.
 void tst_HoteRechercheRemplacement::echapContinue()
 {
+    QFETCH(QString, bouton);
     FenetreRecherche & fenetre = OuvreLong();
     QSignalSpy fini(fenetre.hote, &HoteRecherche::SignalRemplacementFini);
+    QSignalSpy ferme(fenetre.barre, &BarreRecherche::SignalBarreRechercheFermay);
     ToutRemplacer();
-    fenetre.PreteChamp().setFocus();
-    QTest::keyClick(&fenetre.PreteChamp(), Qt::Key_Escape);
+    QWidget * foyer = &fenetre.PreteChamp();
+    if (!bouton.isEmpty())
+        foyer = &fenetre.PreteBouton(bouton);
+    foyer->setFocus();
+    QTest::keyClick(foyer, Qt::Key_Escape);
     QVERIFY(!fenetre.barre->isVisible());
+    QCOMPARE(ferme.size(), 1);
     QVERIFY(fenetre.hote->EstEnTrainDeRemplacer());
     QTRY_COMPARE(fini.size(), 1);
     QCOMPARE(fenetre.DonneTexte(), Long(kNombre));
@@ -274,6 +301,36 @@ void tst_HoteRechercheRemplacement::frappePendant()
     QTRY_COMPARE(fini.size(), 1);
     QCOMPARE(fenetre.DonneTexte(), Long(kNombre));
     QCOMPARE(fenetre.DonneCompteur(), u"0/127"_s);
+}
+
+// Where the user puts the caret meanwhile, what is typed behind the end is searched for.
+void tst_HoteRechercheRemplacement::curseurPendant()
+{
+    QFETCH(bool, riche);
+    FenetreRecherche & fenetre = OuvreLong(riche);
+    QSignalSpy fini(fenetre.hote, &HoteRecherche::SignalRemplacementFini);
+    ToutRemplacer();
+    int const finDeLAvantDerniere = fenetre.PreteDocument().characterCount() - 6;
+    fenetre.MetsCurseur(finDeLAvantDerniere, finDeLAvantDerniere);
+    QVERIFY(fenetre.hote->EstEnTrainDeRemplacer());
+    QTRY_COMPARE(fini.size(), 1);
+    QCOMPARE(fini.at(0).at(0).toInt(), kNombre);
+    fenetre.Tape(u"mot"_s);
+    QCOMPARE(fenetre.DonneCompteur(), u"127/127"_s);
+}
+
+// The caret that moves with the text that is replaced is not the user's.
+void tst_HoteRechercheRemplacement::departApresTout()
+{
+    QFETCH(bool, riche);
+    FenetreRecherche & fenetre = Ouvre(u"a ab a"_s, riche);
+    fenetre.Tape(u"ab"_s);
+    QCOMPARE(fenetre.DonneSelection(), u"2-4"_s);
+    fenetre.Remplacement(u"xyz"_s);
+    ToutRemplacer();
+    QCOMPARE(fenetre.DonneTexte(), u"a xyz a"_s);
+    QTest::keyClick(&fenetre.PreteChamp(), Qt::Key_Backspace);
+    QCOMPARE(fenetre.DonneSelection(), u"0-1"_s);
 }
 
 void tst_HoteRechercheRemplacement::gestesPendant()

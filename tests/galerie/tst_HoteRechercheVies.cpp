@@ -1,6 +1,10 @@
 // tests/galerie/tst_HoteRechercheVies.cpp
 #include "FenetreRecherche.h"
 
+#include "dialogs/DDialogueProgressionInfinie.h"
+
+#include "noyau/Traductions.h"
+
 #include <QSignalSpy>
 
 using namespace Qt::StringLiterals;
@@ -11,6 +15,7 @@ class tst_HoteRechercheVies : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
+    void init();
     void cleanup();
 
     void hoteDabord_data() { AjouteMoments(); }
@@ -30,10 +35,15 @@ private Q_SLOTS:
 
 private:
     static void AjouteMoments();
-    FenetreRecherche & Prepare(bool riche, bool pendant);
+    void Prepare(bool riche, bool pendant);
 
     std::unique_ptr<FenetreRecherche> maFenetre;
 };
+
+void tst_HoteRechercheVies::init()
+{
+    Traductions::MetsLanguePourApplicationCourante(kLangueFrancais);
+}
 
 void tst_HoteRechercheVies::cleanup()
 {
@@ -51,7 +61,7 @@ void tst_HoteRechercheVies::AjouteMoments()
     QTest::newRow("plain, while everything is replaced") << false << true;
 }
 
-FenetreRecherche & tst_HoteRechercheVies::Prepare(bool riche, bool pendant)
+void tst_HoteRechercheVies::Prepare(bool riche, bool pendant)
 {
     maFenetre = std::make_unique<FenetreRecherche>(riche);
     FenetreRecherche & fenetre = *maFenetre;
@@ -61,16 +71,17 @@ FenetreRecherche & tst_HoteRechercheVies::Prepare(bool riche, bool pendant)
     if (pendant) {
         fenetre.Remplacement(u"remots"_s);
         fenetre.PreteBouton(u"Tout"_s).click();
-        QCoreApplication::processEvents(); // a slice or more, and the window
+        QTRY_VERIFY(fenetre.findChild<DDialogueProgressionInfinie *>() != nullptr);
+        QVERIFY(fenetre.hote->EstEnTrainDeRemplacer());
     }
-    return fenetre;
 }
 
 void tst_HoteRechercheVies::hoteDabord()
 {
     QFETCH(bool, riche);
     QFETCH(bool, pendant);
-    FenetreRecherche & fenetre = Prepare(riche, pendant);
+    Prepare(riche, pendant);
+    FenetreRecherche & fenetre = *maFenetre;
     delete fenetre.hote;
     QCOMPARE(fenetre.DonneSurlignees(), QString());
     QCOMPARE(fenetre.DonneCompteur(), QString());
@@ -88,7 +99,8 @@ void tst_HoteRechercheVies::editeurDabord()
 {
     QFETCH(bool, riche);
     QFETCH(bool, pendant);
-    FenetreRecherche & fenetre = Prepare(riche, pendant);
+    Prepare(riche, pendant);
+    FenetreRecherche & fenetre = *maFenetre;
     delete fenetre.editeur->PreteWidget();
     QCOMPARE(fenetre.DonneCompteur(), QString());
     fenetre.Tape(u"x"_s);
@@ -109,7 +121,8 @@ void tst_HoteRechercheVies::frontalDabord()
 {
     QFETCH(bool, riche);
     QFETCH(bool, pendant);
-    FenetreRecherche & fenetre = Prepare(riche, pendant);
+    Prepare(riche, pendant);
+    FenetreRecherche & fenetre = *maFenetre;
     delete fenetre.barre;
     QCOMPARE(fenetre.DonneSurlignees(), QString());
     fenetre.hote->PriseOuvrir();
@@ -145,7 +158,8 @@ void tst_HoteRechercheVies::hoteEnfant_data()
 void tst_HoteRechercheVies::hoteEnfant()
 {
     QFETCH(bool, deLEditeur);
-    FenetreRecherche & fenetre = Prepare(true, true);
+    Prepare(true, true);
+    FenetreRecherche & fenetre = *maFenetre;
     QPointer<HoteRecherche> const hote(fenetre.hote);
     QWidget * parent = fenetre.barre;
     if (deLEditeur)
@@ -167,7 +181,8 @@ void tst_HoteRechercheVies::detruitParCeluiQuiEcoute_data()
 void tst_HoteRechercheVies::detruitParCeluiQuiEcoute()
 {
     QFETCH(bool, tout);
-    FenetreRecherche & fenetre = Prepare(true, false);
+    Prepare(true, false);
+    FenetreRecherche & fenetre = *maFenetre;
     fenetre.Remplacement(u"x"_s);
     connect(&fenetre.PreteDocument(), &QTextDocument::contentsChanged, fenetre.hote,
             [hote = fenetre.hote] { delete hote; });
@@ -188,7 +203,8 @@ void tst_HoteRechercheVies::detruitParCeQuEstTrouvay_data()
 void tst_HoteRechercheVies::detruitParCeQuEstTrouvay()
 {
     QFETCH(bool, hote);
-    FenetreRecherche & fenetre = Prepare(true, false);
+    Prepare(true, false);
+    FenetreRecherche & fenetre = *maFenetre;
     fenetre.Tape(u"x"_s);
     QPointer<QObject> const victime =
         hote ? static_cast<QObject *>(fenetre.hote) : fenetre.editeur->PreteWidget();

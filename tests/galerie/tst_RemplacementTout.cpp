@@ -36,6 +36,8 @@ private Q_SLOTS:
     void annule();
     void fenetre();
     void fenetreAnnule();
+    void fenetreSuitLaSienne();
+    void fenetreDUneFenetreCachay();
     void pasDeFenetre();
     void modifiayParUnAutre_data();
     void modifiayParUnAutre();
@@ -155,17 +157,16 @@ void tst_RemplacementTout::enTranches()
 {
     QFETCH(bool, riche);
     RemplacementTout & remplacement = PrepareLong(riche);
-    QSignalSpy avancement(&remplacement, &RemplacementTout::SignalAvancement);
+    QSignalSpy tranches(monEditeur->PreteDocument(), &QTextDocument::contentsChanged);
     QSignalSpy fini(&remplacement, &RemplacementTout::SignalFini);
     QVERIFY(remplacement.Demarre());
     constexpr int kTranche = RemplacementTout::kRemplacementsParMesure;
-    QCOMPARE(avancement.size(), 1);
-    QCOMPARE(avancement.at(0).at(0).toInt(), kTranche);
-    QCOMPARE(avancement.at(0).at(1).toInt(), kNombre);
+    QCOMPARE(tranches.size(), 1);
+    QCOMPARE(remplacement.DonneNombreRemplacees(), kTranche);
     QCOMPARE(monEditeur->PreteDocument()->toPlainText(), Long(u"mot"_s, kTranche));
     QTRY_COMPARE(fini.size(), 1);
     QCOMPARE(fini.at(0).at(0).toInt(), kNombre);
-    QCOMPARE(avancement.size(), 4);
+    QCOMPARE(tranches.size(), 4);
     QCOMPARE(monEditeur->PreteDocument()->toPlainText(), Long(u"mot"_s, kNombre));
 }
 
@@ -243,7 +244,7 @@ void tst_RemplacementTout::annule()
     RemplacementTout & remplacement = PrepareLong(riche);
     QSignalSpy fini(&remplacement, &RemplacementTout::SignalFini);
     QVERIFY(remplacement.Demarre());
-    connect(&remplacement, &RemplacementTout::SignalAvancement, &remplacement,
+    connect(monEditeur->PreteDocument(), &QTextDocument::contentsChanged, &remplacement,
             &RemplacementTout::PriseAnnuler);
     QTRY_COMPARE(fini.size(), 1);
     remplacement.PriseAnnuler();
@@ -267,7 +268,8 @@ void tst_RemplacementTout::fenetre()
     remplacement.MetsDelaiFenetre(0);
     QStringList textes;
     DDialogueProgressionInfinie * fenetre = nullptr;
-    connect(&remplacement, &RemplacementTout::SignalAvancement, this, [&] {
+    // The window tells of the slice before.
+    connect(monEditeur->PreteDocument(), &QTextDocument::contentsChanged, this, [&] {
         fenetre = monWidget->findChild<DDialogueProgressionInfinie *>();
         textes += fenetre == nullptr ? QString() : fenetre->accessibleDescription();
         if (fenetre != nullptr)
@@ -276,8 +278,8 @@ void tst_RemplacementTout::fenetre()
     QVERIFY(remplacement.Demarre());
     QTRY_COMPARE(remplacement.DonneNombreRemplacees(), kNombre);
     QVERIFY(fenetre != nullptr);
-    QCOMPARE(textes.at(0), QString());
-    QCOMPARE(textes.at(3), u"127 sur 127"_s);
+    QStringList const attendus{QString(), u"32 sur 127"_s, u"64 sur 127"_s, u"96 sur 127"_s};
+    QCOMPARE(textes, attendus);
     QTRY_VERIFY(monWidget->findChild<DDialogueProgressionInfinie *>() == nullptr);
 }
 
@@ -287,7 +289,7 @@ void tst_RemplacementTout::fenetreAnnule()
     monWidget->show();
     remplacement.MetsDelaiFenetre(0);
     QSignalSpy fini(&remplacement, &RemplacementTout::SignalFini);
-    connect(&remplacement, &RemplacementTout::SignalAvancement, this, [this] {
+    connect(monEditeur->PreteDocument(), &QTextDocument::contentsChanged, this, [this] {
         if (auto const * const bouton = monWidget->findChild<QPushButton *>())
             const_cast<QPushButton *>(bouton)->click();
     });
@@ -299,6 +301,45 @@ void tst_RemplacementTout::fenetreAnnule()
     QTRY_VERIFY(monWidget->findChild<DDialogueProgressionInfinie *>() == nullptr);
 }
 
+void tst_RemplacementTout::fenetreSuitLaSienne()
+{
+    RemplacementTout & remplacement = PrepareLong();
+    monWidget->show();
+    remplacement.MetsDelaiFenetre(0);
+    QSignalSpy fini(&remplacement, &RemplacementTout::SignalFini);
+    QList<bool> visibles;
+    connect(monEditeur->PreteDocument(), &QTextDocument::contentsChanged, this, [&] {
+        auto const * const fenetre = monWidget->findChild<DDialogueProgressionInfinie *>();
+        if (fenetre == nullptr)
+            return;
+        QCOMPARE(fenetre->windowFlags(), RemplacementTout::kDrapeauxFenetre);
+        QCOMPARE(fenetre->parentWidget(), monWidget.get());
+        QVERIFY(!fenetre->isModal());
+        visibles += fenetre->isVisible();
+        monWidget->setVisible(!monWidget->isVisible());
+        visibles += fenetre->isVisible();
+    });
+    QVERIFY(remplacement.Demarre());
+    QTRY_COMPARE(fini.size(), 1);
+    QCOMPARE(visibles, (QList<bool>{true, false, false, true, true, false}));
+    // It goes in the end although it is hidden.
+    QTRY_VERIFY(monWidget->findChild<DDialogueProgressionInfinie *>() == nullptr);
+}
+
+void tst_RemplacementTout::fenetreDUneFenetreCachay()
+{
+    RemplacementTout & remplacement = PrepareLong();
+    remplacement.MetsDelaiFenetre(0);
+    QSignalSpy fini(&remplacement, &RemplacementTout::SignalFini);
+    connect(monEditeur->PreteDocument(), &QTextDocument::contentsChanged, this, [this] {
+        auto const * const fenetre = monWidget->findChild<DDialogueProgressionInfinie *>();
+        QVERIFY(fenetre == nullptr || !fenetre->isVisible());
+    });
+    QVERIFY(remplacement.Demarre());
+    QTRY_COMPARE(fini.size(), 1);
+    QTRY_VERIFY(monWidget->findChild<DDialogueProgressionInfinie *>() == nullptr);
+}
+
 void tst_RemplacementTout::pasDeFenetre()
 {
     RemplacementTout & remplacement = PrepareLong();
@@ -306,7 +347,7 @@ void tst_RemplacementTout::pasDeFenetre()
     remplacement.MetsDelaiFenetre(60'000);
     QSignalSpy fini(&remplacement, &RemplacementTout::SignalFini);
     QVERIFY(remplacement.Demarre());
-    connect(&remplacement, &RemplacementTout::SignalAvancement, this,
+    connect(monEditeur->PreteDocument(), &QTextDocument::contentsChanged, this,
             [this] { QVERIFY(monWidget->findChild<DDialogueProgressionInfinie *>() == nullptr); });
     QTRY_COMPARE(fini.size(), 1);
 }
@@ -400,12 +441,16 @@ void tst_RemplacementTout::editeurDetruit()
     RemplacementTout & remplacement = PrepareLong();
     monWidget->show();
     remplacement.MetsDelaiFenetre(0);
-    QSignalSpy avancement(&remplacement, &RemplacementTout::SignalAvancement);
+    connect(monEditeur->PreteDocument(), &QTextDocument::contentsChanged, this, [this] {
+        // Before the next slice.
+        if (monWidget->findChild<DDialogueProgressionInfinie *>() != nullptr)
+            monWidget.release()->deleteLater();
+    });
     QSignalSpy fini(&remplacement, &RemplacementTout::SignalFini);
     QVERIFY(remplacement.Demarre());
-    QTRY_VERIFY(avancement.size() >= 2); // the window is there
-    monWidget.reset();
     QTRY_COMPARE(fini.size(), 1);
+    QVERIFY(monWidget == nullptr);
+    QVERIFY(remplacement.DonneNombreRemplacees() < kNombre);
 }
 
 void tst_RemplacementTout::detruit_data()

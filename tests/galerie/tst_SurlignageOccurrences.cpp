@@ -33,6 +33,8 @@ private Q_SLOTS:
     void suitLeTexte();
     void palette_data();
     void palette();
+    void themeChangeay_data();
+    void themeChangeay();
     void lisible_data();
     void lisible();
     void documentMort_data() { AjouteEditeurs(); }
@@ -256,6 +258,49 @@ void tst_SurlignageOccurrences::palette()
     monSurlignage->Retire();
     QCOMPARE(monWidget->palette(), avant);
     QCOMPARE(monWidget->testAttribute(Qt::WA_SetPalette), propre);
+}
+
+void tst_SurlignageOccurrences::themeChangeay_data()
+{
+    QTest::addColumn<bool>("propre");
+    QTest::addColumn<bool>("deLEditeur");
+    QTest::newRow("none of its own, the application's changes") << false << false;
+    QTest::newRow("one of its own, the application's changes") << true << false;
+    QTest::newRow("none of its own, then given one") << false << true;
+    QTest::newRow("one of its own, then given another") << true << true;
+}
+
+// What comes while matches are shown stays.
+void tst_SurlignageOccurrences::themeChangeay()
+{
+    QFETCH(bool, propre);
+    QFETCH(bool, deLEditeur);
+    Prepare(true, u"mot"_s);
+    QPalette const application = QApplication::palette();
+    auto const rends = qScopeGuard([&] { QApplication::setPalette(application); });
+    if (propre) {
+        QPalette palette;
+        palette.setColor(QPalette::Text, Qt::red);
+        monWidget->setPalette(palette);
+    }
+    Montre();
+    QPalette sombre = deLEditeur ? monWidget->palette() : application;
+    sombre.setColor(QPalette::Base, Qt::black);
+    if (!deLEditeur)
+        sombre.setColor(QPalette::Inactive, QPalette::Highlight, Qt::blue);
+    deLEditeur ? monWidget->setPalette(sombre) : QApplication::setPalette(sombre);
+    QColor const courante = monWidget->palette().color(QPalette::Inactive, QPalette::Highlight);
+    QVERIFY(courante != sombre.color(QPalette::Inactive, QPalette::Highlight) || deLEditeur);
+    monSurlignage->Retire();
+    QPalette const apres = monWidget->palette();
+    QCOMPARE(apres.color(QPalette::Base), QColor(Qt::black));
+    QCOMPARE(apres.color(QPalette::Inactive, QPalette::Highlight),
+             QApplication::palette().color(QPalette::Inactive, QPalette::Highlight));
+    QCOMPARE(apres.color(QPalette::Inactive, QPalette::HighlightedText),
+             QApplication::palette().color(QPalette::Inactive, QPalette::HighlightedText));
+    QCOMPARE(apres.color(QPalette::Text) == QColor(Qt::red), propre);
+    QCOMPARE(monWidget->testAttribute(Qt::WA_SetPalette), propre || deLEditeur);
+    QVERIFY(!apres.isBrushSet(QPalette::Inactive, QPalette::Highlight));
 }
 
 namespace {

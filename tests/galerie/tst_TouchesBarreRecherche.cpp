@@ -39,6 +39,8 @@ private Q_SLOTS:
     void foyerRendu_data();
     void foyerRendu();
     void foyerAilleurs();
+    void detruitALaFermeture_data();
+    void detruitALaFermeture();
     void sansHote();
 
 private:
@@ -285,6 +287,30 @@ void tst_TouchesBarreRecherche::foyerAilleurs()
     autre->setFocus();
     maFenetre->barre->CacheToi();
     QVERIFY(autre->hasFocus());
+}
+
+void tst_TouchesBarreRecherche::detruitALaFermeture_data()
+{
+    QTest::addColumn<bool>("barre");
+    QTest::newRow("host") << false;
+    QTest::newRow("bar, a little later") << true;
+}
+
+void tst_TouchesBarreRecherche::detruitALaFermeture()
+{
+    QFETCH(bool, barre);
+    BarreRecherche * const laBarre = maFenetre->barre;
+    if (barre)
+        connect(laBarre, &BarreRecherche::SignalFermeture, laBarre, &QObject::deleteLater);
+    else
+        connect(laBarre, &BarreRecherche::SignalFermeture, this,
+                [hote = maFenetre->hote] { delete hote; });
+    QSignalSpy ferme(laBarre, &BarreRecherche::SignalBarreRechercheFermay);
+    QWidget & bouton = maFenetre->PreteBouton(u"Options"_s);
+    bouton.setFocus();
+    QTest::keyClick(&bouton, Qt::Key_Escape);
+    QCOMPARE(ferme.size(), 1);
+    QVERIFY(monDialogue->isVisible());
 }
 
 // The duty ends with the host.

@@ -57,8 +57,8 @@ HoteRecherche::HoteRecherche(std::unique_ptr<EditeurCherchable> editeur,
 HoteRecherche::~HoteRecherche()
 {
     bool const remplacait = EstEnTrainDeRemplacer();
-    delete std::exchange(monRemplacement,
-                         nullptr); // gives the editor back, which it reaches through this object
+    // First, for it gives the editor back, which it reaches through this object.
+    delete std::exchange(monRemplacement, nullptr);
     WidgetRechercheAbstrait * const frontal = PreteFrontal();
     if (frontal == nullptr)
         return;

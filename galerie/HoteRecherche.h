@@ -47,10 +47,9 @@ class WidgetRechercheAbstrait;
 /// texts of RemplacementTout.cpp come from `TraductionGalerie`: put your own.
 ///
 /// Editor, front end and host may die in any order; but who hears of the editor's caret deletes the
-/// host with `deleteLater`. The front end must be a widget itself, as those
-/// of the library are, and has no other host. An editor may have several, each with a front end of
-/// its own: the one that has searched last highlights, or whose
-/// front end was shown last. GUI thread only.
+/// host with `deleteLater`. The front end must be a widget itself, as those of the library are, and
+/// has no other host. An editor may have several, each with a front end of its own: the one that
+/// has searched last highlights, or whose front end was shown last. GUI thread only.
 class HoteRecherche : public QObject, public UtilisateurWidgetRecherche
 {
     Q_OBJECT

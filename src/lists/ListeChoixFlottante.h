@@ -24,8 +24,8 @@ class VueDesChoix;
 /// and the list sizes itself to them and appears under the linked widget. Down, Up, Return and
 /// Enter in the linked widget drive the list, Escape closes it, and the mouse moves the current
 /// row. Without a current row Return takes the first that the automatic choice accepts, the Enter
-/// of the keypad nothing. What the user chose comes as clones in `SignalSelectionListeChoix`; the list does not hide
-/// itself then, the host does, with `CacheToi`.
+/// of the keypad nothing. What the user chose comes as clones in `SignalSelectionListeChoix`; the
+/// list does not hide itself then, the host does, with `CacheToi`.
 ///
 /// The list hides when the linked widget hides or dies, so also when its window does or is
 /// minimised, and waits for the next proposals. It follows a window that moves only as far as the

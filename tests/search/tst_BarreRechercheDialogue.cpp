@@ -26,14 +26,14 @@ public:
 
     bool eventFilter(QObject * objet, QEvent * evenement) override
     {
-        auto * const touche = static_cast<QKeyEvent *>(evenement);
-        if (evenement->type() == QEvent::KeyRelease)
-            return touche->key() == Qt::Key_Escape && touche->isAutoRepeat();
-        if (evenement->type() != QEvent::KeyPress ||
-            qobject_cast<BarreRecherche *>(objet) == nullptr)
+        if (evenement->type() != QEvent::KeyPress && evenement->type() != QEvent::KeyRelease)
             return false;
-        if (touche->key() != Qt::Key_Escape && touche->key() != Qt::Key_Return &&
-            touche->key() != Qt::Key_Enter)
+        auto const & touche = *static_cast<QKeyEvent *>(evenement);
+        bool const estEchap = touche.key() == Qt::Key_Escape;
+        if (evenement->type() == QEvent::KeyRelease)
+            return estEchap && touche.isAutoRepeat();
+        bool const estEntree = touche.key() == Qt::Key_Return || touche.key() == Qt::Key_Enter;
+        if (qobject_cast<BarreRecherche *>(objet) == nullptr || (!estEchap && !estEntree))
             return false;
         evenement->accept();
         return true;

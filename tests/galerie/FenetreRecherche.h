@@ -29,6 +29,20 @@ public:
     mutable int messages = 0;
 };
 
+/// Makes an editor of either kind, which `widget` owns, and the face that both have.
+inline std::unique_ptr<EditeurCherchable> CreeEditeur(bool riche,
+                                                      std::unique_ptr<QAbstractScrollArea> & widget)
+{
+    if (riche) {
+        auto * const editeur = new QTextEdit;
+        widget.reset(editeur);
+        return EditeurCherchable::Fais(*editeur);
+    }
+    auto * const editeur = new QPlainTextEdit;
+    widget.reset(editeur);
+    return EditeurCherchable::Fais(*editeur);
+}
+
 /// A window with an editor of either kind, a search bar that offers all, and their host.
 class FenetreRecherche : public QWidget
 {

@@ -79,15 +79,7 @@ void tst_RemplacementTout::cleanup()
 RemplacementTout & tst_RemplacementTout::Prepare(QString const & texte, QString const & motif,
                                                  QString const & remplacement, bool riche)
 {
-    if (riche) {
-        auto editeur = std::make_unique<QTextEdit>();
-        monEditeur = EditeurCherchable::Fais(*editeur);
-        monWidget = std::move(editeur);
-    } else {
-        auto editeur = std::make_unique<QPlainTextEdit>();
-        monEditeur = EditeurCherchable::Fais(*editeur);
-        monWidget = std::move(editeur);
-    }
+    monEditeur = CreeEditeur(riche, monWidget);
     monEditeur->PreteDocument()->setPlainText(texte);
     OccurrencesTexte const occurrences(texte, QRegularExpression(motif));
     monRemplacement = std::make_unique<RemplacementTout>(*monEditeur, occurrences, remplacement);

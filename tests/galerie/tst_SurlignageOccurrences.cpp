@@ -66,15 +66,7 @@ void tst_SurlignageOccurrences::cleanup()
 
 void tst_SurlignageOccurrences::Prepare(bool riche, QString const & texte)
 {
-    if (riche) {
-        auto editeur = std::make_unique<QTextEdit>();
-        monEditeur = EditeurCherchable::Fais(*editeur);
-        monWidget = std::move(editeur);
-    } else {
-        auto editeur = std::make_unique<QPlainTextEdit>();
-        monEditeur = EditeurCherchable::Fais(*editeur);
-        monWidget = std::move(editeur);
-    }
+    monEditeur = CreeEditeur(riche, monWidget);
     monEditeur->PreteDocument()->setPlainText(texte);
     monEditeur->MetsCurseur(QTextCursor(monEditeur->PreteDocument()));
     monSurlignage = std::make_unique<SurlignageOccurrences>(*monEditeur);

@@ -83,6 +83,18 @@ void tst_WidgetRechercheAbstraitOuverture::ouvertureSansHote()
     QTEST(frontal.journal, "appels");
 }
 
+// All six fields are those that `Prepare` left, the host included.
+static void VerifieCopie(FrontalEspion & copie, HoteEspion const & hote)
+{
+    QVERIFY(copie.DonnePermetRemplacer());
+    QCOMPARE(copie.DonneChaineRecherche(), u"ancienne"_s);
+    QCOMPARE(copie.DonneChaineRemplacement(), u"ancien remplacement"_s);
+    QCOMPARE(copie.DonneOptions(), short(0x40));
+    QCOMPARE(copie.DonneSensRecherche(), CstRecherche::kVersLeHaut);
+    copie.BoutonAnnulerRemplacerTout();
+    QCOMPARE(hote.DonneNoms(), QStringList{u"AnnulerRemplacerTout"_s});
+}
+
 void tst_WidgetRechercheAbstraitOuverture::copieGardeLHote()
 {
     FrontalEspion frontal(true);
@@ -91,13 +103,7 @@ void tst_WidgetRechercheAbstraitOuverture::copieGardeLHote()
 
     FrontalEspion copie(frontal);
 
-    QVERIFY(copie.DonnePermetRemplacer());
-    QCOMPARE(copie.DonneChaineRecherche(), u"ancienne"_s);
-    QCOMPARE(copie.DonneChaineRemplacement(), u"ancien remplacement"_s);
-    QCOMPARE(copie.DonneOptions(), short(0x40));
-    QCOMPARE(copie.DonneSensRecherche(), CstRecherche::kVersLeHaut);
-    copie.BoutonAnnulerRemplacerTout();
-    QCOMPARE(hote.DonneNoms(), QStringList{u"AnnulerRemplacerTout"_s});
+    VerifieCopie(copie, hote);
 }
 
 void tst_WidgetRechercheAbstraitOuverture::affectationGardeLHote()
@@ -109,13 +115,7 @@ void tst_WidgetRechercheAbstraitOuverture::affectationGardeLHote()
 
     autre = frontal;
 
-    QVERIFY(autre.DonnePermetRemplacer());
-    QCOMPARE(autre.DonneChaineRecherche(), u"ancienne"_s);
-    QCOMPARE(autre.DonneChaineRemplacement(), u"ancien remplacement"_s);
-    QCOMPARE(autre.DonneOptions(), short(0x40));
-    QCOMPARE(autre.DonneSensRecherche(), CstRecherche::kVersLeHaut);
-    autre.BoutonAnnulerRemplacerTout();
-    QCOMPARE(hote.DonneNoms(), QStringList{u"AnnulerRemplacerTout"_s});
+    VerifieCopie(autre, hote);
 }
 
 QTEST_MAIN(tst_WidgetRechercheAbstraitOuverture)

@@ -175,12 +175,31 @@ void DFrameChevronnable::PriseAfficheMenu()
 
 void DFrameChevronnable::PriseMiseEnPlace()
 {
+    NommeChevron();
+    RangeChevron();
+}
+
+void DFrameChevronnable::NommeChevron()
+{
     QStringList titres;
     for (IWidgetChevronnable * const widget : DonneMasques(kTitresNommes + 1))
         titres.append(widget->DonneTitre());
     if (titres.size() > kTitresNommes)
         titres.last() = u"…"_s;
     monBoutonChevron->setAccessibleName(titres.join(", "_L1));
+}
+
+void DFrameChevronnable::RangeChevron()
+{
+    if (monBoutonChevron->focusPolicy() == Qt::NoFocus)
+        return;
+    // It was there before the widgets, but the Tab key reaches it where it is seen, behind them.
+    QWidget * dernier = monBoutonChevron;
+    for (QWidget * widget = nextInFocusChain(); widget != this; widget = widget->nextInFocusChain())
+        if (widget->focusPolicy() != Qt::NoFocus && isAncestorOf(widget))
+            dernier = widget;
+    if (dernier != monBoutonChevron)
+        setTabOrder(dernier, monBoutonChevron);
 }
 
 QList<IWidgetChevronnable *> DFrameChevronnable::DonneMasques(int combien) const

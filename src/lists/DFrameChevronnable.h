@@ -68,6 +68,8 @@ private Q_SLOTS:
 
 private:
     void init();
+    void NommeChevron();
+    void RangeChevron();
     QList<IWidgetChevronnable *> DonneMasques(int combien = INT_MAX) const;
     void AjouteEntree(IWidgetChevronnable & widget);
     void JetteEntrees();

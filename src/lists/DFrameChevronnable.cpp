@@ -48,7 +48,7 @@ DFrameChevronnable::~DFrameChevronnable()
 {
     JetteEntrees();
     // A menu that has been open may be the one whose action destroys the frame.
-    if (monMenu && monMenu->internalWinId())
+    if (monMenu && monMenuOuvert)
         monMenu->deleteLater();
     else
         delete monMenu;
@@ -170,6 +170,7 @@ void DFrameChevronnable::resizeEvent(QResizeEvent * evenement)
 
 void DFrameChevronnable::PriseAfficheMenu()
 {
+    monMenuOuvert = true;
     MetAJourMenu();
 }
 

@@ -75,6 +75,7 @@ private:
     void JetteEntrees();
 
     bool monDebordement = false; // some widget is under the chevron
+    bool monMenuOuvert = false;  // now or before
     DBoutonSansFleche * monBoutonChevron = nullptr;
     LayoutHorizontalAvecChevron * monLayout = nullptr;
     QPointer<QMenu> monMenu;

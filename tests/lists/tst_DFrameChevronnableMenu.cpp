@@ -307,13 +307,14 @@ void tst_DFrameChevronnableMenu::milleReconstructions()
     cadre.addWidget(action);
     cadre.addWidget(sousMenu);
     int detruits = 0;
+    QObject const contexte; // the last entries outlive the count
     auto const compte = [&detruits] { ++detruits; };
 
     for (int i = 0; i < 1000; ++i) {
         action->action = new QAction;
         sousMenu->menu = new QMenu;
-        connect(action->action, &QObject::destroyed, this, compte);
-        connect(sousMenu->menu, &QObject::destroyed, this, compte);
+        connect(action->action, &QObject::destroyed, &contexte, compte);
+        connect(sousMenu->menu, &QObject::destroyed, &contexte, compte);
         cadre.MetAJourMenu();
     }
     ViseLesMorts();

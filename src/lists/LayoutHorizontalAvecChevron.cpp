@@ -25,7 +25,7 @@ void Cache(QLayoutItem & item)
     item.setGeometry(QRect());
     QWidget * const widget = item.widget();
     if (widget && !item.isEmpty() && !widget->size().isEmpty())
-        widget->move(-widget->width(), -widget->height());
+        widget->move(-widget->width(), 0);
 }
 
 } // namespace

@@ -264,10 +264,11 @@ void PageChevron::PriseForme(int toutEstVisible)
 
 void PageChevron::PriseMiseEnPlace()
 {
+    int const caches = CompteCaches(*mesOutils);
     monCompte->setText(TraductionPlurielGalerie(
-        TextePlurielGalerie("{1} outil sous le chevron", "{1} outils sous le chevron"),
-        CompteCaches(*mesOutils)));
+        TextePlurielGalerie("{1} outil sous le chevron", "{1} outils sous le chevron"), caches));
     mesOutils->MetAJourMenu();
+    monApercu->setVisible(caches > 0); // an empty menu has no size
     monApercu->Actualise();
 }
 

@@ -4,6 +4,8 @@
 #include "editing/DLineEditJetonable_p.h"
 
 #include <QFontMetrics>
+#include <QTextDocument>
+#include <QTextDocumentFragment>
 
 ChampJetonableAccessible::ChampJetonableAccessible(DLineEditJetonable * champ)
     : QAccessibleWidget(champ, QAccessible::EditableText)
@@ -15,8 +17,13 @@ QString ChampJetonableAccessible::text(QAccessible::Text nature) const
     if (nature == QAccessible::Value)
         return DonneTexteLu();
     QString const texte = QAccessibleWidget::text(nature);
-    bool const decrit = nature == QAccessible::Description && texte.isEmpty();
-    return decrit ? PreteChamp().placeholderText() : texte;
+    if (nature != QAccessible::Description)
+        return texte;
+    if (texte.isEmpty())
+        return PreteChamp().placeholderText();
+    // The tool tip of a token is in tags.
+    return Qt::mightBeRichText(texte) ? QTextDocumentFragment::fromHtml(texte).toPlainText()
+                                      : texte;
 }
 
 void ChampJetonableAccessible::setText(QAccessible::Text nature, QString const & texte)
@@ -102,12 +109,12 @@ QRect ChampJetonableAccessible::characterRect(int position) const
     DLineEditJetonable const & champ = PreteChamp();
     QFontMetrics const mesures(champ.font());
     QString const texte = DonneTexteLu();
-    QRect rect = champ.inputMethodQuery(Qt::ImCursorRectangle).toRect();
-    rect.translate(mesures.horizontalAdvance(texte.left(position)) -
-                       mesures.horizontalAdvance(texte.left(cursorPosition())),
-                   0);
-    rect.setWidth(mesures.horizontalAdvance(lettre));
-    return {champ.mapToGlobal(rect.topLeft()), rect.size()};
+    // The caret is in the middle of this, with room on both sides.
+    QRect const curseur = champ.inputMethodQuery(Qt::ImCursorRectangle).toRect();
+    int const avance = mesures.horizontalAdvance(texte.left(position)) -
+                       mesures.horizontalAdvance(texte.left(cursorPosition()));
+    QPoint const coin(curseur.center().x() + avance, curseur.top());
+    return {champ.mapToGlobal(coin), QSize(mesures.horizontalAdvance(lettre), curseur.height())};
 }
 
 int ChampJetonableAccessible::offsetAtPoint(QPoint const & point) const
@@ -142,10 +149,12 @@ void ChampJetonableAccessible::replaceText(int debut, int fin, QString const & t
     DLineEditJetonable & champ = PreteChamp();
     if (champ.isReadOnly())
         return;
-    if (champ.UnJetonEstActif() && texte.isEmpty())
-        champ.MetsJetonActif(false); // the field is empty then
-    else
+    if (!champ.UnJetonEstActif())
         champ.setText(champ.text().replace(debut, fin - debut, texte));
+    else if (texte.isEmpty())
+        champ.MetsJetonActif(false);
+    else
+        champ.setText(texte);
 }
 
 DLineEditJetonable & ChampJetonableAccessible::PreteChamp() const

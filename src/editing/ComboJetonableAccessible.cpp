@@ -52,10 +52,14 @@ QAccessibleInterface * ComboJetonableAccessible::focusChild() const
 
 QString ComboJetonableAccessible::text(QAccessible::Text nature) const
 {
-    if (nature != QAccessible::Value)
-        return QAccessibleWidget::text(nature);
+    QString const texte = QAccessibleWidget::text(nature);
+    bool const duChamp = nature == QAccessible::Value || nature == QAccessible::Description;
+    if (!duChamp || !texte.isEmpty())
+        return texte;
     QAccessibleInterface const * const champ = child(0);
-    return champ ? champ->text(QAccessible::Value) : PreteCombo().currentText();
+    if (champ)
+        return champ->text(nature);
+    return nature == QAccessible::Value ? PreteCombo().currentText() : QString();
 }
 
 QAccessible::State ComboJetonableAccessible::state() const

@@ -270,14 +270,16 @@ bool DComboJetonable::ActiveIcone()
 // field would lie over the icon, hide it and take its clicks.
 void DComboJetonable::DegageIcone()
 {
-    if (!monAvecIcones)
+    QRect const place = monChamp->geometry();
+    int const bord = DonneRectIcone().left() - kDecalageDessin; // where the icon begins
+    int const trop = place.right() + 1 - bord;
+    if (!monAvecIcones || trop <= 0)
         return;
-    QRect place = monChamp->geometry();
-    int const bord = DonneRectIcone().left() - kDecalageDessin - 1;
-    if (place.right() <= bord)
-        return;
-    place.setRight(std::max(bord, place.left() - 1));
-    monChamp->setGeometry(place);
+    // From right to left the room for the arrow is at the left, and free.
+    bool const versLaDroite = layoutDirection() == Qt::LeftToRight;
+    int const marge = std::min(place.left(), width() - 1 - place.right());
+    int const gauche = versLaDroite ? place.left() : std::max(place.left() - trop, marge);
+    monChamp->setGeometry(gauche, place.top(), std::max(0, bord - gauche), place.height());
 }
 
 void DComboJetonable::DessineIcone(QPainter & peintre)

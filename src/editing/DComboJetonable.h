@@ -19,12 +19,12 @@ class DLineEditJetonable;
 /// No list ever opens. The field asks for one with `SignalShowPopup`, and the host shows what it
 /// has, then calls `PrendsTexteJeton` with the choice. While a token is on the text is empty.
 ///
-/// Any key that reaches the field drops the token, a modifier alone or Ctrl+C too; a letter starts
-/// the free text. So do an input method, what is pasted or dropped, and a text that the host or the
+/// Any key that reaches the field drops the token, an arrow or Ctrl+C too, and a letter starts the
+/// free text. So do an input method, what is pasted or dropped, and a text that the host or the
 /// items of the combo box put into the field; an empty one, such as that of `clearEditText`, does
-/// not, `DesactiveJeton` does. Tab and the like leave the token alone as they move the focus, as do
-/// F4 and Alt+Down, which ask for the pop-up. Escape drops the token and empties the text. Text
-/// that a token or Escape removed comes back with undo.
+/// not, `DesactiveJeton` does. The token stays when a modifier alone is pressed, when a key moves
+/// the focus, and with F4 and Alt+Down, which ask for the pop-up. Escape drops the token and
+/// empties the text. Text that a token or Escape removed comes back with undo.
 ///
 /// With icons, an icon stands in place of the arrow: the normal one while the field is empty, the
 /// delete icon otherwise, unless deletion is turned off. A click there empties the field. Without

@@ -23,6 +23,29 @@ constexpr int kMargeTexte = 2; // logical pixels, as a line edit leaves around i
 constexpr QRgb kCouleurJeton = qRgb(0, 112, 192); // of the text, without the focus
 constexpr QPoint kHorsDuChamp(-1, -1);
 
+// Alone they write nothing, and Shift+Tab, Alt+Down or the change to another window, which all
+// begin with one of them, must not cost anyone the token.
+bool EstModificateur(int touche)
+{
+    switch (touche) {
+    case Qt::Key_Shift:
+    case Qt::Key_Control:
+    case Qt::Key_Meta:
+    case Qt::Key_Alt:
+    case Qt::Key_AltGr:
+    case Qt::Key_Super_L:
+    case Qt::Key_Super_R:
+    case Qt::Key_Hyper_L:
+    case Qt::Key_Hyper_R:
+    case Qt::Key_CapsLock:
+    case Qt::Key_NumLock:
+    case Qt::Key_ScrollLock:
+        return true;
+    default:
+        return false;
+    }
+}
+
 QRect DonneBloc(QFontMetrics const & mesures, QString const & texte, QRect const & zone)
 {
     QRect bloc = mesures.boundingRect(texte);
@@ -98,7 +121,7 @@ bool DLineEditJetonable::event(QEvent * evenement)
         QPointer<DLineEditJetonable> const vivant(this);
         clear();
         if (!vivant) {
-            evenement->accept(); // whoever sent it looks at the field otherwise
+            evenement->accept();
             return true;
         }
     }
@@ -107,12 +130,12 @@ bool DLineEditJetonable::event(QEvent * evenement)
 
 void DLineEditJetonable::keyPressEvent(QKeyEvent * evenement)
 {
-    // Deliberate: any key that comes here ends the token, also a modifier alone or Ctrl+C. Those
-    // with which the focus leaves, and those of the combo box, do not come here.
-    if (TermineJeton())
+    // Deliberate: any key that comes here ends the token, an arrow or Ctrl+C too. Those with which
+    // the focus leaves, and those of the combo box, do not come here.
+    if (EstModificateur(evenement->key()) || TermineJeton())
         QLineEdit::keyPressEvent(evenement);
     else
-        evenement->accept();
+        evenement->accept(); // whoever sent it looks at the field otherwise
 }
 
 void DLineEditJetonable::inputMethodEvent(QInputMethodEvent * evenement)

@@ -52,8 +52,6 @@ void JetonableAccessible::LibereFabrique()
 
 void JetonableAccessible::AnnonceValeur(DLineEditJetonable & champ)
 {
-    if (!QAccessible::isActive())
-        return;
     QString const valeur = champ.UnJetonEstActif() ? champ.DonneTexteJeton() : champ.text();
     Annonce(champ, valeur);
     // The combo box has the focus in the field's place.

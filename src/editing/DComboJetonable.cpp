@@ -64,6 +64,8 @@ void DComboJetonable::Branche()
             Qt::UniqueConnection);
     connect(monChamp, &DLineEditJetonable::SignalJetonChangay, this,
             &DComboJetonable::PriseDoitChangeeIcone, Qt::UniqueConnection);
+    connect(monChamp, &DLineEditJetonable::SignalJetonChangay, this,
+            &DComboJetonable::SignalJetonChangay, Qt::UniqueConnection);
     connect(monChamp, &DLineEditJetonable::SignalRelachementGauche, this,
             &DComboJetonable::SignalShowPopup, Qt::UniqueConnection);
     installEventFilter(this);

@@ -85,6 +85,9 @@ Q_SIGNALS:
     void SignalClosePopup();
     /// The icon or the arrow was clicked, whatever it shows; the field still holds what it held.
     void SignalBoutonXAppuyay();
+    /// A token came, was replaced or went, whoever did it: the text alone does not tell, since it
+    /// is empty before and after when Backspace drops a token.
+    void SignalJetonChangay();
 
 public Q_SLOTS:
     /// Chooses the icon by the content of the field.

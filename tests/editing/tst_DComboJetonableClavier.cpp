@@ -123,11 +123,13 @@ void tst_DComboJetonableClavier::touchesQuiTerminentLeJeton()
     QFETCH(Qt::Key, touche);
     QFETCH(Qt::KeyboardModifiers, modificateurs);
     monCombo->PrendsTexteJeton(u"jeton"_s, {});
+    QSignalSpy const changements(monCombo, &DComboJetonable::SignalJetonChangay);
 
     QTest::keyClick(monCombo, touche, modificateurs);
 
     QVERIFY(!monCombo->UnJetonEstActif());
     QCOMPARE(monCombo->currentText(), QString());
+    QCOMPARE(changements.count(), 1); // the text alone would not tell
 }
 
 void tst_DComboJetonableClavier::modificateurSeul_data()

@@ -12,10 +12,13 @@
 #include <QStandardItem>
 #include <QTreeView>
 
+#include <algorithm>
+
 using namespace Qt::StringLiterals;
 
 namespace {
 constexpr int kRoleCategorie = Qt::UserRole; // an index of DonneCategories
+constexpr int kMargesListe = 30;             // logical pixels, of a row and its list
 } // namespace
 
 QList<CategorieDeMots> const & HoteJetons::DonneCategories()
@@ -112,11 +115,14 @@ void HoteJetons::Branche()
 void HoteJetons::Propose(QString const & partie)
 {
     QList<QList<QStandardItem *>> rangees;
+    QFontMetrics const mesures = maListe->PreteListeChoix()->fontMetrics();
+    int largeur = 0; // the list is as wide as its longest name, unless the field is wider
     for (int categorie = 0; categorie < DonneCategories().size(); ++categorie) {
         CategorieDeMots const & decrite = DonneCategories().at(categorie);
         QString const nom = TraductionGalerie(decrite.nom);
         if (!nom.contains(partie, Qt::CaseInsensitive))
             continue;
+        largeur = std::max(largeur, mesures.horizontalAdvance(nom));
         auto * const item = new QStandardItem(nom);
         item->setToolTip(TraductionGalerie(decrite.description));
         item->setData(categorie, kRoleCategorie);
@@ -124,7 +130,7 @@ void HoteJetons::Propose(QString const & partie)
         maListe->MetsItemSelectionnableParDefaut(item, false);
         rangees.append({item});
     }
-    maListe->MetsLargeurMinimum(monCombo.width());
+    maListe->MetsLargeurMinimum(std::max(monCombo.width(), largeur + kMargesListe));
     maListe->ActualiseListeChoix(rangees);
 }
 

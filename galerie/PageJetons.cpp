@@ -71,9 +71,10 @@ PageJetons::PageJetons(QWidget * parent)
     disposition->addWidget(CreeTrace());
     disposition->addStretch();
 
-    Branche();
     monHote->Choisis(0);
+    PriseContenuChangay();
     PrisePoliceChangee();
+    Branche(); // the trace begins with what the user does
 }
 
 QWidget * PageJetons::CreeRecherche()

@@ -16,7 +16,7 @@ QString ChampJetonableAccessible::text(QAccessible::Text nature) const
 {
     if (nature == QAccessible::Value)
         return DonneTexteLu();
-    QString const texte = QAccessibleWidget::text(nature);
+    QString texte = QAccessibleWidget::text(nature);
     if (nature != QAccessible::Description)
         return texte;
     if (texte.isEmpty())

@@ -52,7 +52,7 @@ QAccessibleInterface * ComboJetonableAccessible::focusChild() const
 
 QString ComboJetonableAccessible::text(QAccessible::Text nature) const
 {
-    QString const texte = QAccessibleWidget::text(nature);
+    QString texte = QAccessibleWidget::text(nature);
     bool const duChamp = nature == QAccessible::Value || nature == QAccessible::Description;
     if (!duChamp || !texte.isEmpty())
         return texte;

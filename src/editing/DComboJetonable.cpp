@@ -35,6 +35,8 @@ QIcon ChargeIcone(QString const & chemin)
 
 } // namespace
 
+// NOLINTBEGIN(performance-unnecessary-value-param): by value is the interface
+
 DComboJetonable::DComboJetonable(QWidget * parent, bool withIcons, UniChaine normal,
                                  UniChaine normalHover, UniChaine deletion, UniChaine deletionHover)
     : DComboBox(parent)
@@ -117,6 +119,8 @@ void DComboJetonable::PrendsCheminIconeSupprimeHover(UniChaine chemin)
     monIconeSupprimeHover = ChargeIcone(chemin);
     update();
 }
+
+// NOLINTEND(performance-unnecessary-value-param)
 
 void DComboJetonable::DesactiveJeton()
 {

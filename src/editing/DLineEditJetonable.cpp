@@ -253,5 +253,6 @@ void DLineEditJetonable::DessineJeton(QPainter & peintre) const
     police.setUnderline(bloc.contains(maPositionSouris));
     peintre.setFont(police);
     peintre.setPen(focus ? palette().color(QPalette::HighlightedText) : QColor(kCouleurJeton));
-    peintre.drawText(bloc, QStyle::visualAlignment(layoutDirection(), alignment()), texte);
+    Qt::Alignment const alignement = QStyle::visualAlignment(layoutDirection(), alignment());
+    peintre.drawText(bloc, static_cast<int>(alignement), texte);
 }

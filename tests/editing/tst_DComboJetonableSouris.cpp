@@ -36,6 +36,7 @@ private Q_SLOTS:
     void positionOublieeALaSortie();
     void positionDuChampTraduite();
     void rienNEstConsomme();
+    void infobulleMontree();
     void destructionDansLeChamp();
 
 private:
@@ -357,6 +358,25 @@ void tst_DComboJetonableSouris::rienNEstConsomme()
     QVERIFY(!monCombo->eventFilter(monCombo, &mouvement));
     QVERIFY(!monCombo->eventFilter(monCombo->lineEdit(), &mouvement));
     QVERIFY(!monCombo->eventFilter(maFenetre.get(), &mouvement));
+}
+
+void tst_DComboJetonableSouris::infobulleMontree()
+{
+    Montre(CreeSansIcones(), 300);
+    monCombo->PrendsTexteJeton(u"jeton"_s, u"<b>Nom</b> commun"_s);
+    QLineEdit & champ = PreteChamp(*monCombo);
+    QHelpEvent aide(QEvent::ToolTip, QPoint(5, 5), champ.mapToGlobal(QPoint(5, 5)));
+
+    QApplication::sendEvent(&champ, &aide);
+
+    QVERIFY(QToolTip::isVisible());
+    QVERIFY(QToolTip::text().contains(u"<b>Nom</b> commun"));
+
+    monCombo->DesactiveJeton();
+    QApplication::sendEvent(&champ, &aide);
+
+    QTRY_VERIFY(!QToolTip::isVisible());
+    QTRY_COMPARE(QApplication::topLevelWidgets().size(), 1);
 }
 
 void tst_DComboJetonableSouris::destructionDansLeChamp()

@@ -7,6 +7,7 @@
 #include "PageCombos.h"
 #include "PageEcrans.h"
 #include "PageFenetres.h"
+#include "PageJetons.h"
 #include "PagePolices.h"
 #include "PageRecherche.h"
 #include "PageStyle.h"
@@ -55,6 +56,8 @@ QList<DescriptionPage> const & DonnePages()
          [](ThemeGalerie &) -> QWidget * { return new PageRecherche; }},
         {TexteGalerie("Chevron"), u"chevron"_s,
          [](ThemeGalerie &) -> QWidget * { return new PageChevron; }},
+        {TexteGalerie("Jetons"), u"jetons"_s,
+         [](ThemeGalerie &) -> QWidget * { return new PageJetons; }},
     };
     return pages;
 }

@@ -4,7 +4,6 @@
 #include "foundation/GeometrieEcran.h"
 #include "foundation/TraductionGui.h"
 
-#include "lists/LayoutHorizontalAvecChevron.h"
 #include "lists/ListePastille.h"
 #include "lists/Pastille.h"
 #include "lists/ToolTipComboBox.h"
@@ -75,10 +74,10 @@ void BarreDeFiltre::AjouterMenu(QMenu * menu)
         monBoutonOptions->setMenu(menu);
 }
 
-void BarreDeFiltre::AjouterMotPastille(QString const & titre, QVariant const & data, bool)
+void BarreDeFiltre::AjouterMotPastille(QString const & titre, QVariant const & donnees, bool)
 {
-    if (!maListePastille->TrouvePastille(data)) {
-        auto * const pastille = new Pastille(titre, data, this);
+    if (!maListePastille->TrouvePastille(donnees)) {
+        auto * const pastille = new Pastille(titre, donnees, this);
         connect(pastille, &Pastille::PastilleASupprimer, this, &BarreDeFiltre::PastilleASupprimer,
                 Qt::UniqueConnection);
         maListePastille->AjoutePastille(pastille);
@@ -131,9 +130,9 @@ QComboBox * BarreDeFiltre::PreteComboBox(int id)
     return monToolTip ? monToolTip->PreteComboBox(id) : nullptr;
 }
 
-int BarreDeFiltre::TrouveIndexAvecData(int id, QVariant const & data)
+int BarreDeFiltre::TrouveIndexAvecData(int id, QVariant const & donnees)
 {
-    return monToolTip ? monToolTip->TrouveIndexAvecData(id, data) : -1;
+    return monToolTip ? monToolTip->TrouveIndexAvecData(id, donnees) : -1;
 }
 
 void BarreDeFiltre::MetsTexteCardinalitay(UniChaine const & texte)
@@ -161,9 +160,9 @@ void BarreDeFiltre::ReinitialiseFiltresActifs()
     MetsBoutonFiltreActif(false);
 }
 
-void BarreDeFiltre::SupprimerPastille(QVariant const & data)
+void BarreDeFiltre::SupprimerPastille(QVariant const & donnees)
 {
-    if (Pastille * const pastille = maListePastille->TrouvePastille(data))
+    if (Pastille * const pastille = maListePastille->TrouvePastille(donnees))
         maListePastille->RetirePastille(pastille, monComboRecherche);
     MetAJourTailleListePastille();
 }

@@ -47,7 +47,8 @@ public:
     void AjouterMenu(QMenu * menu);
     /// Adds a pill, unless one has these data: that one stays as it is. The last argument has no
     /// effect. The pills take 60% of the width at most; the others are under their chevron.
-    void AjouterMotPastille(QString const & titre, QVariant const & data, bool sansEffet = false);
+    void AjouterMotPastille(QString const & titre, QVariant const & donnees,
+                            bool sansEffet = false);
     /// Shows the pills, which are hidden at first, or hides them.
     void AfficherListePastille(bool affiche);
     /// Drops the arrow that tells of the menu of the button.
@@ -60,7 +61,7 @@ public:
     void MetsBoutonFiltreActif(bool const & actif);
     void MetsIndexCourantComboBox(int id, int index);
     QComboBox * PreteComboBox(int id);
-    int TrouveIndexAvecData(int id, QVariant const & data);
+    int TrouveIndexAvecData(int id, QVariant const & donnees);
     /// Writes the number of results, in the host's words.
     void MetsTexteCardinalitay(UniChaine const & texte);
     /// Deletes all pills.
@@ -70,7 +71,7 @@ public:
     void ReinitialiseFiltresActifs();
     /// Deletes the first pill with these data. The keyboard focus that it had goes to its
     /// neighbour, from the last one to the search combo box.
-    void SupprimerPastille(QVariant const & data);
+    void SupprimerPastille(QVariant const & donnees);
 
 Q_SIGNALS:
     /// The filter `id` has another value; `data` are the user data of the item at `index`.

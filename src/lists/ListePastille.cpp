@@ -3,7 +3,6 @@
 
 #include "controls/DBoutonSansFleche.h"
 
-#include "lists/LayoutHorizontalAvecChevron.h"
 #include "lists/Pastille.h"
 
 #include <QKeyEvent>
@@ -40,12 +39,12 @@ void ListePastille::AjoutePastille(Pastille * pastille)
 
 void ListePastille::RetirePastille(Pastille * pastille, QWidget * suivant)
 {
-    int const index = PreteLayout()->indexOf(pastille);
+    int const index = layout()->indexOf(pastille);
     bool const avaitLeFocus = pastille->hasFocus();
     RetireWidget(pastille);
     if (avaitLeFocus) {
         // The row closes up first: the next pill may have been under the chevron until now.
-        PreteLayout()->activate();
+        layout()->activate();
         QWidget * cible = TrouveVisible(index, 1);
         if (!cible)
             cible = TrouveVisible(index - 1, -1);
@@ -59,7 +58,7 @@ void ListePastille::RetirePastille(Pastille * pastille, QWidget * suivant)
 
 Pastille * ListePastille::TrouvePastille(QVariant const & donnees) const
 {
-    for (int i = 0; i < PreteLayout()->count(); ++i) {
+    for (int i = 0; i < layout()->count(); ++i) {
         auto * const pastille = qobject_cast<Pastille *>(PreteWidgetA(i));
         if (pastille && pastille->DonneData() == donnees)
             return pastille;
@@ -69,7 +68,7 @@ Pastille * ListePastille::TrouvePastille(QVariant const & donnees) const
 
 void ListePastille::RafraichisMenu()
 {
-    if (PreteLayout()->count() <= kPastillesSansAttente)
+    if (layout()->count() <= kPastillesSansAttente)
         MetAJourMenu();
     else if (!monRafraichissement.isActive())
         monRafraichissement.start(0, this);
@@ -78,7 +77,7 @@ void ListePastille::RafraichisMenu()
 void ListePastille::Vide()
 {
     // From the end: the row does not move up again and again.
-    for (int i = PreteLayout()->count() - 1; i >= 0; --i) {
+    for (int i = layout()->count() - 1; i >= 0; --i) {
         auto * const pastille = qobject_cast<Pastille *>(PreteWidgetA(i));
         if (!pastille)
             continue;
@@ -92,7 +91,7 @@ QSize ListePastille::sizeHint() const
 {
     // The row itself asks for no height, and pills would be neither seen nor clicked.
     int hauteur = 0;
-    for (int i = 0; i < PreteLayout()->count(); ++i) {
+    for (int i = 0; i < layout()->count(); ++i) {
         if (QWidget const * const widget = PreteWidgetA(i))
             hauteur = std::max(hauteur, widget->sizeHint().height());
     }
@@ -107,7 +106,7 @@ void ListePastille::keyPressEvent(QKeyEvent * evenement)
         return;
     }
     // Deliberate: not mirrored, as the row is laid out from left to right in every language.
-    int const index = PreteLayout()->indexOf(focusWidget());
+    int const index = layout()->indexOf(focusWidget());
     int const pas = gauche ? -1 : 1;
     QWidget * const voisine = index < 0 ? nullptr : TrouveVisible(index + pas, pas);
     if (voisine)
@@ -147,7 +146,7 @@ void ListePastille::DimensionneChevron()
 
 Pastille * ListePastille::TrouveVisible(int index, int pas) const
 {
-    for (int i = index; i >= 0 && i < PreteLayout()->count(); i += pas) {
+    for (int i = index; i >= 0 && i < layout()->count(); i += pas) {
         auto * const pastille = qobject_cast<Pastille *>(PreteWidgetA(i));
         if (pastille && WidgetEstVisible(i))
             return pastille;

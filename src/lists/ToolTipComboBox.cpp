@@ -70,10 +70,10 @@ QComboBox * ToolTipComboBox::PreteComboBox(int id)
     return mesCombos[id];
 }
 
-int ToolTipComboBox::TrouveIndexAvecData(int id, QVariant const & data)
+int ToolTipComboBox::TrouveIndexAvecData(int id, QVariant const & donnees)
 {
     QComboBox const * const combo = PreteComboBox(id);
-    return combo ? combo->findData(data, Qt::UserRole, Qt::MatchCaseSensitive) : -1;
+    return combo ? combo->findData(donnees, Qt::UserRole, Qt::MatchCaseSensitive) : -1;
 }
 
 void ToolTipComboBox::resizeEvent(QResizeEvent * evenement)

@@ -35,7 +35,7 @@ public:
     /// Null for an unknown id, or when the combo box has been deleted.
     QComboBox * PreteComboBox(int id);
     /// The index of the item with these user data, -1 without one.
-    int TrouveIndexAvecData(int id, QVariant const & data);
+    int TrouveIndexAvecData(int id, QVariant const & donnees);
 
 Q_SIGNALS:
     void SignalResizeEvent(QResizeEvent * event);

@@ -27,8 +27,8 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr int kNombre = 1'000;
-constexpr double kAjoutMax = 250.0;   // ms for all
-constexpr double kRetraitMax = 250.0; // ms for all
+constexpr double kAjoutMax = 100.0;   // ms for all
+constexpr double kRetraitMax = 100.0; // ms for all
 constexpr QSize kTaille(1'600, 40);
 
 struct Durees

@@ -309,6 +309,8 @@ void BarreDeFiltre::MetAJourTailleListePastille()
 {
     QLayout const & rangee = *maListePastille->layout();
     int const place = static_cast<int>(std::lround(width() * kPartDesPastilles));
-    int const voulue = maListePastille->sizeHint().width() + rangee.spacing() * rangee.count();
+    // That of the base, which is the width alone: this runs for each of many pills.
+    int const voulue =
+        maListePastille->DFrameChevronnable::sizeHint().width() + rangee.spacing() * rangee.count();
     maListePastille->setFixedWidth(std::min(place, voulue));
 }

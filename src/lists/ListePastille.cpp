@@ -32,6 +32,12 @@ ListePastille::ListePastille()
 void ListePastille::AjoutePastille(Pastille * pastille)
 {
     addWidget(pastille, 0);
+    // Shown here, while nothing is laid out: Qt would show it later, and lay out the whole row for
+    // each pill.
+    layout()->setEnabled(false);
+    pastille->resize(0, 0);
+    pastille->show();
+    layout()->setEnabled(true);
     // By way of the landmark: pills under the chevron take no focus, and Qt orders none of these.
     setTabOrder(monRepere, pastille);
     setTabOrder(pastille, monRepere);

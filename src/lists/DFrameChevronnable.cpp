@@ -48,7 +48,7 @@ DFrameChevronnable::~DFrameChevronnable()
 {
     JetteEntrees();
     // A menu that has been open may be the one whose action destroys the frame.
-    if (monMenu && monMenu->internalWinId())
+    if (monMenu && monMenuOuvert)
         monMenu->deleteLater();
     else
         delete monMenu;
@@ -170,10 +170,17 @@ void DFrameChevronnable::resizeEvent(QResizeEvent * evenement)
 
 void DFrameChevronnable::PriseAfficheMenu()
 {
+    monMenuOuvert = true;
     MetAJourMenu();
 }
 
 void DFrameChevronnable::PriseMiseEnPlace()
+{
+    NommeChevron();
+    RangeChevron();
+}
+
+void DFrameChevronnable::NommeChevron()
 {
     QStringList titres;
     for (IWidgetChevronnable * const widget : DonneMasques(kTitresNommes + 1))
@@ -181,6 +188,19 @@ void DFrameChevronnable::PriseMiseEnPlace()
     if (titres.size() > kTitresNommes)
         titres.last() = u"…"_s;
     monBoutonChevron->setAccessibleName(titres.join(", "_L1));
+}
+
+void DFrameChevronnable::RangeChevron()
+{
+    if (monBoutonChevron->focusPolicy() == Qt::NoFocus)
+        return;
+    // It was there before the widgets, but the Tab key reaches it where it is seen, behind them.
+    QWidget * dernier = monBoutonChevron;
+    for (QWidget * widget = nextInFocusChain(); widget != this; widget = widget->nextInFocusChain())
+        if (widget->focusPolicy() != Qt::NoFocus && isAncestorOf(widget))
+            dernier = widget;
+    if (dernier != monBoutonChevron)
+        setTabOrder(dernier, monBoutonChevron);
 }
 
 QList<IWidgetChevronnable *> DFrameChevronnable::DonneMasques(int combien) const

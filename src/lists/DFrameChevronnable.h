@@ -68,11 +68,14 @@ private Q_SLOTS:
 
 private:
     void init();
+    void NommeChevron();
+    void RangeChevron();
     QList<IWidgetChevronnable *> DonneMasques(int combien = INT_MAX) const;
     void AjouteEntree(IWidgetChevronnable & widget);
     void JetteEntrees();
 
     bool monDebordement = false; // some widget is under the chevron
+    bool monMenuOuvert = false;  // now or before
     DBoutonSansFleche * monBoutonChevron = nullptr;
     LayoutHorizontalAvecChevron * monLayout = nullptr;
     QPointer<QMenu> monMenu;

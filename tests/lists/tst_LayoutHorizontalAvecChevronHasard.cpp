@@ -251,9 +251,8 @@ void tst_LayoutHorizontalAvecChevronHasard::VerifiePlaces(Tirage const & tirage,
         QLayoutItem * const item = tirage.layout->itemAt(i);
         if (!tirage.paves.at(i))
             QCOMPARE(item->sizeHint(), QSize(attendu.largeurRessort, 1));
-        QCOMPARE(item->geometry(), tirage.paves.at(i)
-                                       ? DonneRectDansLeParent(attendu.places.at(i))
-                                       : attendu.places.at(i));
+        QCOMPARE(item->geometry(), tirage.paves.at(i) ? DonneRectDansLeParent(attendu.places.at(i))
+                                                      : attendu.places.at(i));
     }
     if (tirage.chevron)
         QCOMPARE(tirage.chevron->geometry(), attendu.chevron);

@@ -19,6 +19,7 @@ private Q_SLOTS:
     void initTestCase();
     void cleanup();
     void clicSurLeBoutonFerme();
+    void auClavier();
     void placement();
     void flecheDuChamp();
     void croixDUnePastille();
@@ -123,6 +124,20 @@ void tst_BarreDeFiltreX11::clicSurLeBoutonFerme()
         QVERIFY(!essai.pieces.bouton->isChecked());
         QVERIFY(!essai.pieces.bouton->isDown());
     }
+}
+
+void tst_BarreDeFiltreX11::auClavier()
+{
+    Essai essai;
+    QVERIFY(essai.Active());
+    UneFoisOuvert const ouvert(*essai.pieces.Menu(),
+                               [&] { monEntree.Frappe(EntreeX11::kEchappement); });
+    essai.pieces.bouton->setFocus();
+    monEntree.Frappe(' ');
+    QTRY_COMPARE_WITH_TIMEOUT(ouvert.ouvertures, 1, kDelai);
+    QTRY_VERIFY_WITH_TIMEOUT(!essai.pieces.Menu()->isVisible(), kDelai);
+    QTRY_VERIFY_WITH_TIMEOUT(essai.pieces.bouton->hasFocus(), kDelai);
+    QVERIFY(!essai.pieces.bouton->isChecked());
 }
 
 void tst_BarreDeFiltreX11::placement()

@@ -1,0 +1,372 @@
+#include "lists/PiecesBarreDeFiltre.h"
+
+#include <QtTest>
+
+#include <cmath>
+
+using namespace Qt::StringLiterals;
+
+class tst_BarreDeFiltrePastilles : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void cleanup();
+    void cacheesAuDebut();
+    void ajoute();
+    void memesDonnees_data();
+    void memesDonnees();
+    void supprime();
+    void nettoie();
+    void signal();
+    void suppressionPendantLeSignal_data();
+    void suppressionPendantLeSignal();
+    void largeurDeLaListe_data();
+    void largeurDeLaListe();
+    void touteLaPlaceVoulue();
+    void aucuneCacheeSansRaison();
+    void barreRedimensionnee();
+    void listeMontreeApres();
+    void policeChangee();
+    void hauteur();
+    void sousLeChevron();
+    void choixSousLeChevron();
+    void nouvelleDansLeMenu();
+    void mille();
+};
+
+namespace {
+
+int LargeurVoulue(PiecesBarreDeFiltre const & pieces)
+{
+    return pieces.liste->sizeHint().width() + 10 * pieces.liste->layout()->count();
+}
+
+int ComptesVisibles(PiecesBarreDeFiltre const & pieces)
+{
+    int visibles = 0;
+    for (int i = 0; i < pieces.liste->layout()->count(); ++i)
+        visibles += pieces.liste->WidgetEstVisible(i);
+    return visibles;
+}
+
+} // namespace
+
+void tst_BarreDeFiltrePastilles::cleanup()
+{
+    EnvoieSuppressions();
+    QVERIFY(QApplication::topLevelWidgets().isEmpty());
+}
+
+void tst_BarreDeFiltrePastilles::cacheesAuDebut()
+{
+    FenetreDeBarreDeFiltre essai;
+    essai.fenetre.show();
+    essai.Ajoute(1);
+    QVERIFY(!essai.pieces.liste->isVisible());
+    essai.barre->AfficherListePastille(true);
+    QVERIFY(essai.pieces.liste->isVisible());
+    QTRY_VERIFY(essai.pieces.Pastilles().first()->visibleRegion().boundingRect().isValid());
+    essai.barre->AfficherListePastille(false);
+    QVERIFY(!essai.pieces.liste->isVisible());
+}
+
+void tst_BarreDeFiltrePastilles::ajoute()
+{
+    FenetreDeBarreDeFiltre essai;
+    QVERIFY(essai.Montre());
+    essai.barre->AjouterMotPastille(u"longs"_s, u"cle"_s, true);
+    essai.barre->AjouterMotPastille(u"courts"_s, 2, false);
+    essai.Place();
+    QCOMPARE(essai.pieces.Cles(), QVariantList({u"cle"_s, 2}));
+    QCOMPARE(essai.pieces.Pastilles().first()->DonneTitre(), u"Enlever «longs»"_s);
+    QCOMPARE(ComptesVisibles(essai.pieces), 2);
+    // From left to right, at the size they ask for.
+    QList<Pastille *> const pastilles = essai.pieces.Pastilles();
+    QCOMPARE(pastilles[0]->x(), 0);
+    QCOMPARE(pastilles[1]->x(), pastilles[0]->width() + 10);
+    for (Pastille const * const pastille : pastilles)
+        QCOMPARE(pastille->size(), pastille->sizeHint());
+}
+
+void tst_BarreDeFiltrePastilles::memesDonnees_data()
+{
+    QTest::addColumn<QVariant>("premieres");
+    QTest::addColumn<QVariant>("secondes");
+    QTest::addColumn<int>("nombre");
+    QTest::newRow("the same number") << QVariant(1) << QVariant(1) << 1;
+    QTest::newRow("another number") << QVariant(1) << QVariant(2) << 2;
+    QTest::newRow("the same text") << QVariant(u"a"_s) << QVariant(u"a"_s) << 1;
+    QTest::newRow("the case of a text counts") << QVariant(u"a"_s) << QVariant(u"A"_s) << 2;
+    QTest::newRow("no data twice") << QVariant() << QVariant() << 1;
+    QTest::newRow("no data and a zero") << QVariant() << QVariant(0) << 2;
+}
+
+void tst_BarreDeFiltrePastilles::memesDonnees()
+{
+    QFETCH(QVariant, premieres);
+    QFETCH(QVariant, secondes);
+    BarreDeFiltre barre(true, true);
+    PiecesBarreDeFiltre const pieces(barre);
+    barre.AjouterMotPastille(u"un"_s, premieres);
+    barre.AjouterMotPastille(u"deux"_s, secondes);
+    QTEST(int(pieces.Pastilles().size()), "nombre");
+    QCOMPARE(pieces.Pastilles().first()->DonneTitre(), u"Enlever «un»"_s);
+}
+
+void tst_BarreDeFiltrePastilles::supprime()
+{
+    FenetreDeBarreDeFiltre essai;
+    QVERIFY(essai.Montre());
+    essai.Ajoute(3);
+    QPointer<Pastille> const pastille = essai.pieces.Pastilles()[1];
+    essai.barre->SupprimerPastille(1);
+    QVERIFY(!pastille);
+    QCOMPARE(essai.pieces.Cles(), QVariantList({0, 2}));
+    QCOMPARE(essai.pieces.liste->maximumWidth(), LargeurVoulue(essai.pieces));
+    essai.barre->SupprimerPastille(1);
+    essai.barre->SupprimerPastille(u"autre"_s);
+    essai.barre->SupprimerPastille(QVariant());
+    QCOMPARE(essai.pieces.Cles(), QVariantList({0, 2}));
+    essai.barre->SupprimerPastille(0);
+    essai.barre->SupprimerPastille(2);
+    QCOMPARE(essai.pieces.Cles(), QVariantList());
+    QCOMPARE(essai.pieces.liste->maximumWidth(), 0);
+}
+
+void tst_BarreDeFiltrePastilles::nettoie()
+{
+    FenetreDeBarreDeFiltre essai;
+    QVERIFY(essai.Montre());
+    essai.Ajoute(3);
+    QVERIFY(essai.pieces.liste->width() > 0);
+    essai.barre->NetoyerPastille();
+    QVERIFY(!essai.barre->findChild<Pastille *>());
+    QCOMPARE(essai.pieces.liste->maximumWidth(), 0);
+    essai.barre->NetoyerPastille();
+    essai.Ajoute(2);
+    QCOMPARE(ComptesVisibles(essai.pieces), 2);
+}
+
+void tst_BarreDeFiltrePastilles::signal()
+{
+    FenetreDeBarreDeFiltre essai;
+    QVERIFY(essai.Montre());
+    essai.Ajoute(2);
+    QSignalSpy const espion(essai.barre, &BarreDeFiltre::PastilleASupprimer);
+    Pastille * const pastille = essai.pieces.Pastilles()[1];
+    QTest::mouseClick(
+        essai.fenetre.windowHandle(), Qt::LeftButton, {},
+        pastille->mapTo(&essai.fenetre, pastille->DonneRectBoutonSupprimer().center()));
+    QCOMPARE(espion.count(), 1);
+    QCOMPARE(espion.at(0).at(0), QVariant(1));
+    QCOMPARE(essai.pieces.Cles(), QVariantList({0, 1})); // the host removes it
+}
+
+void tst_BarreDeFiltrePastilles::suppressionPendantLeSignal_data()
+{
+    QTest::addColumn<bool>("toutes");
+    QTest::newRow("this one") << false;
+    QTest::newRow("all of them") << true;
+}
+
+void tst_BarreDeFiltrePastilles::suppressionPendantLeSignal()
+{
+    QFETCH(bool, toutes);
+    FenetreDeBarreDeFiltre essai;
+    QVERIFY(essai.Montre());
+    essai.Ajoute(2);
+    connect(essai.barre, &BarreDeFiltre::PastilleASupprimer, this, [&](QVariant const & donnees) {
+        if (toutes)
+            essai.barre->NetoyerPastille();
+        else
+            essai.barre->SupprimerPastille(donnees);
+    });
+    QPointer<Pastille> const pastille = essai.pieces.Pastilles().first();
+    QTest::mouseClick(
+        essai.fenetre.windowHandle(), Qt::LeftButton, {},
+        pastille->mapTo(&essai.fenetre, pastille->DonneRectBoutonSupprimer().center()));
+    QCOMPARE(essai.pieces.Cles(), toutes ? QVariantList() : QVariantList(1, 1));
+    EnvoieSuppressions();
+    QVERIFY(!pastille);
+}
+
+void tst_BarreDeFiltrePastilles::largeurDeLaListe_data()
+{
+    QTest::addColumn<int>("largeur");
+    QTest::addColumn<int>("nombre");
+    QTest::newRow("everything has room") << 2000 << 3;
+    QTest::newRow("more than 60%") << 300 << 20;
+    QTest::newRow("60% that are rounded up") << 301 << 20;   // 180.6
+    QTest::newRow("60% that are rounded down") << 304 << 20; // 182.4
+    QTest::newRow("no room at all") << 0 << 3;
+    QTest::newRow("no pill") << 300 << 0;
+}
+
+void tst_BarreDeFiltrePastilles::largeurDeLaListe()
+{
+    QFETCH(int, largeur);
+    QFETCH(int, nombre);
+    BarreDeFiltre barre(true, true);
+    PiecesBarreDeFiltre const pieces(barre);
+    barre.resize(largeur, 40);
+    for (int i = 0; i < nombre; ++i)
+        barre.AjouterMotPastille(u"mot"_s, i);
+    int const part = int(std::lround(barre.width() * 0.6));
+    int const attendue = std::min(part, LargeurVoulue(pieces));
+    QCOMPARE(pieces.liste->minimumWidth(), attendue);
+    QCOMPARE(pieces.liste->maximumWidth(), attendue);
+}
+
+void tst_BarreDeFiltrePastilles::touteLaPlaceVoulue()
+{
+    FenetreDeBarreDeFiltre essai;
+    QVERIFY(essai.Montre());
+    essai.Ajoute(3);
+    QCOMPARE(essai.pieces.liste->width(), LargeurVoulue(essai.pieces));
+    QVERIFY(essai.pieces.liste->width() < 360);
+    essai.Ajoute(30);
+    QCOMPARE(essai.pieces.liste->width(), 360);
+    QVERIFY(ComptesVisibles(essai.pieces) < 30);
+    QVERIFY(essai.pieces.champ->width() > 50);
+}
+
+void tst_BarreDeFiltrePastilles::aucuneCacheeSansRaison()
+{
+    FenetreDeBarreDeFiltre essai(2000);
+    QVERIFY(essai.Montre());
+    for (int i = 0; i < 20; ++i) {
+        essai.barre->AjouterMotPastille(QString(i % 4, u'm'), i);
+        essai.Place();
+        if (LargeurVoulue(essai.pieces) <= 1200)
+            QCOMPARE(ComptesVisibles(essai.pieces), i + 1);
+    }
+}
+
+void tst_BarreDeFiltrePastilles::barreRedimensionnee()
+{
+    FenetreDeBarreDeFiltre essai(2000);
+    QVERIFY(essai.Montre());
+    essai.Ajoute(8);
+    int const voulue = LargeurVoulue(essai.pieces);
+    QCOMPARE(ComptesVisibles(essai.pieces), 8);
+    essai.barre->resize(voulue, 40);
+    essai.Place();
+    QCOMPARE(essai.pieces.liste->width(), int(std::lround(voulue * 0.6)));
+    QVERIFY(ComptesVisibles(essai.pieces) < 8);
+    QVERIFY(essai.pieces.chevron->width() > 0);
+    essai.barre->resize(2000, 40);
+    essai.Place();
+    QCOMPARE(ComptesVisibles(essai.pieces), 8);
+    QCOMPARE(essai.pieces.liste->width(), voulue);
+}
+
+void tst_BarreDeFiltrePastilles::listeMontreeApres()
+{
+    FenetreDeBarreDeFiltre essai;
+    essai.Ajoute(3); // before anything is shown
+    QVERIFY(essai.Montre());
+    essai.Place();
+    QCOMPARE(ComptesVisibles(essai.pieces), 3);
+    QCOMPARE(essai.pieces.liste->width(), LargeurVoulue(essai.pieces));
+    essai.barre->AfficherListePastille(false);
+    essai.barre->AjouterMotPastille(u"mot"_s, 9);
+    essai.barre->SupprimerPastille(0);
+    essai.barre->AfficherListePastille(true);
+    essai.Place();
+    QCOMPARE(ComptesVisibles(essai.pieces), 3);
+}
+
+void tst_BarreDeFiltrePastilles::policeChangee()
+{
+    FenetreDeBarreDeFiltre essai(2000);
+    QVERIFY(essai.Montre());
+    essai.Ajoute(3);
+    int const avant = essai.pieces.liste->width();
+    essai.barre->setStyleSheet(u"Pastille { font-size: 30px; }"_s);
+    QTRY_VERIFY(essai.pieces.liste->width() > avant);
+    essai.Place();
+    QCOMPARE(essai.pieces.liste->width(), LargeurVoulue(essai.pieces));
+    QCOMPARE(ComptesVisibles(essai.pieces), 3);
+}
+
+void tst_BarreDeFiltrePastilles::hauteur()
+{
+    FenetreDeBarreDeFiltre essai;
+    QVERIFY(essai.Montre());
+    essai.Ajoute(20);
+    int const hauteur = essai.pieces.Pastilles().first()->sizeHint().height();
+    QCOMPARE(essai.pieces.liste->height(), hauteur);
+    QCOMPARE(essai.pieces.chevron->maximumSize(), QSize(hauteur, hauteur));
+    // In the middle of the bar.
+    QVERIFY(qAbs(essai.pieces.liste->geometry().center().y() - 20) <= 1);
+
+    essai.barre->NetoyerPastille();
+    essai.Place();
+    essai.Ajoute(20);
+    QCOMPARE(essai.pieces.liste->height(), hauteur);
+    QVERIFY(essai.pieces.chevron->width() > 0); // it has not gone with the pills
+    QVERIFY(essai.pieces.chevron->height() > 0);
+}
+
+void tst_BarreDeFiltrePastilles::sousLeChevron()
+{
+    FenetreDeBarreDeFiltre essai;
+    QVERIFY(essai.Montre());
+    essai.Ajoute(20);
+    int const visibles = ComptesVisibles(essai.pieces);
+    QVERIFY(visibles > 0);
+    QVERIFY(visibles < 20);
+    Q_EMIT essai.pieces.chevron->menu()->aboutToShow();
+    QStringList attendus;
+    for (int i = visibles; i < 20; ++i)
+        attendus << u"Enlever «mot %1»"_s.arg(i);
+    QCOMPARE(essai.pieces.TextesDuChevron(), attendus);
+}
+
+void tst_BarreDeFiltrePastilles::choixSousLeChevron()
+{
+    FenetreDeBarreDeFiltre essai;
+    QVERIFY(essai.Montre());
+    essai.Ajoute(20);
+    QMenu * const menu = essai.pieces.chevron->menu();
+    QVariantList recues;
+    bool ouvertPendantLeSignal = true;
+    connect(essai.barre, &BarreDeFiltre::PastilleASupprimer, this, [&](QVariant const & donnees) {
+        recues << donnees;
+        ouvertPendantLeSignal = menu->isVisible();
+        essai.barre->SupprimerPastille(donnees);
+    });
+    QTimer::singleShot(0, menu, [&] {
+        QTest::keyClick(menu, Qt::Key_Up); // the last one
+        QTest::keyClick(menu, Qt::Key_Return);
+    });
+    essai.pieces.chevron->showMenu(); // blocks until it is closed
+    QTRY_COMPARE(recues, QVariantList(1, 19));
+    QVERIFY(!ouvertPendantLeSignal);
+    QCOMPARE(essai.pieces.Cles().size(), 19);
+}
+
+void tst_BarreDeFiltrePastilles::nouvelleDansLeMenu()
+{
+    FenetreDeBarreDeFiltre essai;
+    QVERIFY(essai.Montre());
+    essai.Ajoute(20);
+    essai.barre->AjouterMotPastille(u"nouveau"_s, 99);
+    QCOMPARE(essai.pieces.TextesDuChevron().last(), u"Enlever «nouveau»"_s);
+}
+
+void tst_BarreDeFiltrePastilles::mille()
+{
+    FenetreDeBarreDeFiltre essai;
+    QVERIFY(essai.Montre());
+    essai.Ajoute(1000);
+    QCOMPARE(essai.pieces.Cles().size(), 1000);
+    QTRY_COMPARE(essai.pieces.TextesDuChevron().size(), 1000 - ComptesVisibles(essai.pieces));
+    for (int i = 0; i < 1000; ++i)
+        essai.barre->SupprimerPastille(i);
+    QCOMPARE(essai.pieces.Cles(), QVariantList());
+}
+
+QTEST_MAIN(tst_BarreDeFiltrePastilles)
+#include "tst_BarreDeFiltrePastilles.moc"

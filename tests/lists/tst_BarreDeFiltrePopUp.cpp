@@ -1,0 +1,315 @@
+#include "lists/PiecesBarreDeFiltre.h"
+
+#include <QScreen>
+#include <QtTest>
+
+#include <functional>
+
+using namespace Qt::StringLiterals;
+
+class tst_BarreDeFiltrePopUp : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void cleanup();
+    void positionDOuverture();
+    void clicEnFileDAttente();
+    void leBoutonSeReleve();
+    void placement();
+    void placementFerme();
+    void placementAuBordDeLEcran();
+    void contenuChangeOuvert();
+    void filtreDesEvenements_data();
+    void filtreDesEvenements();
+    void clicSurLeBoutonFerme();
+    void rouvrePlusTard();
+    void echappement();
+    void filtreAuClavier();
+    void barreDetruite();
+};
+
+namespace {
+
+// Something to do each time that the menu is open, in its event loop.
+class PendantQuIlEstOuvert : public QObject
+{
+public:
+    PendantQuIlEstOuvert(QMenu & menu, std::function<void()> travail)
+        : monTravail(std::move(travail))
+    {
+        connect(&menu, &QMenu::aboutToShow, this, [this] {
+            ++ouvertures;
+            QTimer::singleShot(0, this, monTravail);
+        });
+    }
+
+    int ouvertures = 0;
+
+private:
+    std::function<void()> monTravail;
+};
+
+struct Essai : FenetreDeBarreDeFiltre
+{
+    Essai()
+    {
+        barre->AjouterComboBox(1, u"Longueur"_s, CreeComboDeFiltre());
+        barre->AjouterComboBox(2, u"Initiale"_s, CreeComboDeFiltre());
+    }
+
+    QPoint Centre() const { return pieces.bouton->rect().center(); }
+
+    // As the mouse does: what has a pop-up open gets it from the window.
+    void Clique() const
+    {
+        QTest::mouseClick(fenetre.windowHandle(), Qt::LeftButton, {},
+                          pieces.bouton->mapTo(&fenetre, Centre()));
+    }
+};
+
+} // namespace
+
+void tst_BarreDeFiltrePopUp::cleanup()
+{
+    EnvoieSuppressions();
+    QVERIFY(QApplication::topLevelWidgets().isEmpty());
+}
+
+void tst_BarreDeFiltrePopUp::positionDOuverture()
+{
+    Essai essai;
+    QVERIFY(essai.Montre());
+    QSignalSpy const espion(essai.pieces.popUp, &DMenuAction::SignalOuvreMenu);
+    PendantQuIlEstOuvert const ouvert(*essai.pieces.Menu(), [&] { essai.pieces.Menu()->close(); });
+    QMetaObject::invokeMethod(essai.barre, "PriseAfficherToolTip");
+    QCOMPARE(ouvert.ouvertures, 1);
+    QSize const taille = essai.pieces.popUp->sizeHint();
+    QPoint const bouton = essai.pieces.bouton->mapToGlobal(QPoint(0, 0));
+    QCOMPARE(espion.count(), 1);
+    QCOMPARE(espion.at(0).at(0).toPoint(),
+             QPoint(bouton.x() - taille.width() / 2, bouton.y() - taille.height() - 7));
+}
+
+void tst_BarreDeFiltrePopUp::clicEnFileDAttente()
+{
+    Essai essai;
+    QVERIFY(essai.Montre());
+    PendantQuIlEstOuvert const ouvert(*essai.pieces.Menu(), [&] { essai.pieces.Menu()->close(); });
+    essai.pieces.bouton->click();
+    QCOMPARE(ouvert.ouvertures, 0);
+    QTRY_COMPARE(ouvert.ouvertures, 1);
+}
+
+void tst_BarreDeFiltrePopUp::leBoutonSeReleve()
+{
+    Essai essai;
+    QVERIFY(essai.Montre());
+    PendantQuIlEstOuvert const ouvert(*essai.pieces.Menu(), [&] { essai.pieces.Menu()->close(); });
+    essai.pieces.bouton->click();
+    QVERIFY(essai.pieces.bouton->isChecked());
+    QTRY_VERIFY(!essai.pieces.bouton->isChecked());
+    QCOMPARE(ouvert.ouvertures, 1);
+}
+
+void tst_BarreDeFiltrePopUp::placement()
+{
+    Essai essai;
+    QVERIFY(essai.Montre());
+    QPoint position;
+    QPoint attendue;
+    PendantQuIlEstOuvert const ouvert(*essai.pieces.Menu(), [&] {
+        position = essai.pieces.Menu()->pos();
+        QPoint const bouton = essai.pieces.bouton->mapToGlobal(QPoint(0, 0));
+        attendue = {bouton.x() + essai.pieces.bouton->width() / 2 - essai.pieces.popUp->width() / 2,
+                    bouton.y() - 10 - essai.pieces.popUp->height()};
+        essai.pieces.Menu()->close();
+    });
+    QMetaObject::invokeMethod(essai.barre, "PriseAfficherToolTip");
+    QVERIFY(!attendue.isNull());
+    QCOMPARE(position, attendue);
+}
+
+void tst_BarreDeFiltrePopUp::placementFerme()
+{
+    Essai essai;
+    QVERIFY(essai.Montre());
+    QPoint const avant = essai.pieces.Menu()->pos();
+    QResizeEvent evenement(QSize(50, 50), QSize());
+    QCoreApplication::sendEvent(essai.pieces.popUp, &evenement);
+    QCOMPARE(essai.pieces.Menu()->pos(), avant);
+}
+
+void tst_BarreDeFiltrePopUp::placementAuBordDeLEcran()
+{
+    Essai essai;
+    QVERIFY(essai.Montre());
+    QRect const ecran = essai.fenetre.screen()->availableGeometry();
+    essai.fenetre.move(ecran.right() - 560, ecran.top() - 100); // the button in the corner
+    essai.Place();
+    QRect place;
+    PendantQuIlEstOuvert const ouvert(*essai.pieces.Menu(), [&] {
+        place = essai.pieces.Menu()->frameGeometry();
+        essai.pieces.Menu()->close();
+    });
+    QMetaObject::invokeMethod(essai.barre, "PriseAfficherToolTip");
+    QVERIFY(place.isValid());
+    QVERIFY(ecran.contains(place));
+}
+
+void tst_BarreDeFiltrePopUp::contenuChangeOuvert()
+{
+    Essai essai;
+    QVERIFY(essai.Montre());
+    int hauteurAvant = 0;
+    int hauteurApres = 0;
+    int ecart = 0;
+    PendantQuIlEstOuvert const ouvert(*essai.pieces.Menu(), [&] {
+        hauteurAvant = essai.pieces.popUp->height();
+        essai.barre->AjouterComboBox(3, u"Accents"_s, CreeComboDeFiltre());
+        essai.Place();
+        hauteurApres = essai.pieces.popUp->height();
+        ecart = essai.pieces.bouton->mapToGlobal(QPoint(0, 0)).y() - essai.pieces.Menu()->y() -
+                hauteurApres;
+        essai.pieces.Menu()->close();
+    });
+    QMetaObject::invokeMethod(essai.barre, "PriseAfficherToolTip");
+    QVERIFY(hauteurApres > hauteurAvant);
+    QCOMPARE(ecart, 10); // it has grown upwards
+}
+
+void tst_BarreDeFiltrePopUp::filtreDesEvenements_data()
+{
+    QTest::addColumn<int>("type");
+    QTest::addColumn<bool>("surLeBouton");
+    QTest::addColumn<bool>("mange");
+    QTest::addColumn<bool>("ferme");
+    auto const rangee = [](char const * nom, QEvent::Type type, bool surLeBouton, bool mange,
+                           bool ferme) {
+        QTest::newRow(nom) << int(type) << surLeBouton << mange << ferme;
+    };
+    rangee("press on the button", QEvent::MouseButtonPress, true, true, false);
+    rangee("release on the button", QEvent::MouseButtonRelease, true, true, true);
+    rangee("double click on the button", QEvent::MouseButtonDblClick, true, true, false);
+    rangee("move over the button", QEvent::MouseMove, true, false, false);
+    rangee("release elsewhere", QEvent::MouseButtonRelease, false, false, false);
+    rangee("double click elsewhere", QEvent::MouseButtonDblClick, false, false, false);
+}
+
+void tst_BarreDeFiltrePopUp::filtreDesEvenements()
+{
+    QFETCH(int, type);
+    QFETCH(bool, surLeBouton);
+    QFETCH(bool, mange);
+    QFETCH(bool, ferme);
+    Essai essai;
+    QVERIFY(essai.Montre());
+    for (QWidget * const cible :
+         std::initializer_list<QWidget *>{essai.pieces.popUp, essai.pieces.Menu()}) {
+        bool mangeTrouve = false;
+        bool fermeTrouve = false;
+        PendantQuIlEstOuvert const ouvert(*essai.pieces.Menu(), [&] {
+            QPointF const global = surLeBouton ? essai.pieces.bouton->mapToGlobal(essai.Centre())
+                                               : essai.pieces.champ->mapToGlobal(QPoint(3, 3));
+            QMouseEvent evenement(QEvent::Type(type), cible->mapFromGlobal(global), global, global,
+                                  Qt::LeftButton, Qt::LeftButton, Qt::NoModifier);
+            evenement.ignore(); // whoever else gets it, takes it
+            QObject * const filtre = essai.barre;
+            mangeTrouve = filtre->eventFilter(cible, &evenement);
+            fermeTrouve = !essai.pieces.Menu()->isVisible();
+            essai.pieces.Menu()->close();
+        });
+        QMetaObject::invokeMethod(essai.barre, "PriseAfficherToolTip");
+        QCOMPARE(ouvert.ouvertures, 1);
+        QCOMPARE(mangeTrouve, mange);
+        QCOMPARE(fermeTrouve, ferme);
+    }
+}
+
+void tst_BarreDeFiltrePopUp::clicSurLeBoutonFerme()
+{
+    Essai essai;
+    QVERIFY(essai.Montre());
+    QSignalSpy const clics(essai.pieces.bouton, &QToolButton::clicked);
+    bool fermay = false;
+    PendantQuIlEstOuvert const ouvert(*essai.pieces.Menu(), [&] {
+        essai.Clique();
+        fermay = !essai.pieces.Menu()->isVisible();
+        essai.pieces.Menu()->close();
+    });
+    essai.Clique();
+    QTRY_COMPARE(ouvert.ouvertures, 1);
+    essai.Place();
+    QVERIFY(fermay);
+    QVERIFY(!essai.pieces.Menu()->isVisible());
+    QCOMPARE(ouvert.ouvertures, 1);
+    QCOMPARE(clics.count(), 1);
+    QVERIFY(!essai.pieces.bouton->isChecked());
+    QVERIFY(!essai.pieces.bouton->isDown());
+}
+
+void tst_BarreDeFiltrePopUp::rouvrePlusTard()
+{
+    Essai essai;
+    QVERIFY(essai.Montre());
+    bool complet = true;
+    PendantQuIlEstOuvert const ouvert(*essai.pieces.Menu(), [&] {
+        complet = complet && essai.pieces.popUp->isVisible() &&
+                  essai.barre->PreteComboBox(1)->isVisible();
+        essai.Clique();
+    });
+    for (int fois = 1; fois <= 3; ++fois) {
+        essai.Clique();
+        QTRY_COMPARE(ouvert.ouvertures, fois);
+        essai.Place();
+        QVERIFY(!essai.pieces.Menu()->isVisible());
+    }
+    QVERIFY(complet); // the pop-up has not been closed in its menu
+}
+
+void tst_BarreDeFiltrePopUp::echappement()
+{
+    Essai essai;
+    QVERIFY(essai.Montre());
+    PendantQuIlEstOuvert const ouvert(
+        *essai.pieces.Menu(), [&] { QTest::keyClick(essai.pieces.Menu(), Qt::Key_Escape); });
+    essai.pieces.bouton->setFocus();
+    QTest::keyClick(essai.pieces.bouton, Qt::Key_Space);
+    QTRY_COMPARE(ouvert.ouvertures, 1);
+    essai.Place();
+    QVERIFY(!essai.pieces.Menu()->isVisible());
+    QVERIFY(!essai.pieces.bouton->isChecked());
+}
+
+void tst_BarreDeFiltrePopUp::filtreAuClavier()
+{
+    Essai essai;
+    QVERIFY(essai.Montre());
+    QSignalSpy const espion(essai.barre, &BarreDeFiltre::SignalValeurChanger);
+    PendantQuIlEstOuvert const ouvert(*essai.pieces.Menu(), [&] {
+        QTest::keyClick(essai.pieces.Menu(), Qt::Key_Tab);
+        QTest::keyClick(essai.pieces.Menu()->focusWidget(), Qt::Key_Down);
+        QTest::keyClick(essai.pieces.Menu()->focusWidget(), Qt::Key_Tab);
+        QTest::keyClick(essai.pieces.Menu()->focusWidget(), Qt::Key_Tab);
+        QTest::keyClick(essai.pieces.Menu()->focusWidget(), Qt::Key_Space); // the button
+        QTest::keyClick(essai.pieces.Menu(), Qt::Key_Escape);
+    });
+    QMetaObject::invokeMethod(essai.barre, "PriseAfficherToolTip");
+    QCOMPARE(espion.count(), 2);
+    QCOMPARE(espion.at(0), QVariantList({1, 1, QVariant(101)}));
+    QCOMPARE(espion.at(1), QVariantList({1, 0, QVariant(100)}));
+}
+
+void tst_BarreDeFiltrePopUp::barreDetruite()
+{
+    Essai essai;
+    QVERIFY(essai.Montre());
+    QPointer<BarreDeFiltre> const barre = essai.barre;
+    PendantQuIlEstOuvert const ouvert(*essai.pieces.Menu(), [&] { delete barre; });
+    QMetaObject::invokeMethod(essai.barre, "PriseAfficherToolTip");
+    QCOMPARE(ouvert.ouvertures, 1);
+    QVERIFY(!barre);
+}
+
+QTEST_MAIN(tst_BarreDeFiltrePopUp)
+#include "tst_BarreDeFiltrePopUp.moc"

@@ -1,0 +1,100 @@
+// lists/RetraitDuFocus.cpp
+#include "lists/RetraitDuFocus_p.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace {
+
+bool PeutPrendreLeFocus(QWidget const & widget, Qt::FocusPolicy politique, QWidget const & fenetre)
+{
+    return (widget.focusPolicy() & politique) && widget.isEnabled() && widget.isVisibleTo(&fenetre);
+}
+
+} // namespace
+
+RetraitDuFocus::~RetraitDuFocus()
+{
+    for (Politiques const & politiques : std::as_const(mesRetraits))
+        std::for_each(politiques.begin(), politiques.end(), RendsPolitique);
+}
+
+void RetraitDuFocus::Retire(QWidget & widget)
+{
+    Politiques & politiques = mesRetraits[&widget];
+    OublieCeuxQuiSontPartis(widget, politiques);
+    RetireAvecEnfants(widget, politiques);
+}
+
+void RetraitDuFocus::Rends(QWidget const * widget)
+{
+    Politiques const politiques = mesRetraits.take(widget);
+    std::for_each(politiques.begin(), politiques.end(), RendsPolitique);
+}
+
+void RetraitDuFocus::CedeFocus(QWidget & fenetre, QWidget * prefere) const
+{
+    QWidget * const focus = fenetre.focusWidget();
+    if (!focus || !EstRetire(focus))
+        return;
+    // The click is in the policy of whatever can have the focus at all but for what Tab alone
+    // reaches, as a tool button.
+    auto const quelconque = Qt::FocusPolicy(Qt::ClickFocus | Qt::TabFocus);
+    if (prefere && PeutPrendreLeFocus(*prefere, quelconque, fenetre)) {
+        prefere->setFocus(Qt::OtherFocusReason);
+        return;
+    }
+    for (QWidget * suivant = focus->nextInFocusChain(); suivant && suivant != focus;
+         suivant = suivant->nextInFocusChain()) {
+        if (suivant->window() == &fenetre && !suivant->focusProxy() &&
+            PeutPrendreLeFocus(*suivant, Qt::TabFocus, fenetre)) {
+            suivant->setFocus(Qt::OtherFocusReason);
+            return;
+        }
+    }
+    focus->clearFocus();
+}
+
+void RetraitDuFocus::RendsPolitique(Politique const & politique)
+{
+    if (politique.widget && politique.widget->focusPolicy() == Qt::NoFocus)
+        politique.widget->setFocusPolicy(politique.valeur);
+}
+
+void RetraitDuFocus::OublieCeuxQuiSontPartis(QWidget const & widget, Politiques & politiques)
+{
+    auto const parti = [&](Politique const & politique) {
+        if (politique.widget == &widget || widget.isAncestorOf(politique.widget))
+            return false;
+        RendsPolitique(politique);
+        return true;
+    };
+    politiques.removeIf(parti);
+}
+
+void RetraitDuFocus::RetireAvecEnfants(QWidget & widget, Politiques & politiques)
+{
+    if (widget.focusPolicy() != Qt::NoFocus && !widget.focusProxy()) {
+        auto const ancienne =
+            std::find_if(politiques.begin(), politiques.end(),
+                         [&](Politique const & politique) { return politique.widget == &widget; });
+        if (ancienne != politiques.end())
+            ancienne->valeur = widget.focusPolicy();
+        else
+            politiques.append({&widget, widget.focusPolicy()});
+        widget.setFocusPolicy(Qt::NoFocus);
+    }
+    for (QObject * const enfant : widget.children()) {
+        auto * const widgetEnfant = qobject_cast<QWidget *>(enfant);
+        if (widgetEnfant && !widgetEnfant->isWindow())
+            RetireAvecEnfants(*widgetEnfant, politiques);
+    }
+}
+
+bool RetraitDuFocus::EstRetire(QWidget const * widget) const
+{
+    for (; widget; widget = widget->isWindow() ? nullptr : widget->parentWidget())
+        if (mesRetraits.contains(widget))
+            return true;
+    return false;
+}

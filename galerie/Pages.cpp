@@ -6,6 +6,7 @@
 #include "PageCombos.h"
 #include "PageEcrans.h"
 #include "PageFenetres.h"
+#include "PageFiltres.h"
 #include "PagePolices.h"
 #include "PageRecherche.h"
 #include "PageStyle.h"
@@ -52,6 +53,8 @@ QList<DescriptionPage> const & DonnePages()
          [](ThemeGalerie &) -> QWidget * { return new PageTactile; }},
         {TexteGalerie("Recherche"), u"recherche"_s,
          [](ThemeGalerie &) -> QWidget * { return new PageRecherche; }},
+        {TexteGalerie("Filtres"), u"filtres"_s,
+         [](ThemeGalerie &) -> QWidget * { return new PageFiltres; }},
     };
     return pages;
 }

@@ -154,7 +154,7 @@ void BarreFiltreMots::AjouteEpingle(FiltreMots::Texte const & texte)
     if (std::find(mesEpingles.cbegin(), mesEpingles.cend(), texte) != mesEpingles.cend())
         return;
     mesEpingles.push_back(texte);
-    AjouterMotPastille(TraductionGalerie(TexteGalerie("{1} « {2} »"),
+    AjouterMotPastille(TraductionGalerie(TexteGalerie("{1} “{2}”"),
                                          {UniChaine(DonneLibelle(texte.mode)), texte.texte}),
                        DonneCleDePastille(texte), false);
     MontrePastilles();

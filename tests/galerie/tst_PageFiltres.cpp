@@ -39,6 +39,7 @@ private Q_SLOTS:
     void listeDeroulante();
     void autreChoix();
     void pastilleRetiree();
+    void pastilleRetireeAuClavier();
     void texteEpinglay();
     void texteEpinglayDeuxFois();
     void retourSansLettre();
@@ -186,7 +187,7 @@ void tst_PageFiltres::demonstration()
 
     QCOMPARE(PreteChamp().text(), u"re"_s);
     QCOMPARE(DonnePastilles(), (QStringList{u"Longueur\u00A0: 9 à 11"_s, u"Accents\u00A0: Aigu"_s,
-                                            u"Finit par «\u00A0ons\u00A0»"_s}));
+                                            u"Finit par “ons”"_s}));
     QVERIFY(Prete<ListePastille>().isVisible());
     QCOMPARE(DonneMots(), u"récitations récupérons"_s);
     QVERIFY(Prete<ApercuFenetre>().isVisible());
@@ -301,6 +302,25 @@ void tst_PageFiltres::pastilleRetiree()
     QCOMPARE(DonneCardinalitay(PreteBarre()), u"9 mots"_s);
 }
 
+void tst_PageFiltres::pastilleRetireeAuClavier()
+{
+    Montre();
+    Choisis(BarreFiltreMots::kInitiale, 18);
+    Choisis(BarreFiltreMots::kAccent, FiltreMots::kAvec);
+    auto * const pastille = TrouvePastille(u"Initiale\u00A0: R"_s);
+    QTRY_VERIFY(pastille->width() > 0);
+    pastille->setFocus();
+
+    QTest::keyClick(pastille, Qt::Key_Delete);
+
+    QCOMPARE(PreteBarre().PreteComboBox(BarreFiltreMots::kInitiale)->currentIndex(), 0);
+    QCOMPARE(DonnePastilles(), QStringList{u"Accents\u00A0: Avec"_s});
+    QTRY_COMPARE(maPage->focusWidget(), TrouvePastille(u"Accents\u00A0: Avec"_s));
+    QTest::keyClick(maPage->focusWidget(), Qt::Key_Return);
+    QVERIFY(DonnePastilles().isEmpty());
+    QVERIFY(PreteBarre().PreteComboDeRecherche()->hasFocus() || PreteChamp().hasFocus());
+}
+
 void tst_PageFiltres::texteEpinglay()
 {
     Montre();
@@ -311,7 +331,7 @@ void tst_PageFiltres::texteEpinglay()
 
     QTest::keyClick(&PreteChamp(), Qt::Key_Return);
     QCOMPARE(PreteChamp().text(), QString());
-    QCOMPARE(DonnePastilles(), QStringList{u"Contient «\u00A0e\u00A0»"_s});
+    QCOMPARE(DonnePastilles(), QStringList{u"Contient “e”"_s});
     QCOMPARE(DonneMots(), mots);
 
     // One more holds as well.
@@ -320,7 +340,7 @@ void tst_PageFiltres::texteEpinglay()
     QCOMPARE(DonnePastilles().size(), 2);
     QCOMPARE(DonneMots(), u"abrité célèbre zèbre"_s);
 
-    auto * const premiere = TrouvePastille(u"Contient «\u00A0e\u00A0»"_s);
+    auto * const premiere = TrouvePastille(u"Contient “e”"_s);
     QTRY_VERIFY(premiere->width() > 0);
     QTest::mouseClick(premiere, Qt::LeftButton, {}, premiere->DonneRectBoutonSupprimer().center());
     QCOMPARE(DonneMots(), u"abri abrité célèbre zèbre"_s);
@@ -334,7 +354,7 @@ void tst_PageFiltres::texteEpinglayDeuxFois()
         QTest::keyClick(&PreteChamp(), Qt::Key_Return);
     }
 
-    QCOMPARE(DonnePastilles(), QStringList{u"Commence par «\u00A0re\u00A0»"_s});
+    QCOMPARE(DonnePastilles(), QStringList{u"Commence par “re”"_s});
     QCOMPARE(DonneCardinalitay(PreteBarre()), u"4 mots"_s);
 }
 
@@ -362,7 +382,7 @@ void tst_PageFiltres::desactiver()
     QVERIFY(bouton.isEnabled());
     bouton.click();
 
-    QCOMPARE(DonnePastilles(), QStringList{u"Commence par «\u00A0e\u00A0»"_s});
+    QCOMPARE(DonnePastilles(), QStringList{u"Commence par “e”"_s});
     QCOMPARE(DonneMots(), u"été étés"_s);
     QVERIFY(!bouton.isEnabled());
 }

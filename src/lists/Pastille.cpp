@@ -68,6 +68,7 @@ Pastille::Pastille(QString const & titre, QVariant const & donnees, QWidget * pa
     , monTitre(titre)
     , mesDonnees(donnees)
     , maCouleur(u"#BEBEBE"_s)
+    , monDelai(this)
 {
     // Qt keeps a factory once; it is taken out with the last pill, so that nothing is left behind
     // when the library is unloaded.

@@ -54,7 +54,7 @@ void ToolTipComboBox::AjouterComboBox(int id, QString const & libelle, QComboBox
             [this, id, combo] { Annonce(id, *combo); });
     connect(combo, &QComboBox::currentIndexChanged, this, &ToolTipComboBox::PriseMiseAJourBouton,
             Qt::UniqueConnection);
-    connect(combo, &QObject::destroyed, this, &ToolTipComboBox::PriseMiseAJourBouton,
+    connect(combo, &QObject::destroyed, this, &ToolTipComboBox::PriseComboDetruit,
             Qt::UniqueConnection);
 }
 
@@ -90,6 +90,16 @@ void ToolTipComboBox::PriseMiseAJourBouton()
     });
     monBoutonDesactiver->setEnabled(actif);
     Q_EMIT SignalFiltreActif(actif);
+}
+
+// Told by the combo box while the pointers to it are still set.
+void ToolTipComboBox::PriseComboDetruit(QObject const * combo)
+{
+    for (auto & [id, autre] : mesCombos) {
+        if (autre == combo)
+            autre.clear();
+    }
+    PriseMiseAJourBouton();
 }
 
 void ToolTipComboBox::PriseDesactiveFiltres()

@@ -52,6 +52,7 @@ private Q_SLOTS:
     void PriseMiseAJourBouton();
 
 private:
+    void PriseComboDetruit(QObject const * combo);
     void PriseDesactiveFiltres();
     void CreeBouton();
     void PoseRangee(QString const & libelle, QComboBox & combo);

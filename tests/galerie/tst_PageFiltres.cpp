@@ -12,6 +12,7 @@
 
 #include <QtTest>
 
+#include <algorithm>
 #include <memory>
 
 using namespace Qt::StringLiterals;
@@ -73,6 +74,7 @@ private:
     QString DonneCardinalitay(BarreDeFiltre const & barre) const;
     QString DonneMots() const;
     QStringList DonnePastilles() const;
+    bool PastillesVisibles() const;
     Pastille * TrouvePastille(QString const & titre) const;
     void Choisis(BarreFiltreMots::eFiltre filtre, int choix);
 
@@ -163,6 +165,14 @@ QStringList tst_PageFiltres::DonnePastilles() const
     for (auto * const widget : Prete<ListePastille>().PreteListeWidgets())
         titres.append(qobject_cast<Pastille *>(widget)->accessibleName());
     return titres;
+}
+
+// Qt shows what has been added to a window later.
+bool tst_PageFiltres::PastillesVisibles() const
+{
+    auto const pastilles = Prete<ListePastille>().PreteListeWidgets();
+    return std::all_of(pastilles.begin(), pastilles.end(),
+                       [](QWidget const * pastille) { return pastille->isVisible(); });
 }
 
 Pastille * tst_PageFiltres::TrouvePastille(QString const & titre) const
@@ -293,7 +303,7 @@ void tst_PageFiltres::pastilleRetiree()
     QCOMPARE(DonneMots(), u"reçu réécouter"_s);
     auto * const pastille = TrouvePastille(u"Initiale\u00A0: R"_s);
     QVERIFY(pastille);
-    QTRY_VERIFY(!pastille->DonneRectBoutonSupprimer().isEmpty() && pastille->width() > 0);
+    QTRY_VERIFY(PastillesVisibles());
 
     QTest::mouseClick(pastille, Qt::LeftButton, {}, pastille->DonneRectBoutonSupprimer().center());
 
@@ -308,7 +318,7 @@ void tst_PageFiltres::pastilleRetireeAuClavier()
     Choisis(BarreFiltreMots::kInitiale, 18);
     Choisis(BarreFiltreMots::kAccent, FiltreMots::kAvec);
     auto * const pastille = TrouvePastille(u"Initiale\u00A0: R"_s);
-    QTRY_VERIFY(pastille->width() > 0);
+    QTRY_VERIFY(PastillesVisibles());
     pastille->setFocus();
 
     QTest::keyClick(pastille, Qt::Key_Delete);
@@ -341,7 +351,7 @@ void tst_PageFiltres::texteEpinglay()
     QCOMPARE(DonneMots(), u"abrité célèbre zèbre"_s);
 
     auto * const premiere = TrouvePastille(u"Contient “e”"_s);
-    QTRY_VERIFY(premiere->width() > 0);
+    QTRY_VERIFY(PastillesVisibles());
     QTest::mouseClick(premiere, Qt::LeftButton, {}, premiere->DonneRectBoutonSupprimer().center());
     QCOMPARE(DonneMots(), u"abri abrité célèbre zèbre"_s);
 }
@@ -608,7 +618,7 @@ void tst_PageFiltres::tabulation()
     Choisis(BarreFiltreMots::kInitiale, 18);
     Montre();
     auto * const pastille = TrouvePastille(u"Initiale\u00A0: R"_s);
-    QTRY_VERIFY(pastille->width() > 0);
+    QTRY_VERIFY(PastillesVisibles());
     pastille->setFocus();
     QList<QWidget *> suivants;
     for (int i = 0; i < 9; ++i) {

@@ -116,7 +116,7 @@ void BarreFiltreMots::CreeCombos()
     CreeCombo(kInitiale, u"initiale"_s, DonneLibelle(kInitiale), initiales);
     CreeCombo(
         kAccent, u"accent"_s, DonneLibelle(kAccent),
-        {TraductionGalerie(TexteGalerie("Avec ou sans")), TraductionGalerie(TexteGalerie("Sans")),
+        {TraductionGalerie(TexteGalerie("Tous")), TraductionGalerie(TexteGalerie("Sans")),
          TraductionGalerie(TexteGalerie("Avec")), TraductionGalerie(TexteGalerie("Aigu")),
          TraductionGalerie(TexteGalerie("Grave")), TraductionGalerie(TexteGalerie("Circonflexe")),
          TraductionGalerie(TexteGalerie("Tréma")), TraductionGalerie(TexteGalerie("Cédille"))});

@@ -32,7 +32,8 @@ quint8 DonneAccentIsole(QChar caractere)
 quint8 ChercheAccents(QChar caractere)
 {
     quint8 accents = TableMots::kSansAccent;
-    for (QChar const element : QString(caractere).normalized(QString::NormalizationForm_D))
+    QString const decompose = QString(caractere).normalized(QString::NormalizationForm_D);
+    for (QChar const element : decompose)
         accents |= DonneAccentIsole(element);
     return accents;
 }

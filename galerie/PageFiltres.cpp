@@ -66,22 +66,10 @@ PageFiltres::PageFiltres(QWidget * parent)
         TraductionGalerie(TexteGalerie(
             "Les mots du français, filtrés pendant la frappe. Entrée fait du texte une pastille de "
             "plus ; la barre du bas règle l’ordre et les colonnes.")));
-    monMessage = new QLabel;
-    monMessage->setObjectName(u"messageErreur"_s); // the sheet's colour for errors
-    monMessage->setTextFormat(Qt::PlainText);      // it may name a file
-    monMessage->setWordWrap(true);
-    monMessage->hide();
+    disposition->addWidget(CreeMessage());
     maBarre = new BarreFiltreMots;
-    disposition->addWidget(monMessage);
     disposition->addWidget(maBarre);
-    auto * const grille = new QGridLayout;
-    grille->addWidget(CreeListe(), 0, 0, 2, 1);
-    grille->addWidget(CreeOrdre(), 2, 0);
-    grille->addWidget(CreeApercu(), 0, 1);
-    grille->addWidget(CreeTrace(), 1, 1, 2, 1);
-    grille->setColumnStretch(0, 1);
-    grille->setRowStretch(1, 1);
-    disposition->addLayout(grille, 1);
+    disposition->addLayout(CreeGrille(), 1);
 
     PriseColonnes();
     MontreOrdre();
@@ -94,6 +82,29 @@ PageFiltres::Memoire & PageFiltres::PreteMemoire()
 {
     static Memoire memoire;
     return memoire;
+}
+
+QWidget * PageFiltres::CreeMessage()
+{
+    monMessage = new QLabel;
+    monMessage->setObjectName(u"messageErreur"_s); // the sheet's colour for errors
+    monMessage->setTextFormat(Qt::PlainText);      // it may name a file
+    monMessage->setWordWrap(true);
+    monMessage->hide();
+    return monMessage;
+}
+
+// In the order of the Tab key.
+QLayout * PageFiltres::CreeGrille()
+{
+    auto * const grille = new QGridLayout;
+    grille->addWidget(CreeListe(), 0, 0, 2, 1);
+    grille->addWidget(CreeOrdre(), 2, 0);
+    grille->addWidget(CreeApercu(), 0, 1);
+    grille->addWidget(CreeTrace(), 1, 1, 2, 1);
+    grille->setColumnStretch(0, 1);
+    grille->setRowStretch(1, 1);
+    return grille;
 }
 
 QWidget * PageFiltres::CreeListe()

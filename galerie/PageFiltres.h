@@ -16,6 +16,7 @@ class ChargementMots;
 class DTableView;
 class QAction;
 class QLabel;
+class QLayout;
 class QMenu;
 class QPushButton;
 class TraceSignaux;
@@ -49,6 +50,8 @@ public:
     static Memoire & PreteMemoire();
 
 private:
+    QWidget * CreeMessage();
+    QLayout * CreeGrille();
     QWidget * CreeListe();
     QWidget * CreeOrdre();
     QMenu * CreeMenu();

@@ -1,6 +1,7 @@
 // galerie/Captures.cpp
 #include "Captures.h"
 
+#include "ChargementMots.h"
 #include "FenetreGalerie.h"
 #include "Langues.h"
 #include "Pages.h"
@@ -22,7 +23,8 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int kDelaiFondus = 500; // ms; Qt's own takes 160
+constexpr int kDelaiFondus = 500;         // ms; Qt's own takes 160
+constexpr int kDelaiChargements = 10'000; // ms; hundredths of a second, but for a busy machine
 
 // The button that clears a field fades in: how far it got would be in the picture.
 bool FondusEnCours(QWidget const & fenetre)
@@ -33,6 +35,14 @@ bool FondusEnCours(QWidget const & fenetre)
         return champ && bouton->isVisible() && !champ->text().isEmpty() &&
                bouton->property("opacity").toReal() < 1;
     });
+}
+
+// A page without its words would be in the picture.
+bool ChargementsEnCours(QWidget const & fenetre)
+{
+    auto const chargements = fenetre.findChildren<ChargementMots *>();
+    return std::any_of(chargements.begin(), chargements.end(),
+                       [](ChargementMots const * chargement) { return !chargement->DonneTable(); });
 }
 
 // Pictures are named "01-theme-fr.png" and "01-theme-sombre-fr.png".
@@ -77,6 +87,9 @@ private:
         QString const nom = u"%1-%2%3-%4.png"_s.arg(page + 1, 2, 10, QChar(u'0'))
                                 .arg(description.nom, variante, langue);
         maFenetre.MontrePage(page);
+        QDeadlineTimer const delaiChargements(kDelaiChargements);
+        while (ChargementsEnCours(maFenetre) && !delaiChargements.hasExpired())
+            QCoreApplication::processEvents(QEventLoop::AllEvents, kDelaiFondus);
         // Layouts settle on events, and what they show may ask for more.
         for (int tour = 0; tour < 2; ++tour)
             QCoreApplication::processEvents();

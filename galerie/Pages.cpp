@@ -8,6 +8,7 @@
 #include "PageEcrans.h"
 #include "PageFenetres.h"
 #include "PageJetons.h"
+#include "PageFiltres.h"
 #include "PagePolices.h"
 #include "PageRecherche.h"
 #include "PageStyle.h"
@@ -56,6 +57,8 @@ QList<DescriptionPage> const & DonnePages()
          [](ThemeGalerie &) -> QWidget * { return new PageRecherche; }},
         {TexteGalerie("Chevron"), u"chevron"_s,
          [](ThemeGalerie &) -> QWidget * { return new PageChevron; }},
+        {TexteGalerie("Filtres"), u"filtres"_s,
+         [](ThemeGalerie &) -> QWidget * { return new PageFiltres; }},
         {TexteGalerie("Jetons"), u"jetons"_s,
          [](ThemeGalerie &) -> QWidget * { return new PageJetons; }},
     };

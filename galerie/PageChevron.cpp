@@ -21,19 +21,26 @@
 #include <QTextEdit>
 #include <QVBoxLayout>
 
+#include <algorithm>
+
 using namespace Qt::StringLiterals;
 
 namespace {
 
 // Logical pixels.
-constexpr int kHauteurTexte = 110;
+constexpr int kHauteurTexte = 190;
 constexpr int kHauteurTrace = 72;
 constexpr int kEspacementJours = 8;
 
 // Per cent of the width that the bands may have.
 constexpr int kLargeurMin = 4;
 constexpr int kLargeurMax = 100;
-constexpr int kLargeurInitiale = 20; // some tools have no room, even without their texts
+constexpr int kLargeurInitiale = 14; // some tools have no room, even without their texts
+
+// Points.
+constexpr double kPas = 2.0;
+constexpr double kTailleMin = 6.0;
+constexpr double kTailleInitiale = 10.0; // for a text whose size is told in pixels
 
 // As wide as it is told, in per cent, of what the row has, whatever the band asks for.
 QHBoxLayout * CreeRangee(DFrameChevronnable * bande)
@@ -82,7 +89,7 @@ PageChevron::PageChevron(QWidget * parent)
     disposition->addWidget(CreeOutils());
     disposition->addWidget(CreeJours());
     disposition->addWidget(CreeTrace());
-    disposition->addStretch();
+    disposition->addStretch(1);
     Branche();
     PriseLargeur(maLargeur->value());
 }
@@ -118,7 +125,7 @@ QWidget * PageChevron::CreeOutils()
                                   *PreteMenu(*mesOutils));
 
     auto * const dessous = new QHBoxLayout;
-    dessous->addWidget(monTexte, 1);
+    dessous->addWidget(monTexte, 1, Qt::AlignTop);
     auto * const menu = new QVBoxLayout;
     menu->addWidget(monCompte);
     menu->addWidget(monApercu);
@@ -133,10 +140,9 @@ QWidget * PageChevron::CreeOutils()
 void PageChevron::CreeTexte()
 {
     monTexte = new QTextEdit;
-    monTexte->setObjectName(u"texteOutils"_s);
     monTexte->setAccessibleName(TraductionGalerie(TexteGalerie("Texte")));
     monTexte->setTabChangesFocus(true);
-    monTexte->setMinimumHeight(kHauteurTexte);
+    monTexte->setFixedHeight(kHauteurTexte);
     monTexte->setPlainText(TraductionGalerie(
         TexteGalerie("Les outils agissent sur ce qui est sélectionné ici, que l’on clique dans la "
                      "bande ou dans le menu du chevron.")));
@@ -165,16 +171,15 @@ void PageChevron::RemplisOutils()
     bascule(u"souligne"_s, u":/images/outilSouligne.svg"_s, TexteGalerie("Souligné"),
             [](QTextEdit & texte, bool actif) { texte.setFontUnderline(actif); });
     AjouteOutil(*CreeCasse());
+    AjouteEffet(u"agrandit"_s, u":/Images/PolicesPlus.svg"_s, TexteGalerie("Agrandir"),
+                &PageChevron::PriseAgrandit);
+    AjouteEffet(u"reduit"_s, u":/Images/PolicesMoins.svg"_s, TexteGalerie("Réduire"),
+                &PageChevron::PriseReduit);
     mesOutils->addSpacer();
-
-    QAction * const annule = CreeAction(u"annule"_s, u":/images/outilAnnule.svg"_s,
-                                        TraductionGalerie(TexteGalerie("Annuler")));
-    connect(annule, &QAction::triggered, monTexte, &QTextEdit::undo, Qt::UniqueConnection);
-    AjouteOutil(*annule);
-    QAction * const retablit = CreeAction(u"retablit"_s, u":/images/outilRetablit.svg"_s,
-                                          TraductionGalerie(TexteGalerie("Rétablir")));
-    connect(retablit, &QAction::triggered, monTexte, &QTextEdit::redo, Qt::UniqueConnection);
-    AjouteOutil(*retablit);
+    AjouteEffet(u"annule"_s, u":/images/outilAnnule.svg"_s, TexteGalerie("Annuler"),
+                &PageChevron::PriseAnnule);
+    AjouteEffet(u"retablit"_s, u":/images/outilRetablit.svg"_s, TexteGalerie("Rétablir"),
+                &PageChevron::PriseRetablit);
 }
 
 QAction * PageChevron::CreeAction(QString const & nom, QString const & icone, QString const & texte)
@@ -203,6 +208,14 @@ QAction * PageChevron::CreeCasse()
                                         TraductionGalerie(TexteGalerie("Casse")));
     action->setMenu(menu);
     return action;
+}
+
+void PageChevron::AjouteEffet(QString const & nom, QString const & icone, ChaineLocalisable texte,
+                              void (PageChevron::*effet)())
+{
+    QAction * const action = CreeAction(nom, icone, TraductionGalerie(texte));
+    connect(action, &QAction::triggered, this, effet, Qt::UniqueConnection);
+    AjouteOutil(*action);
 }
 
 void PageChevron::AjouteOutil(QAction & action)
@@ -280,4 +293,31 @@ void PageChevron::PriseLargeur(int pourCent)
         rangee->setStretch(0, pourCent);
         rangee->setStretch(1, kLargeurMax - pourCent);
     }
+}
+
+void PageChevron::PriseAgrandit()
+{
+    ChangeTaille(kPas);
+}
+
+void PageChevron::PriseReduit()
+{
+    ChangeTaille(-kPas);
+}
+
+void PageChevron::PriseAnnule()
+{
+    monTexte->undo();
+}
+
+void PageChevron::PriseRetablit()
+{
+    monTexte->redo();
+}
+
+void PageChevron::ChangeTaille(double points)
+{
+    QFont const police = monTexte->currentCharFormat().font();
+    double const taille = police.pointSizeF() > 0.0 ? police.pointSizeF() : kTailleInitiale;
+    monTexte->setFontPointSize(std::max(kTailleMin, taille + points));
 }

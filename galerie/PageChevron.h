@@ -1,6 +1,8 @@
 // galerie/PageChevron.h
 #pragma once
 
+#include "noyau/ChaineLocalisable.h"
+
 #include <QWidget>
 
 class ApercuFenetre;
@@ -26,6 +28,8 @@ private:
     QWidget * CreeTrace();
     void CreeTexte();
     void RemplisOutils();
+    void AjouteEffet(QString const & nom, QString const & icone, ChaineLocalisable texte,
+                     void (PageChevron::*effet)());
     void AjouteOutil(QAction & action);
     QAction * CreeAction(QString const & nom, QString const & icone, QString const & texte);
     QAction * CreeCasse();
@@ -34,6 +38,11 @@ private:
     void PriseForme(int toutEstVisible);
     void PriseMiseEnPlace();
     void PriseLargeur(int pourCent);
+    void PriseAgrandit();
+    void PriseReduit();
+    void PriseAnnule();
+    void PriseRetablit();
+    void ChangeTaille(double points);
 
     DFrameChevronnable * mesOutils = nullptr;
     DFrameChevronnable * mesJours = nullptr;

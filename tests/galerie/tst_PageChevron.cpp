@@ -155,7 +155,7 @@ void tst_PageChevron::menuMontre()
 
 void tst_PageChevron::outilsAgissent()
 {
-    auto const * const texte = maPage->findChild<QTextEdit *>(u"texteOutils"_s);
+    auto const * const texte = maPage->findChild<QTextEdit *>();
     QVERIFY(texte->textCursor().hasSelection());
 
     PreteAction(u"gras"_s)->trigger();
@@ -167,6 +167,14 @@ void tst_PageChevron::outilsAgissent()
     QVERIFY(format.fontItalic());
     QVERIFY(format.fontUnderline());
     QCOMPARE(format.fontCapitalization(), QFont::AllUppercase);
+
+    PreteAction(u"agrandit"_s)->trigger();
+    double const grande = texte->textCursor().charFormat().fontPointSize();
+    PreteAction(u"reduit"_s)->trigger();
+    QVERIFY(texte->textCursor().charFormat().fontPointSize() < grande);
+    PreteAction(u"annule"_s)->trigger();
+    QCOMPARE(texte->textCursor().charFormat().fontPointSize(), grande);
+    PreteAction(u"annule"_s)->trigger();
 
     PreteAction(u"annule"_s)->trigger();
     QVERIFY(texte->textCursor().charFormat().fontCapitalization() != QFont::AllUppercase);

@@ -121,8 +121,13 @@ QWidget * PageChevron::CreeOutils()
     AjusteHauteur(*mesOutils);
     monCompte = new QLabel;
     monCompte->setObjectName(u"explicationPage"_s); // the sheet's colour for explanations
-    monApercu = new ApercuFenetre(TraductionGalerie(TexteGalerie("Le menu du chevron")),
-                                  *PreteMenu(*mesOutils));
+    QMenu & menuDuChevron = *PreteMenu(*mesOutils);
+    monApercu = new ApercuFenetre(
+        TraductionGalerie(TexteGalerie("Le menu du chevron")), menuDuChevron,
+        // An empty menu asks for no size, and would keep the large one that windows begin with.
+        [&menuDuChevron] {
+            return menuDuChevron.sizeHint().expandedTo({1, 1});
+        });
 
     auto * const dessous = new QHBoxLayout;
     dessous->addWidget(monTexte, 1, Qt::AlignTop);

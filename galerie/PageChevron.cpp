@@ -163,7 +163,7 @@ void PageChevron::RemplisOutils()
                                 void (*change)(QTextEdit &, bool)) {
         QAction * const action = CreeAction(nom, icone, TraductionGalerie(texte));
         action->setCheckable(true);
-        connect(action, &QAction::toggled, monTexte,
+        connect(action, &QAction::triggered, monTexte,
                 [texteEdit = monTexte, change](bool actif) { change(*texteEdit, actif); });
         AjouteOutil(*action);
     };
@@ -176,15 +176,15 @@ void PageChevron::RemplisOutils()
     bascule(u"souligne"_s, u":/images/outilSouligne.svg"_s, TexteGalerie("Souligné"),
             [](QTextEdit & texte, bool actif) { texte.setFontUnderline(actif); });
     AjouteOutil(*CreeCasse());
-    AjouteEffet(u"agrandit"_s, u":/Images/PolicesPlus.svg"_s, TexteGalerie("Agrandir"),
-                &PageChevron::PriseAgrandit);
-    AjouteEffet(u"reduit"_s, u":/Images/PolicesMoins.svg"_s, TexteGalerie("Réduire"),
-                &PageChevron::PriseReduit);
+    connect(AjouteEffet(u"agrandit"_s, u":/Images/PolicesPlus.svg"_s, TexteGalerie("Agrandir")),
+            &QAction::triggered, this, &PageChevron::PriseAgrandit, Qt::UniqueConnection);
+    connect(AjouteEffet(u"reduit"_s, u":/Images/PolicesMoins.svg"_s, TexteGalerie("Réduire")),
+            &QAction::triggered, this, &PageChevron::PriseReduit, Qt::UniqueConnection);
     mesOutils->addSpacer();
-    AjouteEffet(u"annule"_s, u":/images/outilAnnule.svg"_s, TexteGalerie("Annuler"),
-                &PageChevron::PriseAnnule);
-    AjouteEffet(u"retablit"_s, u":/images/outilRetablit.svg"_s, TexteGalerie("Rétablir"),
-                &PageChevron::PriseRetablit);
+    connect(AjouteEffet(u"annule"_s, u":/images/outilAnnule.svg"_s, TexteGalerie("Annuler")),
+            &QAction::triggered, monTexte, &QTextEdit::undo, Qt::UniqueConnection);
+    connect(AjouteEffet(u"retablit"_s, u":/images/outilRetablit.svg"_s, TexteGalerie("Rétablir")),
+            &QAction::triggered, monTexte, &QTextEdit::redo, Qt::UniqueConnection);
 }
 
 QAction * PageChevron::CreeAction(QString const & nom, QString const & icone, QString const & texte)
@@ -215,12 +215,12 @@ QAction * PageChevron::CreeCasse()
     return action;
 }
 
-void PageChevron::AjouteEffet(QString const & nom, QString const & icone, ChaineLocalisable texte,
-                              void (PageChevron::*effet)())
+QAction * PageChevron::AjouteEffet(QString const & nom, QString const & icone,
+                                   ChaineLocalisable texte)
 {
     QAction * const action = CreeAction(nom, icone, TraductionGalerie(texte));
-    connect(action, &QAction::triggered, this, effet, Qt::UniqueConnection);
     AjouteOutil(*action);
+    return action;
 }
 
 void PageChevron::AjouteOutil(QAction & action)
@@ -262,6 +262,8 @@ QWidget * PageChevron::CreeTrace()
 void PageChevron::Branche()
 {
     connect(maLargeur, &QSlider::valueChanged, this, &PageChevron::PriseLargeur,
+            Qt::UniqueConnection);
+    connect(monTexte, &QTextEdit::currentCharFormatChanged, this, &PageChevron::PriseFormatChangay,
             Qt::UniqueConnection);
     connect(mesOutils, &DFrameChevronnable::SignalChangeForme, this, &PageChevron::PriseForme,
             Qt::UniqueConnection);
@@ -310,14 +312,11 @@ void PageChevron::PriseReduit()
     ChangeTaille(-kPas);
 }
 
-void PageChevron::PriseAnnule()
+void PageChevron::PriseFormatChangay(QTextCharFormat const & format)
 {
-    monTexte->undo();
-}
-
-void PageChevron::PriseRetablit()
-{
-    monTexte->redo();
+    findChild<QAction *>(u"gras"_s)->setChecked(format.fontWeight() > QFont::Normal);
+    findChild<QAction *>(u"italique"_s)->setChecked(format.fontItalic());
+    findChild<QAction *>(u"souligne"_s)->setChecked(format.fontUnderline());
 }
 
 void PageChevron::ChangeTaille(double points)

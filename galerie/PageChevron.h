@@ -10,6 +10,7 @@ class DFrameChevronnable;
 class QAction;
 class QLabel;
 class QSlider;
+class QTextCharFormat;
 class QTextEdit;
 class TraceSignaux;
 
@@ -28,8 +29,7 @@ private:
     QWidget * CreeTrace();
     void CreeTexte();
     void RemplisOutils();
-    void AjouteEffet(QString const & nom, QString const & icone, ChaineLocalisable texte,
-                     void (PageChevron::*effet)());
+    QAction * AjouteEffet(QString const & nom, QString const & icone, ChaineLocalisable texte);
     void AjouteOutil(QAction & action);
     QAction * CreeAction(QString const & nom, QString const & icone, QString const & texte);
     QAction * CreeCasse();
@@ -40,8 +40,7 @@ private:
     void PriseLargeur(int pourCent);
     void PriseAgrandit();
     void PriseReduit();
-    void PriseAnnule();
-    void PriseRetablit();
+    void PriseFormatChangay(QTextCharFormat const & format);
     void ChangeTaille(double points);
 
     DFrameChevronnable * mesOutils = nullptr;

@@ -27,6 +27,7 @@ private Q_SLOTS:
     void texteAvantChevron();
     void menuMontre();
     void outilsAgissent();
+    void outilsSuiventLeTexte();
     void outilSousLeChevron();
     void sousMenu();
     void signauxMontres();
@@ -180,6 +181,20 @@ void tst_PageChevron::outilsAgissent()
     QVERIFY(texte->textCursor().charFormat().fontCapitalization() != QFont::AllUppercase);
     PreteAction(u"retablit"_s)->trigger();
     QCOMPARE(texte->textCursor().charFormat().fontCapitalization(), QFont::AllUppercase);
+}
+
+void tst_PageChevron::outilsSuiventLeTexte()
+{
+    auto * const texte = maPage->findChild<QTextEdit *>();
+    PreteAction(u"gras"_s)->trigger();
+    QVERIFY(PreteAction(u"gras"_s)->isChecked());
+
+    texte->moveCursor(QTextCursor::End);
+    QVERIFY(!PreteAction(u"gras"_s)->isChecked());
+
+    texte->moveCursor(QTextCursor::Start);
+    texte->moveCursor(QTextCursor::NextCharacter);
+    QVERIFY(PreteAction(u"gras"_s)->isChecked());
 }
 
 void tst_PageChevron::outilSousLeChevron()

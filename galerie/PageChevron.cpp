@@ -21,19 +21,26 @@
 #include <QTextEdit>
 #include <QVBoxLayout>
 
+#include <algorithm>
+
 using namespace Qt::StringLiterals;
 
 namespace {
 
 // Logical pixels.
-constexpr int kHauteurTexte = 110;
+constexpr int kHauteurTexte = 190;
 constexpr int kHauteurTrace = 72;
 constexpr int kEspacementJours = 8;
 
 // Per cent of the width that the bands may have.
 constexpr int kLargeurMin = 4;
 constexpr int kLargeurMax = 100;
-constexpr int kLargeurInitiale = 20; // some tools have no room, even without their texts
+constexpr int kLargeurInitiale = 14; // some tools have no room, even without their texts
+
+// Points.
+constexpr double kPas = 2.0;
+constexpr double kTailleMin = 6.0;
+constexpr double kTailleInitiale = 10.0; // for a text whose size is told in pixels
 
 // As wide as it is told, in per cent, of what the row has, whatever the band asks for.
 QHBoxLayout * CreeRangee(DFrameChevronnable * bande)
@@ -82,7 +89,7 @@ PageChevron::PageChevron(QWidget * parent)
     disposition->addWidget(CreeOutils());
     disposition->addWidget(CreeJours());
     disposition->addWidget(CreeTrace());
-    disposition->addStretch();
+    disposition->addStretch(1);
     Branche();
     PriseLargeur(maLargeur->value());
 }
@@ -114,11 +121,16 @@ QWidget * PageChevron::CreeOutils()
     AjusteHauteur(*mesOutils);
     monCompte = new QLabel;
     monCompte->setObjectName(u"explicationPage"_s); // the sheet's colour for explanations
-    monApercu = new ApercuFenetre(TraductionGalerie(TexteGalerie("Le menu du chevron")),
-                                  *PreteMenu(*mesOutils));
+    QMenu & menuDuChevron = *PreteMenu(*mesOutils);
+    monApercu = new ApercuFenetre(
+        TraductionGalerie(TexteGalerie("Le menu du chevron")), menuDuChevron,
+        // An empty menu asks for no size, and would keep the large one that windows begin with.
+        [&menuDuChevron] {
+            return menuDuChevron.sizeHint().expandedTo({1, 1});
+        });
 
     auto * const dessous = new QHBoxLayout;
-    dessous->addWidget(monTexte, 1);
+    dessous->addWidget(monTexte, 1, Qt::AlignTop);
     auto * const menu = new QVBoxLayout;
     menu->addWidget(monCompte);
     menu->addWidget(monApercu);
@@ -133,10 +145,9 @@ QWidget * PageChevron::CreeOutils()
 void PageChevron::CreeTexte()
 {
     monTexte = new QTextEdit;
-    monTexte->setObjectName(u"texteOutils"_s);
     monTexte->setAccessibleName(TraductionGalerie(TexteGalerie("Texte")));
     monTexte->setTabChangesFocus(true);
-    monTexte->setMinimumHeight(kHauteurTexte);
+    monTexte->setFixedHeight(kHauteurTexte);
     monTexte->setPlainText(TraductionGalerie(
         TexteGalerie("Les outils agissent sur ce qui est sélectionné ici, que l’on clique dans la "
                      "bande ou dans le menu du chevron.")));
@@ -152,7 +163,7 @@ void PageChevron::RemplisOutils()
                                 void (*change)(QTextEdit &, bool)) {
         QAction * const action = CreeAction(nom, icone, TraductionGalerie(texte));
         action->setCheckable(true);
-        connect(action, &QAction::toggled, monTexte,
+        connect(action, &QAction::triggered, monTexte,
                 [texteEdit = monTexte, change](bool actif) { change(*texteEdit, actif); });
         AjouteOutil(*action);
     };
@@ -165,16 +176,15 @@ void PageChevron::RemplisOutils()
     bascule(u"souligne"_s, u":/images/outilSouligne.svg"_s, TexteGalerie("Souligné"),
             [](QTextEdit & texte, bool actif) { texte.setFontUnderline(actif); });
     AjouteOutil(*CreeCasse());
+    connect(AjouteEffet(u"agrandit"_s, u":/Images/PolicesPlus.svg"_s, TexteGalerie("Agrandir")),
+            &QAction::triggered, this, &PageChevron::PriseAgrandit, Qt::UniqueConnection);
+    connect(AjouteEffet(u"reduit"_s, u":/Images/PolicesMoins.svg"_s, TexteGalerie("Réduire")),
+            &QAction::triggered, this, &PageChevron::PriseReduit, Qt::UniqueConnection);
     mesOutils->addSpacer();
-
-    QAction * const annule = CreeAction(u"annule"_s, u":/images/outilAnnule.svg"_s,
-                                        TraductionGalerie(TexteGalerie("Annuler")));
-    connect(annule, &QAction::triggered, monTexte, &QTextEdit::undo, Qt::UniqueConnection);
-    AjouteOutil(*annule);
-    QAction * const retablit = CreeAction(u"retablit"_s, u":/images/outilRetablit.svg"_s,
-                                          TraductionGalerie(TexteGalerie("Rétablir")));
-    connect(retablit, &QAction::triggered, monTexte, &QTextEdit::redo, Qt::UniqueConnection);
-    AjouteOutil(*retablit);
+    connect(AjouteEffet(u"annule"_s, u":/images/outilAnnule.svg"_s, TexteGalerie("Annuler")),
+            &QAction::triggered, monTexte, &QTextEdit::undo, Qt::UniqueConnection);
+    connect(AjouteEffet(u"retablit"_s, u":/images/outilRetablit.svg"_s, TexteGalerie("Rétablir")),
+            &QAction::triggered, monTexte, &QTextEdit::redo, Qt::UniqueConnection);
 }
 
 QAction * PageChevron::CreeAction(QString const & nom, QString const & icone, QString const & texte)
@@ -202,6 +212,14 @@ QAction * PageChevron::CreeCasse()
     QAction * const action = CreeAction(u"casse"_s, u":/images/outilCasse.svg"_s,
                                         TraductionGalerie(TexteGalerie("Casse")));
     action->setMenu(menu);
+    return action;
+}
+
+QAction * PageChevron::AjouteEffet(QString const & nom, QString const & icone,
+                                   ChaineLocalisable texte)
+{
+    QAction * const action = CreeAction(nom, icone, TraductionGalerie(texte));
+    AjouteOutil(*action);
     return action;
 }
 
@@ -245,6 +263,8 @@ void PageChevron::Branche()
 {
     connect(maLargeur, &QSlider::valueChanged, this, &PageChevron::PriseLargeur,
             Qt::UniqueConnection);
+    connect(monTexte, &QTextEdit::currentCharFormatChanged, this, &PageChevron::PriseFormatChangay,
+            Qt::UniqueConnection);
     connect(mesOutils, &DFrameChevronnable::SignalChangeForme, this, &PageChevron::PriseForme,
             Qt::UniqueConnection);
     connect(qobject_cast<LayoutHorizontalAvecChevron *>(mesOutils->layout()),
@@ -280,4 +300,28 @@ void PageChevron::PriseLargeur(int pourCent)
         rangee->setStretch(0, pourCent);
         rangee->setStretch(1, kLargeurMax - pourCent);
     }
+}
+
+void PageChevron::PriseAgrandit()
+{
+    ChangeTaille(kPas);
+}
+
+void PageChevron::PriseReduit()
+{
+    ChangeTaille(-kPas);
+}
+
+void PageChevron::PriseFormatChangay(QTextCharFormat const & format)
+{
+    findChild<QAction *>(u"gras"_s)->setChecked(format.fontWeight() > QFont::Normal);
+    findChild<QAction *>(u"italique"_s)->setChecked(format.fontItalic());
+    findChild<QAction *>(u"souligne"_s)->setChecked(format.fontUnderline());
+}
+
+void PageChevron::ChangeTaille(double points)
+{
+    QFont const police = monTexte->currentCharFormat().font();
+    double const taille = police.pointSizeF() > 0.0 ? police.pointSizeF() : kTailleInitiale;
+    monTexte->setFontPointSize(std::max(kTailleMin, taille + points));
 }

@@ -1,6 +1,8 @@
 // galerie/PageChevron.h
 #pragma once
 
+#include "noyau/ChaineLocalisable.h"
+
 #include <QWidget>
 
 class ApercuFenetre;
@@ -8,6 +10,7 @@ class DFrameChevronnable;
 class QAction;
 class QLabel;
 class QSlider;
+class QTextCharFormat;
 class QTextEdit;
 class TraceSignaux;
 
@@ -26,6 +29,7 @@ private:
     QWidget * CreeTrace();
     void CreeTexte();
     void RemplisOutils();
+    QAction * AjouteEffet(QString const & nom, QString const & icone, ChaineLocalisable texte);
     void AjouteOutil(QAction & action);
     QAction * CreeAction(QString const & nom, QString const & icone, QString const & texte);
     QAction * CreeCasse();
@@ -34,6 +38,10 @@ private:
     void PriseForme(int toutEstVisible);
     void PriseMiseEnPlace();
     void PriseLargeur(int pourCent);
+    void PriseAgrandit();
+    void PriseReduit();
+    void PriseFormatChangay(QTextCharFormat const & format);
+    void ChangeTaille(double points);
 
     DFrameChevronnable * mesOutils = nullptr;
     DFrameChevronnable * mesJours = nullptr;

@@ -10,6 +10,7 @@
 
 #include <algorithm>
 #include <optional>
+#include <utility>
 
 namespace {
 
@@ -215,6 +216,7 @@ void LayoutHorizontalAvecChevron::PriseFocusChangay()
     if (parentWidget())
         monRetrait->CedeFocus(*parentWidget()->window(), monChevron);
 }
+
 int LayoutHorizontalAvecChevron::doLayout(QRect const & rect, ListeItems & liste,
                                           FonctionTaille taille, bool test) const
 {

@@ -27,6 +27,7 @@ private Q_SLOTS:
     void texteAvantChevron();
     void menuMontre();
     void outilsAgissent();
+    void outilsSuiventLeTexte();
     void outilSousLeChevron();
     void sousMenu();
     void signauxMontres();
@@ -155,7 +156,7 @@ void tst_PageChevron::menuMontre()
 
 void tst_PageChevron::outilsAgissent()
 {
-    auto const * const texte = maPage->findChild<QTextEdit *>(u"texteOutils"_s);
+    auto const * const texte = maPage->findChild<QTextEdit *>();
     QVERIFY(texte->textCursor().hasSelection());
 
     PreteAction(u"gras"_s)->trigger();
@@ -168,10 +169,32 @@ void tst_PageChevron::outilsAgissent()
     QVERIFY(format.fontUnderline());
     QCOMPARE(format.fontCapitalization(), QFont::AllUppercase);
 
+    PreteAction(u"agrandit"_s)->trigger();
+    double const grande = texte->textCursor().charFormat().fontPointSize();
+    PreteAction(u"reduit"_s)->trigger();
+    QVERIFY(texte->textCursor().charFormat().fontPointSize() < grande);
+    PreteAction(u"annule"_s)->trigger();
+    QCOMPARE(texte->textCursor().charFormat().fontPointSize(), grande);
+    PreteAction(u"annule"_s)->trigger();
+
     PreteAction(u"annule"_s)->trigger();
     QVERIFY(texte->textCursor().charFormat().fontCapitalization() != QFont::AllUppercase);
     PreteAction(u"retablit"_s)->trigger();
     QCOMPARE(texte->textCursor().charFormat().fontCapitalization(), QFont::AllUppercase);
+}
+
+void tst_PageChevron::outilsSuiventLeTexte()
+{
+    auto * const texte = maPage->findChild<QTextEdit *>();
+    PreteAction(u"gras"_s)->trigger();
+    QVERIFY(PreteAction(u"gras"_s)->isChecked());
+
+    texte->moveCursor(QTextCursor::End);
+    QVERIFY(!PreteAction(u"gras"_s)->isChecked());
+
+    texte->moveCursor(QTextCursor::Start);
+    texte->moveCursor(QTextCursor::NextCharacter);
+    QVERIFY(PreteAction(u"gras"_s)->isChecked());
 }
 
 void tst_PageChevron::outilSousLeChevron()

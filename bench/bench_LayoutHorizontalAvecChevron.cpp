@@ -19,7 +19,7 @@
 namespace {
 
 constexpr int kTailles[] = {10, 100, 1'000, 10'000};
-constexpr int kWidgetsParMesure = 20'000;
+constexpr int kWidgetsParMesure = 50'000;
 constexpr double kCroissanceMax = 4.0;
 constexpr int kRessorts = 3;
 

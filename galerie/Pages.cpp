@@ -3,6 +3,7 @@
 
 #include "PageAlertes.h"
 #include "PageBoutons.h"
+#include "PageChevron.h"
 #include "PageCombos.h"
 #include "PageEcrans.h"
 #include "PageFenetres.h"
@@ -52,6 +53,8 @@ QList<DescriptionPage> const & DonnePages()
          [](ThemeGalerie &) -> QWidget * { return new PageTactile; }},
         {TexteGalerie("Recherche"), u"recherche"_s,
          [](ThemeGalerie &) -> QWidget * { return new PageRecherche; }},
+        {TexteGalerie("Chevron"), u"chevron"_s,
+         [](ThemeGalerie &) -> QWidget * { return new PageChevron; }},
     };
     return pages;
 }

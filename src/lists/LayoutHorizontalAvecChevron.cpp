@@ -10,6 +10,7 @@
 
 #include <algorithm>
 #include <optional>
+#include <utility>
 
 namespace {
 
@@ -25,7 +26,7 @@ void Cache(QLayoutItem & item)
     item.setGeometry(QRect());
     QWidget * const widget = item.widget();
     if (widget && !item.isEmpty() && !widget->size().isEmpty())
-        widget->move(-widget->width(), -widget->height());
+        widget->move(-widget->width(), 0);
 }
 
 } // namespace
@@ -215,6 +216,7 @@ void LayoutHorizontalAvecChevron::PriseFocusChangay()
     if (parentWidget())
         monRetrait->CedeFocus(*parentWidget()->window(), monChevron);
 }
+
 int LayoutHorizontalAvecChevron::doLayout(QRect const & rect, ListeItems & liste,
                                           FonctionTaille taille, bool test) const
 {

@@ -6,9 +6,9 @@
 
 namespace {
 
-bool PeutPrendreLeFocus(QWidget const & widget, Qt::FocusPolicy politique, QWidget const & fenetre)
+bool EstPresent(QWidget const & widget, QWidget const & fenetre)
 {
-    return (widget.focusPolicy() & politique) && widget.isEnabled() && widget.isVisibleTo(&fenetre);
+    return widget.isEnabled() && widget.isVisibleTo(&fenetre);
 }
 
 } // namespace
@@ -37,17 +37,14 @@ void RetraitDuFocus::CedeFocus(QWidget & fenetre, QWidget * prefere) const
     QWidget * const focus = fenetre.focusWidget();
     if (!focus || !EstRetire(focus))
         return;
-    // The click is in the policy of whatever can have the focus at all but for what Tab alone
-    // reaches, as a tool button.
-    auto const quelconque = Qt::FocusPolicy(Qt::ClickFocus | Qt::TabFocus);
-    if (prefere && PeutPrendreLeFocus(*prefere, quelconque, fenetre)) {
+    if (prefere && prefere->focusPolicy() != Qt::NoFocus && EstPresent(*prefere, fenetre)) {
         prefere->setFocus(Qt::OtherFocusReason);
         return;
     }
     for (QWidget * suivant = focus->nextInFocusChain(); suivant && suivant != focus;
          suivant = suivant->nextInFocusChain()) {
-        if (suivant->window() == &fenetre && !suivant->focusProxy() &&
-            PeutPrendreLeFocus(*suivant, Qt::TabFocus, fenetre)) {
+        if (suivant->window() == &fenetre && (suivant->focusPolicy() & Qt::TabFocus) &&
+            !suivant->focusProxy() && EstPresent(*suivant, fenetre)) {
             suivant->setFocus(Qt::OtherFocusReason);
             return;
         }

@@ -41,6 +41,12 @@ QIcon DonneIconeFiltre(bool actif)
     return QFile::exists(chemin) ? QIcon(chemin) : QIcon();
 }
 
+bool EstUnClic(QEvent::Type type)
+{
+    return type == QEvent::MouseButtonPress || type == QEvent::MouseButtonRelease ||
+           type == QEvent::MouseButtonDblClick;
+}
+
 } // namespace
 
 BarreDeFiltre::BarreDeFiltre(bool avecBoutonOptions, bool avecToolTip, QWidget * parent)
@@ -172,8 +178,10 @@ bool BarreDeFiltre::eventFilter(QObject * objet, QEvent * evenement)
     // The pills may change their size, with the font or the style sheet, and then the list must.
     if (objet == maListePastille && evenement->type() == QEvent::LayoutRequest)
         MetAJourTailleListePastille();
-    bool const surLePopUp = monToolTip && (objet == monToolTip || objet == monToolTip->window());
-    if (surLePopUp && MangeClic(*evenement))
+    // The type first: the pop-up also tells of its own end.
+    bool const clic = EstUnClic(evenement->type()) && monToolTip &&
+                      (objet == monToolTip || objet == monToolTip->window());
+    if (clic && MangeClic(static_cast<QMouseEvent const &>(*evenement)))
         return true;
     return QFrame::eventFilter(objet, evenement);
 }
@@ -290,13 +298,9 @@ void BarreDeFiltre::BrancheToolTip()
             Qt::ConnectionType(Qt::QueuedConnection | Qt::UniqueConnection));
 }
 
-bool BarreDeFiltre::MangeClic(QEvent const & evenement)
+bool BarreDeFiltre::MangeClic(QMouseEvent const & evenement)
 {
-    if (evenement.type() != QEvent::MouseButtonPress &&
-        evenement.type() != QEvent::MouseButtonRelease &&
-        evenement.type() != QEvent::MouseButtonDblClick)
-        return false;
-    QPoint const global = static_cast<QMouseEvent const &>(evenement).globalPosition().toPoint();
+    QPoint const global = evenement.globalPosition().toPoint();
     if (!monBoutonOptions || childAt(mapFromGlobal(global)) != monBoutonOptions)
         return false;
     // The menu, not the pop-up in it, which would be missing from it the next time.

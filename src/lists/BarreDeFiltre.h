@@ -16,6 +16,7 @@ class QComboBox;
 class QHBoxLayout;
 class QLabel;
 class QMenu;
+class QMouseEvent;
 class QResizeEvent;
 class QToolButton;
 class ToolTipComboBox;
@@ -97,7 +98,7 @@ private:
     void CreeEtiquette();
     void CreeBoutonOptions();
     void BrancheToolTip();
-    bool MangeClic(QEvent const & evenement);
+    bool MangeClic(QMouseEvent const & evenement);
     void MetAJourTailleListePastille();
 
     QLabel * monEtiquetteCardinalitay = nullptr;

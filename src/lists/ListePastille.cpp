@@ -141,8 +141,8 @@ void ListePastille::Initialise()
     monRepere = new QWidget(this);
     monRepere->hide();
     monRepere->setFocusPolicy(Qt::TabFocus);
-    // The order of Tab is a ring. Of two alone, each is behind the other already, and Qt would leave
-    // them as they are.
+    // The order of Tab is a ring. Of two alone, each is behind the other already, and Qt would
+    // leave them as they are.
     QWidget tiers(this);
     tiers.setFocusPolicy(Qt::TabFocus);
     setTabOrder(monRepere, PreteBoutonChevron());

@@ -7,10 +7,12 @@
 #include <QGridLayout>
 #include <QHBoxLayout>
 #include <QLabel>
+#include <QPointer>
 #include <QPushButton>
 #include <QVBoxLayout>
 
 #include <algorithm>
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
@@ -92,20 +94,22 @@ void ToolTipComboBox::PriseMiseAJourBouton()
     Q_EMIT SignalFiltreActif(actif);
 }
 
-// Told by the combo box while the pointers to it are still set.
 void ToolTipComboBox::PriseComboDetruit(QObject const * combo)
 {
     for (auto & [id, autre] : mesCombos) {
         if (autre == combo)
-            autre.clear();
+            autre = nullptr;
     }
     PriseMiseAJourBouton();
 }
 
 void ToolTipComboBox::PriseDesactiveFiltres()
 {
-    auto const combos = mesCombos; // a receiver may add some, or delete the pop-up
-    for (auto const & [id, combo] : combos) {
+    // Guarded copies: a receiver may add combo boxes, delete some, or delete the pop-up.
+    QList<QPointer<QComboBox>> combos;
+    for (auto const & [id, combo] : mesCombos)
+        combos.append(combo);
+    for (QPointer<QComboBox> const & combo : std::as_const(combos)) {
         if (combo)
             combo->setCurrentIndex(0);
     }

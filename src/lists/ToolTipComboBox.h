@@ -5,7 +5,6 @@
 
 #include "controls/DMenuAction.h"
 
-#include <QPointer>
 #include <QVariant>
 
 #include <map>
@@ -60,7 +59,7 @@ private:
     void Annonce(int id, QComboBox const & combo);
 
     QVBoxLayout * monLayoutPrincipal = nullptr;
-    std::map<int, QPointer<QComboBox>>
-        mesCombos; // by the id of the filter; null for an unknown one
+    // By the id of the filter; null for an unknown one, and once deleted.
+    std::map<int, QComboBox *> mesCombos;
     QPushButton * monBoutonDesactiver = nullptr;
 };

@@ -58,6 +58,20 @@ struct PiecesBarreDeFiltre
         return textes;
     }
 
+    /// As wide as the list wants to be.
+    int LargeurVoulue() const
+    {
+        return liste->sizeHint().width() + liste->layout()->spacing() * liste->layout()->count();
+    }
+
+    int CompteVisibles() const
+    {
+        int visibles = 0;
+        for (int i = 0; i < liste->layout()->count(); ++i)
+            visibles += liste->WidgetEstVisible(i);
+        return visibles;
+    }
+
     ListePastille * liste;
     DBoutonSansFleche * chevron;
     DChampRecherche * champ;

@@ -2,8 +2,6 @@
 
 #include <QtTest>
 
-#include <cmath>
-
 using namespace Qt::StringLiterals;
 
 class tst_BarreDeFiltrePastilles : public QObject
@@ -21,36 +19,11 @@ private Q_SLOTS:
     void signal();
     void suppressionPendantLeSignal_data();
     void suppressionPendantLeSignal();
-    void largeurDeLaListe_data();
-    void largeurDeLaListe();
-    void touteLaPlaceVoulue();
-    void aucuneCacheeSansRaison();
-    void barreRedimensionnee();
-    void listeMontreeApres();
-    void policeChangee();
-    void hauteur();
     void sousLeChevron();
     void choixSousLeChevron();
     void nouvelleDansLeMenu();
     void mille();
 };
-
-namespace {
-
-int LargeurVoulue(PiecesBarreDeFiltre const & pieces)
-{
-    return pieces.liste->sizeHint().width() + 10 * pieces.liste->layout()->count();
-}
-
-int ComptesVisibles(PiecesBarreDeFiltre const & pieces)
-{
-    int visibles = 0;
-    for (int i = 0; i < pieces.liste->layout()->count(); ++i)
-        visibles += pieces.liste->WidgetEstVisible(i);
-    return visibles;
-}
-
-} // namespace
 
 void tst_BarreDeFiltrePastilles::cleanup()
 {
@@ -80,7 +53,7 @@ void tst_BarreDeFiltrePastilles::ajoute()
     essai.Place();
     QCOMPARE(essai.pieces.Cles(), QVariantList({u"cle"_s, 2}));
     QCOMPARE(essai.pieces.Pastilles().first()->DonneTitre(), u"Enlever «longs»"_s);
-    QCOMPARE(ComptesVisibles(essai.pieces), 2);
+    QCOMPARE(essai.pieces.CompteVisibles(), 2);
     // From left to right, at the size they ask for.
     QList<Pastille *> const pastilles = essai.pieces.Pastilles();
     QCOMPARE(pastilles[0]->x(), 0);
@@ -123,7 +96,7 @@ void tst_BarreDeFiltrePastilles::supprime()
     essai.barre->SupprimerPastille(1);
     QVERIFY(!pastille);
     QCOMPARE(essai.pieces.Cles(), QVariantList({0, 2}));
-    QCOMPARE(essai.pieces.liste->maximumWidth(), LargeurVoulue(essai.pieces));
+    QCOMPARE(essai.pieces.liste->maximumWidth(), essai.pieces.LargeurVoulue());
     essai.barre->SupprimerPastille(1);
     essai.barre->SupprimerPastille(u"autre"_s);
     essai.barre->SupprimerPastille(QVariant());
@@ -145,7 +118,7 @@ void tst_BarreDeFiltrePastilles::nettoie()
     QCOMPARE(essai.pieces.liste->maximumWidth(), 0);
     essai.barre->NetoyerPastille();
     essai.Ajoute(2);
-    QCOMPARE(ComptesVisibles(essai.pieces), 2);
+    QCOMPARE(essai.pieces.CompteVisibles(), 2);
 }
 
 void tst_BarreDeFiltrePastilles::signal()
@@ -191,130 +164,12 @@ void tst_BarreDeFiltrePastilles::suppressionPendantLeSignal()
     QVERIFY(!pastille);
 }
 
-void tst_BarreDeFiltrePastilles::largeurDeLaListe_data()
-{
-    QTest::addColumn<int>("largeur");
-    QTest::addColumn<int>("nombre");
-    QTest::newRow("everything has room") << 2000 << 3;
-    QTest::newRow("more than 60%") << 300 << 20;
-    QTest::newRow("60% that are rounded up") << 301 << 20;   // 180.6
-    QTest::newRow("60% that are rounded down") << 304 << 20; // 182.4
-    QTest::newRow("no room at all") << 0 << 3;
-    QTest::newRow("no pill") << 300 << 0;
-}
-
-void tst_BarreDeFiltrePastilles::largeurDeLaListe()
-{
-    QFETCH(int, largeur);
-    QFETCH(int, nombre);
-    BarreDeFiltre barre(true, true);
-    PiecesBarreDeFiltre const pieces(barre);
-    barre.resize(largeur, 40);
-    for (int i = 0; i < nombre; ++i)
-        barre.AjouterMotPastille(u"mot"_s, i);
-    int const part = int(std::lround(barre.width() * 0.6));
-    int const attendue = std::min(part, LargeurVoulue(pieces));
-    QCOMPARE(pieces.liste->minimumWidth(), attendue);
-    QCOMPARE(pieces.liste->maximumWidth(), attendue);
-}
-
-void tst_BarreDeFiltrePastilles::touteLaPlaceVoulue()
-{
-    FenetreDeBarreDeFiltre essai;
-    QVERIFY(essai.Montre());
-    essai.Ajoute(3);
-    QCOMPARE(essai.pieces.liste->width(), LargeurVoulue(essai.pieces));
-    QVERIFY(essai.pieces.liste->width() < 360);
-    essai.Ajoute(30);
-    QCOMPARE(essai.pieces.liste->width(), 360);
-    QVERIFY(ComptesVisibles(essai.pieces) < 30);
-    QVERIFY(essai.pieces.champ->width() > 50);
-}
-
-void tst_BarreDeFiltrePastilles::aucuneCacheeSansRaison()
-{
-    FenetreDeBarreDeFiltre essai(2000);
-    QVERIFY(essai.Montre());
-    for (int i = 0; i < 20; ++i) {
-        essai.barre->AjouterMotPastille(QString(i % 4, u'm'), i);
-        essai.Place();
-        if (LargeurVoulue(essai.pieces) <= 1200)
-            QCOMPARE(ComptesVisibles(essai.pieces), i + 1);
-    }
-}
-
-void tst_BarreDeFiltrePastilles::barreRedimensionnee()
-{
-    FenetreDeBarreDeFiltre essai(2000);
-    QVERIFY(essai.Montre());
-    essai.Ajoute(8);
-    int const voulue = LargeurVoulue(essai.pieces);
-    QCOMPARE(ComptesVisibles(essai.pieces), 8);
-    essai.barre->resize(voulue, 40);
-    essai.Place();
-    QCOMPARE(essai.pieces.liste->width(), int(std::lround(voulue * 0.6)));
-    QVERIFY(ComptesVisibles(essai.pieces) < 8);
-    QVERIFY(essai.pieces.chevron->width() > 0);
-    essai.barre->resize(2000, 40);
-    essai.Place();
-    QCOMPARE(ComptesVisibles(essai.pieces), 8);
-    QCOMPARE(essai.pieces.liste->width(), voulue);
-}
-
-void tst_BarreDeFiltrePastilles::listeMontreeApres()
-{
-    FenetreDeBarreDeFiltre essai;
-    essai.Ajoute(3); // before anything is shown
-    QVERIFY(essai.Montre());
-    essai.Place();
-    QCOMPARE(ComptesVisibles(essai.pieces), 3);
-    QCOMPARE(essai.pieces.liste->width(), LargeurVoulue(essai.pieces));
-    essai.barre->AfficherListePastille(false);
-    essai.barre->AjouterMotPastille(u"mot"_s, 9);
-    essai.barre->SupprimerPastille(0);
-    essai.barre->AfficherListePastille(true);
-    essai.Place();
-    QCOMPARE(ComptesVisibles(essai.pieces), 3);
-}
-
-void tst_BarreDeFiltrePastilles::policeChangee()
-{
-    FenetreDeBarreDeFiltre essai(2000);
-    QVERIFY(essai.Montre());
-    essai.Ajoute(3);
-    int const avant = essai.pieces.liste->width();
-    essai.barre->setStyleSheet(u"Pastille { font-size: 30px; }"_s);
-    QTRY_VERIFY(essai.pieces.liste->width() > avant);
-    essai.Place();
-    QCOMPARE(essai.pieces.liste->width(), LargeurVoulue(essai.pieces));
-    QCOMPARE(ComptesVisibles(essai.pieces), 3);
-}
-
-void tst_BarreDeFiltrePastilles::hauteur()
-{
-    FenetreDeBarreDeFiltre essai;
-    QVERIFY(essai.Montre());
-    essai.Ajoute(20);
-    int const hauteur = essai.pieces.Pastilles().first()->sizeHint().height();
-    QCOMPARE(essai.pieces.liste->height(), hauteur);
-    QCOMPARE(essai.pieces.chevron->maximumSize(), QSize(hauteur, hauteur));
-    // In the middle of the bar.
-    QVERIFY(qAbs(essai.pieces.liste->geometry().center().y() - 20) <= 1);
-
-    essai.barre->NetoyerPastille();
-    essai.Place();
-    essai.Ajoute(20);
-    QCOMPARE(essai.pieces.liste->height(), hauteur);
-    QVERIFY(essai.pieces.chevron->width() > 0); // it has not gone with the pills
-    QVERIFY(essai.pieces.chevron->height() > 0);
-}
-
 void tst_BarreDeFiltrePastilles::sousLeChevron()
 {
     FenetreDeBarreDeFiltre essai;
     QVERIFY(essai.Montre());
     essai.Ajoute(20);
-    int const visibles = ComptesVisibles(essai.pieces);
+    int const visibles = essai.pieces.CompteVisibles();
     QVERIFY(visibles > 0);
     QVERIFY(visibles < 20);
     Q_EMIT essai.pieces.chevron->menu()->aboutToShow();
@@ -362,7 +217,7 @@ void tst_BarreDeFiltrePastilles::mille()
     QVERIFY(essai.Montre());
     essai.Ajoute(1000);
     QCOMPARE(essai.pieces.Cles().size(), 1000);
-    QTRY_COMPARE(essai.pieces.TextesDuChevron().size(), 1000 - ComptesVisibles(essai.pieces));
+    QTRY_COMPARE(essai.pieces.TextesDuChevron().size(), 1000 - essai.pieces.CompteVisibles());
     for (int i = 0; i < 1000; ++i)
         essai.barre->SupprimerPastille(i);
     QCOMPARE(essai.pieces.Cles(), QVariantList());

@@ -22,6 +22,7 @@ private Q_SLOTS:
     void contenuChangeOuvert();
     void filtreDesEvenements_data();
     void filtreDesEvenements();
+    void filtreInstallay();
     void clicSurLeBoutonFerme();
     void rouvrePlusTard();
     void echappement();
@@ -224,6 +225,31 @@ void tst_BarreDeFiltrePopUp::filtreDesEvenements()
         QCOMPARE(mangeTrouve, mange);
         QCOMPARE(fermeTrouve, ferme);
     }
+}
+
+void tst_BarreDeFiltrePopUp::filtreInstallay()
+{
+    Essai essai;
+    QVERIFY(essai.Montre());
+    bool ouvertApresLaPression = false;
+    bool ouvertApresLeRelachement = true;
+    PendantQuIlEstOuvert const ouvert(*essai.pieces.Menu(), [&] {
+        QPointF const global = essai.pieces.bouton->mapToGlobal(essai.Centre());
+        auto const envoie = [&](QWidget * cible, QEvent::Type type) {
+            QMouseEvent evenement(type, cible->mapFromGlobal(global), global, global,
+                                  Qt::LeftButton, Qt::LeftButton, Qt::NoModifier);
+            QCoreApplication::sendEvent(cible, &evenement);
+        };
+        envoie(essai.pieces.Menu(), QEvent::MouseButtonPress); // on which QMenu would close
+        ouvertApresLaPression = essai.pieces.Menu()->isVisible();
+        envoie(essai.pieces.popUp, QEvent::MouseButtonRelease);
+        ouvertApresLeRelachement = essai.pieces.Menu()->isVisible();
+        essai.pieces.Menu()->close();
+    });
+    QMetaObject::invokeMethod(essai.barre, "PriseAfficherToolTip");
+    QCOMPARE(ouvert.ouvertures, 1);
+    QVERIFY(ouvertApresLaPression);
+    QVERIFY(!ouvertApresLeRelachement);
 }
 
 void tst_BarreDeFiltrePopUp::clicSurLeBoutonFerme()

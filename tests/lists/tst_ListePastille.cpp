@@ -1,14 +1,8 @@
 #include "lists/ListePastille.h"
 
-#include "controls/DBoutonSansFleche.h"
-#include "lists/Pastille.h"
+#include "lists/EssaisListePastille.h"
 
-#include <QLineEdit>
-#include <QMenu>
-#include <QtTest>
-
-#include <memory>
-
+using namespace EssaisListePastille;
 using namespace Qt::StringLiterals;
 
 class tst_ListePastille : public QObject
@@ -28,68 +22,7 @@ private Q_SLOTS:
     void videPendantLeSignal();
     void rafraichitAussitot();
     void rafraichitEnUneFois();
-    void fleches();
-    void flechesAuxBouts();
-    void flechesSousLeChevron();
-    void tabulation();
-    void focusApresRetrait_data();
-    void focusApresRetrait();
-    void focusVersCelleQuiSort();
-    void sansFocusRienNeBouge();
 };
-
-namespace {
-
-DBoutonSansFleche * Chevron(ListePastille const & liste)
-{
-    return liste.findChild<DBoutonSansFleche *>();
-}
-
-Pastille * Ajoute(ListePastille & liste, QVariant const & cle, QString const & titre = u"mot"_s)
-{
-    auto * const pastille = new Pastille(titre, cle);
-    liste.AjoutePastille(pastille);
-    return pastille;
-}
-
-// A list with pills of the keys 0, 1, ... in a window with the focus.
-struct Hote
-{
-    explicit Hote(int nombre, int largeur = 700)
-        : liste(new ListePastille(&fenetre))
-        , suite(new QLineEdit(&fenetre))
-    {
-        fenetre.resize(760, 200);
-        liste->setGeometry(0, 0, largeur, 40);
-        suite->setGeometry(0, 100, 100, 30);
-        for (int i = 0; i < nombre; ++i)
-            pastilles << Ajoute(*liste, i);
-    }
-
-    bool Montre()
-    {
-        fenetre.show();
-        fenetre.activateWindow();
-        bool const active = QTest::qWaitForWindowActive(&fenetre);
-        QCoreApplication::processEvents();
-        return active;
-    }
-
-    // So that `visibles` pills have room, and the chevron.
-    void Retrecis(int visibles)
-    {
-        int const largeur = pastilles.first()->sizeHint().width() + liste->layout()->spacing();
-        liste->resize(visibles * largeur + liste->height() + 2, liste->height());
-        QCoreApplication::processEvents();
-    }
-
-    QWidget fenetre;
-    ListePastille * liste;
-    QLineEdit * suite;
-    QList<Pastille *> pastilles;
-};
-
-} // namespace
 
 void tst_ListePastille::cleanup()
 {
@@ -234,126 +167,6 @@ void tst_ListePastille::rafraichitEnUneFois()
     Ajoute(liste, 33);
     liste.RafraichisMenu();
     QTRY_COMPARE(Chevron(liste)->menu()->actions().size(), 34);
-}
-
-void tst_ListePastille::fleches()
-{
-    Hote hote(3);
-    QVERIFY(hote.Montre());
-    hote.pastilles[0]->setFocus();
-    QTest::keyClick(hote.pastilles[0], Qt::Key_Right);
-    QVERIFY(hote.pastilles[1]->hasFocus());
-    QTest::keyClick(hote.pastilles[1], Qt::Key_Right);
-    QVERIFY(hote.pastilles[2]->hasFocus());
-    QTest::keyClick(hote.pastilles[2], Qt::Key_Left);
-    QVERIFY(hote.pastilles[1]->hasFocus());
-    QTest::keyClick(hote.pastilles[1], Qt::Key_Right, Qt::ControlModifier);
-    QVERIFY(hote.pastilles[1]->hasFocus());
-}
-
-void tst_ListePastille::flechesAuxBouts()
-{
-    Hote hote(2);
-    QVERIFY(hote.Montre());
-    hote.pastilles[0]->setFocus();
-    QTest::keyClick(hote.pastilles[0], Qt::Key_Left);
-    QVERIFY(hote.pastilles[0]->hasFocus());
-    hote.pastilles[1]->setFocus();
-    QTest::keyClick(hote.pastilles[1], Qt::Key_Right);
-    QVERIFY(hote.pastilles[1]->hasFocus());
-}
-
-void tst_ListePastille::flechesSousLeChevron()
-{
-    Hote hote(6);
-    QVERIFY(hote.Montre());
-    hote.Retrecis(2);
-    QVERIFY(hote.liste->WidgetEstVisible(1));
-    QVERIFY(!hote.liste->WidgetEstVisible(2));
-    hote.pastilles[1]->setFocus();
-    QTest::keyClick(hote.pastilles[1], Qt::Key_Right);
-    QVERIFY(hote.pastilles[1]->hasFocus()); // the next one is not seen
-}
-
-void tst_ListePastille::tabulation()
-{
-    Hote hote(4);
-    QVERIFY(hote.Montre());
-    hote.Retrecis(2);
-    // More of them while the last ones are under the chevron.
-    for (int i = 4; i < 6; ++i)
-        hote.pastilles << Ajoute(*hote.liste, i);
-    QCoreApplication::processEvents();
-    hote.suite->setFocus();
-    auto const suivants = [&](int combien, Qt::Key touche) {
-        QList<QWidget *> widgets;
-        for (int i = 0; i < combien; ++i) {
-            QTest::keyClick(QApplication::focusWidget(), touche);
-            widgets << QApplication::focusWidget();
-        }
-        return widgets;
-    };
-    QWidget * const chevron = Chevron(*hote.liste);
-    QCOMPARE(suivants(4, Qt::Key_Tab),
-             QList<QWidget *>({hote.pastilles[0], hote.pastilles[1], chevron, hote.suite}));
-    QCOMPARE(suivants(2, Qt::Key_Backtab), QList<QWidget *>({chevron, hote.pastilles[1]}));
-
-    // All of them, in their order, once there is room.
-    hote.liste->resize(750, hote.liste->height());
-    QCoreApplication::processEvents();
-    hote.suite->setFocus();
-    QList<QWidget *> attendus;
-    for (Pastille * const pastille : hote.pastilles)
-        attendus << pastille;
-    QCOMPARE(suivants(7, Qt::Key_Tab), attendus << hote.suite);
-}
-
-void tst_ListePastille::focusApresRetrait_data()
-{
-    QTest::addColumn<int>("nombre");
-    QTest::addColumn<int>("retiree");
-    QTest::addColumn<int>("cible"); // -1 for the widget that follows
-    QTest::newRow("the next one") << 3 << 1 << 2;
-    QTest::newRow("the next one of the first") << 3 << 0 << 1;
-    QTest::newRow("the one before the last") << 3 << 2 << 1;
-    QTest::newRow("none is left") << 1 << 0 << -1;
-}
-
-void tst_ListePastille::focusApresRetrait()
-{
-    QFETCH(int, nombre);
-    QFETCH(int, retiree);
-    QFETCH(int, cible);
-    Hote hote(nombre);
-    QVERIFY(hote.Montre());
-    hote.pastilles[retiree]->setFocus();
-    hote.liste->RetirePastille(hote.pastilles[retiree], hote.suite);
-    QWidget * const attendu =
-        cible < 0 ? static_cast<QWidget *>(hote.suite) : hote.pastilles[cible];
-    QCOMPARE(QApplication::focusWidget(), attendu);
-}
-
-void tst_ListePastille::focusVersCelleQuiSort()
-{
-    Hote hote(6);
-    QVERIFY(hote.Montre());
-    hote.Retrecis(2);
-    hote.pastilles[1]->setFocus();
-    QVERIFY(!hote.liste->WidgetEstVisible(2));
-    hote.liste->RetirePastille(hote.pastilles[1], hote.suite);
-    QCOMPARE(QApplication::focusWidget(), hote.pastilles[2]); // which has room now
-}
-
-void tst_ListePastille::sansFocusRienNeBouge()
-{
-    Hote hote(3);
-    QVERIFY(hote.Montre());
-    hote.suite->setFocus();
-    hote.liste->RetirePastille(hote.pastilles[1], nullptr);
-    QVERIFY(hote.suite->hasFocus());
-    hote.pastilles[0]->setFocus();
-    hote.liste->RetirePastille(hote.pastilles[2], hote.suite);
-    QVERIFY(hote.pastilles[0]->hasFocus());
 }
 
 QTEST_MAIN(tst_ListePastille)

@@ -1,16 +1,10 @@
 #include "lists/ToolTipComboBox.h"
 
-#include "noyau/Traductions.h"
-
-#include <QComboBox>
-#include <QGridLayout>
-#include <QLabel>
-#include <QMenu>
-#include <QPushButton>
-#include <QtTest>
+#include "lists/EssaisToolTipComboBox.h"
 
 #include <memory>
 
+using namespace EssaisToolTipComboBox;
 using namespace Qt::StringLiterals;
 
 class tst_ToolTipComboBox : public QObject
@@ -34,63 +28,8 @@ private Q_SLOTS:
     void idInconnu();
     void indexParDonnees_data();
     void indexParDonnees();
-    void memeId();
-    void memeCombo();
-    void memeComboAutreId();
-    void comboDetruit();
-    void comboActifDetruit();
-    void popUpDetruit();
-    void popUpDetruitPendantDesactiver();
     void redimensionnement();
 };
-
-namespace {
-
-QComboBox * CreeCombo(int nombre = 3)
-{
-    auto * const combo = new QComboBox;
-    for (int i = 0; i < nombre; ++i)
-        combo->addItem(u"choix %1"_s.arg(i), 100 + i);
-    return combo;
-}
-
-QPushButton * Bouton(ToolTipComboBox const & popUp)
-{
-    return popUp.findChild<QPushButton *>(u"BoutonDesactiverFiltre"_s);
-}
-
-QVBoxLayout * Rangees(ToolTipComboBox const & popUp)
-{
-    auto const * const grille = qobject_cast<QGridLayout *>(popUp.layout());
-    return qobject_cast<QVBoxLayout *>(grille->itemAtPosition(0, 0)->layout());
-}
-
-template <typename T>
-T * Piece(ToolTipComboBox const & popUp, int rangee, int rang)
-{
-    QLayout * const boite = Rangees(popUp)->itemAt(rangee)->layout();
-    return boite->itemAt(rang) ? qobject_cast<T *>(boite->itemAt(rang)->widget()) : nullptr;
-}
-
-// What the pop-up has told, in order: "id:index" and "+" or "-" for active or not.
-class Ecoute : public QObject
-{
-public:
-    explicit Ecoute(ToolTipComboBox & popUp)
-    {
-        connect(&popUp, &ToolTipComboBox::SignalValeurChanger, this,
-                [this](int id, int index) { dits << u"%1:%2"_s.arg(id).arg(index); });
-        connect(&popUp, &ToolTipComboBox::SignalFiltreActif, this,
-                [this](bool actif) { dits << (actif ? u"+"_s : u"-"_s); });
-    }
-
-    QStringList Prends() { return std::exchange(dits, {}); }
-
-private:
-    QStringList dits;
-};
-
-} // namespace
 
 void tst_ToolTipComboBox::cleanup()
 {
@@ -303,117 +242,6 @@ void tst_ToolTipComboBox::indexParDonnees()
         combo->addItem(u"texte"_s, cle);
     popUp.AjouterComboBox(1, u"a"_s, combo);
     QTEST(popUp.TrouveIndexAvecData(1, donnees), "index");
-}
-
-void tst_ToolTipComboBox::memeId()
-{
-    ToolTipComboBox popUp;
-    QPointer<QComboBox> const ancien = CreeCombo();
-    QComboBox * const nouveau = CreeCombo();
-    popUp.AjouterComboBox(1, u"a"_s, ancien);
-    popUp.AjouterComboBox(1, u"b"_s, nouveau);
-    QCOMPARE(popUp.PreteComboBox(1), nouveau);
-    QCOMPARE(Rangees(popUp)->count(), 2);
-    QCOMPARE(popUp.findChildren<QLabel *>().size(), 1);
-    QCOMPARE(Piece<QLabel>(popUp, 0, 0)->text(), u"b: "_s);
-    QVERIFY(ancien);
-    QVERIFY(ancien->isHidden());
-    Ecoute ecoute(popUp);
-    ancien->setCurrentIndex(2);
-    QCOMPARE(ecoute.Prends(), QStringList());
-    QVERIFY(!Bouton(popUp)->isEnabled());
-    nouveau->setCurrentIndex(1);
-    QCOMPARE(ecoute.Prends(), QStringList({u"1:1"_s, u"+"_s}));
-    delete ancien;
-    QCOMPARE(ecoute.Prends(), QStringList());
-}
-
-void tst_ToolTipComboBox::memeCombo()
-{
-    ToolTipComboBox popUp;
-    QComboBox * const combo = CreeCombo();
-    popUp.AjouterComboBox(1, u"a"_s, combo);
-    popUp.AjouterComboBox(1, u"b"_s, combo);
-    QCOMPARE(Rangees(popUp)->count(), 2);
-    QCOMPARE(Piece<QComboBox>(popUp, 0, 1), combo);
-    QVERIFY(!combo->isHidden());
-    QCOMPARE(Piece<QLabel>(popUp, 0, 0)->text(), u"b: "_s);
-    Ecoute ecoute(popUp);
-    combo->setCurrentIndex(1);
-    QCOMPARE(ecoute.Prends(), QStringList({u"1:1"_s, u"+"_s})); // told once
-}
-
-void tst_ToolTipComboBox::memeComboAutreId()
-{
-    ToolTipComboBox popUp;
-    QComboBox * const combo = CreeCombo();
-    popUp.AjouterComboBox(1, u"a"_s, combo);
-    popUp.AjouterComboBox(2, u"b"_s, combo);
-    QCOMPARE(Rangees(popUp)->count(), 2);
-    QCOMPARE(popUp.PreteComboBox(1), nullptr);
-    QCOMPARE(popUp.PreteComboBox(2), combo);
-    Ecoute ecoute(popUp);
-    combo->setCurrentIndex(1);
-    QCOMPARE(ecoute.Prends(), QStringList({u"2:1"_s, u"+"_s}));
-}
-
-void tst_ToolTipComboBox::comboDetruit()
-{
-    ToolTipComboBox popUp;
-    popUp.AjouterComboBox(1, u"a"_s, CreeCombo());
-    popUp.AjouterComboBox(2, u"b"_s, CreeCombo());
-    delete popUp.PreteComboBox(1);
-    QCOMPARE(popUp.PreteComboBox(1), nullptr);
-    popUp.MetsIndexCourantComboBox(1, 1);
-    QCOMPARE(popUp.TrouveIndexAvecData(1, 101), -1);
-    popUp.MetsIndexCourantComboBox(2, 1);
-    Bouton(popUp)->click();
-    QVERIFY(!Bouton(popUp)->isEnabled());
-    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-    QCOMPARE(popUp.findChildren<QLabel *>().size(), 1); // its label has gone too
-    popUp.AjouterComboBox(1, u"c"_s, CreeCombo());
-    QVERIFY(popUp.PreteComboBox(1));
-}
-
-void tst_ToolTipComboBox::comboActifDetruit()
-{
-    ToolTipComboBox popUp;
-    popUp.AjouterComboBox(1, u"a"_s, CreeCombo());
-    popUp.MetsIndexCourantComboBox(1, 1);
-    Ecoute ecoute(popUp);
-    delete popUp.PreteComboBox(1);
-    QCOMPARE(ecoute.Prends(), QStringList({u"-"_s}));
-    QVERIFY(!Bouton(popUp)->isEnabled());
-}
-
-void tst_ToolTipComboBox::popUpDetruit()
-{
-    auto parent = std::make_unique<QWidget>();
-    auto * const popUp = new ToolTipComboBox(parent.get());
-    QPointer<QComboBox> const combo = CreeCombo();
-    popUp->AjouterComboBox(1, u"a"_s, combo);
-    combo->setCurrentIndex(1);
-    QSignalSpy const espion(popUp, &ToolTipComboBox::SignalFiltreActif);
-    parent.reset();
-    QVERIFY(!combo);
-    QCOMPARE(espion.count(), 0);
-}
-
-void tst_ToolTipComboBox::popUpDetruitPendantDesactiver()
-{
-    auto * const popUp = new ToolTipComboBox;
-    for (int const id : {1, 2}) {
-        popUp->AjouterComboBox(id, u"a"_s, CreeCombo());
-        popUp->MetsIndexCourantComboBox(id, 1);
-    }
-    int fois = 0;
-    connect(popUp, &ToolTipComboBox::SignalValeurChanger, this, [&] {
-        ++fois;
-        popUp->deleteLater();
-    });
-    Bouton(*popUp)->click();
-    QCOMPARE(fois, 2);
-    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
 }
 
 void tst_ToolTipComboBox::redimensionnement()

@@ -21,11 +21,6 @@ void DorvelTreeViewPrive::FermeEditeurs(int rangee, bool valider)
     }
 }
 
-bool DorvelTreeViewPrive::EstEnEdition(int rangee) const
-{
-    return !DonneEditeurs(rangee).isEmpty();
-}
-
 void DorvelTreeViewPrive::dropEvent(QDropEvent * evenement)
 {
     if (evenement->source() != this) {
@@ -42,6 +37,16 @@ void DorvelTreeViewPrive::dropEvent(QDropEvent * evenement)
     stopAutoScroll();
     setState(NoState);
     viewport()->update();
+}
+
+// The base would let the focus go anywhere with the editor, and the selection would commit what is
+// typed in a row that is leaving.
+void DorvelTreeViewPrive::rowsAboutToBeRemoved(QModelIndex const & parent, int premiere,
+                                               int derniere)
+{
+    for (int rangee = premiere; rangee <= derniere && parent == rootIndex(); ++rangee)
+        FermeEditeurs(rangee, false);
+    DTreeView::rowsAboutToBeRemoved(parent, premiere, derniere);
 }
 
 QList<QWidget *> DorvelTreeViewPrive::DonneEditeurs(int rangee) const

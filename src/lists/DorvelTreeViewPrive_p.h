@@ -13,12 +13,11 @@ public:
 
     /// Closes the editors of a row, with what was typed in them or without it.
     void FermeEditeurs(int rangee, bool valider);
-    /// Whether a row has an open editor.
-    bool EstEnEdition(int rangee) const;
 
 protected:
     /// A row of this view is put between rows of the root, never into one.
     void dropEvent(QDropEvent * evenement) override;
+    void rowsAboutToBeRemoved(QModelIndex const & parent, int premiere, int derniere) override;
 
 private:
     QList<QWidget *> DonneEditeurs(int rangee) const;

@@ -107,8 +107,6 @@ bool WidgetListeEditable::RetireRangee(int rangee, bool signaler)
 {
     if (rangee < 0 || rangee >= DonneNbRangee())
         return false;
-    // Qt would commit what is typed in the row while the row is leaving.
-    maVue->FermeEditeurs(rangee, false);
     QPointer<WidgetListeEditable> const moi = this;
     QList<QStandardItem *> const items = monModele->takeRow(rangee);
     if (moi && signaler) {

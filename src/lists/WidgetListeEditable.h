@@ -42,7 +42,8 @@ class QValidator;
 /// edit runs once the editor has closed, and follows its cell when rows were sorted, moved or
 /// removed in between.
 ///
-/// A receiver of any of the signals may change the rows, empty the list or delete it.
+/// A receiver of any of the signals may change the rows, empty the list or delete it; while
+/// `QWidget::setEnabled` disables the list, it may not delete it.
 ///
 /// The icons of the buttons are ":/Images/plus.png" and ":/Images/moins.png" of the application.
 class FABRELGUI_EXPORT WidgetListeEditable : public QFrame
@@ -114,6 +115,7 @@ public:
     /// be called once the list has a row, and is shown or laid out. Nothing happens without a row,
     /// or in a list without the add button, whose height is that of one row here.
     void MetsNombreDeRangeesVisibles(int const & n);
+    /// Enables or disables the list; the selection goes.
     void MetsUtilisateurPeutChangerValeur(bool peut);
     /// The rows of the add button begin with the `Qt::DisplayRole` values of these cells.
     void MetsValeursParDefaut(Valeurs const & valeurs);
@@ -225,6 +227,7 @@ private:
     QList<QStandardItem *> DonneItems(int rangee) const;
     QList<std::pair<std::shared_ptr<FinAttendue>, int>> DonneFinsDeRangee(int rangee) const;
     int DonneCible(int rangee, bool estVersLeHaut) const;
+    int DeselectionneRangee(int rangee);
     void DeplaceRangee(int rangee, int cible);
     void SelectionneRangee(int rangee);
 

@@ -166,7 +166,12 @@ void WidgetListeEditable::MetsNombreDeRangeesVisibles(int const & n)
 
 void WidgetListeEditable::MetsUtilisateurPeutChangerValeur(bool peut)
 {
-    setEnabled(peut);
+    // Before Qt walks through the children: who hears of it may delete the list.
+    QPointer<WidgetListeEditable> const moi = this;
+    if (!peut)
+        VideSelection();
+    if (moi)
+        setEnabled(peut);
 }
 
 void WidgetListeEditable::Selectionne(int rangee, int colonne,

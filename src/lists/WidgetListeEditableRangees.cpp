@@ -108,13 +108,30 @@ bool WidgetListeEditable::RetireRangee(int rangee, bool signaler)
     if (rangee < 0 || rangee >= DonneNbRangee())
         return false;
     QPointer<WidgetListeEditable> const moi = this;
-    QList<QStandardItem *> const items = monModele->takeRow(rangee);
+    int const place = DeselectionneRangee(rangee);
+    if (place < 0)
+        return false;
+    QList<QStandardItem *> const items = monModele->takeRow(place);
     if (moi && signaler) {
         Emission const emission(*this);
-        Q_EMIT SignalRangeeSupprimay(items, rangee);
+        Q_EMIT SignalRangeeSupprimay(items, place);
     }
     qDeleteAll(items);
     return true;
+}
+
+// Takes a row that is about to leave out of the selection, which would tell of it while the row is
+// leaving: the model could not bear that a receiver removes rows then. Returns the place of the row
+// after the receivers; -1 when they have removed it, or the list.
+int WidgetListeEditable::DeselectionneRangee(int rangee)
+{
+    QItemSelectionModel * const selection = maVue->selectionModel();
+    if (!selection->hasSelection() || !selection->rowIntersectsSelection(rangee))
+        return rangee;
+    QPointer<WidgetListeEditable> const moi = this;
+    QPersistentModelIndex const index = monModele->index(rangee, 0);
+    selection->select(index, QItemSelectionModel::Deselect | QItemSelectionModel::Rows);
+    return moi ? index.row() : -1;
 }
 
 void WidgetListeEditable::Vide(bool signaler)
@@ -170,9 +187,10 @@ void WidgetListeEditable::PriseBougeElementSelectionner(bool estVersLeHaut)
     maVue->FermeEditeurs(rangees.front(), true); // it would be lost with the place of the row
     if (!moi || !premiere.isValid())
         return;
-    int const cible = DonneCible(premiere.row(), estVersLeHaut);
+    int const rangee = DeselectionneRangee(premiere.row());
+    int const cible = rangee >= 0 ? DonneCible(rangee, estVersLeHaut) : -1;
     if (cible >= 0)
-        DeplaceRangee(premiere.row(), cible);
+        DeplaceRangee(rangee, cible);
 }
 
 QList<std::pair<std::shared_ptr<WidgetListeEditable::FinAttendue>, int>>

@@ -28,11 +28,13 @@ private Q_SLOTS:
     void trier();
     void clicSansTri();
     void clicAvecTri();
+    void triPendantLEdition_data();
     void triPendantLEdition();
 };
 
 namespace {
 
+using Action = std::function<void(ListeEssai &)>;
 using Libelles = sdd::ListeT<UniChaine>;
 using Modes = sdd::ListeT<QHeaderView::ResizeMode>;
 
@@ -52,6 +54,8 @@ void CliqueSection(ListeEssai & liste, int colonne)
 }
 
 } // namespace
+
+Q_DECLARE_METATYPE(Action)
 
 void tst_WidgetListeEditableEntete::cleanup()
 {
@@ -225,9 +229,28 @@ void tst_WidgetListeEditableEntete::clicAvecTri()
     QCOMPARE(liste.Textes(), (QStringList{u"c"_s, u"b"_s, u"a"_s}));
 }
 
+void tst_WidgetListeEditableEntete::triPendantLEdition_data()
+{
+    QTest::addColumn<Action>("tri");
+    QTest::addColumn<bool>("ferme");
+    QTest::addColumn<QStringList>("textes");
+    QTest::addColumn<QStringList>("sens");
+    // The header gives the focus to the view: the text is in its cell when the rows are sorted.
+    QTest::newRow("click") << Action([](ListeEssai & l) { CliqueSection(l, 0); }) << true
+                           << QStringList{u"x"_s, u"c"_s, u"b"_s}
+                           << QStringList{u"a"_s, u"c"_s, u"b"_s};
+    QTest::newRow("by the host") << Action([](ListeEssai & l) { l.Trier(0, Qt::DescendingOrder); })
+                                 << false << QStringList{u"c"_s, u"b"_s, u"x"_s}
+                                 << QStringList{u"c"_s, u"b"_s, u"a"_s};
+}
+
 // The editor goes with its row, and commits there.
 void tst_WidgetListeEditableEntete::triPendantLEdition()
 {
+    QFETCH(Action, tri);
+    QFETCH(bool, ferme);
+    QFETCH(QStringList, textes);
+    QFETCH(QStringList, sens);
     ListeEssai liste(2);
     liste.ActualiseEntete(CreeLibelles({u"Mot"_s, u"Sens"_s}), Modes(), true);
     QVERIFY(liste.Montre());
@@ -235,15 +258,18 @@ void tst_WidgetListeEditableEntete::triPendantLEdition()
         liste.AjouteElement(CreeValeurs({texte, texte}));
     liste.DoubleCliqueCellule(0);
     liste.Tape(u"x"_s);
-    CliqueSection(liste, 0);
-    QCOMPARE(liste.Textes(1), (QStringList{u"c"_s, u"b"_s, u"a"_s}));
-    QCOMPARE(liste.CelluleEditee(), liste.Index(2));
-    QCOMPARE(liste.Editeur()->text(), u"x"_s);
-    liste.Touche(Qt::Key_Return);
-    QTRY_COMPARE(liste.Texte(2), u"x"_s);
+    tri(liste);
+    QCOMPARE(liste.Textes(1), sens);
+    QCOMPARE(liste.NombreEditeurs(), ferme ? 0 : 1);
+    if (!ferme) {
+        QCOMPARE(liste.CelluleEditee(), liste.Index(2));
+        QCOMPARE(liste.Editeur()->text(), u"x"_s);
+        liste.Touche(Qt::Key_Return);
+    }
+    QTRY_COMPARE(liste.Textes(), textes);
     VideLaFile();
-    QCOMPARE(liste.Textes(), (QStringList{u"c"_s, u"b"_s, u"x"_s}));
-    QCOMPARE(liste.RangeesSelectionnay(), QList<int>{2});
+    QCOMPARE(liste.Textes(1), sens);
+    QCOMPARE(liste.RangeesSelectionnay(), QList<int>{static_cast<int>(sens.indexOf(u"a"_s))});
     QCOMPARE(liste.NombreEditeurs(), 0);
 }
 

@@ -16,6 +16,19 @@ namespace {
 // Logical pixels: by how much the header overlaps the rows that are counted.
 constexpr int kRecouvrementEntete = 6;
 
+// Whether some cell of the row counts as selected: disabled ones and those that cannot be selected
+// do not, even where they are in the range.
+bool EstSelectionnable(QAbstractItemModel const & modele, QItemSelectionRange const & plage,
+                       int rangee)
+{
+    constexpr Qt::ItemFlags kRequis = Qt::ItemIsSelectable | Qt::ItemIsEnabled;
+    for (int colonne = plage.left(); colonne <= plage.right(); ++colonne) {
+        if ((modele.index(rangee, colonne, plage.parent()).flags() & kRequis) == kRequis)
+            return true;
+    }
+    return false;
+}
+
 } // namespace
 
 UniChaine WidgetListeEditable::DonnePlaceHolder(int)
@@ -72,15 +85,20 @@ QModelIndexList WidgetListeEditable::DonneElementsSelectionnays() const
     return maVue->selectionModel()->selectedIndexes();
 }
 
+// By the ranges, as `selectedIndexes` goes through them: its list of all cells would be most of the
+// work.
 std::list<int> WidgetListeEditable::DonneRangeesSelectionnay() const
 {
     std::list<int> rangees;
     std::vector<char> vues(static_cast<std::size_t>(DonneNbRangee()), 0);
-    for (QModelIndex const & index : DonneElementsSelectionnays()) {
-        char & vue = vues[static_cast<std::size_t>(index.row())];
-        if (vue == 0)
-            rangees.push_back(index.row());
-        vue = 1;
+    for (QItemSelectionRange const & plage : maVue->selectionModel()->selection()) {
+        for (int rangee = plage.top(); rangee <= plage.bottom(); ++rangee) {
+            char & vue = vues[static_cast<std::size_t>(rangee)];
+            if (vue == 0 && EstSelectionnable(*monModele, plage, rangee)) {
+                rangees.push_back(rangee);
+                vue = 1;
+            }
+        }
     }
     return rangees;
 }

@@ -20,12 +20,19 @@ namespace {
 constexpr QItemSelectionModel::SelectionFlags kRangeeSeule =
     QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows;
 
+// An item takes its time over flags that it has already.
+void RendsEditable(QStandardItem & item, bool editable)
+{
+    if (item.isEditable() != editable)
+        item.setEditable(editable);
+}
+
 } // namespace
 
 QStandardItem * WidgetListeEditable::CreeItem() const
 {
     auto * const item = new QStandardItem;
-    item->setEditable(monEditable);
+    RendsEditable(*item, monEditable);
     return item;
 }
 
@@ -54,7 +61,7 @@ QModelIndex WidgetListeEditable::AjouteElement(QList<QStandardItem *> items, int
     }
     for (QStandardItem * const item : std::as_const(items)) {
         if (item != nullptr)
-            item->setEditable(monEditable);
+            RendsEditable(*item, monEditable);
     }
     monModele->insertRow(position, items);
     if (monInsertionApresSelection)

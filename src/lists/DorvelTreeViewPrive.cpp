@@ -46,7 +46,12 @@ void DorvelTreeViewPrive::dropEvent(QDropEvent * evenement)
 void DorvelTreeViewPrive::rowsAboutToBeRemoved(QModelIndex const & parent, int premiere,
                                                int derniere)
 {
-    for (int rangee = premiere; rangee <= derniere && !parent.isValid(); ++rangee)
+    // Mostly none is open: no need to ask for each cell.
+    QObjectList const & enfants = viewport()->children();
+    bool const editeursPossibles =
+        std::any_of(enfants.begin(), enfants.end(), [](QObject * o) { return o->isWidgetType(); });
+    for (int rangee = premiere; editeursPossibles && rangee <= derniere && !parent.isValid();
+         ++rangee)
         FermeEditeurs(rangee, false);
     DTreeView::rowsAboutToBeRemoved(parent, premiere, derniere);
 }
@@ -54,10 +59,6 @@ void DorvelTreeViewPrive::rowsAboutToBeRemoved(QModelIndex const & parent, int p
 QList<QWidget *> DorvelTreeViewPrive::DonneEditeurs(int rangee) const
 {
     QList<QWidget *> editeurs;
-    // Mostly none is open: no need to ask for each cell.
-    QObjectList const & enfants = viewport()->children();
-    if (std::none_of(enfants.begin(), enfants.end(), [](QObject * o) { return o->isWidgetType(); }))
-        return editeurs;
     for (int colonne = 0; colonne < model()->columnCount(); ++colonne) {
         QWidget * const editeur = indexWidget(model()->index(rangee, colonne));
         if (editeur != nullptr)

@@ -114,15 +114,13 @@ bool WidgetListeEditable::RetireRangee(int rangee, bool signaler)
 {
     if (rangee < 0 || rangee >= DonneNbRangee())
         return false;
-    QPointer<WidgetListeEditable> const moi = this;
+    Emission const emission(*this);
     int const place = DeselectionneRangee(rangee);
     if (place < 0)
         return false;
     QList<QStandardItem *> const items = monModele->takeRow(place);
-    if (moi && signaler) {
-        Emission const emission(*this);
+    if (signaler && !emission.ListeEstMorte())
         Q_EMIT SignalRangeeSupprimay(items, place);
-    }
     qDeleteAll(items);
     return true;
 }

@@ -6,6 +6,7 @@
 #include "PageCombos.h"
 #include "PageEcrans.h"
 #include "PageFenetres.h"
+#include "PageListeModifiable.h"
 #include "PagePolices.h"
 #include "PageRecherche.h"
 #include "PageStyle.h"
@@ -52,6 +53,8 @@ QList<DescriptionPage> const & DonnePages()
          [](ThemeGalerie &) -> QWidget * { return new PageTactile; }},
         {TexteGalerie("Recherche"), u"recherche"_s,
          [](ThemeGalerie &) -> QWidget * { return new PageRecherche; }},
+        {TexteGalerie("Liste modifiable"), u"liste"_s,
+         [](ThemeGalerie &) -> QWidget * { return new PageListeModifiable; }},
     };
     return pages;
 }

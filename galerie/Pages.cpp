@@ -9,6 +9,7 @@
 #include "PageFenetres.h"
 #include "PageJetons.h"
 #include "PageFiltres.h"
+#include "PageListeModifiable.h"
 #include "PagePolices.h"
 #include "PageRecherche.h"
 #include "PageStyle.h"
@@ -55,6 +56,8 @@ QList<DescriptionPage> const & DonnePages()
          [](ThemeGalerie &) -> QWidget * { return new PageTactile; }},
         {TexteGalerie("Recherche"), u"recherche"_s,
          [](ThemeGalerie &) -> QWidget * { return new PageRecherche; }},
+        {TexteGalerie("Liste modifiable"), u"liste"_s,
+         [](ThemeGalerie &) -> QWidget * { return new PageListeModifiable; }},
         {TexteGalerie("Chevron"), u"chevron"_s,
          [](ThemeGalerie &) -> QWidget * { return new PageChevron; }},
         {TexteGalerie("Filtres"), u"filtres"_s,

@@ -3,6 +3,7 @@
 
 #include <QDropEvent>
 #include <QPointer>
+#include <QSignalBlocker>
 
 #include <algorithm>
 
@@ -32,6 +33,8 @@ void DorvelTreeViewPrive::dropEvent(QDropEvent * evenement)
     int rangee = indexAt(evenement->position().toPoint()).row();
     if (dropIndicatorPosition() == BelowItem)
         ++rangee;
+    // The cells of the new row come one by one, each of which looks like the end of an edit.
+    QSignalBlocker const silence(parentWidget());
     model()->dropMimeData(evenement->mimeData(), evenement->dropAction(), rangee, 0, QModelIndex());
     evenement->setDropAction(evenement->proposedAction());
     evenement->accept();

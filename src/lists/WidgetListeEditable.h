@@ -161,6 +161,8 @@ public Q_SLOTS:
     void PriseBougeElementSelectionner(bool estVersLeHaut);
 
 protected:
+    class Emission;
+
     /// Takes the items of one row, and inserts it at `rangee` or after the selected row; returns
     /// the index of its first cell. Without items, or for a place that does not exist, the items
     /// are deleted and the index is invalid.
@@ -198,8 +200,6 @@ private Q_SLOTS:
     void PriseSuppression();
 
 private:
-    class Emission;
-
     /// The end of an edit that the event loop has still to bring.
     struct FinAttendue
     {

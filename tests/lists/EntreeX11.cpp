@@ -59,7 +59,17 @@ void EntreeX11::Deplace(QPoint const & point)
 void EntreeX11::Clique(QPoint const & point)
 {
     Deplace(point);
+    Presse();
+    Relache();
+}
+
+void EntreeX11::Presse()
+{
     Envoie(XCB_BUTTON_PRESS, XCB_BUTTON_INDEX_1);
+}
+
+void EntreeX11::Relache()
+{
     Envoie(XCB_BUTTON_RELEASE, XCB_BUTTON_INDEX_1);
 }
 

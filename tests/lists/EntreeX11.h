@@ -29,6 +29,9 @@ public:
     /// In pixels of the screen.
     void Deplace(QPoint const & point);
     void Clique(QPoint const & point);
+    /// Of the left button, where the mouse is.
+    void Presse();
+    void Relache();
     /// A character of Latin 1, or one of `eTouche`.
     void Frappe(unsigned touche);
 

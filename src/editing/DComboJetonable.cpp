@@ -178,7 +178,8 @@ bool DComboJetonable::eventFilter(QObject * objet, QEvent * evenement)
         // The field begins elsewhere than the combo box.
         maPositionSouris = duChamp ? monChamp->mapTo(this, position) : position;
         update();
-    } else if (duChamp && evenement->type() == QEvent::Resize) {
+    } else if (duChamp &&
+               (evenement->type() == QEvent::Move || evenement->type() == QEvent::Resize)) {
         DegageIcone();
     }
     return DComboBox::eventFilter(objet, evenement);
@@ -244,6 +245,15 @@ void DComboJetonable::paintEvent(QPaintEvent * evenement)
     peintre.drawComplexControl(QStyle::CC_ComboBox, option);
     peintre.drawControl(QStyle::CE_ComboBoxLabel, option);
     DessineIcone(peintre);
+}
+
+// The base may give the field the geometry that it has, of which the field does not hear, while the
+// icon has come nearer.
+void DComboJetonable::resizeEvent(QResizeEvent * evenement)
+{
+    DComboBox::resizeEvent(evenement);
+    if (monChamp)
+        DegageIcone();
 }
 
 bool DComboJetonable::EstVide()

@@ -99,6 +99,7 @@ protected:
     void mouseReleaseEvent(QMouseEvent * evenement) override;
     void leaveEvent(QEvent * evenement) override;
     void paintEvent(QPaintEvent * evenement) override;
+    void resizeEvent(QResizeEvent * evenement) override;
 
 private:
     friend class ComboJetonableAccessible;

@@ -28,6 +28,8 @@ private Q_SLOTS:
     void rienAvantLeRelachement();
     void champSousLIcone_data();
     void champSousLIcone();
+    void champSousLIconeApresUnChangement_data();
+    void champSousLIconeApresUnChangement();
     void moletteSansEffet();
     void selectionAuPremierClic();
     void selectionGardee();
@@ -36,7 +38,6 @@ private Q_SLOTS:
     void positionOublieeALaSortie();
     void positionDuChampTraduite();
     void rienNEstConsomme();
-    void infobulleMontree();
     void destructionDansLeChamp();
 
 private:
@@ -251,6 +252,40 @@ void tst_DComboJetonableSouris::champSousLIcone()
     maFenetre.reset(); // before its style
 }
 
+void tst_DComboJetonableSouris::champSousLIconeApresUnChangement_data()
+{
+    QTest::addColumn<bool>("styleDeLaBibliotheque");
+    QTest::newRow("Fusion") << false;
+    QTest::newRow("library's style") << true;
+}
+
+void tst_DComboJetonableSouris::champSousLIconeApresUnChangement()
+{
+    QFETCH(bool, styleDeLaBibliotheque);
+    QStyle * const fusion = QStyleFactory::create(u"Fusion"_s);
+    std::unique_ptr<QStyle> const style(styleDeLaBibliotheque ? new DStyleProxy(fusion) : fusion);
+    auto * const combo = CreeAvecIcones(mesIcones);
+    combo->setStyle(style.get());
+    auto const cachee = [combo] {
+        return combo->lineEdit()->geometry().intersects(
+            combo->DonneRectIcone().adjusted(-5, 0, 0, 0));
+    };
+    Montre(combo, 150);
+
+    // By any width: the style may then give the field the size that it has already.
+    for (int moins = 1; moins < 40; ++moins) {
+        combo->resize(150, 30);
+        combo->resize(150 - moins, 30);
+        QVERIFY2(!cachee(), qPrintable(u"%1 less"_s.arg(moins)));
+    }
+    combo->resize(150, 30);
+    for (auto const sens : {Qt::RightToLeft, Qt::LeftToRight}) {
+        combo->setLayoutDirection(sens);
+        QVERIFY(!cachee());
+    }
+    maFenetre.reset(); // before its style
+}
+
 void tst_DComboJetonableSouris::moletteSansEffet()
 {
     Montre(CreeSansIcones(), 300);
@@ -358,25 +393,6 @@ void tst_DComboJetonableSouris::rienNEstConsomme()
     QVERIFY(!monCombo->eventFilter(monCombo, &mouvement));
     QVERIFY(!monCombo->eventFilter(monCombo->lineEdit(), &mouvement));
     QVERIFY(!monCombo->eventFilter(maFenetre.get(), &mouvement));
-}
-
-void tst_DComboJetonableSouris::infobulleMontree()
-{
-    Montre(CreeSansIcones(), 300);
-    monCombo->PrendsTexteJeton(u"jeton"_s, u"<b>Nom</b> commun"_s);
-    QLineEdit & champ = PreteChamp(*monCombo);
-    QHelpEvent aide(QEvent::ToolTip, QPoint(5, 5), champ.mapToGlobal(QPoint(5, 5)));
-
-    QApplication::sendEvent(&champ, &aide);
-
-    QVERIFY(QToolTip::isVisible());
-    QVERIFY(QToolTip::text().contains(u"<b>Nom</b> commun"));
-
-    monCombo->DesactiveJeton();
-    QApplication::sendEvent(&champ, &aide);
-
-    QTRY_VERIFY(!QToolTip::isVisible());
-    QTRY_COMPARE(QApplication::topLevelWidgets().size(), 1);
 }
 
 void tst_DComboJetonableSouris::destructionDansLeChamp()

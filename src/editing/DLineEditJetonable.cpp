@@ -14,6 +14,7 @@
 #include <QPointer>
 #include <QSignalBlocker>
 #include <QStyleOptionFrame>
+#include <QToolTip>
 
 #include <algorithm>
 
@@ -83,7 +84,7 @@ void DLineEditJetonable::MetsJetonActif(bool actif)
         clear();
     } else {
         setCursor(Qt::IBeamCursor);
-        setToolTip({});
+        MetsInfobulle({});
     }
     update();
     JetonableAccessible::AnnonceValeur(*this);
@@ -93,7 +94,7 @@ void DLineEditJetonable::MetsJetonActif(bool actif)
 void DLineEditJetonable::PrendsTexteJeton(QString const & texte, QString const & infobulle)
 {
     monTexteJeton = texte;
-    setToolTip(infobulle);
+    MetsInfobulle(infobulle);
     MetsJetonActif(true);
 }
 
@@ -221,6 +222,14 @@ bool DLineEditJetonable::TermineJeton()
     if (monJetonActif)
         MetsJetonActif(false);
     return vivant;
+}
+
+void DLineEditJetonable::MetsInfobulle(QString const & infobulle)
+{
+    // One that is on the screen would go on to explain the token that was there.
+    if (!toolTip().isEmpty() && QToolTip::text() == toolTip())
+        QToolTip::hideText();
+    setToolTip(infobulle);
 }
 
 void DLineEditJetonable::MetsPositionSouris(QPoint const & position)

@@ -50,6 +50,7 @@ private:
     void PriseTexteEditay();
     void PriseTexteChangay(QString const & texte);
     bool TermineJeton();
+    void MetsInfobulle(QString const & infobulle);
     void MetsPositionSouris(QPoint const & position);
     QRect DonneZoneTexte() const;
     void DessineJeton(QPainter & peintre) const;

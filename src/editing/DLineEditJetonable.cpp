@@ -118,14 +118,8 @@ bool DLineEditJetonable::event(QEvent * evenement)
 {
     bool const touche =
         evenement->type() == QEvent::KeyPress || evenement->type() == QEvent::ShortcutOverride;
-    if (touche && static_cast<QKeyEvent const *>(evenement)->key() == Qt::Key_Escape) {
-        QPointer<DLineEditJetonable> const vivant(this);
+    if (touche && static_cast<QKeyEvent const *>(evenement)->key() == Qt::Key_Escape)
         clear();
-        if (!vivant) {
-            evenement->accept();
-            return true;
-        }
-    }
     return QLineEdit::event(evenement);
 }
 
@@ -142,9 +136,7 @@ void DLineEditJetonable::keyPressEvent(QKeyEvent * evenement)
 void DLineEditJetonable::inputMethodEvent(QInputMethodEvent * evenement)
 {
     // What is being composed would be typed unseen under the block.
-    bool const saisie =
-        !evenement->preeditString().isEmpty() || !evenement->commitString().isEmpty();
-    if (!saisie || TermineJeton())
+    if (evenement->preeditString().isEmpty() || TermineJeton())
         QLineEdit::inputMethodEvent(evenement);
 }
 
@@ -180,8 +172,6 @@ void DLineEditJetonable::mouseReleaseEvent(QMouseEvent * evenement)
     if (!vivant)
         return;
     QLineEdit::mouseReleaseEvent(evenement);
-    if (!vivant)
-        return;
     if (maSelectionEnAttente && !hasSelectedText())
         selectAll();
     maSelectionEnAttente = false;
@@ -209,9 +199,10 @@ void DLineEditJetonable::PriseTexteEditay()
 
 // The host and the list of the combo box change the text unedited. Under the block nobody would see
 // it, and it would be the value of the field all the same.
-void DLineEditJetonable::PriseTexteChangay(QString const & texte)
+void DLineEditJetonable::PriseTexteChangay()
 {
-    if (!texte.isEmpty())
+    // Not what the signal tells: a receiver of `textEdited` may have made a token of that.
+    if (!text().isEmpty())
         TermineJeton();
 }
 
@@ -253,8 +244,6 @@ void DLineEditJetonable::DessineJeton(QPainter & peintre) const
     QFontMetrics const mesures(police);
     QRect const zone = DonneZoneTexte();
     QString const texte = mesures.elidedText(monTexteJeton, Qt::ElideRight, zone.width());
-    if (texte.isEmpty())
-        return;
     QRect const bloc = DonneBloc(mesures, texte, zone);
     bool const focus = hasFocus();
     peintre.fillRect(bloc, focus ? palette().highlight() : QApplication::palette().base());

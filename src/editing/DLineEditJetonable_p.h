@@ -48,7 +48,7 @@ protected:
 
 private:
     void PriseTexteEditay();
-    void PriseTexteChangay(QString const & texte);
+    void PriseTexteChangay();
     bool TermineJeton();
     void MetsInfobulle(QString const & infobulle);
     void MetsPositionSouris(QPoint const & position);

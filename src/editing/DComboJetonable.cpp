@@ -288,14 +288,13 @@ void DComboJetonable::DegageIcone()
 {
     QRect const place = monChamp->geometry();
     int const bord = DonneRectIcone().left() - kDecalageDessin; // where the icon begins
-    int const trop = place.right() + 1 - bord;
-    if (!monAvecIcones || trop <= 0)
+    if (!monAvecIcones || place.right() < bord)
         return;
-    // From right to left the room for the arrow is at the left, and free.
+    // From right to left the room for the arrow is at the left, and free but for the frame.
     bool const versLaDroite = layoutDirection() == Qt::LeftToRight;
-    int const marge = std::min(place.left(), width() - 1 - place.right());
-    int const gauche = versLaDroite ? place.left() : std::max(place.left() - trop, marge);
-    monChamp->setGeometry(gauche, place.top(), std::max(0, bord - gauche), place.height());
+    int const gauche =
+        versLaDroite ? place.left() : std::min(place.left(), width() - 1 - place.right());
+    monChamp->setGeometry(gauche, place.top(), bord - gauche, place.height());
 }
 
 void DComboJetonable::DessineIcone(QPainter & peintre)
@@ -310,8 +309,6 @@ void DComboJetonable::DessineIcone(QPainter & peintre)
     peintre.translate(rect.left() - kDecalageDessin, rect.top());
     if (survol && !monEtatNormal)
         peintre.fillRect(dessin, QColor(kFondSurvol));
-    if (icone.isNull())
-        return;
     QIcon::Mode const mode = isEnabled() ? QIcon::Normal : QIcon::Disabled;
     peintre.drawPixmap(dessin, icone.pixmap(dessin.size(), devicePixelRatioF(), mode));
 }

@@ -172,14 +172,15 @@ void DComboJetonable::showPopup()
 
 bool DComboJetonable::eventFilter(QObject * objet, QEvent * evenement)
 {
-    bool const duChamp = objet == monChamp;
-    if (evenement->type() == QEvent::MouseMove && (duChamp || objet == this)) {
+    QEvent::Type const type = evenement->type();
+    // The field is looked at with these events only: it sends others while it is being destroyed.
+    if (type == QEvent::MouseMove) {
+        bool const duChamp = objet == monChamp;
         QPoint const position = static_cast<QMouseEvent *>(evenement)->position().toPoint();
         // The field begins elsewhere than the combo box.
-        maPositionSouris = duChamp ? monChamp->mapTo(this, position) : position;
-        update();
-    } else if (duChamp &&
-               (evenement->type() == QEvent::Move || evenement->type() == QEvent::Resize)) {
+        if (duChamp || objet == this)
+            MetsPositionSouris(duChamp ? monChamp->mapTo(this, position) : position);
+    } else if ((type == QEvent::Move || type == QEvent::Resize) && objet == monChamp) {
         DegageIcone();
     }
     return DComboBox::eventFilter(objet, evenement);
@@ -223,8 +224,7 @@ void DComboJetonable::mouseReleaseEvent(QMouseEvent * evenement)
 
 void DComboJetonable::leaveEvent(QEvent * evenement)
 {
-    maPositionSouris = kHorsDuCombo;
-    update();
+    MetsPositionSouris(kHorsDuCombo);
     DComboBox::leaveEvent(evenement);
 }
 
@@ -254,6 +254,12 @@ void DComboJetonable::resizeEvent(QResizeEvent * evenement)
     DComboBox::resizeEvent(evenement);
     if (monChamp)
         DegageIcone();
+}
+
+void DComboJetonable::MetsPositionSouris(QPoint const & position)
+{
+    maPositionSouris = position;
+    update();
 }
 
 bool DComboJetonable::EstVide()

@@ -112,6 +112,7 @@ private:
     friend class ComboJetonableAccessible;
 
     void Branche();
+    void MetsPositionSouris(QPoint const & position);
     bool EstVide();
     bool ActiveIcone();
     void DegageIcone();

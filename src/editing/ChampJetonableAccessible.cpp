@@ -7,6 +7,8 @@
 #include <QTextDocument>
 #include <QTextDocumentFragment>
 
+#include <algorithm>
+
 ChampJetonableAccessible::ChampJetonableAccessible(DLineEditJetonable * champ)
     : QAccessibleWidget(champ, QAccessible::EditableText)
 {
@@ -29,7 +31,7 @@ QString ChampJetonableAccessible::text(QAccessible::Text nature) const
 void ChampJetonableAccessible::setText(QAccessible::Text nature, QString const & texte)
 {
     if (nature == QAccessible::Value)
-        replaceText(0, characterCount(), texte);
+        replaceText(0, static_cast<int>(PreteChamp().text().size()), texte); // hidden or not
     else
         QAccessibleWidget::setText(nature, texte);
 }
@@ -150,7 +152,7 @@ void ChampJetonableAccessible::replaceText(int debut, int fin, QString const & t
     if (champ.isReadOnly())
         return;
     if (!champ.UnJetonEstActif())
-        champ.setText(champ.text().replace(debut, fin - debut, texte));
+        champ.setText(champ.text().replace(debut, std::max(0, fin - debut), texte));
     else if (texte.isEmpty())
         champ.MetsJetonActif(false);
     else

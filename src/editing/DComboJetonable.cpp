@@ -172,13 +172,15 @@ void DComboJetonable::showPopup()
 
 bool DComboJetonable::eventFilter(QObject * objet, QEvent * evenement)
 {
-    bool const duChamp = objet == monChamp;
-    if (evenement->type() == QEvent::MouseMove && (duChamp || objet == this)) {
+    QEvent::Type const type = evenement->type();
+    // The field is looked at with these events only: it sends others while it is being destroyed.
+    if (type == QEvent::MouseMove) {
+        bool const duChamp = objet == monChamp;
         QPoint const position = static_cast<QMouseEvent *>(evenement)->position().toPoint();
         // The field begins elsewhere than the combo box.
-        maPositionSouris = duChamp ? monChamp->mapTo(this, position) : position;
-        update();
-    } else if (duChamp && evenement->type() == QEvent::Resize) {
+        if (duChamp || objet == this)
+            MetsPositionSouris(duChamp ? monChamp->mapTo(this, position) : position);
+    } else if ((type == QEvent::Move || type == QEvent::Resize) && objet == monChamp) {
         DegageIcone();
     }
     return DComboBox::eventFilter(objet, evenement);
@@ -222,8 +224,7 @@ void DComboJetonable::mouseReleaseEvent(QMouseEvent * evenement)
 
 void DComboJetonable::leaveEvent(QEvent * evenement)
 {
-    maPositionSouris = kHorsDuCombo;
-    update();
+    MetsPositionSouris(kHorsDuCombo);
     DComboBox::leaveEvent(evenement);
 }
 
@@ -244,6 +245,21 @@ void DComboJetonable::paintEvent(QPaintEvent * evenement)
     peintre.drawComplexControl(QStyle::CC_ComboBox, option);
     peintre.drawControl(QStyle::CE_ComboBoxLabel, option);
     DessineIcone(peintre);
+}
+
+// The base may give the field the geometry that it has, of which the field does not hear, while the
+// icon has come nearer.
+void DComboJetonable::resizeEvent(QResizeEvent * evenement)
+{
+    DComboBox::resizeEvent(evenement);
+    if (monChamp)
+        DegageIcone();
+}
+
+void DComboJetonable::MetsPositionSouris(QPoint const & position)
+{
+    maPositionSouris = position;
+    update();
 }
 
 bool DComboJetonable::EstVide()
@@ -278,14 +294,13 @@ void DComboJetonable::DegageIcone()
 {
     QRect const place = monChamp->geometry();
     int const bord = DonneRectIcone().left() - kDecalageDessin; // where the icon begins
-    int const trop = place.right() + 1 - bord;
-    if (!monAvecIcones || trop <= 0)
+    if (!monAvecIcones || place.right() < bord)
         return;
-    // From right to left the room for the arrow is at the left, and free.
+    // From right to left the room for the arrow is at the left, and free but for the frame.
     bool const versLaDroite = layoutDirection() == Qt::LeftToRight;
-    int const marge = std::min(place.left(), width() - 1 - place.right());
-    int const gauche = versLaDroite ? place.left() : std::max(place.left() - trop, marge);
-    monChamp->setGeometry(gauche, place.top(), std::max(0, bord - gauche), place.height());
+    int const gauche =
+        versLaDroite ? place.left() : std::min(place.left(), width() - 1 - place.right());
+    monChamp->setGeometry(gauche, place.top(), bord - gauche, place.height());
 }
 
 void DComboJetonable::DessineIcone(QPainter & peintre)
@@ -300,8 +315,6 @@ void DComboJetonable::DessineIcone(QPainter & peintre)
     peintre.translate(rect.left() - kDecalageDessin, rect.top());
     if (survol && !monEtatNormal)
         peintre.fillRect(dessin, QColor(kFondSurvol));
-    if (icone.isNull())
-        return;
     QIcon::Mode const mode = isEnabled() ? QIcon::Normal : QIcon::Disabled;
     peintre.drawPixmap(dessin, icone.pixmap(dessin.size(), devicePixelRatioF(), mode));
 }

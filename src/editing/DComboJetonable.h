@@ -45,6 +45,9 @@ public:
 
     /// Shows `text` on one line, with each run of blanks and line ends as one blank, as the token
     /// in place of what the field held. The change of text is not told. `tooltip` may have tags.
+    ///
+    /// A receiver of what is typed may make a token of it. In a combo box with items the completion
+    /// then puts one of them in its place; a queued call, or no completer, prevents that.
     void PrendsTexteJeton(UniChaine text, UniChaine tooltip);
     /// What an empty field shows while no token is on.
     void PrendsTextePlaceHolder(UniChaine texte);
@@ -57,7 +60,8 @@ public:
     void PrendsCheminIconeSupprime(UniChaine chemin);
     void PrendsCheminIconeSupprimeHover(UniChaine chemin);
 
-    /// Ends the token and removes its tool tip; the field is then empty.
+    /// Ends the token and removes its tool tip; the field is then empty. One without a token keeps
+    /// its text, and `SignalJetonChangay` tells of the call all the same.
     void DesactiveJeton();
     /// For good: the normal icon stays, and a click on it keeps what the field holds.
     void DesactiveSuppression();
@@ -79,14 +83,17 @@ public:
 
 Q_SIGNALS:
     /// The host may show its pop-up: by a click on the field, the icon or the arrow, by F4 or
-    /// Alt+Down, or by `showPopup`. The receiver may destroy the combo box, here and in the last.
+    /// Alt+Down, or by `showPopup`. The receiver may destroy the combo box, as may that of
+    /// `SignalBoutonXAppuyay`.
     void SignalShowPopup();
     /// For the host's use, to close its pop-up; the combo box never emits it.
     void SignalClosePopup();
     /// The icon or the arrow was clicked, whatever it shows; the field still holds what it held.
     void SignalBoutonXAppuyay();
     /// A token came, was replaced or went, whoever did it: the text alone does not tell, since it
-    /// is empty before and after when Backspace drops a token.
+    /// is empty before and after when Backspace drops a token. A click that empties the field of
+    /// free text tells it too. To destroy the combo box the receiver calls `deleteLater`: a text
+    /// may be on its way into the field.
     void SignalJetonChangay();
 
 public Q_SLOTS:
@@ -99,11 +106,13 @@ protected:
     void mouseReleaseEvent(QMouseEvent * evenement) override;
     void leaveEvent(QEvent * evenement) override;
     void paintEvent(QPaintEvent * evenement) override;
+    void resizeEvent(QResizeEvent * evenement) override;
 
 private:
     friend class ComboJetonableAccessible;
 
     void Branche();
+    void MetsPositionSouris(QPoint const & position);
     bool EstVide();
     bool ActiveIcone();
     void DegageIcone();

@@ -14,6 +14,7 @@
 #include <QPointer>
 #include <QSignalBlocker>
 #include <QStyleOptionFrame>
+#include <QToolTip>
 
 #include <algorithm>
 
@@ -83,7 +84,7 @@ void DLineEditJetonable::MetsJetonActif(bool actif)
         clear();
     } else {
         setCursor(Qt::IBeamCursor);
-        setToolTip({});
+        MetsInfobulle({});
     }
     update();
     JetonableAccessible::AnnonceValeur(*this);
@@ -93,7 +94,7 @@ void DLineEditJetonable::MetsJetonActif(bool actif)
 void DLineEditJetonable::PrendsTexteJeton(QString const & texte, QString const & infobulle)
 {
     monTexteJeton = texte;
-    setToolTip(infobulle);
+    MetsInfobulle(infobulle);
     MetsJetonActif(true);
 }
 
@@ -117,14 +118,8 @@ bool DLineEditJetonable::event(QEvent * evenement)
 {
     bool const touche =
         evenement->type() == QEvent::KeyPress || evenement->type() == QEvent::ShortcutOverride;
-    if (touche && static_cast<QKeyEvent const *>(evenement)->key() == Qt::Key_Escape) {
-        QPointer<DLineEditJetonable> const vivant(this);
+    if (touche && static_cast<QKeyEvent const *>(evenement)->key() == Qt::Key_Escape)
         clear();
-        if (!vivant) {
-            evenement->accept();
-            return true;
-        }
-    }
     return QLineEdit::event(evenement);
 }
 
@@ -141,9 +136,7 @@ void DLineEditJetonable::keyPressEvent(QKeyEvent * evenement)
 void DLineEditJetonable::inputMethodEvent(QInputMethodEvent * evenement)
 {
     // What is being composed would be typed unseen under the block.
-    bool const saisie =
-        !evenement->preeditString().isEmpty() || !evenement->commitString().isEmpty();
-    if (!saisie || TermineJeton())
+    if (evenement->preeditString().isEmpty() || TermineJeton())
         QLineEdit::inputMethodEvent(evenement);
 }
 
@@ -179,8 +172,6 @@ void DLineEditJetonable::mouseReleaseEvent(QMouseEvent * evenement)
     if (!vivant)
         return;
     QLineEdit::mouseReleaseEvent(evenement);
-    if (!vivant)
-        return;
     if (maSelectionEnAttente && !hasSelectedText())
         selectAll();
     maSelectionEnAttente = false;
@@ -208,9 +199,10 @@ void DLineEditJetonable::PriseTexteEditay()
 
 // The host and the list of the combo box change the text unedited. Under the block nobody would see
 // it, and it would be the value of the field all the same.
-void DLineEditJetonable::PriseTexteChangay(QString const & texte)
+void DLineEditJetonable::PriseTexteChangay()
 {
-    if (!texte.isEmpty())
+    // Not what the signal tells: a receiver of `textEdited` may have made a token of that.
+    if (!text().isEmpty())
         TermineJeton();
 }
 
@@ -221,6 +213,14 @@ bool DLineEditJetonable::TermineJeton()
     if (monJetonActif)
         MetsJetonActif(false);
     return vivant;
+}
+
+void DLineEditJetonable::MetsInfobulle(QString const & infobulle)
+{
+    // One that is on the screen would go on to explain the token that was there.
+    if (!toolTip().isEmpty() && QToolTip::text() == toolTip())
+        QToolTip::hideText();
+    setToolTip(infobulle);
 }
 
 void DLineEditJetonable::MetsPositionSouris(QPoint const & position)
@@ -244,8 +244,6 @@ void DLineEditJetonable::DessineJeton(QPainter & peintre) const
     QFontMetrics const mesures(police);
     QRect const zone = DonneZoneTexte();
     QString const texte = mesures.elidedText(monTexteJeton, Qt::ElideRight, zone.width());
-    if (texte.isEmpty())
-        return;
     QRect const bloc = DonneBloc(mesures, texte, zone);
     bool const focus = hasFocus();
     peintre.fillRect(bloc, focus ? palette().highlight() : QApplication::palette().base());

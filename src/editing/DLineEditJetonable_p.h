@@ -48,8 +48,9 @@ protected:
 
 private:
     void PriseTexteEditay();
-    void PriseTexteChangay(QString const & texte);
+    void PriseTexteChangay();
     bool TermineJeton();
+    void MetsInfobulle(QString const & infobulle);
     void MetsPositionSouris(QPoint const & position);
     QRect DonneZoneTexte() const;
     void DessineJeton(QPainter & peintre) const;

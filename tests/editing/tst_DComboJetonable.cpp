@@ -3,6 +3,7 @@
 
 #include "editing/EssaisJetons.h"
 #include "foundation/TexteRiche.h"
+#include "style/DStyleProxy.h"
 
 #include <QtTest>
 
@@ -24,6 +25,7 @@ private Q_SLOTS:
     void infobulle_data();
     void infobulle();
     void finDuJeton();
+    void finSansJeton();
     void jetonRemplace();
     void texteDeLHoteTermineLeJeton();
     void articleTermineLeJeton();
@@ -65,6 +67,9 @@ void tst_DComboJetonable::valeursDeDepart()
     QCOMPARE(PreteChamp(*combo).toolTip(), QString());
     QCOMPARE(combo->insertPolicy(), QComboBox::InsertAtBottom);
     QCOMPARE(PreteChamp(*combo).completer()->completionMode(), QCompleter::InlineCompletion);
+    // An icon in place of the arrow.
+    char const * const attribut = DStyleProxy::DonneNomAttributStyleComboBoxSansFleche();
+    QCOMPARE(combo->property(attribut).toBool(), avecIcones);
     if (avecIcones)
         QCOMPARE(DonneCouleurIcone(*combo), kNormale);
 }
@@ -134,6 +139,18 @@ void tst_DComboJetonable::finDuJeton()
     QCOMPARE(PreteChamp(*combo).toolTip(), QString());
     QCOMPARE(PreteChamp(*combo).cursor().shape(), Qt::IBeamCursor);
     QCOMPARE(jeton.count(), 1);
+}
+
+void tst_DComboJetonable::finSansJeton()
+{
+    std::unique_ptr<DComboJetonable> const combo(CreeSansIcones());
+    combo->setEditText(u"texte"_s);
+    QSignalSpy const jeton(combo.get(), &DComboJetonable::SignalJetonChangay);
+
+    combo->DesactiveJeton();
+
+    QCOMPARE(combo->currentText(), u"texte"_s);
+    QCOMPARE(jeton.count(), 1); // it is told all the same
 }
 
 void tst_DComboJetonable::jetonRemplace()

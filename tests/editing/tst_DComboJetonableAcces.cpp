@@ -165,6 +165,10 @@ void tst_DComboJetonableAcces::motDePasse()
     monCombo->setEditText(u"secret"_s);
     QVERIFY(!Interface().text(QAccessible::Value).contains(u"s"));
     QVERIFY(!InterfaceDuChamp().textInterface()->text(0, 6).contains(u"s"));
+
+    monCombo->lineEdit()->setEchoMode(QLineEdit::NoEcho);
+    InterfaceDuChamp().setText(QAccessible::Value, u"nouveau"_s);
+    QCOMPARE(monCombo->currentText(), u"nouveau"_s);
 }
 
 void tst_DComboJetonableAcces::changementsParLeLecteur()
@@ -175,6 +179,11 @@ void tst_DComboJetonableAcces::changementsParLeLecteur()
     edition->insertText(3, u"s"_s);
     edition->deleteText(0, 1);
     edition->replaceText(0, 1, u"u"_s);
+    QCOMPARE(monCombo->currentText(), u"uts"_s);
+    edition->deleteText(7, 9);
+    edition->deleteText(-2, 1);
+    edition->replaceText(0, -1, {}); // an end before the beginning
+    edition->replaceText(2, 1, {});
     QCOMPARE(monCombo->currentText(), u"uts"_s);
 
     monCombo->PrendsTexteJeton(u"jeton"_s, {});

@@ -43,6 +43,10 @@ private Q_SLOTS:
     void modificateurSeul_data();
     void modificateurSeul();
     void tabulationGardeLeJeton();
+    void jetonFaitDeLaSaisie_data();
+    void jetonFaitDeLaSaisie();
+    void jetonFaitDeLaSaisieAvecArticles_data();
+    void jetonFaitDeLaSaisieAvecArticles();
     void touchesSansJeton();
     void echappement_data();
     void echappement();
@@ -140,9 +144,13 @@ void tst_DComboJetonableClavier::modificateurSeul_data()
     QTest::newRow("Alt") << Qt::Key_Alt;
     QTest::newRow("AltGr") << Qt::Key_AltGr;
     QTest::newRow("Meta") << Qt::Key_Meta;
-    QTest::newRow("Super") << Qt::Key_Super_L;
+    QTest::newRow("left Super") << Qt::Key_Super_L;
+    QTest::newRow("right Super") << Qt::Key_Super_R;
+    QTest::newRow("left Hyper") << Qt::Key_Hyper_L;
+    QTest::newRow("right Hyper") << Qt::Key_Hyper_R;
     QTest::newRow("Caps Lock") << Qt::Key_CapsLock;
     QTest::newRow("Num Lock") << Qt::Key_NumLock;
+    QTest::newRow("Scroll Lock") << Qt::Key_ScrollLock;
 }
 
 void tst_DComboJetonableClavier::modificateurSeul()
@@ -169,6 +177,54 @@ void tst_DComboJetonableClavier::tabulationGardeLeJeton()
     QTest::keyClick(maFenetre->windowHandle(), Qt::Key_Backtab, Qt::ShiftModifier);
     QTRY_VERIFY(monAutre->hasFocus());
     QVERIFY(monCombo->UnJetonEstActif());
+}
+
+void tst_DComboJetonableClavier::jetonFaitDeLaSaisie_data()
+{
+    QTest::addColumn<bool>("edite");
+    QTest::newRow("textEdited of the field") << true;
+    QTest::newRow("editTextChanged") << false;
+}
+
+void tst_DComboJetonableClavier::jetonFaitDeLaSaisie()
+{
+    QFETCH(bool, edite);
+    auto const reconnais = [this](QString const & texte) {
+        if (texte == u"nom")
+            monCombo->PrendsTexteJeton(u"Nom commun"_s, {});
+    };
+    if (edite)
+        connect(monCombo->lineEdit(), &QLineEdit::textEdited, this, reconnais);
+    else
+        connect(monCombo, &QComboBox::editTextChanged, this, reconnais);
+
+    QTest::keyClicks(monCombo, u"nom"_s);
+
+    QVERIFY(monCombo->UnJetonEstActif());
+    QCOMPARE(monCombo->currentText(), QString());
+}
+
+void tst_DComboJetonableClavier::jetonFaitDeLaSaisieAvecArticles_data()
+{
+    QTest::addColumn<Qt::ConnectionType>("connexion");
+    QTest::addColumn<bool>("reste");
+    QTest::newRow("the completion takes its place") << Qt::DirectConnection << false;
+    QTest::newRow("queued") << Qt::QueuedConnection << true;
+}
+
+void tst_DComboJetonableClavier::jetonFaitDeLaSaisieAvecArticles()
+{
+    QFETCH(Qt::ConnectionType, connexion);
+    QFETCH(bool, reste);
+    monCombo->addItems({u"arbre"_s, u"nombre"_s});
+    monCombo->clearEditText();
+    auto const reconnais = [this] { monCombo->PrendsTexteJeton(u"Nom commun"_s, {}); };
+    connect(monCombo->lineEdit(), &QLineEdit::textEdited, this, reconnais, connexion);
+
+    QTest::keyClicks(monCombo, u"n"_s);
+
+    QTRY_COMPARE(monCombo->UnJetonEstActif(), reste);
+    QCOMPARE(monCombo->currentText().isEmpty(), reste);
 }
 
 void tst_DComboJetonableClavier::touchesSansJeton()

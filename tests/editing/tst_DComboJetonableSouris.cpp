@@ -20,6 +20,7 @@ private Q_SLOTS:
     void cleanup();
     void clicSurLIcone_data();
     void clicSurLIcone();
+    void texteAvantLeJeton();
     void clicSurLaFleche();
     void suppressionDesactivee();
     void clicACoteDeLIcone();
@@ -28,15 +29,17 @@ private Q_SLOTS:
     void rienAvantLeRelachement();
     void champSousLIcone_data();
     void champSousLIcone();
+    void champSousLIconeApresUnChangement_data();
+    void champSousLIconeApresUnChangement();
     void moletteSansEffet();
     void selectionAuPremierClic();
     void selectionGardee();
     void selectionSeulementUneFois();
+    void selectionEnTirant();
     void positionSuivie();
     void positionOublieeALaSortie();
     void positionDuChampTraduite();
     void rienNEstConsomme();
-    void infobulleMontree();
     void destructionDansLeChamp();
 
 private:
@@ -111,6 +114,19 @@ void tst_DComboJetonableSouris::clicSurLIcone()
     QCOMPARE(monCombo->currentText(), QString());
     QVERIFY(!monCombo->UnJetonEstActif());
     QCOMPARE(monCombo->lineEdit()->toolTip(), QString());
+}
+
+void tst_DComboJetonableSouris::texteAvantLeJeton()
+{
+    Montre(CreeAvecIcones(mesIcones), 300);
+    monCombo->setEditText(u"texte"_s);
+    QStringList journal;
+    connect(monCombo, &QComboBox::editTextChanged, this, [&] { journal += u"texte"_s; });
+    connect(monCombo, &DComboJetonable::SignalJetonChangay, this, [&] { journal += u"jeton"_s; });
+
+    Clique(monCombo->DonneRectIcone().center());
+
+    QCOMPARE(journal, QStringList({u"texte"_s, u"jeton"_s}));
 }
 
 void tst_DComboJetonableSouris::clicSurLaFleche()
@@ -196,6 +212,13 @@ void tst_DComboJetonableSouris::autresBoutons()
     QCOMPARE(icone.count(), 0);
     QCOMPARE(demandes.count(), 0);
     QVERIFY(monCombo->UnJetonEstActif());
+    // They go on to what is around.
+    for (QEvent::Type const type : {QEvent::MouseButtonPress, QEvent::MouseButtonRelease}) {
+        QMouseEvent droit(type, monCombo->DonneRectIcone().center(), QPointF(), Qt::RightButton,
+                          Qt::NoButton, Qt::NoModifier);
+        static_cast<QObject *>(monCombo)->event(&droit);
+        QVERIFY(!droit.isAccepted());
+    }
 }
 
 void tst_DComboJetonableSouris::rienAvantLeRelachement()
@@ -249,6 +272,51 @@ void tst_DComboJetonableSouris::champSousLIcone()
     Clique(icone.topLeft());
     QCOMPARE(combo->currentText(), QString());
     maFenetre.reset(); // before its style
+}
+
+void tst_DComboJetonableSouris::champSousLIconeApresUnChangement_data()
+{
+    QTest::addColumn<bool>("styleDeLaBibliotheque");
+    QTest::newRow("Fusion") << false;
+    QTest::newRow("library's style") << true;
+}
+
+void tst_DComboJetonableSouris::champSousLIconeApresUnChangement()
+{
+    QFETCH(bool, styleDeLaBibliotheque);
+    QStyle * const fusion = QStyleFactory::create(u"Fusion"_s);
+    std::unique_ptr<QStyle> const style(styleDeLaBibliotheque ? new DStyleProxy(fusion) : fusion);
+    std::unique_ptr<QStyle> const autre(new DStyleProxy(QStyleFactory::create(u"Windows"_s)));
+    auto * const combo = CreeAvecIcones(mesIcones);
+    combo->setStyle(style.get());
+    auto const cachee = [combo] {
+        QRect const champ = combo->lineEdit()->geometry();
+        QRect const icone = combo->DonneRectIcone().adjusted(-5, 0, 0, 0);
+        return !champ.isEmpty() && champ.intersects(icone);
+    };
+    Montre(combo, 150);
+
+    // By any width: the style may then give the field the size that it has already.
+    for (int moins = 1; moins < 150; ++moins) {
+        combo->resize(150, 30);
+        combo->resize(150 - moins, 30);
+        QVERIFY2(!cachee(), qPrintable(u"%1 less"_s.arg(moins)));
+    }
+    // Nor does a new direction need to change the size.
+    for (int icone = 4; icone < 40; ++icone) {
+        combo->setIconSize(QSize(icone, 10));
+        combo->resize(140, 30);
+        combo->resize(150, 30);
+        for (auto const sens : {Qt::RightToLeft, Qt::LeftToRight}) {
+            combo->setLayoutDirection(sens);
+            QVERIFY2(!cachee(), qPrintable(u"icon of %1"_s.arg(icone)));
+        }
+    }
+    // With more room for the field than before.
+    combo->setStyle(nullptr);
+    combo->setStyle(autre.get());
+    QVERIFY(!cachee());
+    maFenetre.reset(); // before its styles
 }
 
 void tst_DComboJetonableSouris::moletteSansEffet()
@@ -307,6 +375,22 @@ void tst_DComboJetonableSouris::selectionSeulementUneFois()
     QCOMPARE(monCombo->lineEdit()->selectedText(), QString());
 }
 
+void tst_DComboJetonableSouris::selectionEnTirant()
+{
+    Montre(CreeSansIcones(), 300);
+    monCombo->setEditText(u"mots"_s);
+    QWidget & champ = PreteChamp(*monCombo);
+
+    QTest::mousePress(&champ, Qt::LeftButton, {}, QPoint(0, 5));
+    QPointF const bout(champ.width() - 1, 5);
+    QMouseEvent tire(QEvent::MouseMove, bout, champ.mapToGlobal(bout), Qt::NoButton, Qt::LeftButton,
+                     Qt::NoModifier);
+    QApplication::sendEvent(&champ, &tire);
+    QTest::mouseRelease(&champ, Qt::LeftButton, {}, bout.toPoint());
+
+    QCOMPARE(monCombo->lineEdit()->selectedText(), u"mots"_s);
+}
+
 void tst_DComboJetonableSouris::positionSuivie()
 {
     Montre(CreeAvecIcones(mesIcones), 300);
@@ -358,25 +442,12 @@ void tst_DComboJetonableSouris::rienNEstConsomme()
     QVERIFY(!monCombo->eventFilter(monCombo, &mouvement));
     QVERIFY(!monCombo->eventFilter(monCombo->lineEdit(), &mouvement));
     QVERIFY(!monCombo->eventFilter(maFenetre.get(), &mouvement));
-}
 
-void tst_DComboJetonableSouris::infobulleMontree()
-{
-    Montre(CreeSansIcones(), 300);
-    monCombo->PrendsTexteJeton(u"jeton"_s, u"<b>Nom</b> commun"_s);
-    QLineEdit & champ = PreteChamp(*monCombo);
-    QHelpEvent aide(QEvent::ToolTip, QPoint(5, 5), champ.mapToGlobal(QPoint(5, 5)));
-
-    QApplication::sendEvent(&champ, &aide);
-
-    QVERIFY(QToolTip::isVisible());
-    QVERIFY(QToolTip::text().contains(u"<b>Nom</b> commun"));
-
-    monCombo->DesactiveJeton();
-    QApplication::sendEvent(&champ, &aide);
-
-    QTRY_VERIFY(!QToolTip::isVisible());
-    QTRY_COMPARE(QApplication::topLevelWidgets().size(), 1);
+    // What comes of others is no position in the combo box.
+    QMouseEvent dAutrui(QEvent::MouseMove, monCombo->DonneRectIcone().center(), QPointF(),
+                        Qt::NoButton, Qt::NoButton, Qt::NoModifier);
+    QVERIFY(!monCombo->eventFilter(maFenetre.get(), &dAutrui));
+    QCOMPARE(DonneCouleurIcone(*monCombo), kNormale);
 }
 
 void tst_DComboJetonableSouris::destructionDansLeChamp()

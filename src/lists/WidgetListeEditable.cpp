@@ -128,8 +128,8 @@ void WidgetListeEditable::Branche()
     connect(monModele, &QAbstractItemModel::dataChanged, this,
             qOverload<QModelIndex, QModelIndex>(&Liste::PriseElementModifiay),
             Qt::UniqueConnection);
-    connect(monModele, &QAbstractItemModel::rowsRemoved, this,
-            qOverload<>(&Liste::PriseElementModifiay), Qt::UniqueConnection);
+    connect(monModele, &QAbstractItemModel::rowsRemoved, this, &Liste::PriseRangeesRetirees,
+            Qt::UniqueConnection);
     QItemSelectionModel * const selection = maVue->selectionModel();
     connect(selection, &QItemSelectionModel::selectionChanged, this, &Liste::PriseSelectionChangay,
             Qt::UniqueConnection);

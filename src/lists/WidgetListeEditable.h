@@ -131,7 +131,8 @@ Q_SIGNALS:
     void SignalEdition(QString texte);
     /// For hosts and subclasses; never emitted here.
     void SignalFermetureEditeur();
-    /// Rows were removed or moved, or the text of a cell has really changed.
+    /// Rows were removed or moved, or the text of a cell has really changed. Once per removed row,
+    /// after `SignalRangeeSupprimay` where that tells of the row.
     void SignalElementsModifiay();
     /// A single cell has changed, or Escape was released in the view. `ancienTexte` is the former
     /// text, or empty for a change. What follows the edit comes later, from the event loop.
@@ -167,7 +168,8 @@ protected:
     /// the index of its first cell. Without items, or for a place that does not exist, the items
     /// are deleted and the index is invalid.
     QModelIndex AjouteElement(QList<QStandardItem *> items, int rangee);
-    /// Removes a row and deletes its items; an editor open in it is dropped. False out of range.
+    /// Removes a row and deletes its items; an editor open in it is dropped. With `signaler`,
+    /// `SignalRangeeSupprimay` tells of it first. False out of range.
     bool RetireRangee(int rangee, bool signaler);
     /// Removes all rows from the last to the first, but those that a receiver adds meanwhile.
     void Vide(bool signaler);
@@ -195,6 +197,7 @@ private Q_SLOTS:
                                QItemSelection const & deselectionnay);
     void PriseEditionTerminay(QModelIndex const & element, QString const & ancienTexte);
     void PriseFinAttendue();
+    void PriseRangeesRetirees();
     void PriseTexteEditay(QString const & texte);
     void PriseBoutonRetirer();
     void PriseSuppression();
@@ -247,4 +250,5 @@ private:
     QList<std::shared_ptr<FinAttendue>> mesFinsAttendues;
     QPersistentModelIndex maCelluleEditee; // the last whose editor was opened from here
     int mesEmissions = 0;                  // signals being told, one within the other
+    bool monRetraitEstSignalay = false;    // the row that is leaving is told of once it has left
 };

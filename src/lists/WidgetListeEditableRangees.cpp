@@ -14,6 +14,7 @@
 #include <functional>
 #include <iterator>
 #include <numeric>
+#include <utility>
 
 namespace {
 
@@ -118,11 +119,25 @@ bool WidgetListeEditable::RetireRangee(int rangee, bool signaler)
     int const place = DeselectionneRangee(rangee);
     if (place < 0)
         return false;
+    monRetraitEstSignalay = signaler;
     QList<QStandardItem *> const items = monModele->takeRow(place);
-    if (signaler && !emission.ListeEstMorte())
-        Q_EMIT SignalRangeeSupprimay(items, place);
+    if (!emission.ListeEstMorte()) {
+        monRetraitEstSignalay = false; // a model whose signals are blocked has not told
+        if (signaler)
+            Q_EMIT SignalRangeeSupprimay(items, place);
+    }
     qDeleteAll(items);
+    if (signaler && !emission.ListeEstMorte())
+        PriseElementModifiay();
     return true;
+}
+
+// The model tells while the row is being taken, before anybody has heard which row it was: a host
+// that saves the list upon a change would do so before it has let go of the row.
+void WidgetListeEditable::PriseRangeesRetirees()
+{
+    if (!std::exchange(monRetraitEstSignalay, false))
+        PriseElementModifiay();
 }
 
 // Takes a row that is about to leave out of the selection, which would tell of it while the row is

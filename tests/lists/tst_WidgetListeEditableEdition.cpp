@@ -68,7 +68,7 @@ void tst_WidgetListeEditableEdition::ajoutPuisEchap()
     QSignalSpy const suppressions(&liste, &WidgetListeEditable::SignalRangeeSupprimay);
     liste.Touche(Qt::Key_Escape);
     QTRY_COMPARE(liste.Textes(), QStringList{u"a"_s});
-    QCOMPARE(journal.Prends(), (QStringList{u"terminee 1,0"_s, u"modifies"_s, u"supprimee 1 "_s}));
+    QCOMPARE(journal.Prends(), (QStringList{u"terminee 1,0"_s, u"supprimee 1 "_s, u"modifies"_s}));
     QCOMPARE(suppressions.at(0).at(0).value<QList<QStandardItem *>>().at(0), item);
     QCOMPARE(liste.NombreEditeurs(), 0);
 }
@@ -81,7 +81,7 @@ void tst_WidgetListeEditableEdition::ajoutPuisVide()
     JournalSignaux journal(liste);
     liste.Touche(Qt::Key_Return);
     QTRY_COMPARE(liste.DonneNbRangee(), 0);
-    QCOMPARE(journal.Prends(), (QStringList{u"terminee 0,0"_s, u"modifies"_s, u"supprimee 0 "_s}));
+    QCOMPARE(journal.Prends(), (QStringList{u"terminee 0,0"_s, u"supprimee 0 "_s, u"modifies"_s}));
     QVERIFY(!liste.DonneBoutonRetirer()->isEnabled());
     QCOMPARE(liste.NombreEditeurs(), 0);
 }

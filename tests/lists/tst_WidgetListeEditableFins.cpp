@@ -112,7 +112,7 @@ void tst_WidgetListeEditableFins::finApresCoup()
     QCOMPARE(liste.DonneNbRangee(), 1);
     VideLaFile();
     QCOMPARE(liste.DonneNbRangee(), 0);
-    QCOMPARE(journal.Prends(), (QStringList{u"modifies"_s, u"supprimee 0 "_s}));
+    QCOMPARE(journal.Prends(), (QStringList{u"supprimee 0 "_s, u"modifies"_s}));
 }
 
 void tst_WidgetListeEditableFins::validationDeLaBonneCellule_data()

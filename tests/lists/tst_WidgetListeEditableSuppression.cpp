@@ -26,6 +26,9 @@ private Q_SLOTS:
     void sansSelection();
     void boutonDesactivay();
     void retireRangee();
+    void retraitParLHote();
+    void retraitPendantUnRetrait();
+    void modeleMuet();
     void retireRangeeHorsBornes_data();
     void retireRangeeHorsBornes();
     void itemsVivants();
@@ -167,8 +170,8 @@ void tst_WidgetListeEditableSuppression::ordreDesSignaux()
     liste.SelectionneRangees({0, 2});
     JournalSignaux journal(liste);
     liste.DonneBoutonRetirer()->click();
-    QCOMPARE(journal.Prends(), (QStringList{u"modifies"_s, u"supprimee 2 c"_s, u"modifies"_s,
-                                            u"supprimee 0 a"_s, u"suppression"_s}));
+    QCOMPARE(journal.Prends(), (QStringList{u"supprimee 2 c"_s, u"modifies"_s, u"supprimee 0 a"_s,
+                                            u"modifies"_s, u"suppression"_s}));
 }
 
 void tst_WidgetListeEditableSuppression::sansSelection()
@@ -200,10 +203,54 @@ void tst_WidgetListeEditableSuppression::retireRangee()
     liste.Remplis({u"a"_s, u"b"_s, u"c"_s});
     JournalSignaux journal(liste);
     QVERIFY(liste.RetireRangee(1, true));
-    QCOMPARE(journal.Prends(), (QStringList{u"modifies"_s, u"supprimee 1 b"_s}));
+    QCOMPARE(journal.Prends(), (QStringList{u"supprimee 1 b"_s, u"modifies"_s}));
     QVERIFY(liste.RetireRangee(0, false));
     QCOMPARE(journal.Prends(), QStringList{u"modifies"_s});
     QCOMPARE(liste.Textes(), QStringList{u"c"_s});
+}
+
+// Nobody tells of the single rows then.
+void tst_WidgetListeEditableSuppression::retraitParLHote()
+{
+    ListeEssai liste;
+    liste.Remplis({u"a"_s, u"b"_s, u"c"_s});
+    JournalSignaux journal(liste);
+    QVERIFY(liste.RetireRangee(0, true));
+    journal.Prends();
+    liste.PreteModele()->removeRow(0);
+    QCOMPARE(journal.Prends(), QStringList{u"modifies"_s});
+    qDeleteAll(liste.PreteModele()->takeRow(0));
+    QCOMPARE(journal.Prends(), QStringList{u"modifies"_s});
+}
+
+// Only the row that is told of by itself waits: what a host removes meanwhile is told at once.
+void tst_WidgetListeEditableSuppression::retraitPendantUnRetrait()
+{
+    ListeEssai liste;
+    liste.Remplis({u"a"_s, u"b"_s, u"c"_s});
+    JournalSignaux journal(liste);
+    auto const retire = [&] {
+        if (liste.DonneNbRangee() == 2)
+            liste.PreteModele()->removeRow(1);
+    };
+    connect(liste.PreteModele(), &QAbstractItemModel::rowsRemoved, this, retire);
+    QVERIFY(liste.RetireRangee(0, true));
+    QCOMPARE(journal.Prends(), (QStringList{u"modifies"_s, u"supprimee 0 a"_s, u"modifies"_s}));
+    QCOMPARE(liste.Textes(), QStringList{u"b"_s});
+}
+
+void tst_WidgetListeEditableSuppression::modeleMuet()
+{
+    ListeEssai liste;
+    liste.Remplis({u"a"_s, u"b"_s, u"c"_s});
+    JournalSignaux journal(liste);
+    {
+        QSignalBlocker const silence(liste.PreteModele());
+        QVERIFY(liste.RetireRangee(2, true));
+    }
+    QCOMPARE(journal.Prends(), (QStringList{u"supprimee 2 c"_s, u"modifies"_s}));
+    liste.PreteModele()->removeRow(0);
+    QCOMPARE(journal.Prends(), QStringList{u"modifies"_s});
 }
 
 void tst_WidgetListeEditableSuppression::retireRangeeHorsBornes_data()
@@ -249,9 +296,8 @@ void tst_WidgetListeEditableSuppression::vide()
     JournalSignaux journal(liste);
     liste.Vide(true);
     QCOMPARE(liste.DonneNbRangee(), 0);
-    QCOMPARE(journal.Prends(),
-             (QStringList{u"modifies"_s, u"supprimee 2 c"_s, u"modifies"_s, u"supprimee 1 b"_s,
-                          u"modifies"_s, u"supprimee 0 a"_s}));
+    QCOMPARE(journal.Prends(), (QStringList{u"supprimee 2 c"_s, u"modifies"_s, u"supprimee 1 b"_s,
+                                            u"modifies"_s, u"supprimee 0 a"_s, u"modifies"_s}));
     liste.Vide(true);
     QCOMPARE(journal.Prends(), QStringList());
     liste.Remplis({u"a"_s, u"b"_s});

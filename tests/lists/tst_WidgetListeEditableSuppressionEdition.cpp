@@ -72,7 +72,7 @@ void tst_WidgetListeEditableSuppressionEdition::recepteurQuiChangeLesRangees()
 {
     QFETCH(Action, action);
     QFETCH(QStringList, restent);
-    for (bool const pendantLeRetrait : {false, true}) {
+    for (int const moment : {0, 1, 2}) {
         ListeEssai liste;
         liste.Remplis(CreeTextes(6));
         liste.SelectionneRangees({1, 3, 5});
@@ -83,12 +83,15 @@ void tst_WidgetListeEditableSuppressionEdition::recepteurQuiChangeLesRangees()
                 occupay = false;
             }
         };
-        if (pendantLeRetrait)
+        if (moment == 0)
             connect(&liste, &WidgetListeEditable::SignalElementsModifiay, this, reponds);
-        else
+        else if (moment == 1)
             connect(&liste, &WidgetListeEditable::SignalRangeeSupprimay, this, reponds);
+        else
+            connect(liste.PreteModele(), &QAbstractItemModel::rowsRemoved, this, reponds);
         Q_EMIT liste.SignalSuppression();
         liste.disconnect(this);
+        liste.PreteModele()->disconnect(this);
         QCOMPARE(liste.Textes(), restent);
     }
 }

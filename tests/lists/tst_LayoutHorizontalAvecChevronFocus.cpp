@@ -76,6 +76,7 @@ private Q_SLOTS:
     void focusAuChevron();
     void focusAuSuivant_data();
     void focusAuSuivant();
+    void focusAuSuivantSansMandataire();
     void focusANulAutre();
     void focusGarday();
     void focusDuChevronCachay();
@@ -143,6 +144,21 @@ void tst_LayoutHorizontalAvecChevronFocus::focusAuSuivant()
     rangee.MontreTout();
     rangee.paves[1]->setFocus();
     rangee.apres->setFocusPolicy(Qt::ClickFocus); // Tab does not reach it
+
+    rangee.MontrePremier();
+
+    QVERIFY(rangee.avant->hasFocus());
+}
+
+// It would give the focus back to what has just lost it.
+void tst_LayoutHorizontalAvecChevronFocus::focusAuSuivantSansMandataire()
+{
+    RangeeFocus rangee;
+    QVERIFY(rangee.EstActive());
+    rangee.MontreTout();
+    rangee.paves[1]->setFocus();
+    rangee.apres->setFocusProxy(rangee.paves[1]);
+    rangee.chevron->setEnabled(false);
 
     rangee.MontrePremier();
 

@@ -157,12 +157,12 @@ void tst_LayoutHorizontalAvecChevronFocus::focusAuSuivantSansMandataire()
     QVERIFY(rangee.EstActive());
     rangee.MontreTout();
     rangee.paves[1]->setFocus();
-    rangee.apres->setFocusProxy(rangee.paves[1]);
+    rangee.avant->setFocusProxy(rangee.paves[1]);
     rangee.chevron->setEnabled(false);
 
     rangee.MontrePremier();
 
-    QVERIFY(rangee.avant->hasFocus());
+    QVERIFY(rangee.apres->hasFocus());
 }
 
 void tst_LayoutHorizontalAvecChevronFocus::focusANulAutre()

@@ -184,7 +184,13 @@ void LayoutHorizontalAvecChevron::insertItem(int index, QLayoutItem * item, int)
         if (item != monItemChevron)
             delete std::exchange(monItemChevron, item);
     } else {
-        maListe.removeIf([item](auto const & entree) { return entree.second == item; });
+        auto const ancien =
+            std::find_if(maListe.cbegin(), maListe.cend(),
+                         [item](auto const & entree) { return entree.second == item; });
+        if (ancien != maListe.cend()) {
+            index -= ancien - maListe.cbegin() < index;
+            maListe.erase(ancien);
+        }
         index = index < 0 || index > count() ? count() : index;
         maListe.insert(index, {false, item});
         // Deliberate: what follows has been taken out and put back, so it is not laid out yet.

@@ -32,11 +32,14 @@ void RetraitDuFocus::Rends(QWidget const * widget)
     std::for_each(politiques.begin(), politiques.end(), RendsPolitique);
 }
 
-void RetraitDuFocus::CedeFocus(QWidget & fenetre, QWidget * prefere) const
+void RetraitDuFocus::CedeFocus(QWidget & fenetre, QWidget * prefere)
 {
     QWidget * const focus = fenetre.focusWidget();
-    if (!focus || !EstRetire(focus))
+    QWidget * const retiray = TrouveRetire(focus);
+    if (!retiray)
         return;
+    // What has come into it or got a policy since would have the focus next, and again from there.
+    Retire(*retiray);
     if (prefere && prefere->focusPolicy() != Qt::NoFocus && EstPresent(*prefere, fenetre)) {
         prefere->setFocus(Qt::OtherFocusReason);
         return;
@@ -88,10 +91,9 @@ void RetraitDuFocus::RetireAvecEnfants(QWidget & widget, Politiques & politiques
     }
 }
 
-bool RetraitDuFocus::EstRetire(QWidget const * widget) const
+QWidget * RetraitDuFocus::TrouveRetire(QWidget * widget) const
 {
-    for (; widget; widget = widget->isWindow() ? nullptr : widget->parentWidget())
-        if (mesRetraits.contains(widget))
-            return true;
-    return false;
+    while (widget && !mesRetraits.contains(widget))
+        widget = widget->isWindow() ? nullptr : widget->parentWidget();
+    return widget;
 }

@@ -27,7 +27,7 @@ public:
     void Rends(QWidget const * widget);
     /// If a withdrawn widget of the window, or one within it, has the focus: gives it to
     /// `prefere` if that can take it, else to the next in the order of the Tab key, else to none.
-    void CedeFocus(QWidget & fenetre, QWidget * prefere) const;
+    void CedeFocus(QWidget & fenetre, QWidget * prefere);
 
 private:
     struct Politique
@@ -40,7 +40,7 @@ private:
     static void RendsPolitique(Politique const & politique);
     static void OublieCeuxQuiSontPartis(QWidget const & widget, Politiques & politiques);
     static void RetireAvecEnfants(QWidget & widget, Politiques & politiques);
-    bool EstRetire(QWidget const * widget) const;
+    QWidget * TrouveRetire(QWidget * widget) const;
 
     QHash<QWidget const *, Politiques> mesRetraits; // by withdrawn widget
 };

@@ -207,6 +207,13 @@ void tst_LayoutHorizontalAvecChevron::insertionDUnItemPresent()
     rangee.layout->insertItem(0, rangee.layout->itemAt(2), 0);
     QCOMPARE(DonneLargeurs(*rangee.layout), (QList{30, 10, 20}));
 
+    // Before the one that is at the index while the item is still in the row.
+    rangee.layout->insertItem(2, rangee.layout->itemAt(0), 0);
+    QCOMPARE(DonneLargeurs(*rangee.layout), (QList{10, 30, 20}));
+    rangee.layout->insertItem(1, rangee.layout->itemAt(1), 0);
+    QCOMPARE(DonneLargeurs(*rangee.layout), (QList{10, 30, 20}));
+    rangee.layout->insertItem(0, rangee.layout->itemAt(1), 0);
+
     rangee.layout->insertWidget(1, rangee.paves.at(2), 0);
     QCOMPARE(DonneLargeurs(*rangee.layout), (QList{10, 30, 20}));
 }

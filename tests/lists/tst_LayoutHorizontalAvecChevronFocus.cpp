@@ -76,6 +76,7 @@ private Q_SLOTS:
     void focusAuChevron();
     void focusAuSuivant_data();
     void focusAuSuivant();
+    void focusAuSuivantSansMandataire();
     void focusANulAutre();
     void focusGarday();
     void focusDuChevronCachay();
@@ -91,6 +92,9 @@ private Q_SLOTS:
     void politiqueDeLHote();
     void politiqueDeLHotePuisPasse();
     void enfantAjoutay();
+    void enfantsAjoutesSansAutre();
+    void tabEnArriereDepuisLeChevron();
+    void rangeeDansUneRangee();
     void enfantParti();
     void mandataire();
     void chevronSansPlace();
@@ -144,6 +148,21 @@ void tst_LayoutHorizontalAvecChevronFocus::focusAuSuivant()
     rangee.MontrePremier();
 
     QVERIFY(rangee.avant->hasFocus());
+}
+
+// It would give the focus back to what has just lost it.
+void tst_LayoutHorizontalAvecChevronFocus::focusAuSuivantSansMandataire()
+{
+    RangeeFocus rangee;
+    QVERIFY(rangee.EstActive());
+    rangee.MontreTout();
+    rangee.paves[1]->setFocus();
+    rangee.avant->setFocusProxy(rangee.paves[1]);
+    rangee.chevron->setEnabled(false);
+
+    rangee.MontrePremier();
+
+    QVERIFY(rangee.apres->hasFocus());
 }
 
 void tst_LayoutHorizontalAvecChevronFocus::focusANulAutre()
@@ -377,6 +396,75 @@ void tst_LayoutHorizontalAvecChevronFocus::enfantAjoutay()
 
     rangee.MontreTout();
     QCOMPARE(champ->focusPolicy(), Qt::StrongFocus);
+}
+
+// Each of the two would hand the focus to the other.
+void tst_LayoutHorizontalAvecChevronFocus::enfantsAjoutesSansAutre()
+{
+    RangeeFocus rangee;
+    QVERIFY(rangee.EstActive());
+    for (QWidget * const autre :
+         {static_cast<QWidget *>(rangee.avant), static_cast<QWidget *>(rangee.apres),
+          static_cast<QWidget *>(rangee.chevron)})
+        autre->setEnabled(false);
+    rangee.CacheTout();
+    auto * const premier = new QLineEdit(rangee.paves[1]);
+    auto * const second = new QLineEdit(rangee.paves[1]);
+    premier->show();
+    second->show();
+
+    premier->setFocus();
+
+    QCOMPARE(rangee.fenetre.focusWidget(), nullptr);
+    QCOMPARE(second->focusPolicy(), Qt::NoFocus);
+    rangee.MontreTout();
+    QCOMPARE(second->focusPolicy(), Qt::StrongFocus);
+}
+
+void tst_LayoutHorizontalAvecChevronFocus::tabEnArriereDepuisLeChevron()
+{
+    RangeeFocus rangee;
+    QVERIFY(rangee.EstActive());
+    QWidget::setTabOrder(rangee.paves[2], rangee.chevron);
+    rangee.MontrePremier();
+    // The host gives it a policy while it is hidden.
+    rangee.paves[1]->setFocusPolicy(Qt::StrongFocus);
+    rangee.chevron->setFocus();
+
+    QTest::keyClick(rangee.chevron, Qt::Key_Backtab);
+    QVERIFY(rangee.chevron->hasFocus());
+    QTest::keyClick(rangee.chevron, Qt::Key_Backtab);
+
+    // No trap: the policy has been taken from it, and comes back.
+    QVERIFY(rangee.paves[0]->hasFocus());
+    rangee.MontreTout();
+    QCOMPARE(rangee.paves[1]->focusPolicy(), Qt::StrongFocus);
+}
+
+void tst_LayoutHorizontalAvecChevronFocus::rangeeDansUneRangee()
+{
+    RangeeFocus rangee;
+    QVERIFY(rangee.EstActive());
+    auto * const chevron = new Pave(20, rangee.paves[1]);
+    chevron->setFocusPolicy(Qt::TabFocus);
+    LayoutHorizontalAvecChevron interne(rangee.paves[1], chevron, 0);
+    auto * const pave = new Pave(10);
+    pave->setFocusPolicy(Qt::StrongFocus);
+    interne.addWidget(pave);
+    rangee.MontreTout();
+    interne.activate();
+    QCOMPARE(chevron->focusPolicy(), Qt::NoFocus);
+    rangee.MontrePremier();
+    interne.setGeometry({});
+    rangee.MontrePremier();
+    rangee.MontreTout();
+    interne.setGeometry({0, 0, 30, 10});
+
+    chevron->setFocus();
+
+    QVERIFY(!chevron->hasFocus());
+    QCOMPARE(chevron->focusPolicy(), Qt::NoFocus);
+    QCOMPARE(pave->focusPolicy(), Qt::StrongFocus);
 }
 
 void tst_LayoutHorizontalAvecChevronFocus::enfantParti()

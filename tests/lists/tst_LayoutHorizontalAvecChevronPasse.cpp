@@ -38,6 +38,7 @@ private Q_SLOTS:
     void tailleMinimaleDuChevron();
     void cachayResteVisible();
     void widgetCachayParLHote();
+    void widgetCachayParLHoteSousLeChevron();
     void rangeeVide();
     void signal();
 };
@@ -370,6 +371,19 @@ void tst_LayoutHorizontalAvecChevronPasse::widgetCachayParLHote()
     // It takes its spacing all the same.
     QCOMPARE(rangee.DonneVisibles(), (QList{true, true, true}));
     QCOMPARE(rangee.paves.at(2)->geometry(), QRect(40, 0, 30, 10));
+}
+
+void tst_LayoutHorizontalAvecChevronPasse::widgetCachayParLHoteSousLeChevron()
+{
+    Rangee rangee({30, 100, 30});
+    rangee.paves.at(2)->setGeometry(40, 0, 10, 10);
+    rangee.paves.at(2)->hide();
+
+    rangee.Place(60);
+
+    // Nothing is seen of it, so it stays where its host has put it.
+    QCOMPARE(rangee.DonneVisibles(), (QList{true, false, false}));
+    QCOMPARE(rangee.paves.at(2)->geometry(), QRect(40, 0, 10, 10));
 }
 
 void tst_LayoutHorizontalAvecChevronPasse::rangeeVide()

@@ -15,6 +15,7 @@ private Q_SLOTS:
     void flechesAuxBouts();
     void flechesSousLeChevron();
     void tabulation();
+    void tabulationAvantLaSuite();
     void focusApresRetrait_data();
     void focusApresRetrait();
     void focusVersCelleQuiSort();
@@ -97,6 +98,30 @@ void tst_ListePastilleFocus::tabulation()
     for (Pastille * const pastille : hote.pastilles)
         attendus << pastille;
     QCOMPARE(suivants(7, Qt::Key_Tab), attendus << hote.suite);
+}
+
+void tst_ListePastilleFocus::tabulationAvantLaSuite()
+{
+    // The pills come while nothing else in the window takes the focus.
+    QWidget fenetre;
+    fenetre.resize(760, 200);
+    auto * const liste = new ListePastille(&fenetre);
+    liste->setGeometry(0, 0, 700, 40);
+    QList<QWidget *> attendus;
+    for (int i = 0; i < 3; ++i)
+        attendus << Ajoute(*liste, i);
+    attendus << new QLineEdit(&fenetre);
+    fenetre.show();
+    fenetre.activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(&fenetre));
+    attendus.last()->setFocus();
+    for (QWidget const * const attendu : attendus) {
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+        QCOMPARE(QApplication::focusWidget(), attendu);
+    }
+    for (QWidget const * const widget : liste->PreteListeWidgets())
+        QCOMPARE(widget->focusPolicy(), Qt::TabFocus);
+    QCOMPARE(liste->focusPolicy(), Qt::NoFocus);
 }
 
 void tst_ListePastilleFocus::focusApresRetrait_data()

@@ -49,7 +49,6 @@ void ListePastille::RetirePastille(Pastille * pastille, QWidget * suivant)
     int const index = pastille ? layout()->indexOf(pastille) : -1;
     if (index < 0)
         return;
-    monNombreAuMenu = -1;
     bool const avaitLeFocus = pastille->hasFocus();
     RetireWidget(pastille);
     if (avaitLeFocus) {
@@ -78,7 +77,6 @@ Pastille * ListePastille::TrouvePastille(QVariant const & donnees) const
 
 void ListePastille::Vide()
 {
-    monNombreAuMenu = -1;
     // From the end: the row does not move up again and again.
     for (int i = layout()->count() - 1; i >= 0; --i) {
         auto * const pastille = qobject_cast<Pastille *>(PreteWidgetA(i));

@@ -45,6 +45,6 @@ private:
     QWidget * TrouvePrecedente();
     Pastille * TrouveVisible(int index, int pas) const;
 
-    // How many were in the row when the menu was last complete; -1 once that may have changed.
+    // How many were in the row when the menu was last complete; -1 once the row is laid out anew.
     int monNombreAuMenu = -1;
 };

@@ -5,7 +5,7 @@
 //
 // Adding and removing compare the data with those of each pill and add up the widths of all: that
 // part grows with the square of their number, but a step takes some nanoseconds. The menu of the
-// chevron, which has an action for each hidden pill, is rebuilt once for all. Exits with 1 when the
+// chevron has an action for each hidden pill, and gets one more each time. Exits with 1 when the
 // thousand pills take longer than a user would notice.
 #include "lists/BarreDeFiltre.h"
 #include "lists/ListePastille.h"

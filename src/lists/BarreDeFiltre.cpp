@@ -87,7 +87,6 @@ void BarreDeFiltre::AjouterMotPastille(QString const & titre, QVariant const & d
         connect(pastille, &Pastille::PastilleASupprimer, this, &BarreDeFiltre::PastilleASupprimer,
                 Qt::UniqueConnection);
         maListePastille->AjoutePastille(pastille);
-        maListePastille->RafraichisMenu();
     }
     if (!maListePastille->WidgetEstVisible(maListePastille->layout()->count() - 1))
         MetAJourTailleListePastille();
@@ -179,6 +178,8 @@ bool BarreDeFiltre::eventFilter(QObject * objet, QEvent * evenement)
     if (objet == maListePastille && evenement->type() == QEvent::LayoutRequest)
         MetAJourTailleListePastille();
     // The type first: the pop-up also tells of its own end.
+    if (evenement->type() == QEvent::Show && monToolTip && objet == monToolTip->window())
+        PlaceToolTip(); // opened again at the same size, it hears of no resize
     bool const clic = EstUnClic(evenement->type()) && monToolTip &&
                       (objet == monToolTip || objet == monToolTip->window());
     if (clic && MangeClic(static_cast<QMouseEvent const &>(*evenement)))
@@ -186,10 +187,17 @@ bool BarreDeFiltre::eventFilter(QObject * objet, QEvent * evenement)
     return QFrame::eventFilter(objet, evenement);
 }
 
+void BarreDeFiltre::hideEvent(QHideEvent * evenement)
+{
+    if (monToolTip)
+        monToolTip->window()->hide(); // a menu would stay without what it belongs to
+    QFrame::hideEvent(evenement);
+}
+
 void BarreDeFiltre::resizeEvent(QResizeEvent * evenement)
 {
     QFrame::resizeEvent(evenement);
-    maListePastille->RafraichisMenu();
+    maListePastille->MetAJourMenu();
     MetAJourTailleListePastille();
 }
 
@@ -215,18 +223,20 @@ void BarreDeFiltre::PriseOuvreMenu()
     monBoutonOptions->setChecked(false);
 }
 
-void BarreDeFiltre::PriseToolTipRedimensionnay()
+void BarreDeFiltre::PlaceToolTip()
 {
-    QWidget * const fenetre = monToolTip->window(); // the menu in which the pop-up stands
-    if (!monBoutonOptions || !fenetre->isVisible())
+    QWidget & fenetre = *monToolTip->window(); // the menu in which the pop-up stands
+    if (!monBoutonOptions || !fenetre.isVisible())
         return;
-    QPoint position = monBoutonOptions->mapTo(this, QPoint(0, 0));
-    position.ry() -= kEcartPlacement + monToolTip->height();
-    position.rx() += monBoutonOptions->width() / 2 - monToolTip->width() / 2;
-    fenetre->move(mapToGlobal(position));
-    // At the edge of the screen there is no room above the button, or beside it.
-    if (!fenetre->screen()->availableGeometry().contains(fenetre->frameGeometry()))
-        RoutinesGeneralesQt::AjusteDansEcran(*fenetre, false, true, false);
+    QRect const ecran = screen()->availableGeometry();
+    QPoint const bouton = monBoutonOptions->mapToGlobal(QPoint(0, 0));
+    QPoint position(bouton.x() + monBoutonOptions->width() / 2 - monToolTip->width() / 2,
+                    bouton.y() - kEcartPlacement - monToolTip->height());
+    if (position.y() < ecran.top()) // no room above: below, where the button can still be clicked
+        position.setY(bouton.y() + monBoutonOptions->height() + kEcartPlacement);
+    fenetre.move(position);
+    if (!ecran.contains(fenetre.frameGeometry()))
+        RoutinesGeneralesQt::AjusteDansEcran(fenetre, false, true, false);
 }
 
 void BarreDeFiltre::CreeToolTip()
@@ -235,8 +245,8 @@ void BarreDeFiltre::CreeToolTip()
     monToolTip->installEventFilter(this);
     // QMenu is what gets the clicks beside the pop-up, those on the button too.
     monToolTip->window()->installEventFilter(this);
-    connect(monToolTip, &ToolTipComboBox::SignalResizeEvent, this,
-            &BarreDeFiltre::PriseToolTipRedimensionnay, Qt::UniqueConnection);
+    connect(monToolTip, &ToolTipComboBox::SignalResizeEvent, this, &BarreDeFiltre::PlaceToolTip,
+            Qt::UniqueConnection);
     connect(monToolTip, &ToolTipComboBox::SignalValeurChanger, this,
             &BarreDeFiltre::SignalValeurChanger, Qt::UniqueConnection);
 }

@@ -14,6 +14,7 @@
 class ListePastille;
 class QComboBox;
 class QHBoxLayout;
+class QHideEvent;
 class QLabel;
 class QMenu;
 class QMouseEvent;
@@ -31,6 +32,9 @@ class ToolTipComboBox;
 ///
 /// The icons come from the resources of the application: ":/Images/filtreGris.svg" and
 /// ":/Images/filtreActiver.svg", and those of `Pastille`.
+///
+/// The pop-up opens above the button, or below it at the top of the screen, and closes with the
+/// bar.
 ///
 /// Without the button, or without the pop-up, what is asked of it does nothing: sizes and positions
 /// are null, combo boxes too, indices -1.
@@ -83,6 +87,7 @@ Q_SIGNALS:
 
 protected:
     bool eventFilter(QObject * objet, QEvent * evenement) override;
+    void hideEvent(QHideEvent * evenement) override;
     void resizeEvent(QResizeEvent * evenement) override;
 
 private Q_SLOTS:
@@ -91,7 +96,7 @@ private Q_SLOTS:
 private:
     void PriseEtiquetteModifiay();
     void PriseOuvreMenu();
-    void PriseToolTipRedimensionnay();
+    void PlaceToolTip();
     void CreeToolTip();
     void CreePastilles();
     void CreeChampRecherche();

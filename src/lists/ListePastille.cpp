@@ -3,20 +3,14 @@
 
 #include "controls/DBoutonSansFleche.h"
 
+#include "lists/LayoutHorizontalAvecChevron.h"
 #include "lists/Pastille.h"
 
+#include <QAction>
 #include <QKeyEvent>
-#include <QTimerEvent>
+#include <QMenu>
 
 #include <algorithm>
-
-namespace {
-
-// Up to here the menu is refreshed at once. Refreshing it for each of many pills would take a time
-// that grows with the square of their number.
-constexpr int kPastillesSansAttente = 32;
-
-} // namespace
 
 ListePastille::ListePastille(QWidget * parent)
     : DFrameChevronnable(parent)
@@ -31,6 +25,10 @@ ListePastille::ListePastille()
 
 void ListePastille::AjoutePastille(Pastille * pastille)
 {
+    if (!pastille)
+        return;
+    bool const menuAJour = layout()->count() == monNombreAuMenu;
+    QWidget * const precedente = TrouvePrecedente();
     addWidget(pastille, 0);
     // Shown here, while nothing is laid out: Qt would show it later, and lay out the whole row for
     // each pill.
@@ -38,14 +36,19 @@ void ListePastille::AjoutePastille(Pastille * pastille)
     pastille->resize(0, 0);
     pastille->show();
     layout()->setEnabled(true);
-    // By way of the landmark: pills under the chevron take no focus, and Qt orders none of these.
-    setTabOrder(monRepere, pastille);
-    setTabOrder(pastille, monRepere);
+    // Qt orders only what takes the focus, which neither the row does nor a pill under the chevron.
+    Qt::FocusPolicy const politique = precedente->focusPolicy();
+    precedente->setFocusPolicy(Qt::TabFocus);
+    setTabOrder(precedente, pastille);
+    precedente->setFocusPolicy(politique);
+    CompleteMenu(*pastille, menuAJour);
 }
 
 void ListePastille::RetirePastille(Pastille * pastille, QWidget * suivant)
 {
-    int const index = layout()->indexOf(pastille);
+    int const index = pastille ? layout()->indexOf(pastille) : -1;
+    if (index < 0)
+        return;
     bool const avaitLeFocus = pastille->hasFocus();
     RetireWidget(pastille);
     if (avaitLeFocus) {
@@ -70,14 +73,6 @@ Pastille * ListePastille::TrouvePastille(QVariant const & donnees) const
             return pastille;
     }
     return nullptr;
-}
-
-void ListePastille::RafraichisMenu()
-{
-    if (layout()->count() <= kPastillesSansAttente)
-        MetAJourMenu();
-    else if (!monRafraichissement.isActive())
-        monRafraichissement.start(0, this);
 }
 
 void ListePastille::Vide()
@@ -125,33 +120,47 @@ void ListePastille::resizeEvent(QResizeEvent * evenement)
     DFrameChevronnable::resizeEvent(evenement);
 }
 
-void ListePastille::timerEvent(QTimerEvent * evenement)
+void ListePastille::PriseRangeeMiseEnPlace()
 {
-    if (evenement->timerId() != monRafraichissement.timerId()) {
-        DFrameChevronnable::timerEvent(evenement);
-        return;
-    }
-    monRafraichissement.stop();
-    MetAJourMenu();
+    monNombreAuMenu = -1;
 }
 
 void ListePastille::Initialise()
 {
     DimensionneChevron();
-    monRepere = new QWidget(this);
-    monRepere->hide();
-    monRepere->setFocusPolicy(Qt::TabFocus);
-    // The order of Tab is a ring. Of two alone, each is behind the other already, and Qt would
-    // leave them as they are.
-    QWidget tiers(this);
-    tiers.setFocusPolicy(Qt::TabFocus);
-    setTabOrder(monRepere, PreteBoutonChevron());
+    connect(qobject_cast<LayoutHorizontalAvecChevron *>(layout()),
+            &LayoutHorizontalAvecChevron::SignalMiseEnPlace, this,
+            &ListePastille::PriseRangeeMiseEnPlace, Qt::UniqueConnection);
 }
 
 void ListePastille::DimensionneChevron()
 {
     PreteBoutonChevron()->setMaximumHeight(height());
     PreteBoutonChevron()->setMaximumWidth(height());
+}
+
+void ListePastille::CompleteMenu(Pastille & pastille, bool etaitAJour)
+{
+    QMenu * const menu = PreteBoutonChevron()->menu();
+    // Rebuilding it for each of many pills would take a time that grows with the square of their
+    // number. What is not laid out yet has no place in the row, and stands at the end of the menu.
+    if (etaitAJour && menu) {
+        QAction * const action = pastille.DonneQAction();
+        action->setParent(menu);
+        menu->addAction(action);
+    } else {
+        MetAJourMenu();
+    }
+    monNombreAuMenu = layout()->count();
+}
+
+QWidget * ListePastille::TrouvePrecedente()
+{
+    for (int i = layout()->count() - 1; i >= 0; --i) {
+        if (QWidget * const widget = PreteWidgetA(i))
+            return widget;
+    }
+    return this;
 }
 
 Pastille * ListePastille::TrouveVisible(int index, int pas) const

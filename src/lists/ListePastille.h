@@ -5,8 +5,6 @@
 
 #include "lists/DFrameChevronnable.h"
 
-#include <QBasicTimer>
-
 class Pastille;
 
 /// A row of pills with a square chevron. It is as high as its highest pill.
@@ -21,16 +19,14 @@ public:
     explicit ListePastille(QWidget * parent);
     ListePastille();
 
-    /// Takes the pill, at the end of the row.
+    /// Takes the pill, at the end of the row, and refreshes the chevron's menu. Null is ignored.
     void AjoutePastille(Pastille * pastille);
     /// Takes the pill out of the row and deletes it. The keyboard focus that it had goes to the
-    /// next visible pill, else to the one before, else to `suivant`, which may be null.
+    /// next visible pill, else to the one before, else to `suivant`, which may be null. A pill that
+    /// is not in the row is left alone.
     void RetirePastille(Pastille * pastille, QWidget * suivant);
     /// The first pill with these data, or null.
     Pastille * TrouvePastille(QVariant const & donnees) const;
-    /// Refreshes the chevron's menu: at once, or, with many pills, once for all that has changed
-    /// until the event loop is back. The menu is always right when it opens.
-    void RafraichisMenu();
 
     /// Deletes everything; a pill that is emitting its signal goes once that has been delivered.
     void Vide() override;
@@ -40,13 +36,15 @@ public:
 protected:
     void keyPressEvent(QKeyEvent * evenement) override;
     void resizeEvent(QResizeEvent * evenement) override;
-    void timerEvent(QTimerEvent * evenement) override;
 
 private:
+    void PriseRangeeMiseEnPlace();
     void Initialise();
     void DimensionneChevron();
+    void CompleteMenu(Pastille & pastille, bool etaitAJour);
+    QWidget * TrouvePrecedente();
     Pastille * TrouveVisible(int index, int pas) const;
 
-    QWidget * monRepere = nullptr; // never seen; where in the order of Tab the next pill goes
-    QBasicTimer monRafraichissement;
+    // How many were in the row when the menu was last complete; -1 once the row is laid out anew.
+    int monNombreAuMenu = -1;
 };

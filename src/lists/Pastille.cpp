@@ -200,6 +200,10 @@ void Pastille::mouseMoveEvent(QMouseEvent * evenement)
 
 void Pastille::mousePressEvent(QMouseEvent * evenement)
 {
+    if (evenement->button() != Qt::LeftButton) {
+        IWidgetChevronnable::mousePressEvent(evenement);
+        return;
+    }
     monBoutonEnfonce = DonneRectBoutonSupprimer().contains(evenement->position().toPoint());
     // One timer for all presses: that of an earlier one must not end this one.
     if (monBoutonEnfonce)
@@ -210,6 +214,10 @@ void Pastille::mousePressEvent(QMouseEvent * evenement)
 
 void Pastille::mouseReleaseEvent(QMouseEvent * evenement)
 {
+    if (evenement->button() != Qt::LeftButton) {
+        IWidgetChevronnable::mouseReleaseEvent(evenement);
+        return;
+    }
     bool const execute =
         monBoutonEnfonce && DonneRectBoutonSupprimer().contains(evenement->position().toPoint());
     monBoutonEnfonce = false;

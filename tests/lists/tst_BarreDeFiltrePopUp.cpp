@@ -1,10 +1,8 @@
-#include "lists/PiecesBarreDeFiltre.h"
+#include "lists/EssaisBarreDeFiltrePopUp.h"
 
-#include <QScreen>
 #include <QtTest>
 
-#include <functional>
-
+using namespace EssaisBarreDeFiltrePopUp;
 using namespace Qt::StringLiterals;
 
 class tst_BarreDeFiltrePopUp : public QObject
@@ -13,13 +11,8 @@ class tst_BarreDeFiltrePopUp : public QObject
 
 private Q_SLOTS:
     void cleanup();
-    void positionDOuverture();
     void clicEnFileDAttente();
     void leBoutonSeReleve();
-    void placement();
-    void placementFerme();
-    void placementAuBordDeLEcran();
-    void contenuChangeOuvert();
     void filtreDesEvenements_data();
     void filtreDesEvenements();
     void filtreInstallay();
@@ -28,68 +21,13 @@ private Q_SLOTS:
     void echappement();
     void filtreAuClavier();
     void barreDetruite();
+    void barreCachee();
 };
-
-namespace {
-
-// Something to do each time that the menu is open, in its event loop.
-class PendantQuIlEstOuvert : public QObject
-{
-public:
-    PendantQuIlEstOuvert(QMenu & menu, std::function<void()> travail)
-        : monTravail(std::move(travail))
-    {
-        connect(&menu, &QMenu::aboutToShow, this, [this] {
-            ++ouvertures;
-            QTimer::singleShot(0, this, monTravail);
-        });
-    }
-
-    int ouvertures = 0;
-
-private:
-    std::function<void()> monTravail;
-};
-
-struct Essai : FenetreDeBarreDeFiltre
-{
-    Essai()
-    {
-        barre->AjouterComboBox(1, u"Longueur"_s, CreeComboDeFiltre());
-        barre->AjouterComboBox(2, u"Initiale"_s, CreeComboDeFiltre());
-    }
-
-    QPoint Centre() const { return pieces.bouton->rect().center(); }
-
-    // As the mouse does: what has a pop-up open gets it from the window.
-    void Clique() const
-    {
-        QTest::mouseClick(fenetre.windowHandle(), Qt::LeftButton, {},
-                          pieces.bouton->mapTo(&fenetre, Centre()));
-    }
-};
-
-} // namespace
 
 void tst_BarreDeFiltrePopUp::cleanup()
 {
     EnvoieSuppressions();
     QVERIFY(QApplication::topLevelWidgets().isEmpty());
-}
-
-void tst_BarreDeFiltrePopUp::positionDOuverture()
-{
-    Essai essai;
-    QVERIFY(essai.Montre());
-    QSignalSpy const espion(essai.pieces.popUp, &DMenuAction::SignalOuvreMenu);
-    PendantQuIlEstOuvert const ouvert(*essai.pieces.Menu(), [&] { essai.pieces.Menu()->close(); });
-    QMetaObject::invokeMethod(essai.barre, "PriseAfficherToolTip");
-    QCOMPARE(ouvert.ouvertures, 1);
-    QSize const taille = essai.pieces.popUp->sizeHint();
-    QPoint const bouton = essai.pieces.bouton->mapToGlobal(QPoint(0, 0));
-    QCOMPARE(espion.count(), 1);
-    QCOMPARE(espion.at(0).at(0).toPoint(),
-             QPoint(bouton.x() - taille.width() / 2, bouton.y() - taille.height() - 7));
 }
 
 void tst_BarreDeFiltrePopUp::clicEnFileDAttente()
@@ -111,72 +49,6 @@ void tst_BarreDeFiltrePopUp::leBoutonSeReleve()
     QVERIFY(essai.pieces.bouton->isChecked());
     QTRY_VERIFY(!essai.pieces.bouton->isChecked());
     QCOMPARE(ouvert.ouvertures, 1);
-}
-
-void tst_BarreDeFiltrePopUp::placement()
-{
-    Essai essai;
-    QVERIFY(essai.Montre());
-    QPoint position;
-    QPoint attendue;
-    PendantQuIlEstOuvert const ouvert(*essai.pieces.Menu(), [&] {
-        position = essai.pieces.Menu()->pos();
-        QPoint const bouton = essai.pieces.bouton->mapToGlobal(QPoint(0, 0));
-        attendue = {bouton.x() + essai.pieces.bouton->width() / 2 - essai.pieces.popUp->width() / 2,
-                    bouton.y() - 10 - essai.pieces.popUp->height()};
-        essai.pieces.Menu()->close();
-    });
-    QMetaObject::invokeMethod(essai.barre, "PriseAfficherToolTip");
-    QVERIFY(!attendue.isNull());
-    QCOMPARE(position, attendue);
-}
-
-void tst_BarreDeFiltrePopUp::placementFerme()
-{
-    Essai essai;
-    QVERIFY(essai.Montre());
-    QPoint const avant = essai.pieces.Menu()->pos();
-    QResizeEvent evenement(QSize(50, 50), QSize());
-    QCoreApplication::sendEvent(essai.pieces.popUp, &evenement);
-    QCOMPARE(essai.pieces.Menu()->pos(), avant);
-}
-
-void tst_BarreDeFiltrePopUp::placementAuBordDeLEcran()
-{
-    Essai essai;
-    QVERIFY(essai.Montre());
-    QRect const ecran = essai.fenetre.screen()->availableGeometry();
-    essai.fenetre.move(ecran.right() - 560, ecran.top() - 100); // the button in the corner
-    essai.Place();
-    QRect place;
-    PendantQuIlEstOuvert const ouvert(*essai.pieces.Menu(), [&] {
-        place = essai.pieces.Menu()->frameGeometry();
-        essai.pieces.Menu()->close();
-    });
-    QMetaObject::invokeMethod(essai.barre, "PriseAfficherToolTip");
-    QVERIFY(place.isValid());
-    QVERIFY(ecran.contains(place));
-}
-
-void tst_BarreDeFiltrePopUp::contenuChangeOuvert()
-{
-    Essai essai;
-    QVERIFY(essai.Montre());
-    int hauteurAvant = 0;
-    int hauteurApres = 0;
-    int ecart = 0;
-    PendantQuIlEstOuvert const ouvert(*essai.pieces.Menu(), [&] {
-        hauteurAvant = essai.pieces.popUp->height();
-        essai.barre->AjouterComboBox(3, u"Accents"_s, CreeComboDeFiltre());
-        essai.Place();
-        hauteurApres = essai.pieces.popUp->height();
-        ecart = essai.pieces.bouton->mapToGlobal(QPoint(0, 0)).y() - essai.pieces.Menu()->y() -
-                hauteurApres;
-        essai.pieces.Menu()->close();
-    });
-    QMetaObject::invokeMethod(essai.barre, "PriseAfficherToolTip");
-    QVERIFY(hauteurApres > hauteurAvant);
-    QCOMPARE(ecart, 10); // it has grown upwards
 }
 
 void tst_BarreDeFiltrePopUp::filtreDesEvenements_data()
@@ -335,6 +207,24 @@ void tst_BarreDeFiltrePopUp::barreDetruite()
     QMetaObject::invokeMethod(essai.barre, "PriseAfficherToolTip");
     QCOMPARE(ouvert.ouvertures, 1);
     QVERIFY(!barre);
+}
+
+void tst_BarreDeFiltrePopUp::barreCachee()
+{
+    Essai essai;
+    QVERIFY(essai.Montre());
+    bool fermay = false;
+    PendantQuIlEstOuvert const ouvert(*essai.pieces.Menu(), [&] {
+        essai.barre->hide();
+        fermay = !essai.pieces.Menu()->isVisible();
+        essai.pieces.Menu()->close();
+    });
+    QMetaObject::invokeMethod(essai.barre, "PriseAfficherToolTip");
+    QCOMPARE(ouvert.ouvertures, 1);
+    QVERIFY(fermay);
+    essai.barre->show();
+    QMetaObject::invokeMethod(essai.barre, "PriseAfficherToolTip");
+    QCOMPARE(ouvert.ouvertures, 2);
 }
 
 QTEST_MAIN(tst_BarreDeFiltrePopUp)

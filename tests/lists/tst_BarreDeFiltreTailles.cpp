@@ -19,6 +19,7 @@ private Q_SLOTS:
     void aucuneCacheeSansRaison();
     void barreRedimensionnee();
     void listeMontreeApres();
+    void remplieSansLargeur();
     void policeChangee();
     void hauteur();
 };
@@ -113,6 +114,23 @@ void tst_BarreDeFiltreTailles::listeMontreeApres()
     essai.barre->AfficherListePastille(true);
     essai.Place();
     QCOMPARE(essai.pieces.CompteVisibles(), 3);
+}
+
+void tst_BarreDeFiltreTailles::remplieSansLargeur()
+{
+    FenetreDeBarreDeFiltre essai;
+    essai.barre->resize(0, 40);
+    essai.Ajoute(3);
+    QCOMPARE(essai.pieces.liste->maximumWidth(), 0);
+    essai.fenetre.show(); // the pills are still hidden
+    essai.barre->resize(600, 40);
+    essai.Place();
+    essai.barre->AfficherListePastille(true);
+    essai.Place();
+    QCOMPARE(essai.pieces.CompteVisibles(), 3);
+    QCOMPARE(essai.pieces.liste->width(), essai.pieces.LargeurVoulue());
+    for (Pastille const * const pastille : essai.pieces.Pastilles())
+        QVERIFY(essai.pieces.liste->rect().contains(pastille->geometry()));
 }
 
 void tst_BarreDeFiltreTailles::policeChangee()

@@ -20,9 +20,24 @@ private Q_SLOTS:
     void retire();
     void vide();
     void videPendantLeSignal();
-    void rafraichitAussitot();
-    void rafraichitEnUneFois();
+    void rien();
+    void menuApresChaqueAjout();
+    void menuApresUneMiseEnPlace();
+    void menuApresUnRetrait();
+    void actionAjouteeAuMenu();
 };
+
+namespace {
+
+QStringList Menu(ListePastille const & liste)
+{
+    QStringList textes;
+    for (QAction const * const action : Chevron(liste)->menu()->actions())
+        textes << action->text();
+    return textes;
+}
+
+} // namespace
 
 void tst_ListePastille::cleanup()
 {
@@ -144,29 +159,73 @@ void tst_ListePastille::videPendantLeSignal()
     QVERIFY(!pastille);
 }
 
-void tst_ListePastille::rafraichitAussitot()
+void tst_ListePastille::rien()
 {
     ListePastille liste;
-    for (int i = 0; i < 32; ++i) {
-        Ajoute(liste, i);
-        liste.RafraichisMenu();
-        QCOMPARE(Chevron(liste)->menu()->actions().size(), i + 1); // none is laid out yet
-    }
+    liste.AjoutePastille(nullptr);
+    liste.RetirePastille(nullptr, nullptr);
+    Pastille ailleurs(u"mot"_s, 1);
+    liste.RetirePastille(&ailleurs, nullptr); // is left alone
+    QCOMPARE(liste.layout()->count(), 0);
 }
 
-void tst_ListePastille::rafraichitEnUneFois()
+void tst_ListePastille::menuApresChaqueAjout()
 {
     ListePastille liste;
-    for (int i = 0; i < 33; ++i)
-        Ajoute(liste, i);
-    liste.RafraichisMenu();
-    liste.RafraichisMenu();
-    QCOMPARE(Chevron(liste)->menu()->actions().size(), 0);
-    QTRY_COMPARE(Chevron(liste)->menu()->actions().size(), 33);
-    // The next time as well.
-    Ajoute(liste, 33);
-    liste.RafraichisMenu();
-    QTRY_COMPARE(Chevron(liste)->menu()->actions().size(), 34);
+    QStringList attendus;
+    for (int i = 0; i < 100; ++i) {
+        QString const titre = QString::number(i);
+        Ajoute(liste, i, titre);
+        attendus << u"Enlever «%1»"_s.arg(titre);
+        QCOMPARE(Menu(liste), attendus); // none is laid out yet
+    }
+    Q_EMIT Chevron(liste)->menu()->aboutToShow();
+    QCOMPARE(Menu(liste), attendus);
+    // The action that the menu has lost takes nothing along.
+    QCOMPARE(liste.PreteListeWidgets().size(), 100U);
+}
+
+void tst_ListePastille::menuApresUneMiseEnPlace()
+{
+    Hote hote(3);
+    QCOMPARE(Menu(*hote.liste).size(), 3);
+    QVERIFY(hote.Montre());
+    QVERIFY(hote.liste->WidgetEstVisible(2));
+    Ajoute(*hote.liste, 3, u"nouveau"_s);
+    QCOMPARE(Menu(*hote.liste), QStringList(u"Enlever «nouveau»"_s));
+}
+
+void tst_ListePastille::menuApresUnRetrait()
+{
+    ListePastille liste;
+    Ajoute(liste, 0, u"a"_s);
+    Pastille * const partie = Ajoute(liste, 1, u"b"_s);
+    Ajoute(liste, 2, u"c"_s);
+    liste.RetirePastille(partie, nullptr);
+    Ajoute(liste, 3, u"d"_s);
+    QCOMPARE(Menu(liste), QStringList({u"Enlever «a»"_s, u"Enlever «c»"_s, u"Enlever «d»"_s}));
+    liste.Vide();
+    for (int i = 0; i < 3; ++i)
+        Ajoute(liste, i, u"e"_s);
+    QCOMPARE(Menu(liste).size(), 3);
+    // Without the row's knowledge.
+    delete liste.PreteWidgetA(0);
+    Ajoute(liste, 4, u"f"_s);
+    QCOMPARE(Menu(liste), QStringList({u"Enlever «e»"_s, u"Enlever «e»"_s, u"Enlever «f»"_s}));
+}
+
+void tst_ListePastille::actionAjouteeAuMenu()
+{
+    ListePastille liste;
+    Ajoute(liste, 0);
+    Pastille const * const pastille = Ajoute(liste, 1);
+    QSignalSpy const espion(pastille, &Pastille::PastilleASupprimer);
+    QPointer<QAction> const action = Chevron(liste)->menu()->actions().at(1);
+    action->trigger();
+    Q_EMIT Chevron(liste)->menu()->aboutToShow(); // the menu is built anew
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    QVERIFY(!action);
+    QTRY_COMPARE(espion.count(), 1);
 }
 
 QTEST_MAIN(tst_ListePastille)

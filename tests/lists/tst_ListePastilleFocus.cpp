@@ -15,6 +15,8 @@ private Q_SLOTS:
     void flechesAuxBouts();
     void flechesSousLeChevron();
     void tabulation();
+    void tabulationAvantLaSuite();
+    void tabulationEntreLesVoisins();
     void focusApresRetrait_data();
     void focusApresRetrait();
     void focusVersCelleQuiSort();
@@ -97,6 +99,62 @@ void tst_ListePastilleFocus::tabulation()
     for (Pastille * const pastille : hote.pastilles)
         attendus << pastille;
     QCOMPARE(suivants(7, Qt::Key_Tab), attendus << hote.suite);
+}
+
+void tst_ListePastilleFocus::tabulationAvantLaSuite()
+{
+    // The pills come while nothing else in the window takes the focus.
+    QWidget fenetre;
+    fenetre.resize(760, 200);
+    auto * const liste = new ListePastille(&fenetre);
+    liste->setGeometry(0, 0, 700, 40);
+    QList<QWidget *> attendus;
+    for (int i = 0; i < 3; ++i)
+        attendus << Ajoute(*liste, i);
+    attendus << new QLineEdit(&fenetre);
+    fenetre.show();
+    fenetre.activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(&fenetre));
+    attendus.last()->setFocus();
+    for (QWidget const * const attendu : attendus) {
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+        QCOMPARE(QApplication::focusWidget(), attendu);
+    }
+    for (QWidget const * const widget : liste->PreteListeWidgets())
+        QCOMPARE(widget->focusPolicy(), Qt::TabFocus);
+    QCOMPARE(liste->focusPolicy(), Qt::NoFocus);
+}
+
+void tst_ListePastilleFocus::tabulationEntreLesVoisins()
+{
+    Hote hote(4);
+    // Two neighbours: the ring of Tab has no other start.
+    auto * const apres = new QLineEdit(&hote.fenetre);
+    apres->setGeometry(0, 150, 100, 30);
+    QWidget::setTabOrder(hote.pastilles.last(), hote.suite);
+    QWidget::setTabOrder(hote.suite, apres);
+    QVERIFY(hote.Montre());
+    hote.Retrecis(2);
+    for (int i = 4; i < 6; ++i)
+        hote.pastilles << Ajoute(*hote.liste, i); // behind one that is under the chevron
+    hote.liste->RetirePastille(hote.pastilles.takeFirst(), nullptr);
+    hote.liste->resize(750, hote.liste->height());
+    QCoreApplication::processEvents();
+    apres->setFocus();
+    QList<QWidget *> attendus(hote.pastilles.cbegin(), hote.pastilles.cend());
+    attendus << hote.suite << apres;
+    for (QWidget const * const attendu : attendus) {
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+        QCOMPARE(QApplication::focusWidget(), attendu);
+    }
+
+    // The first one of a row between others.
+    ListePastille & liste = *hote.liste;
+    liste.Vide();
+    QWidget::setTabOrder(apres, hote.suite);
+    auto * const premiere = Ajoute(liste, 9);
+    QCoreApplication::processEvents();
+    QCOMPARE(hote.liste->nextInFocusChain(), premiere);
 }
 
 void tst_ListePastilleFocus::focusApresRetrait_data()

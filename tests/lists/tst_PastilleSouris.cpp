@@ -22,6 +22,9 @@ private Q_SLOTS:
     void bordsDeLaCroix_data();
     void bordsDeLaCroix();
     void deuxClics();
+    void autresBoutons_data();
+    void autresBoutons();
+    void autreBoutonPendantLaPression();
     void delaiDeLaPression();
     void pressionTropLongue();
     void pressionApresUnePressionTropLongue();
@@ -135,6 +138,40 @@ void tst_PastilleSouris::deuxClics()
     QTest::mouseClick(hote.pastille, Qt::LeftButton, {}, hote.Croix());
     QTest::mouseClick(hote.pastille, Qt::LeftButton, {}, hote.Croix());
     QCOMPARE(espion.count(), 2); // the pill does not delete itself
+}
+
+void tst_PastilleSouris::autresBoutons_data()
+{
+    QTest::addColumn<int>("bouton");
+    QTest::newRow("right") << int(Qt::RightButton);
+    QTest::newRow("middle") << int(Qt::MiddleButton);
+    QTest::newRow("back") << int(Qt::BackButton);
+}
+
+void tst_PastilleSouris::autresBoutons()
+{
+    QFETCH(int, bouton);
+    Hote hote;
+    hote.Montre();
+    QSignalSpy const espion(hote.pastille, &Pastille::PastilleASupprimer);
+    QTest::mouseClick(hote.pastille, Qt::MouseButton(bouton), {}, hote.Croix());
+    QCOMPARE(espion.count(), 0);
+    QTest::mousePress(hote.pastille, Qt::MouseButton(bouton), {}, hote.Croix());
+    QTest::mouseRelease(hote.pastille, Qt::LeftButton, {}, hote.Croix());
+    QCOMPARE(espion.count(), 0);
+}
+
+void tst_PastilleSouris::autreBoutonPendantLaPression()
+{
+    Hote hote;
+    hote.Montre();
+    QSignalSpy const espion(hote.pastille, &Pastille::PastilleASupprimer);
+    QTest::mousePress(hote.pastille, Qt::LeftButton, {}, hote.Croix());
+    QTest::mouseClick(hote.pastille, Qt::RightButton, {}, Hote::Corps());
+    QTest::mouseClick(hote.pastille, Qt::RightButton, {}, hote.Croix());
+    QCOMPARE(espion.count(), 0);
+    QTest::mouseRelease(hote.pastille, Qt::LeftButton, {}, hote.Croix());
+    QCOMPARE(espion.count(), 1);
 }
 
 void tst_PastilleSouris::delaiDeLaPression()

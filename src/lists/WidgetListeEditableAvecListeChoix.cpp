@@ -3,6 +3,7 @@
 
 #include "controls/DTreeView.h"
 #include "lists/ListeChoixFlottante.h"
+#include "lists/WidgetListeEditable_p.h"
 
 #include <QApplication>
 #include <QKeyEvent>
@@ -97,9 +98,10 @@ void WidgetListeEditableAvecListeChoix::SuisEditeur(QLineEdit & editeur)
 void WidgetListeEditableAvecListeChoix::Propose(QString const & texte)
 {
     QPointer<QLineEdit> const editeur = monEditeurSuivi;
-    Propositions const propositions =
-        monProposant ? monProposant(maColonne, texte) : Propositions();
-    if (!editeur || !editeur->isVisible()) {
+    Emission const emission(*this);
+    Proposant const proposant = monProposant; // which may give the list another one meanwhile
+    Propositions const propositions = proposant ? proposant(maColonne, texte) : Propositions();
+    if (emission.ListeEstMorte() || !editeur || !editeur->isVisible()) {
         for (auto const & rangee : propositions)
             qDeleteAll(rangee);
         return;

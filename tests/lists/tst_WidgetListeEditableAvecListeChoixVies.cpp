@@ -25,6 +25,9 @@ private Q_SLOTS:
     void autreChampDeLHote();
     void editeursSuccessifs();
     void perteDuFocus();
+    void proposantQuiSeRemplace();
+    void proposantQuiRetireLaRangee();
+    void proposantQuiDetruitLaListe();
 
 private:
     std::unique_ptr<Liste> maListe;
@@ -121,6 +124,47 @@ void tst_WidgetListeEditableAvecListeChoixVies::perteDuFocus()
     maListe->DonneBoutonAjouter()->setFocus();
     QTRY_VERIFY(!maListe->ChoixVisibles());
     QTRY_VERIFY(maListe->Editeurs().isEmpty());
+}
+
+// A host whose function changes or deletes the list that asks it.
+void tst_WidgetListeEditableAvecListeChoixVies::proposantQuiSeRemplace()
+{
+    auto temoin = std::make_shared<int>(0);
+    std::weak_ptr<int> const vie = temoin;
+    maListe->MetsProposant([this, temoin, vie](int, QString const & texte) {
+        maListe->MetsProposant({});
+        return vie.expired() ? WidgetListeEditableAvecListeChoix::Propositions() : Propose(texte);
+    });
+    temoin.reset();
+    maListe->Ouvre(0, 0);
+    QCOMPARE(maListe->Choix()->model()->rowCount(), 3);
+    QVERIFY(vie.expired());
+    QTest::keyClicks(maListe->Editeurs().first(), u"ar"_s);
+    QVERIFY(!maListe->ChoixVisibles());
+}
+
+void tst_WidgetListeEditableAvecListeChoixVies::proposantQuiRetireLaRangee()
+{
+    maListe->MetsProposant([this](int, QString const & texte) {
+        maListe->RetireRangee(0, false);
+        return Propose(texte);
+    });
+    maListe->Ouvre(0, 0);
+    QTRY_VERIFY(maListe->Editeurs().isEmpty());
+    QVERIFY(!maListe->ChoixVisibles());
+    QCOMPARE(maListe->Textes(), (QStringList{u"b"_s, u"c"_s}));
+}
+
+void tst_WidgetListeEditableAvecListeChoixVies::proposantQuiDetruitLaListe()
+{
+    QLineEdit * const editeur = maListe->Ouvre(0, 0);
+    maListe->MetsProposant([this](int, QString const & texte) {
+        maListe.reset();
+        return Propose(texte);
+    });
+    QTest::keyClick(editeur, Qt::Key_A);
+    QVERIFY(!maListe);
+    QTRY_VERIFY(QApplication::topLevelWidgets().isEmpty());
 }
 
 QTEST_MAIN(tst_WidgetListeEditableAvecListeChoixVies)

@@ -61,6 +61,6 @@ private:
     InterfaceUtilisantListeChoixFlottante monInterface;
     std::unique_ptr<ListeChoixFlottante> maListe; // a window, which belongs to no other widget
     Proposant monProposant;
-    QPointer<QLineEdit> monEditeurSuivi;
-    int maColonne = 0; // of the editor
+    QPointer<QWidget> monEditeurSuivi; // still told of events when it is no `QLineEdit` any more
+    int maColonne = 0;                 // of the editor
 };

@@ -2,6 +2,7 @@
 #include "PageListeModifiable.h"
 
 #include "Glossaire.h"
+#include "MemoireListes.h"
 #include "MotsFrancais.h"
 #include "PageRecherche.h"
 #include "Pages.h"
@@ -18,15 +19,12 @@
 #include <QClipboard>
 #include <QGridLayout>
 #include <QGroupBox>
-#include <QHash>
 #include <QLabel>
 #include <QMenu>
 #include <QPushButton>
 #include <QStandardItem>
 #include <QToolButton>
 #include <QTreeView>
-
-#include <algorithm>
 
 using namespace Qt::StringLiterals;
 
@@ -39,36 +37,6 @@ constexpr int kMargeListe = 4;
 constexpr int kCoteBouton = 24; // as the list's own
 
 constexpr int kPropositions = 10;
-constexpr char const * kModifiee = "modifiee"; // property of a list
-
-struct Contenu
-{
-    QList<QStringList> lignes;
-    QList<int> cochees;
-};
-
-// What the user made of the lists, by their object names.
-QHash<QString, Contenu> & PreteMemoire()
-{
-    static QHash<QString, Contenu> memoire;
-    return memoire;
-}
-
-WidgetListeEditable::Valeurs CreeLigne(QStringList const & textes)
-{
-    WidgetListeEditable::Valeurs ligne;
-    for (QString const & texte : textes)
-        ligne.AjouteFin({{QVariant(texte), Qt::DisplayRole}});
-    return ligne;
-}
-
-QStringList DonneTextes(QList<QStandardItem *> const & items)
-{
-    QStringList textes;
-    for (QStandardItem const * const item : items)
-        textes.append(item ? item->text() : QString());
-    return textes;
-}
 
 QGroupBox * CreeGroupe(QString const & titre, QWidget * contenu)
 {
@@ -126,15 +94,8 @@ PageListeModifiable::PageListeModifiable(QWidget * parent)
 
 PageListeModifiable::~PageListeModifiable()
 {
-    for (WidgetListeEditable const * const liste : std::as_const(mesListes)) {
-        if (liste->property(kModifiee).toBool())
-            Retiens(*liste);
-    }
-}
-
-void PageListeModifiable::Oublie()
-{
-    PreteMemoire().clear();
+    for (WidgetListeEditable const * const liste : std::as_const(mesListes))
+        MemoireListes::Retiens(*liste);
 }
 
 void PageListeModifiable::showEvent(QShowEvent * evenement)
@@ -156,13 +117,13 @@ QWidget * PageListeModifiable::CreeGlossaire()
                                   TraductionGalerie(TexteGalerie("Genre"))});
     monGlossaire->setObjectName(u"glossaire"_s);
     monGlossaire->setAccessibleName(TraductionGalerie(TexteGalerie("Glossaire")));
-    monGlossaire->MetsValeursParDefaut(CreeLigne({QString(), QString(), QString()}));
-    Remplis(*monGlossaire, {{u"Bulle d’aide"_s, u"tool tip"_s, u"n. f."_s},
-                            {u"Case à cocher"_s, u"check box"_s, u"n. f."_s},
-                            {u"Glisser-déposer"_s, u"drag and drop"_s, u"n. m."_s},
-                            {u"Jeton"_s, u"token"_s, u"n. m."_s},
-                            {u"Presse-papiers"_s, u"clipboard"_s, u"n. m."_s},
-                            {u"Onglet"_s, u"tab"_s, u"n. m."_s}});
+    monGlossaire->MetsValeursParDefaut(MemoireListes::CreeLigne({QString(), QString(), QString()}));
+    MemoireListes::Remplis(*monGlossaire, {{u"Bulle d’aide"_s, u"tool tip"_s, u"n. f."_s},
+                                           {u"Case à cocher"_s, u"check box"_s, u"n. f."_s},
+                                           {u"Glisser-déposer"_s, u"drag and drop"_s, u"n. m."_s},
+                                           {u"Jeton"_s, u"token"_s, u"n. m."_s},
+                                           {u"Presse-papiers"_s, u"clipboard"_s, u"n. m."_s},
+                                           {u"Onglet"_s, u"tab"_s, u"n. m."_s}});
     CreeFleches();
     maCaseTri = new QCheckBox(TraductionGalerie(TexteGalerie("&Trier d’un clic sur l’en-tête")));
     maCaseTri->setObjectName(u"tri"_s);
@@ -204,10 +165,10 @@ QWidget * PageListeModifiable::CreeTaches()
 {
     mesTaches = new WidgetListeEditableCochable(nullptr, 1, true, true, {}, false);
     mesTaches->setObjectName(u"taches"_s);
-    Remplis(*mesTaches, {{TraductionGalerie(TexteGalerie("Relire le texte"))},
-                         {TraductionGalerie(TexteGalerie("Vérifier les noms"))},
-                         {TraductionGalerie(TexteGalerie("Envoyer"))}});
-    if (!PreteMemoire().contains(mesTaches->objectName()))
+    MemoireListes::Remplis(*mesTaches, {{TraductionGalerie(TexteGalerie("Relire le texte"))},
+                                        {TraductionGalerie(TexteGalerie("Vérifier les noms"))},
+                                        {TraductionGalerie(TexteGalerie("Envoyer"))}});
+    if (!MemoireListes::Connait(*mesTaches))
         mesTaches->MetsCochay(0, true);
     auto * const groupe =
         CreeGroupe(TraductionGalerie(TexteGalerie("À cocher : souris ou espace")), mesTaches);
@@ -221,10 +182,10 @@ QWidget * PageListeModifiable::CreeEtapes()
 {
     mesEtapes = new WidgetListeEditableDragAndDrop(nullptr, 1, true, true, {}, true);
     mesEtapes->setObjectName(u"etapes"_s);
-    Remplis(*mesEtapes, {{TraductionGalerie(TexteGalerie("Lire"))},
-                         {TraductionGalerie(TexteGalerie("Écrire"))},
-                         {TraductionGalerie(TexteGalerie("Corriger"))},
-                         {TraductionGalerie(TexteGalerie("Publier"))}});
+    MemoireListes::Remplis(*mesEtapes, {{TraductionGalerie(TexteGalerie("Lire"))},
+                                        {TraductionGalerie(TexteGalerie("Écrire"))},
+                                        {TraductionGalerie(TexteGalerie("Corriger"))},
+                                        {TraductionGalerie(TexteGalerie("Publier"))}});
     auto * const groupe =
         CreeGroupe(TraductionGalerie(TexteGalerie("À déplacer : souris, Alt+↑, Alt+↓")), mesEtapes);
     groupe->setFixedWidth(kLargeurVariantes);
@@ -237,7 +198,7 @@ QWidget * PageListeModifiable::CreeMots()
 {
     mesMots = new WidgetListeEditableAvecListeChoix(nullptr, 1, true, true, {}, false);
     mesMots->setObjectName(u"mots"_s);
-    Remplis(*mesMots, {{u"accent"_s}, {u"œuvre"_s}});
+    MemoireListes::Remplis(*mesMots, {{u"accent"_s}, {u"œuvre"_s}});
     mesMots->ActualiseEntete({}, {QHeaderView::Stretch}, false);
     mesMots->MetsProposant([](int, QString const & texte) {
         WidgetListeEditableAvecListeChoix::Propositions rangees;
@@ -272,10 +233,9 @@ void PageListeModifiable::Branche()
             Qt::UniqueConnection);
     connect(monGlossaire, &WidgetListeEditable::SignalMenuContextuel, this, &Page::PriseMenu,
             Qt::UniqueConnection);
-    // A list that was changed is the user's from now on, and outlives the page.
     for (WidgetListeEditable * const liste : std::as_const(mesListes))
         connect(liste, &WidgetListeEditable::SignalElementsModifiay, liste,
-                [liste] { liste->setProperty(kModifiee, true); });
+                [liste] { MemoireListes::MarqueModifiee(*liste); });
 }
 
 void PageListeModifiable::SuisSignaux()
@@ -291,33 +251,6 @@ void PageListeModifiable::SuisSignaux()
     }
     maTrace->Suis(mesTaches, &WidgetListeEditableCochable::SignalCocheModifiay,
                   u"SignalCocheModifiay"_s);
-}
-
-void PageListeModifiable::Remplis(WidgetListeEditable & liste,
-                                  QList<QStringList> const & exemples) const
-{
-    auto const memoire = PreteMemoire().constFind(liste.objectName());
-    bool const connue = memoire != PreteMemoire().constEnd();
-    for (QStringList const & textes : connue ? memoire->lignes : exemples)
-        liste.AjouteElement(CreeLigne(textes));
-    liste.setProperty(kModifiee, connue);
-    if (auto * const cochable = qobject_cast<WidgetListeEditableCochable *>(&liste);
-        cochable && connue) {
-        for (int const rangee : memoire->cochees)
-            cochable->MetsCochay(rangee, true);
-    }
-}
-
-void PageListeModifiable::Retiens(WidgetListeEditable const & liste) const
-{
-    Contenu contenu;
-    for (QList<QStandardItem *> const & items : liste.DonneListeStandardItems())
-        contenu.lignes.append(DonneTextes(items));
-    if (auto const * const cochable = qobject_cast<WidgetListeEditableCochable const *>(&liste)) {
-        auto const cochees = cochable->DonneRangeesCochay();
-        contenu.cochees = QList<int>(cochees.begin(), cochees.end());
-    }
-    PreteMemoire()[liste.objectName()] = contenu;
 }
 
 void PageListeModifiable::ActualiseEntete()
@@ -359,7 +292,7 @@ void PageListeModifiable::PriseDescendre()
 
 void PageListeModifiable::PriseMenu(QList<QStandardItem *> const & items, QPoint const & position)
 {
-    maLigneDuMenu = DonneTextes(items);
+    maLigneDuMenu = MemoireListes::DonneTextes(items);
     auto * const menu = new QMenu(this);
     menu->setObjectName(u"menuGlossaire"_s);
     menu->setAttribute(Qt::WA_DeleteOnClose);
@@ -379,6 +312,6 @@ void PageListeModifiable::PriseCopier()
 
 void PageListeModifiable::PriseDupliquer()
 {
-    monGlossaire->AjouteElement(CreeLigne(maLigneDuMenu));
-    monGlossaire->setProperty(kModifiee, true); // a row that is added tells of no change
+    monGlossaire->AjouteElement(MemoireListes::CreeLigne(maLigneDuMenu));
+    MemoireListes::MarqueModifiee(*monGlossaire); // a row that is added tells of no change
 }

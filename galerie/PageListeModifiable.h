@@ -27,9 +27,6 @@ public:
     explicit PageListeModifiable(QWidget * parent = nullptr);
     ~PageListeModifiable() override;
 
-    /// Makes the next page begin with its examples.
-    static void Oublie();
-
 protected:
     void showEvent(QShowEvent * evenement) override;
 
@@ -42,8 +39,6 @@ private:
     QWidget * CreeMots();
     void Branche();
     void SuisSignaux();
-    void Remplis(WidgetListeEditable & liste, QList<QStringList> const & exemples) const;
-    void Retiens(WidgetListeEditable const & liste) const;
     void ActualiseEntete();
 
     void PriseTri();

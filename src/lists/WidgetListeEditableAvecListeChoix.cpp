@@ -3,6 +3,7 @@
 
 #include "controls/DTreeView.h"
 #include "lists/ListeChoixFlottante.h"
+#include "lists/WidgetListeEditable_p.h"
 
 #include <QApplication>
 #include <QKeyEvent>
@@ -62,7 +63,7 @@ void WidgetListeEditableAvecListeChoix::PriseTexteTapay(QString const & texte)
 void WidgetListeEditableAvecListeChoix::PrisePropositionChoisie(
     QList<std::shared_ptr<QStandardItem>> const & items)
 {
-    QPointer<QLineEdit> const editeur = monEditeurSuivi;
+    QPointer<QLineEdit> const editeur = qobject_cast<QLineEdit *>(monEditeurSuivi);
     QStandardItem const * const item = items.isEmpty() ? nullptr : items.first().get();
     if (!editeur || !item)
         return;
@@ -76,9 +77,9 @@ void WidgetListeEditableAvecListeChoix::PrisePropositionChoisie(
 
 void WidgetListeEditableAvecListeChoix::SuisEditeur(QLineEdit & editeur)
 {
-    if (monEditeurSuivi) {
-        monEditeurSuivi->removeEventFilter(maListe.get());
-        disconnect(monEditeurSuivi, &QLineEdit::textEdited, this,
+    if (auto * const ancien = qobject_cast<QLineEdit *>(monEditeurSuivi)) {
+        ancien->removeEventFilter(maListe.get());
+        disconnect(ancien, &QLineEdit::textEdited, this,
                    &WidgetListeEditableAvecListeChoix::PriseTexteTapay);
     }
     monEditeurSuivi = &editeur;
@@ -96,10 +97,11 @@ void WidgetListeEditableAvecListeChoix::SuisEditeur(QLineEdit & editeur)
 
 void WidgetListeEditableAvecListeChoix::Propose(QString const & texte)
 {
-    QPointer<QLineEdit> const editeur = monEditeurSuivi;
-    Propositions const propositions =
-        monProposant ? monProposant(maColonne, texte) : Propositions();
-    if (!editeur || !editeur->isVisible()) {
+    QPointer<QWidget> const editeur = monEditeurSuivi;
+    Emission const emission(*this);
+    Proposant const proposant = monProposant; // which may give the list another one meanwhile
+    Propositions const propositions = proposant ? proposant(maColonne, texte) : Propositions();
+    if (emission.ListeEstMorte() || !editeur || !editeur->isVisible()) {
         for (auto const & rangee : propositions)
             qDeleteAll(rangee);
         return;

@@ -28,7 +28,7 @@ public:
     using Propositions = QList<QList<QStandardItem *>>;
     /// The proposals for `texte` in a cell of `colonne`, already filtered: rows of items, which the
     /// list takes and deletes. The `Qt::EditRole` of the first item of a row is what it puts into
-    /// the cell. Without rows nothing shows.
+    /// the cell. Without rows nothing shows. It may change or delete the list.
     using Proposant = std::function<Propositions(int colonne, QString const & texte)>;
 
     /// As `WidgetListeEditable`.
@@ -61,6 +61,6 @@ private:
     InterfaceUtilisantListeChoixFlottante monInterface;
     std::unique_ptr<ListeChoixFlottante> maListe; // a window, which belongs to no other widget
     Proposant monProposant;
-    QPointer<QLineEdit> monEditeurSuivi;
-    int maColonne = 0; // of the editor
+    QPointer<QWidget> monEditeurSuivi; // still told of events when it is no `QLineEdit` any more
+    int maColonne = 0;                 // of the editor
 };

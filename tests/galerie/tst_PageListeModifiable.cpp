@@ -1,32 +1,24 @@
 #include "PageListeModifiable.h"
 
-#include "PageRecherche.h"
 #include "TraceSignaux.h"
 
-#include "controls/DTreeView.h"
-#include "lists/ListeChoixFlottante.h"
-#include "lists/WidgetListeEditableAvecListeChoix.h"
+#include "galerie/EssaisPageListe.h"
+
 #include "lists/WidgetListeEditableCochable.h"
-#include "lists/WidgetListeEditableDragAndDrop.h"
-#include "noyau/Traductions.h"
-
-#include <QtTest>
-
-#include <memory>
 
 using namespace Qt::StringLiterals;
 
-class tst_PageListeModifiable : public QObject
+class tst_PageListeModifiable : public QObject, private EssaisPageListe
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase();
     void init();
     void cleanup();
 
     void icones();
     void ajoutAuClavier();
+    void toutAuClavier();
     void ligneLaisseeVide();
     void invites();
     void initialeCorrigee();
@@ -35,82 +27,17 @@ private Q_SLOTS:
     void nonModifiable();
     void menu();
     void messageSiVide();
-    void taches();
-    void etapes();
-    void motsProposes();
-    void sansListeDeMots();
     void trace();
-    void lesChangementsRestent();
-    void lesExemplesSuiventLaLangue();
     void ordreDesTabulations();
     void nomsAccessibles();
 
 private:
-    template <typename T>
-    T & Prete(QString const & nom) const
-    {
-        return *maPage->findChild<T *>(nom);
-    }
-    WidgetListeEditable & Glossaire() const { return Prete<WidgetListeEditable>(u"glossaire"_s); }
-    static DTreeView & Vue(WidgetListeEditable const & liste)
-    {
-        return *liste.findChild<DTreeView *>();
-    }
-    static QLineEdit * Editeur(WidgetListeEditable const & liste);
-    static QStringList Textes(WidgetListeEditable const & liste, int colonne = 0);
-    static void Choisis(WidgetListeEditable & liste, int rangee);
-    void Construis();
     void ClicDroit(int rangee);
-
-    QTemporaryDir monDossier;
-    std::unique_ptr<PageListeModifiable> maPage;
 };
-
-QLineEdit * tst_PageListeModifiable::Editeur(WidgetListeEditable const & liste)
-{
-    for (QLineEdit * const editeur : Vue(liste).viewport()->findChildren<QLineEdit *>())
-        if (editeur->isVisible() && editeur->hasFocus())
-            return editeur;
-    return nullptr;
-}
-
-QStringList tst_PageListeModifiable::Textes(WidgetListeEditable const & liste, int colonne)
-{
-    QStringList textes;
-    for (int rangee = 0; rangee < liste.DonneNbRangee(); ++rangee)
-        textes.append(liste.DonneElement(rangee, colonne)->text());
-    return textes;
-}
-
-void tst_PageListeModifiable::Choisis(WidgetListeEditable & liste, int rangee)
-{
-    Vue(liste).setFocus();
-    Vue(liste).setCurrentIndex(Vue(liste).model()->index(rangee, 0));
-}
-
-void tst_PageListeModifiable::Construis()
-{
-    maPage.reset();
-    maPage = std::make_unique<PageListeModifiable>();
-    maPage->resize(900, 760);
-    maPage->show();
-    maPage->activateWindow();
-    QVERIFY(QTest::qWaitForWindowActive(maPage.get()));
-}
-
-void tst_PageListeModifiable::initTestCase()
-{
-    QFile mots(monDossier.filePath(u"mots"_s));
-    QVERIFY(mots.open(QIODevice::WriteOnly));
-    mots.write("arbre\narc\nbateau\n");
-}
 
 void tst_PageListeModifiable::init()
 {
-    Traductions::MetsLanguePourApplicationCourante(kLangueFrancais);
-    PageListeModifiable::Oublie();
-    PageRecherche::PreteMemoire().mots.MetsFichier(monDossier.filePath(u"mots"_s));
-    Construis();
+    Prepare();
 }
 
 void tst_PageListeModifiable::cleanup()
@@ -150,6 +77,43 @@ void tst_PageListeModifiable::ajoutAuClavier()
     QCOMPARE(Textes(liste, 0).last(), u"Lexique"_s);
     QCOMPARE(Textes(liste, 1).last(), u"lexicon"_s);
     QCOMPARE(Textes(liste, 2).last(), u"n. m."_s);
+}
+
+// From one list to the next without the mouse; the keys go wherever the focus is.
+void tst_PageListeModifiable::toutAuClavier()
+{
+    WidgetListeEditable & liste = Glossaire();
+    QStringList attendu = Textes(liste);
+    auto const frappe = [](int touche) {
+        QTest::keyClick(QApplication::focusWidget(), static_cast<Qt::Key>(touche));
+    };
+    Vue(liste).setFocus();
+    frappe(Qt::Key_Home);
+    frappe(Qt::Key_F2);
+    QVERIFY(Editeur(liste));
+    QTest::keyClicks(Editeur(liste), u"zone"_s);
+    frappe(Qt::Key_Return);
+    attendu[0] = u"Zone"_s;
+    QTRY_COMPARE(Textes(liste), attendu);
+    QTRY_COMPARE(QApplication::focusWidget(), &Vue(liste));
+
+    frappe(Qt::Key_Tab);
+    QCOMPARE(QApplication::focusWidget(), liste.DonneBoutonAjouter());
+    frappe(Qt::Key_Space);
+    QTRY_VERIFY(Editeur(liste));
+    QTest::keyClicks(Editeur(liste), u"Bandeau"_s);
+    frappe(Qt::Key_Return);
+    attendu.append(u"Bandeau"_s);
+    QTRY_COMPARE(Textes(liste), attendu);
+    QTRY_VERIFY(Editeur(liste) && Editeur(liste)->text().isEmpty()); // the next cell
+    frappe(Qt::Key_Escape);
+    QTRY_COMPARE(QApplication::focusWidget(), &Vue(liste));
+    QCOMPARE(Textes(liste), attendu);
+
+    frappe(Qt::Key_End);
+    frappe(Qt::Key_Delete);
+    attendu.removeLast();
+    QCOMPARE(Textes(liste), attendu);
 }
 
 void tst_PageListeModifiable::ligneLaisseeVide()
@@ -285,48 +249,6 @@ void tst_PageListeModifiable::messageSiVide()
     QVERIFY(Vue(liste).viewport()->grab().toImage() != vide);
 }
 
-void tst_PageListeModifiable::taches()
-{
-    auto & liste = Prete<WidgetListeEditableCochable>(u"taches"_s);
-    QCOMPARE(liste.DonneRangeesCochay(), std::list<int>{0});
-    Choisis(liste, 2);
-    QTest::keyClick(&Vue(liste), Qt::Key_Space);
-    QCOMPARE(liste.DonneRangeesCochay(), (std::list<int>{0, 2}));
-}
-
-void tst_PageListeModifiable::etapes()
-{
-    auto & liste = Prete<WidgetListeEditableDragAndDrop>(u"etapes"_s);
-    QStringList attendu = Textes(liste);
-    attendu.move(0, 1);
-    Choisis(liste, 0);
-    QTest::keyClick(&Vue(liste), Qt::Key_Down, Qt::AltModifier);
-    QCOMPARE(Textes(liste), attendu);
-}
-
-void tst_PageListeModifiable::motsProposes()
-{
-    auto & liste = Prete<WidgetListeEditableAvecListeChoix>(u"mots"_s);
-    QVERIFY(maPage->findChild<QLabel *>(u"messageErreur"_s)->isHidden());
-    liste.DonneBoutonAjouter()->click();
-    QTRY_VERIFY(Editeur(liste));
-    QTest::keyClicks(Editeur(liste), u"ar"_s);
-    QTRY_VERIFY(liste.PreteListeChoix()->isVisible());
-    QCOMPARE(liste.PreteListeChoix()->PreteListeChoix()->model()->rowCount(), 2);
-    QTest::keyClick(Editeur(liste), Qt::Key_Down);
-    QTest::keyClick(Editeur(liste), Qt::Key_Return);
-    QTRY_COMPARE(Textes(liste).last(), u"arbre"_s);
-}
-
-void tst_PageListeModifiable::sansListeDeMots()
-{
-    PageRecherche::PreteMemoire().mots.MetsFichier(monDossier.filePath(u"absent"_s));
-    Construis();
-    auto const & message = Prete<QLabel>(u"messageErreur"_s);
-    QVERIFY(!message.isHidden());
-    QVERIFY(message.text().contains(u"wfrench"_s));
-}
-
 void tst_PageListeModifiable::trace()
 {
     auto & trace = *maPage->findChild<TraceSignaux *>();
@@ -336,31 +258,6 @@ void tst_PageListeModifiable::trace()
     QVERIFY(trace.toPlainText().contains(u"SignalElementsModifiay()"_s));
     Prete<QPushButton>(u"effacer"_s).click();
     QVERIFY(trace.toPlainText().isEmpty());
-}
-
-void tst_PageListeModifiable::lesChangementsRestent()
-{
-    Glossaire().MetsElement(Vue(Glossaire()).model()->index(0, 0), u"Autre"_s);
-    auto & taches = Prete<WidgetListeEditableCochable>(u"taches"_s);
-    taches.MetsCochay(0, false);
-    taches.MetsCochay(2, true);
-    QCoreApplication::processEvents();
-    Traductions::MetsLanguePourApplicationCourante(kLangueAnglais);
-
-    Construis();
-
-    QCOMPARE(Textes(Glossaire()).first(), u"Autre"_s);
-    QCOMPARE(Prete<WidgetListeEditableCochable>(u"taches"_s).DonneRangeesCochay(),
-             std::list<int>{2});
-    QCOMPARE(Textes(Prete<WidgetListeEditable>(u"taches"_s)).last(), u"Envoyer"_s);
-}
-
-void tst_PageListeModifiable::lesExemplesSuiventLaLangue()
-{
-    QStringList const francais = Textes(Prete<WidgetListeEditable>(u"etapes"_s));
-    Traductions::MetsLanguePourApplicationCourante(kLangueAnglais);
-    Construis();
-    QVERIFY(Textes(Prete<WidgetListeEditable>(u"etapes"_s)) != francais);
 }
 
 void tst_PageListeModifiable::ordreDesTabulations()

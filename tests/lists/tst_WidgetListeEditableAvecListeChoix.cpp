@@ -1,20 +1,15 @@
 #include "lists/WidgetListeEditableAvecListeChoix.h"
 
-#include "lists/EssaisVariantes.h"
-#include "lists/ListeChoixFlottante.h"
+#include "lists/EssaisAvecListeChoix.h"
 
 #include <QStandardItemModel>
 #include <QToolButton>
-#include <QTreeView>
-#include <QVBoxLayout>
 #include <QtTest>
 
 #include <memory>
 
-using namespace EssaisVariantes;
+using namespace EssaisAvecListeChoix;
 using namespace Qt::StringLiterals;
-
-using Liste = Ouverte<WidgetListeEditableAvecListeChoix>;
 
 class tst_WidgetListeEditableAvecListeChoix : public QObject
 {
@@ -33,45 +28,18 @@ private Q_SLOTS:
     void retourSansProposition();
     void clic();
     void echappement();
+    void echappementDansUneNouvelleRangee();
     void largeurEtPlace();
     void fenetreDeplacee();
     void defilement();
-    void rangeeRetiree();
-    void listeDetruite();
-    void detruitePendantLeChoix();
-    void autreChampDeLHote();
-    void editeursSuccessifs();
     void validateur();
     void suiteDansLaCelluleSuivante();
-    void perteDuFocus();
     void listeActivee();
 
 private:
-    QTreeView * Vue() const { return maListe->PreteListeChoix()->PreteListeChoix(); }
-    bool ListeVisible() const { return maListe->PreteListeChoix()->isVisible(); }
-    QStringList Proposes() const;
-    /// Opens the editor of a cell as a user does.
-    QLineEdit * Ouvre(int rangee, int colonne);
-
     std::unique_ptr<Liste> maListe;
     QList<std::pair<int, QString>> mesDemandes;
 };
-
-namespace {
-
-constexpr auto kMots = {"arbre", "arc", "argent", "bateau"};
-
-/// The words that begin as the text does.
-WidgetListeEditableAvecListeChoix::Propositions Propose(QString const & texte)
-{
-    WidgetListeEditableAvecListeChoix::Propositions rangees;
-    for (char const * const mot : kMots)
-        if (QString::fromLatin1(mot).startsWith(texte))
-            rangees.append({new QStandardItem(QString::fromLatin1(mot))});
-    return rangees;
-}
-
-} // namespace
 
 void tst_WidgetListeEditableAvecListeChoix::init()
 {
@@ -91,53 +59,35 @@ void tst_WidgetListeEditableAvecListeChoix::cleanup()
     QVERIFY(QApplication::topLevelWidgets().isEmpty());
 }
 
-QStringList tst_WidgetListeEditableAvecListeChoix::Proposes() const
-{
-    QStringList textes;
-    for (int rangee = 0; rangee < Vue()->model()->rowCount(); ++rangee)
-        textes.append(Vue()->model()->index(rangee, 0).data().toString());
-    return textes;
-}
-
-QLineEdit * tst_WidgetListeEditableAvecListeChoix::Ouvre(int rangee, int colonne)
-{
-    DTreeView & vue = *maListe->PreteVue();
-    vue.setFocus();
-    QPoint const milieu = maListe->Milieu(rangee, colonne);
-    QTest::mouseClick(vue.viewport(), Qt::LeftButton, {}, milieu);
-    QTest::mouseDClick(vue.viewport(), Qt::LeftButton, {}, milieu);
-    return maListe->Editeurs().isEmpty() ? nullptr : maListe->Editeurs().last();
-}
-
 void tst_WidgetListeEditableAvecListeChoix::sansProposant()
 {
     maListe->MetsProposant({});
-    QLineEdit * const editeur = Ouvre(0, 0);
+    QLineEdit * const editeur = maListe->Ouvre(0, 0);
     QVERIFY(editeur);
     QTest::keyClicks(editeur, u"ar"_s);
-    QVERIFY(!ListeVisible());
+    QVERIFY(!maListe->ChoixVisibles());
     QTest::keyClick(editeur, Qt::Key_Return);
     QTRY_COMPARE(maListe->Textes().first(), u"ar"_s);
 }
 
 void tst_WidgetListeEditableAvecListeChoix::ouverture()
 {
-    QVERIFY(!ListeVisible());
-    QLineEdit * const editeur = Ouvre(0, 0);
+    QVERIFY(!maListe->ChoixVisibles());
+    QLineEdit * const editeur = maListe->Ouvre(0, 0);
     QVERIFY(editeur);
-    QVERIFY(ListeVisible());
-    QCOMPARE(Proposes(), (QStringList{u"arbre"_s, u"arc"_s, u"argent"_s}));
+    QVERIFY(maListe->ChoixVisibles());
+    QCOMPARE(maListe->Proposes(), (QStringList{u"arbre"_s, u"arc"_s, u"argent"_s}));
     QVERIFY(editeur->hasFocus());
     QVERIFY(maListe->isActiveWindow());
 }
 
 void tst_WidgetListeEditableAvecListeChoix::colonneEtTexteDemandes()
 {
-    Ouvre(1, 1);
+    maListe->Ouvre(1, 1);
     QCOMPARE(mesDemandes.size(), 1);
     QCOMPARE(mesDemandes.first().first, 1);
     QCOMPARE(mesDemandes.first().second, u"b2"_s);
-    QVERIFY(!ListeVisible());
+    QVERIFY(!maListe->ChoixVisibles());
 
     maListe->DonneBoutonAjouter()->click();
     QCOMPARE(mesDemandes.size(), 2);
@@ -147,20 +97,20 @@ void tst_WidgetListeEditableAvecListeChoix::colonneEtTexteDemandes()
 
 void tst_WidgetListeEditableAvecListeChoix::frappe()
 {
-    QLineEdit * const editeur = Ouvre(0, 0);
+    QLineEdit * const editeur = maListe->Ouvre(0, 0);
     QTest::keyClicks(editeur, u"arg"_s); // in place of the selected text
-    QCOMPARE(Proposes(), QStringList{u"argent"_s});
+    QCOMPARE(maListe->Proposes(), QStringList{u"argent"_s});
     QCOMPARE(editeur->text(), u"arg"_s);
     QTest::keyClick(editeur, Qt::Key_Backspace);
-    QCOMPARE(Proposes().size(), 3);
+    QCOMPARE(maListe->Proposes().size(), 3);
     QVERIFY(editeur->hasFocus());
 }
 
 void tst_WidgetListeEditableAvecListeChoix::aucuneProposition()
 {
-    QLineEdit * const editeur = Ouvre(0, 0);
+    QLineEdit * const editeur = maListe->Ouvre(0, 0);
     QTest::keyClicks(editeur, u"xyz"_s);
-    QVERIFY(!ListeVisible());
+    QVERIFY(!maListe->ChoixVisibles());
     QTest::keyClick(editeur, Qt::Key_Down);
     QTest::keyClick(editeur, Qt::Key_Return);
     QTRY_COMPARE(maListe->Textes().first(), u"xyz"_s);
@@ -186,7 +136,7 @@ void tst_WidgetListeEditableAvecListeChoix::retourSurUneProposition()
     QFETCH(QList<int>, touches);
     QFETCH(QString, attendu);
     QSignalSpy const modifications(maListe.get(), &Liste::SignalElementsModifiay);
-    QLineEdit * const editeur = Ouvre(0, 0);
+    QLineEdit * const editeur = maListe->Ouvre(0, 0);
     QTest::keyClicks(editeur, u"ar"_s);
 
     for (int const touche : touches)
@@ -194,7 +144,7 @@ void tst_WidgetListeEditableAvecListeChoix::retourSurUneProposition()
 
     QTRY_COMPARE(maListe->Textes().first(), attendu);
     QTRY_VERIFY(maListe->Editeurs().isEmpty());
-    QVERIFY(!ListeVisible());
+    QVERIFY(!maListe->ChoixVisibles());
     QTRY_COMPARE(modifications.count(), 1);
     QVERIFY(maListe->PreteVue()->hasFocus());
 }
@@ -202,7 +152,7 @@ void tst_WidgetListeEditableAvecListeChoix::retourSurUneProposition()
 void tst_WidgetListeEditableAvecListeChoix::retourSansProposition()
 {
     // Of the text as it was: nothing changes.
-    QLineEdit * const editeur = Ouvre(0, 0);
+    QLineEdit * const editeur = maListe->Ouvre(0, 0);
     QTest::keyClick(editeur, Qt::Key_Return);
     QTRY_VERIFY(maListe->Editeurs().isEmpty());
     QCOMPARE(maListe->Textes().first(), u"a"_s);
@@ -210,28 +160,29 @@ void tst_WidgetListeEditableAvecListeChoix::retourSansProposition()
 
 void tst_WidgetListeEditableAvecListeChoix::clic()
 {
-    QPointer<QLineEdit> const editeur = Ouvre(0, 0);
+    QPointer<QLineEdit> const editeur = maListe->Ouvre(0, 0);
     QTest::keyClicks(editeur, u"ar"_s);
-    QPoint const milieu = Vue()->visualRect(Vue()->model()->index(2, 0)).center();
+    QPoint const milieu =
+        maListe->Choix()->visualRect(maListe->Choix()->model()->index(2, 0)).center();
 
-    QTest::mousePress(Vue()->viewport(), Qt::LeftButton, {}, milieu);
+    QTest::mousePress(maListe->Choix()->viewport(), Qt::LeftButton, {}, milieu);
     QVERIFY(editeur);
     QCOMPARE(editeur->text(), u"ar"_s);
     QVERIFY(editeur->hasFocus());
-    QTest::mouseRelease(Vue()->viewport(), Qt::LeftButton, {}, milieu);
+    QTest::mouseRelease(maListe->Choix()->viewport(), Qt::LeftButton, {}, milieu);
 
     QTRY_COMPARE(maListe->Textes().first(), u"argent"_s);
     QTRY_VERIFY(maListe->Editeurs().isEmpty());
-    QVERIFY(!ListeVisible());
+    QVERIFY(!maListe->ChoixVisibles());
 }
 
 void tst_WidgetListeEditableAvecListeChoix::echappement()
 {
-    QPointer<QLineEdit> const editeur = Ouvre(0, 0);
+    QPointer<QLineEdit> const editeur = maListe->Ouvre(0, 0);
     QTest::keyClicks(editeur, u"ar"_s);
 
     QTest::keyClick(editeur, Qt::Key_Escape);
-    QVERIFY(!ListeVisible());
+    QVERIFY(!maListe->ChoixVisibles());
     QVERIFY(editeur && editeur->isVisible());
     QCOMPARE(editeur->text(), u"ar"_s);
 
@@ -240,9 +191,25 @@ void tst_WidgetListeEditableAvecListeChoix::echappement()
     QCOMPARE(maListe->Textes().first(), u"a"_s);
 }
 
+// A release that came up to the view would end the edit of a row that is still empty.
+void tst_WidgetListeEditableAvecListeChoix::echappementDansUneNouvelleRangee()
+{
+    maListe->DonneBoutonAjouter()->click();
+    QTRY_VERIFY(maListe->ChoixVisibles());
+    QTest::keyClick(maListe->Editeurs().first(), Qt::Key_Escape);
+    QCoreApplication::processEvents();
+    QVERIFY(!maListe->ChoixVisibles());
+    QCOMPARE(maListe->DonneNbRangee(), 4);
+    QCOMPARE(maListe->Editeurs().size(), 1);
+
+    QTest::keyPress(maListe->Editeurs().first(), Qt::Key_Escape);
+    QTest::keyRelease(maListe->PreteVue(), Qt::Key_Escape);
+    QTRY_COMPARE(maListe->DonneNbRangee(), 3);
+}
+
 void tst_WidgetListeEditableAvecListeChoix::largeurEtPlace()
 {
-    QLineEdit const * const editeur = Ouvre(0, 0);
+    QLineEdit const * const editeur = maListe->Ouvre(0, 0);
     ListeChoixFlottante const & liste = *maListe->PreteListeChoix();
     QCOMPARE(liste.pos(), editeur->parentWidget()->mapToGlobal(editeur->geometry().bottomLeft()));
     QVERIFY(liste.width() >= editeur->width());
@@ -251,7 +218,7 @@ void tst_WidgetListeEditableAvecListeChoix::largeurEtPlace()
 
 void tst_WidgetListeEditableAvecListeChoix::fenetreDeplacee()
 {
-    QLineEdit const * const editeur = Ouvre(0, 0);
+    QLineEdit const * const editeur = maListe->Ouvre(0, 0);
     QPoint const avant = maListe->PreteListeChoix()->pos();
     maListe->move(maListe->pos() + QPoint(40, 30));
     QTRY_VERIFY(maListe->PreteListeChoix()->pos() != avant);
@@ -266,7 +233,7 @@ void tst_WidgetListeEditableAvecListeChoix::defilement()
         mots.append(u"mot"_s);
     maListe->Remplis(mots);
     QCoreApplication::processEvents();
-    QLineEdit const * const editeur = Ouvre(2, 0);
+    QLineEdit const * const editeur = maListe->Ouvre(2, 0);
     QTest::keyClicks(maListe->Editeurs().first(), u"ar"_s);
     QPoint const avant = maListe->PreteListeChoix()->pos();
     QScrollBar & barre = *maListe->PreteVue()->verticalScrollBar();
@@ -275,77 +242,8 @@ void tst_WidgetListeEditableAvecListeChoix::defilement()
     QCOMPARE(maListe->PreteListeChoix()->pos(),
              editeur->parentWidget()->mapToGlobal(editeur->geometry().bottomLeft()));
     barre.setValue(barre.maximum());
-    QTRY_VERIFY(!ListeVisible());
+    QTRY_VERIFY(!maListe->ChoixVisibles());
     QVERIFY(editeur->isVisible());
-}
-
-void tst_WidgetListeEditableAvecListeChoix::rangeeRetiree()
-{
-    Ouvre(0, 0);
-    QVERIFY(ListeVisible());
-    maListe->RetireRangee(0, true);
-    QTRY_VERIFY(!ListeVisible());
-    QCOMPARE(maListe->Textes(), (QStringList{u"b"_s, u"c"_s}));
-}
-
-void tst_WidgetListeEditableAvecListeChoix::listeDetruite()
-{
-    Ouvre(0, 0);
-    QPointer<QWidget> const choix = maListe->PreteListeChoix();
-    QVERIFY(choix->isVisible());
-    maListe.reset();
-    QVERIFY(!choix);
-}
-
-void tst_WidgetListeEditableAvecListeChoix::detruitePendantLeChoix()
-{
-    QLineEdit * const editeur = Ouvre(0, 0);
-    QTest::keyClicks(editeur, u"ar"_s);
-    connect(maListe.get(), &Liste::SignalEdition, this, [this] { maListe.reset(); });
-    QTest::mouseClick(Vue()->viewport(), Qt::LeftButton, {},
-                      Vue()->visualRect(Vue()->model()->index(1, 0)).center());
-    QVERIFY(!maListe);
-    QTRY_VERIFY(QApplication::topLevelWidgets().isEmpty());
-}
-
-void tst_WidgetListeEditableAvecListeChoix::autreChampDeLHote()
-{
-    QWidget fenetre;
-    QVBoxLayout disposition(&fenetre);
-    QLineEdit champ;
-    Liste liste;
-    disposition.addWidget(&champ);
-    disposition.addWidget(&liste);
-    liste.Remplis({u"a"_s});
-    liste.MetsProposant([](int, QString const & texte) { return Propose(texte); });
-    fenetre.show();
-    fenetre.activateWindow();
-    QVERIFY(QTest::qWaitForWindowActive(&fenetre));
-    liste.PreteVue()->setFocus();
-
-    champ.setFocus();
-    QTest::keyClicks(&champ, u"ar"_s);
-
-    QVERIFY(!liste.PreteListeChoix()->isVisible());
-    QCOMPARE(champ.text(), u"ar"_s);
-}
-
-void tst_WidgetListeEditableAvecListeChoix::editeursSuccessifs()
-{
-    QTest::keyClick(Ouvre(0, 0), Qt::Key_Escape);
-    QTRY_VERIFY(maListe->Editeurs().isEmpty() || !ListeVisible());
-    if (!maListe->Editeurs().isEmpty())
-        QTest::keyClick(maListe->Editeurs().first(), Qt::Key_Escape);
-    QTRY_VERIFY(maListe->Editeurs().isEmpty());
-
-    QLineEdit * const editeur = Ouvre(2, 0);
-    QTest::keyClicks(editeur, u"ba"_s);
-
-    QVERIFY(ListeVisible());
-    QCOMPARE(Proposes(), QStringList{u"bateau"_s});
-    QTest::keyClick(editeur, Qt::Key_Down);
-    QTest::keyClick(editeur, Qt::Key_Return);
-    QTRY_COMPARE(maListe->Textes(), (QStringList{u"a"_s, u"b"_s, u"bateau"_s}));
 }
 
 namespace {
@@ -369,7 +267,7 @@ void tst_WidgetListeEditableAvecListeChoix::validateur()
     maListe->Remplis({u"A"_s});
     maListe->MetsProposant([](int, QString const & texte) { return Propose(texte); });
     maListe->Montre();
-    QLineEdit * const editeur = Ouvre(0, 0);
+    QLineEdit * const editeur = maListe->Ouvre(0, 0);
     QTest::keyClicks(editeur, u"arb"_s);
     QTest::keyClick(editeur, Qt::Key_Down);
     QTest::keyClick(editeur, Qt::Key_Return);
@@ -391,33 +289,24 @@ void tst_WidgetListeEditableAvecListeChoix::suiteDansLaCelluleSuivante()
     QCOMPARE(mesDemandes.last().first, 1);
     QCOMPARE(mesDemandes.last().second, QString());
     QTRY_COMPARE(maListe->Editeurs().size(), 1);
-    QVERIFY(ListeVisible());
+    QVERIFY(maListe->ChoixVisibles());
     QTest::keyClicks(maListe->Editeurs().first(), u"arc"_s);
     QTest::keyClick(maListe->Editeurs().first(), Qt::Key_Down);
     QTest::keyClick(maListe->Editeurs().first(), Qt::Key_Return);
     QTRY_COMPARE(maListe->Textes(1).last(), u"arc"_s);
 }
 
-void tst_WidgetListeEditableAvecListeChoix::perteDuFocus()
-{
-    Ouvre(0, 0);
-    QVERIFY(ListeVisible());
-    maListe->DonneBoutonAjouter()->setFocus();
-    QTRY_VERIFY(!ListeVisible());
-    QTRY_VERIFY(maListe->Editeurs().isEmpty());
-}
-
 // By a system that activates whatever it shows.
 void tst_WidgetListeEditableAvecListeChoix::listeActivee()
 {
-    QPointer<QLineEdit> const editeur = Ouvre(0, 0);
+    QPointer<QLineEdit> const editeur = maListe->Ouvre(0, 0);
     QTest::keyClicks(editeur, u"ar"_s);
     QApplication::setActiveWindow(maListe->PreteListeChoix());
     QTRY_COMPARE(QApplication::activeWindow(), maListe.get());
     QVERIFY(editeur && editeur->isVisible());
     QTRY_VERIFY(editeur->hasFocus());
     QCOMPARE(editeur->text(), u"ar"_s);
-    QVERIFY(ListeVisible());
+    QVERIFY(maListe->ChoixVisibles());
 }
 
 QTEST_MAIN(tst_WidgetListeEditableAvecListeChoix)

@@ -1,7 +1,6 @@
 #include "lists/WidgetListeEditableDragAndDrop.h"
 
-#include "lists/EssaisVariantes.h"
-#include "lists/Glissement.h"
+#include "lists/EssaisDragAndDrop.h"
 
 #include <QDragEnterEvent>
 #include <QMimeData>
@@ -12,10 +11,9 @@
 
 #include <memory>
 
+using namespace EssaisDragAndDrop;
 using namespace EssaisVariantes;
 using namespace Qt::StringLiterals;
-
-using Liste = Ouverte<WidgetListeEditableDragAndDrop>;
 
 // Rows that are put into another order by the mouse.
 class tst_WidgetListeEditableDragAndDrop : public QObject
@@ -34,26 +32,14 @@ private Q_SLOTS:
     void horsDeLaListe();
     void depuisUneAutreListe();
     void donneesEtrangeres();
-    void echappement();
-    void echappementDansUnEditeur();
     void memesItems();
     void itemQuiNeSeGlissePas();
     void listeInactive();
     void receveurQuiVideLaListe();
     void receveurQuiDetruitLaListe();
-    void toucheAlt_data();
-    void toucheAlt();
     void listeSimple();
 
 private:
-    enum eCote
-    {
-        kDessus,
-        kDessous,
-    };
-    QPoint Bord(int rangee, eCote cote, int colonne = 0) const;
-    bool Glisse(int rangee, QPoint const & destination);
-
     std::unique_ptr<Liste> maListe;
 };
 
@@ -68,22 +54,6 @@ void tst_WidgetListeEditableDragAndDrop::cleanup()
 {
     maListe.reset();
     QVERIFY(QApplication::topLevelWidgets().isEmpty());
-}
-
-QPoint tst_WidgetListeEditableDragAndDrop::Bord(int rangee, eCote cote, int colonne) const
-{
-    DTreeView const & vue = *maListe->PreteVue();
-    QRect const rect = vue.visualRect(vue.model()->index(rangee, colonne));
-    return {rect.center().x(), cote == kDessus ? rect.top() + 1 : rect.bottom() - 1};
-}
-
-// Takes the rows by one of them, and drops them there.
-bool tst_WidgetListeEditableDragAndDrop::Glisse(int rangee, QPoint const & destination)
-{
-    DTreeView & vue = *maListe->PreteVue();
-    return Glissement::Execute(vue, maListe->Milieu(rangee),
-                               {[&] { Glissement::Deplace(vue, destination); },
-                                [&] { Glissement::Lache(vue, destination); }});
 }
 
 void tst_WidgetListeEditableDragAndDrop::deplacement_data()
@@ -130,7 +100,7 @@ void tst_WidgetListeEditableDragAndDrop::deplacement()
     QSignalSpy const retraits(maListe.get(),
                               SIGNAL(SignalRangeeSupprimay(QList<QStandardItem *>, int)));
 
-    QVERIFY(Glisse(choisies.first(), Bord(cible, dessous ? kDessous : kDessus)));
+    QVERIFY(maListe->Glisse(choisies.first(), maListe->Bord(cible, dessous ? kDessous : kDessus)));
     QCoreApplication::processEvents();
 
     QCOMPARE(maListe->Textes().join(QString()), attendu);
@@ -143,7 +113,7 @@ void tst_WidgetListeEditableDragAndDrop::deplacement()
 void tst_WidgetListeEditableDragAndDrop::surLeMilieuDUneRangee()
 {
     maListe->Choisis({0});
-    QVERIFY(Glisse(0, maListe->Milieu(2) - QPoint(0, 2)));
+    QVERIFY(maListe->Glisse(0, maListe->Milieu(2) - QPoint(0, 2)));
     QCOMPARE(maListe->Textes().join(QString()), u"bacde"_s);
     for (int rangee = 0; rangee < 5; ++rangee)
         QVERIFY(!maListe->DonneElement(rangee, 0)->hasChildren());
@@ -154,7 +124,7 @@ void tst_WidgetListeEditableDragAndDrop::surUneCelluleJamaisRemplie()
     maListe->AjouteElement({new QStandardItem(u"f"_s)}, 5);
     QVERIFY(!maListe->DonneElement(5, 1));
     maListe->Choisis({0});
-    QVERIFY(Glisse(0, maListe->Milieu(5, 1) - QPoint(0, 2)));
+    QVERIFY(maListe->Glisse(0, maListe->Milieu(5, 1) - QPoint(0, 2)));
     QCOMPARE(maListe->Textes().join(QString()), u"bcdeaf"_s);
     QCOMPARE(maListe->PreteModele()->rowCount(maListe->PreteModele()->index(5, 1)), 0);
 }
@@ -162,9 +132,9 @@ void tst_WidgetListeEditableDragAndDrop::surUneCelluleJamaisRemplie()
 void tst_WidgetListeEditableDragAndDrop::dansLeVide()
 {
     maListe->Choisis({1, 0});
-    QPoint const sousLaDerniere = Bord(4, kDessous) + QPoint(0, 40);
+    QPoint const sousLaDerniere = maListe->Bord(4, kDessous) + QPoint(0, 40);
     QVERIFY(!maListe->PreteVue()->indexAt(sousLaDerniere).isValid());
-    QVERIFY(Glisse(1, sousLaDerniere));
+    QVERIFY(maListe->Glisse(1, sousLaDerniere));
     QCOMPARE(maListe->Textes().join(QString()), u"cdeab"_s);
     QCOMPARE(maListe->Choisies(), (QList<int>{3, 4}));
     QCOMPARE(maListe->PreteVue()->currentIndex().row(), 4);
@@ -174,7 +144,7 @@ void tst_WidgetListeEditableDragAndDrop::surUneRangeeChoisie()
 {
     maListe->Choisis({0, 3});
     QSignalSpy const modifications(maListe.get(), &Liste::SignalElementsModifiay);
-    QVERIFY(Glisse(0, Bord(3, kDessous)));
+    QVERIFY(maListe->Glisse(0, maListe->Bord(3, kDessous)));
     QCOMPARE(maListe->Textes().join(QString()), u"abcde"_s);
     QCOMPARE(maListe->Choisies(), (QList<int>{0, 3}));
     QCOMPARE(modifications.count(), 0);
@@ -187,7 +157,7 @@ void tst_WidgetListeEditableDragAndDrop::horsDeLaListe()
     DTreeView const & vue = *maListe->PreteVue();
     QPoint const pied(30, vue.viewport()->height() + 20);
     QVERIFY(maListe->rect().contains(vue.viewport()->mapTo(maListe.get(), pied)));
-    QVERIFY(Glisse(0, pied));
+    QVERIFY(maListe->Glisse(0, pied));
     QCOMPARE(maListe->Textes().join(QString()), u"abcde"_s);
     QCOMPARE(maListe->Choisies(), (QList<int>{0, 3}));
     QCOMPARE(modifications.count(), 0);
@@ -225,7 +195,7 @@ void tst_WidgetListeEditableDragAndDrop::donneesEtrangeres()
         maListe->PreteModele()->mimeData({maListe->PreteModele()->index(0, 0)}));
     donnees->setText(u"texte"_s);
     QWidget * const surface = maListe->PreteVue()->viewport();
-    QPoint const place = Bord(3, kDessus);
+    QPoint const place = maListe->Bord(3, kDessus);
     maListe->Choisis({0});
 
     QDragEnterEvent entree(place, Qt::CopyAction | Qt::MoveAction, donnees.get(), Qt::LeftButton,
@@ -243,47 +213,6 @@ void tst_WidgetListeEditableDragAndDrop::donneesEtrangeres()
     QCoreApplication::sendEvent(surface, &depot);
     QVERIFY(!depot.isAccepted());
 
-    QCOMPARE(maListe->Textes().join(QString()), u"abcde"_s);
-}
-
-// The row has an empty first cell, which the end of an edit would take for an empty row.
-void tst_WidgetListeEditableDragAndDrop::echappement()
-{
-    maListe->AjouteElement(Ligne({QString(), u"f2"_s}));
-    maListe->Choisis({5});
-    DTreeView & vue = *maListe->PreteVue();
-    QWindow * const fenetre = maListe->windowHandle();
-    QSignalSpy const fins(maListe.get(), &Liste::SignalEditionTerminay);
-
-    QVERIFY(Glissement::Execute(vue, maListe->Milieu(5),
-                                {[&] { Glissement::Deplace(vue, Bord(1, kDessus)); },
-                                 [&] { QTest::keyPress(fenetre, Qt::Key_Escape); }}));
-    QTest::keyRelease(fenetre, Qt::Key_Escape);
-    Glissement::Lache(vue, Bord(1, kDessus));
-    QCoreApplication::processEvents();
-
-    QCOMPARE(maListe->DonneNbRangee(), 6);
-    QCOMPARE(maListe->Textes().first(), u"a"_s);
-    QCOMPARE(maListe->Choisies(), QList<int>{5});
-    QCOMPARE(fins.count(), 0);
-    QTest::keyClick(fenetre, Qt::Key_Escape); // this one is the list's
-    QCOMPARE(fins.count(), 1);
-}
-
-void tst_WidgetListeEditableDragAndDrop::echappementDansUnEditeur()
-{
-    // A drag that ends away from the list, without a key.
-    maListe->Choisis({0});
-    QVERIFY(Glisse(0, QPoint(30, maListe->PreteVue()->viewport()->height() + 20)));
-    maListe->PriseBoutonAjouter();
-    QTRY_COMPARE(maListe->Editeurs().size(), 1);
-
-    QTest::keyPress(maListe->Editeurs().first(), Qt::Key_Escape);
-    QTRY_VERIFY(maListe->Editeurs().isEmpty());
-    QCOMPARE(maListe->DonneNbRangee(), 6);
-    QTest::keyRelease(maListe->PreteVue(), Qt::Key_Escape);
-
-    QTRY_COMPARE(maListe->DonneNbRangee(), 5);
     QCOMPARE(maListe->Textes().join(QString()), u"abcde"_s);
 }
 
@@ -317,7 +246,7 @@ void tst_WidgetListeEditableDragAndDrop::memesItems()
     maListe->Choisis({5});
 
     QTest::ignoreMessage(QtWarningMsg, QRegularExpression(u"QVariant::save: unable to save"_s));
-    QVERIFY(Glisse(5, Bord(0, kDessus)));
+    QVERIFY(maListe->Glisse(5, maListe->Bord(0, kDessus)));
 
     QCOMPARE(maListe->DonneElement(0, 0), item);
     QCOMPARE(item->type(), QStandardItem::UserType + 7);
@@ -331,14 +260,14 @@ void tst_WidgetListeEditableDragAndDrop::itemQuiNeSeGlissePas()
     maListe->DonneElement(1, 0)->setDragEnabled(false);
     QCoreApplication::processEvents(); // what follows a change of a cell
     maListe->Choisis({0, 1, 2});
-    QVERIFY(Glisse(0, Bord(4, kDessous)));
+    QVERIFY(maListe->Glisse(0, maListe->Bord(4, kDessous)));
     QCOMPARE(maListe->Textes().join(QString()), u"bdeac"_s);
 }
 
 void tst_WidgetListeEditableDragAndDrop::listeInactive()
 {
     maListe->MetsUtilisateurPeutChangerValeur(false);
-    QVERIFY(!Glisse(0, Bord(4, kDessous)));
+    QVERIFY(!maListe->Glisse(0, maListe->Bord(4, kDessous)));
     QCOMPARE(maListe->Textes().join(QString()), u"abcde"_s);
 }
 
@@ -349,7 +278,7 @@ void tst_WidgetListeEditableDragAndDrop::receveurQuiVideLaListe()
         while (maListe->RetireRangee(0, false)) {
         }
     });
-    QVERIFY(Glisse(0, Bord(4, kDessous)));
+    QVERIFY(maListe->Glisse(0, maListe->Bord(4, kDessous)));
     QCOMPARE(maListe->DonneNbRangee(), 0);
 }
 
@@ -357,45 +286,9 @@ void tst_WidgetListeEditableDragAndDrop::receveurQuiDetruitLaListe()
 {
     maListe->Choisis({0, 1});
     connect(maListe.get(), &Liste::SignalElementsModifiay, this, [this] { maListe.reset(); });
-    QVERIFY(Glisse(0, Bord(4, kDessous)));
+    QVERIFY(maListe->Glisse(0, maListe->Bord(4, kDessous)));
     QVERIFY(!maListe);
     QTRY_VERIFY(QApplication::topLevelWidgets().isEmpty());
-}
-
-void tst_WidgetListeEditableDragAndDrop::toucheAlt_data()
-{
-    QTest::addColumn<QList<int>>("choisies");
-    QTest::addColumn<int>("touche");
-    QTest::addColumn<Qt::KeyboardModifiers>("modificateurs");
-    QTest::addColumn<QString>("attendu");
-    Qt::KeyboardModifiers const alt = Qt::AltModifier;
-    QTest::newRow("up") << QList<int>{2} << int(Qt::Key_Up) << alt << u"acbde"_s;
-    QTest::newRow("down") << QList<int>{2} << int(Qt::Key_Down) << alt << u"abdce"_s;
-    QTest::newRow("the keypad") << QList<int>{2} << int(Qt::Key_Down) << (alt | Qt::KeypadModifier)
-                                << u"abdce"_s;
-    QTest::newRow("up from the top") << QList<int>{0} << int(Qt::Key_Up) << alt << u"abcde"_s;
-    QTest::newRow("down from the end") << QList<int>{4} << int(Qt::Key_Down) << alt << u"abcde"_s;
-    QTest::newRow("nothing selected") << QList<int>{} << int(Qt::Key_Down) << alt << u"abcde"_s;
-    QTest::newRow("the first of several")
-        << QList<int>{1, 3} << int(Qt::Key_Down) << alt << u"acbde"_s;
-    QTest::newRow("without Alt") << QList<int>{2} << int(Qt::Key_Down) << Qt::KeyboardModifiers()
-                                 << u"abcde"_s;
-    QTest::newRow("with Shift too")
-        << QList<int>{2} << int(Qt::Key_Down) << (alt | Qt::ShiftModifier) << u"abcde"_s;
-    QTest::newRow("another key") << QList<int>{2} << int(Qt::Key_Right) << alt << u"abcde"_s;
-}
-
-void tst_WidgetListeEditableDragAndDrop::toucheAlt()
-{
-    QFETCH(QList<int>, choisies);
-    QFETCH(int, touche);
-    QFETCH(Qt::KeyboardModifiers, modificateurs);
-    QFETCH(QString, attendu);
-    maListe->Choisis(choisies);
-
-    QTest::keyClick(maListe->PreteVue(), static_cast<Qt::Key>(touche), modificateurs);
-
-    QCOMPARE(maListe->Textes().join(QString()), attendu);
 }
 
 // A host that turns dragging on in a plain list gets copies of its rows, each between two others.

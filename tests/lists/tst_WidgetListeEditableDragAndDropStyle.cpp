@@ -1,5 +1,6 @@
 #include "lists/WidgetListeEditableDragAndDrop.h"
 
+#include "lists/DorvelStyleDropLigneComplete_p.h"
 #include "lists/EssaisVariantes.h"
 #include "lists/Glissement.h"
 #include "lists/StyleEspion.h"
@@ -31,7 +32,10 @@ private Q_SLOTS:
     void styleDeLApplication();
     void autreStyleDeLApplication();
     void feuilleDeStyle();
+    void feuilleDUnWidget_data();
+    void feuilleDUnWidget();
     void finDeLaListe();
+    void finDuStyle();
 
 private:
     QList<StyleEspion::Marque> MarquesAuDessus(int rangee, int colonne, bool milieu = false);
@@ -168,12 +172,53 @@ void tst_WidgetListeEditableDragAndDropStyle::feuilleDeStyle()
     QCOMPARE(LisMesure(vue), StyleEspion::kMesureReconnue);
 }
 
+void tst_WidgetListeEditableDragAndDropStyle::feuilleDUnWidget_data()
+{
+    QTest::addColumn<bool>("surLaVue");
+    QTest::newRow("of the view") << true;
+    QTest::newRow("of the list") << false;
+}
+
+// A sheet of its own neither hides the mark nor outlives its end, whatever the application's style.
+void tst_WidgetListeEditableDragAndDropStyle::feuilleDUnWidget()
+{
+    QFETCH(bool, surLaVue);
+    DTreeView & vue = *maListe->PreteVue();
+    QWidget & widget = surLaVue ? static_cast<QWidget &>(vue) : *maListe;
+
+    widget.setStyleSheet(u"QTreeView { color: #123456 }"_s);
+    QCOMPARE(vue.palette().color(QPalette::Text), QColor(0x12, 0x34, 0x56));
+    monStyle = new StyleEspion;
+    QApplication::setStyle(monStyle);
+    QCOMPARE(vue.palette().color(QPalette::Text), QColor(0x12, 0x34, 0x56));
+    QCOMPARE(LisMesure(vue), StyleEspion::kMesureReconnue);
+    QList<StyleEspion::Marque> const marques = MarquesAuDessus(2, 1);
+    QCOMPARE(marques.size(), 1);
+    QCOMPARE(marques.first().rect.left(), 0);
+
+    widget.setStyleSheet({});
+    QVERIFY(vue.palette().color(QPalette::Text) != QColor(0x12, 0x34, 0x56));
+    QCOMPARE(MarquesAuDessus(2, 1).value(0).rect.left(), 0);
+}
+
 void tst_WidgetListeEditableDragAndDropStyle::finDeLaListe()
 {
     Liste autre;
     maListe.reset();
     QCOMPARE(LisMesure(*autre.PreteVue()), StyleEspion::kMesureReconnue);
     QCOMPARE(QApplication::style(), monStyle);
+}
+
+// As when the application object goes before its last widgets.
+void tst_WidgetListeEditableDragAndDropStyle::finDuStyle()
+{
+    delete DorvelStyleDropLigneComplete::Prete();
+    QCOMPARE(LisMesure(*maListe->PreteVue()), StyleEspion::kMesureReconnue);
+    maListe->PreteVue()->viewport()->repaint();
+    Liste autre;
+    QCOMPARE(autre.PreteVue()->style(), DorvelStyleDropLigneComplete::Prete());
+    maListe.reset();
+    QCOMPARE(LisMesure(*autre.PreteVue()), StyleEspion::kMesureReconnue);
 }
 
 int main(int nombre, char ** arguments)

@@ -274,16 +274,8 @@ QWidget * PageBoutons::CreeCliquables()
 
 QWidget * PageBoutons::CreeTrace()
 {
-    auto * const cadre = new QWidget;
-    auto * const disposition = new QHBoxLayout(cadre);
-    disposition->setContentsMargins({});
-    auto * const etiquette = new QLabel(TraductionGalerie(TexteGalerie("&Signaux")));
     maTrace = new TraceSignaux(TraductionGalerie(TexteGalerie("Signaux")));
-    maTrace->setFixedHeight(kHauteurTrace);
-    etiquette->setBuddy(maTrace);
-    disposition->addWidget(etiquette, 0, Qt::AlignTop);
-    disposition->addWidget(maTrace);
-    return cadre;
+    return EtiquetteTrace(*maTrace, TraductionGalerie(TexteGalerie("&Signaux")), kHauteurTrace);
 }
 
 QMenu * PageBoutons::CreeMenu()

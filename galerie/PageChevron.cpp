@@ -247,16 +247,8 @@ QWidget * PageChevron::CreeJours()
 
 QWidget * PageChevron::CreeTrace()
 {
-    auto * const cadre = new QWidget;
-    auto * const disposition = new QHBoxLayout(cadre);
-    disposition->setContentsMargins({});
-    auto * const etiquette = new QLabel(TraductionGalerie(TexteGalerie("&Signaux")));
     maTrace = new TraceSignaux(TraductionGalerie(TexteGalerie("Signaux")));
-    maTrace->setFixedHeight(kHauteurTrace);
-    etiquette->setBuddy(maTrace);
-    disposition->addWidget(etiquette, 0, Qt::AlignTop);
-    disposition->addWidget(maTrace);
-    return cadre;
+    return EtiquetteTrace(*maTrace, TraductionGalerie(TexteGalerie("&Signaux")), kHauteurTrace);
 }
 
 void PageChevron::Branche()

@@ -21,7 +21,6 @@
 #include <QGroupBox>
 #include <QLabel>
 #include <QMenu>
-#include <QPushButton>
 #include <QStandardItem>
 #include <QToolButton>
 #include <QTreeView>
@@ -153,12 +152,7 @@ QWidget * PageListeModifiable::CreeTrace()
 {
     maTrace = new TraceSignaux(TraductionGalerie(TexteGalerie("Trace")));
     maTrace->setMinimumHeight(kHauteurTrace);
-    auto * const groupe = CreeGroupe(TraductionGalerie(TexteGalerie("Trace")), maTrace);
-    auto * const effacer = new QPushButton(TraductionGalerie(TexteGalerie("&Effacer la trace")));
-    effacer->setObjectName(u"effacer"_s);
-    connect(effacer, &QPushButton::clicked, maTrace, &TraceSignaux::clear, Qt::UniqueConnection);
-    static_cast<QVBoxLayout *>(groupe->layout())->addWidget(effacer, 0, Qt::AlignTrailing);
-    return groupe;
+    return EncadreTrace(*maTrace);
 }
 
 QWidget * PageListeModifiable::CreeTaches()

@@ -167,13 +167,8 @@ QWidget * PageRecherche::CreeMots()
 
 QWidget * PageRecherche::CreeTrace()
 {
-    auto * const groupe = new QGroupBox(TraductionGalerie(TexteGalerie("Trace")));
+    auto * const groupe = EncadreTrace(*maTrace);
     groupe->setFixedWidth(kLargeurMots);
-    monBoutonEffacer = new QPushButton(TraductionGalerie(TexteGalerie("&Effacer la trace")));
-    monBoutonEffacer->setObjectName(u"effacer"_s);
-    auto * const disposition = new QVBoxLayout(groupe);
-    disposition->addWidget(maTrace, 1);
-    disposition->addWidget(monBoutonEffacer, 0, Qt::AlignTrailing);
     return groupe;
 }
 
@@ -212,8 +207,6 @@ void PageRecherche::Branche()
     connect(monBoutonDansUnDialogue, &QPushButton::clicked, this,
             &PageRecherche::PriseDansUnDialogue, Qt::UniqueConnection);
     connect(monBoutonOuvrir, &QPushButton::clicked, this, &PageRecherche::PriseOuvrir,
-            Qt::UniqueConnection);
-    connect(monBoutonEffacer, &QPushButton::clicked, maTrace, &TraceSignaux::clear,
             Qt::UniqueConnection);
     connect(maCaseRiche, &QCheckBox::toggled, this, &PageRecherche::PriseTexteRiche,
             Qt::UniqueConnection);

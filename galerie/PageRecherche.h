@@ -72,7 +72,6 @@ private:
     QPushButton * monBoutonDialogue = nullptr;
     QPushButton * monBoutonDansUnDialogue = nullptr;
     QPushButton * monBoutonOuvrir = nullptr;
-    QPushButton * monBoutonEffacer = nullptr;
     QCheckBox * maCaseRiche = nullptr;
     bool maDemonstrationFaite = false;
 };

@@ -112,7 +112,7 @@ PageTactile::PageTactile(QWidget * parent)
     grille->addWidget(CreeAires(), 0, 0);
     grille->addWidget(CreeImage(), 1, 0);
     grille->addWidget(CreeListe(), 0, 1);
-    grille->addWidget(CreeTrace(), 1, 1);
+    grille->addWidget(EncadreTrace(*maTrace), 1, 1);
     grille->setColumnStretch(0, 1);
     grille->setColumnStretch(1, 1);
     grille->setRowStretch(0, 1);
@@ -195,17 +195,6 @@ QWidget * PageTactile::CreeImage()
     return groupe;
 }
 
-QWidget * PageTactile::CreeTrace()
-{
-    auto * const groupe = new QGroupBox(TraductionGalerie(TexteGalerie("Trace")));
-    auto * const disposition = new QVBoxLayout(groupe);
-    monEffacer = new QPushButton(TraductionGalerie(TexteGalerie("&Effacer la trace")));
-    monEffacer->setObjectName(u"effacer"_s);
-    disposition->addWidget(maTrace, 1);
-    disposition->addWidget(monEffacer, 0, Qt::AlignTrailing);
-    return groupe;
-}
-
 QLayout * PageTactile::CreeBoutons()
 {
     maCible = new QComboBox;
@@ -270,7 +259,6 @@ void PageTactile::Branche()
             Qt::UniqueConnection);
     connect(monRapprocher, &QPushButton::clicked, this, &PageTactile::PriseRapprocher,
             Qt::UniqueConnection);
-    connect(monEffacer, &QPushButton::clicked, maTrace, &TraceSignaux::clear, Qt::UniqueConnection);
     auto const * const zoom = new DZoomTactile(monImage);
     connect(zoom, &DZoomTactile::SignalZoomTactile, this, &PageTactile::PriseZoom,
             Qt::UniqueConnection);

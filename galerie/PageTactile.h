@@ -29,7 +29,6 @@ private:
     QWidget * CreeAires();
     QWidget * CreeListe();
     QWidget * CreeImage();
-    QWidget * CreeTrace();
     QLayout * CreeBoutons();
     void RendsTactile(QAbstractScrollArea & aire, QString const & nom);
     void Branche();
@@ -59,6 +58,5 @@ private:
     QPushButton * monStylet = nullptr;
     QPushButton * monEcarter = nullptr;
     QPushButton * monRapprocher = nullptr;
-    QPushButton * monEffacer = nullptr;
     GestesJoues * mesGestes = nullptr;
 };

@@ -4,6 +4,8 @@
 #include <QPlainTextEdit>
 #include <QVariant>
 
+class QGroupBox;
+
 /// The last signals and events that were heard, one per line, written as a program would.
 class TraceSignaux : public QPlainTextEdit
 {
@@ -28,3 +30,9 @@ private:
     static QString DonneFonction(QObject const & emetteur, QString const & nom);
     void AjouteAppel(QString const & fonction, QVariantList const & arguments);
 };
+
+/// A group box around `trace` that has its name and a button to clear it.
+QGroupBox * EncadreTrace(TraceSignaux & trace);
+
+/// `trace` in a row behind its label, as high as told, in pixels.
+QWidget * EtiquetteTrace(TraceSignaux & trace, QString const & libelle, int hauteur);

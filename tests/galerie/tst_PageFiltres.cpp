@@ -18,6 +18,7 @@ private Q_SLOTS:
     void allerA();
     void motsVisites();
     void motCourantGarday();
+    void flecheVersLaListe();
     void sansFichier_data();
     void sansFichier();
     void detruiteAvantLesMots();
@@ -159,7 +160,7 @@ void tst_PageFiltres::motsVisites()
     Refais();
     auto & autre = *PreteBarreDOrdre().PreteComboDeRecherche();
     QCOMPARE(autre.count(), 3);
-    QCOMPARE(autre.currentText(), QString());
+    QCOMPARE(autre.currentText(), u"abri"_s);
     Montre();
     autre.setCurrentIndex(1);
     QCOMPARE(Prete<DTableView>().currentIndex().data().toString(), u"refaire"_s);
@@ -180,6 +181,36 @@ void tst_PageFiltres::motCourantGarday()
 
     QTest::keyClicks(&PreteChamp(), u"c"_s);
     QVERIFY(!liste.currentIndex().isValid());
+    QTest::keyClick(&PreteChamp(), Qt::Key_Backspace);
+    QCOMPARE(liste.currentIndex().data().toString(), u"refaire"_s);
+    Refais();
+    QCOMPARE(Prete<DTableView>().currentIndex().data().toString(), u"refaire"_s);
+}
+
+void tst_PageFiltres::flecheVersLaListe()
+{
+    Montre();
+    auto & liste = Prete<DTableView>();
+    PreteChamp().setFocus();
+    QTest::keyClicks(&PreteChamp(), u"rex"_s);
+    QTest::keyClick(maPage->focusWidget(), Qt::Key_Down); // nothing there to go to
+    QVERIFY(!liste.hasFocus());
+    QTest::keyClick(&PreteChamp(), Qt::Key_Backspace);
+    QTest::keyClick(maPage->focusWidget(), Qt::Key_Down, Qt::ShiftModifier);
+    QVERIFY(!liste.hasFocus());
+
+    QTest::keyClick(maPage->focusWidget(), Qt::Key_Down);
+    QVERIFY(liste.hasFocus());
+    QCOMPARE(liste.currentIndex().data().toString(), u"reçu"_s);
+    QCOMPARE(PreteChamp().text(), u"re"_s);
+    QTest::keyClick(&liste, Qt::Key_Down);
+    QCOMPARE(liste.currentIndex().data().toString(), u"refaire"_s);
+
+    // Back to the word on which one stood.
+    PreteChamp().setFocus();
+    QTest::keyClick(maPage->focusWidget(), Qt::Key_Down, Qt::KeypadModifier);
+    QVERIFY(liste.hasFocus());
+    QCOMPARE(liste.currentIndex().data().toString(), u"refaire"_s);
 }
 
 void tst_PageFiltres::sansFichier_data()

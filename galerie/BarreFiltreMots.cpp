@@ -41,9 +41,11 @@ QString DonneLibelle(FiltreMots::eMode mode)
     return TraductionGalerie(TexteGalerie("Finit par"));
 }
 
+// Of the texts that ask for the same, one has a pill.
 QString DonneCleDePastille(FiltreMots::Texte const & texte)
 {
-    return QString::number(texte.mode) + u'/' + texte.texte;
+    return QString::number(texte.mode) + u'/' +
+           QString::fromStdString(TableMots::DonneCle(texte.texte));
 }
 
 } // namespace
@@ -151,12 +153,14 @@ FiltreMots::Texte BarreFiltreMots::DonneSaisie() const
 
 void BarreFiltreMots::AjouteEpingle(FiltreMots::Texte const & texte)
 {
-    if (std::find(mesEpingles.cbegin(), mesEpingles.cend(), texte) != mesEpingles.cend())
+    QString const cle = DonneCleDePastille(texte);
+    auto const meme = [&cle](auto const & autre) { return DonneCleDePastille(autre) == cle; };
+    if (std::any_of(mesEpingles.cbegin(), mesEpingles.cend(), meme))
         return;
     mesEpingles.push_back(texte);
     AjouterMotPastille(TraductionGalerie(TexteGalerie("{1} “{2}”"),
                                          {UniChaine(DonneLibelle(texte.mode)), texte.texte}),
-                       DonneCleDePastille(texte), false);
+                       cle, false);
     MontrePastilles();
 }
 

@@ -13,6 +13,8 @@
 #include <QGridLayout>
 #include <QGroupBox>
 #include <QHeaderView>
+#include <QItemSelectionModel>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
@@ -84,6 +86,19 @@ PageFiltres::Memoire & PageFiltres::PreteMemoire()
     return memoire;
 }
 
+bool PageFiltres::eventFilter(QObject * objet, QEvent * evenement)
+{
+    auto const * const touche = dynamic_cast<QKeyEvent const *>(evenement);
+    if (!touche || touche->type() != QEvent::KeyPress || touche->key() != Qt::Key_Down ||
+        (touche->modifiers() & ~Qt::KeypadModifier) || monModele->rowCount() == 0)
+        return QWidget::eventFilter(objet, evenement);
+    // From the field, which has no list of its own to walk through.
+    maListe->setFocus(Qt::TabFocusReason);
+    if (!maListe->currentIndex().isValid())
+        maListe->setCurrentIndex(monModele->index(0, ModeleMots::kMot));
+    return true;
+}
+
 QWidget * PageFiltres::CreeMessage()
 {
     monMessage = new QLabel;
@@ -132,6 +147,7 @@ QWidget * PageFiltres::CreeOrdre()
     QString const invite = TraductionGalerie(TexteGalerie("Aller au mot"));
     champ.addItems(PreteMemoire().visites);
     champ.setCurrentIndex(-1);
+    champ.setEditText(PreteMemoire().allerA);
     champ.lineEdit()->setPlaceholderText(invite);
     champ.setAccessibleName(invite);
     return maBarreDOrdre;
@@ -202,6 +218,9 @@ void PageFiltres::Branche()
     // Later: the pop-up has yet to hear of the choice.
     connect(maBarre, &BarreDeFiltre::SignalValeurChanger, monApercu, &ApercuFenetre::Actualise,
             Qt::ConnectionType(Qt::QueuedConnection | Qt::UniqueConnection));
+    maBarre->PreteComboDeRecherche()->installEventFilter(this);
+    connect(maListe->selectionModel(), &QItemSelectionModel::currentChanged, this,
+            &PageFiltres::PriseMotCourant, Qt::UniqueConnection);
     connect(maBarreDOrdre->PreteComboDeRecherche(), &QComboBox::editTextChanged, this,
             &PageFiltres::PriseAllerA, Qt::UniqueConnection);
     connect(maBarreDOrdre->PreteComboDeRecherche()->lineEdit(), &QLineEdit::returnPressed, this,
@@ -246,15 +265,13 @@ void PageFiltres::Filtre()
     memoire.etat = maBarre->DonneEtat();
     if (!monFiltre)
         return;
-    int const ligne = maListe->currentIndex().row();
-    int const courant = ligne < 0 ? -1 : monModele->DonneIndices()[static_cast<std::size_t>(ligne)];
     monModele->Montre(maTable,
                       monFiltre->Trie(monFiltre->Filtre(maBarre->DonneCriteres()), memoire.tri));
     auto const & indices = monModele->DonneIndices();
     maBarre->MetsTexteCardinalitay(TraductionPlurielGalerie(
         TextePlurielGalerie("{1} mot", "{1} mots"), static_cast<int>(indices.size())));
-    // A reset takes the current word away; it comes back with its place.
-    auto const trouvay = std::find(indices.cbegin(), indices.cend(), courant);
+    // A reset takes the current word away, without a signal; it comes back with its place.
+    auto const trouvay = std::find(indices.cbegin(), indices.cend(), memoire.motCourant);
     if (trouvay != indices.cend())
         maListe->setCurrentIndex(
             monModele->index(static_cast<int>(trouvay - indices.cbegin()), ModeleMots::kMot));
@@ -297,6 +314,7 @@ void PageFiltres::PriseColonnes()
 
 void PageFiltres::PriseAllerA(QString const & debut)
 {
+    PreteMemoire().allerA = debut;
     int const place = monFiltre ? monFiltre->ChercheDebut(monModele->DonneIndices(), debut) : -1;
     if (place < 0)
         return;
@@ -321,4 +339,11 @@ void PageFiltres::PriseMotVisitay()
     champ.clear();
     champ.addItems(visites);
     champ.setCurrentIndex(0);
+}
+
+void PageFiltres::PriseMotCourant(QModelIndex const & courant)
+{
+    auto const & indices = monModele->DonneIndices();
+    PreteMemoire().motCourant =
+        courant.isValid() ? indices[static_cast<std::size_t>(courant.row())] : -1;
 }

@@ -43,11 +43,15 @@ public:
         bool avecLettres = true;
         bool avecAccents = true;
         QStringList visites; ///< words that one has gone to, the last one first
+        QString allerA;      ///< in the field for going to one
+        int motCourant = -1; ///< in `mots`, also while it is filtered away; -1 for none
     };
 
     explicit PageFiltres(QWidget * parent = nullptr);
 
     static Memoire & PreteMemoire();
+
+    bool eventFilter(QObject * objet, QEvent * evenement) override;
 
 private:
     QWidget * CreeMessage();
@@ -71,6 +75,7 @@ private:
     void PriseColonnes();
     void PriseAllerA(QString const & debut);
     void PriseMotVisitay();
+    void PriseMotCourant(QModelIndex const & courant);
 
     QLabel * monMessage = nullptr;
     BarreFiltreMots * maBarre = nullptr;

@@ -146,8 +146,8 @@ void tst_BarreFiltreMots::texteEpinglay()
 void tst_BarreFiltreMots::texteEpinglayDeuxFois()
 {
     Montre();
-    for (int i = 0; i < 2; ++i) {
-        QTest::keyClicks(&PreteChamp(), u"re"_s);
+    for (QString const & texte : {u"re"_s, u"re"_s, u"R-E"_s}) {
+        QTest::keyClicks(&PreteChamp(), texte);
         QTest::keyClick(&PreteChamp(), Qt::Key_Return);
     }
 

@@ -15,9 +15,8 @@ private Q_SLOTS:
     void ordre_data();
     void ordre();
     void colonnes();
-    void allerA();
-    void motsVisites();
     void motCourantGarday();
+    void flecheVersLaListe();
     void sansFichier_data();
     void sansFichier();
     void detruiteAvantLesMots();
@@ -96,8 +95,15 @@ void tst_PageFiltres::ordre()
     QFETCH(QString, texte);
     Montre();
     QTest::keyClicks(&PreteChamp(), u"r"_s);
+    auto const icone = [this] {
+        auto * const bouton =
+            PreteBarreDOrdre().findChild<QToolButton *>(QString(), Qt::FindDirectChildrenOnly);
+        return bouton->icon().pixmap(bouton->iconSize()).toImage();
+    };
+    QImage const inactive = icone();
 
     Prete<QAction>(ordre).trigger();
+    QCOMPARE(icone() == inactive, ordre == u"ordreDeLaListe"_s);
 
     QCOMPARE(DonneMots(), mots);
     QCOMPARE(DonneCardinalitay(PreteBarreDOrdre()), texte);
@@ -126,45 +132,6 @@ void tst_PageFiltres::colonnes()
     QVERIFY(!Prete<DTableView>().isColumnHidden(ModeleMots::kLettres));
 }
 
-void tst_PageFiltres::allerA()
-{
-    Montre();
-    auto & champ = *PreteBarreDOrdre().PreteComboDeRecherche();
-    QCOMPARE(champ.DonneNombreDeModes(), 0);
-    QTest::keyClicks(champ.lineEdit(), u"REF"_s);
-
-    QCOMPARE(Prete<DTableView>().currentIndex().data().toString(), u"refaire"_s);
-    QCOMPARE(DonneCardinalitay(PreteBarre()), u"13 mots"_s); // nothing is filtered
-    QTest::keyClicks(champ.lineEdit(), u"xyz"_s);
-    QCOMPARE(Prete<DTableView>().currentIndex().data().toString(), u"refaire"_s);
-}
-
-// Those that one has gone to stand in the list of the field, the last one first.
-void tst_PageFiltres::motsVisites()
-{
-    Montre();
-    for (QString const & mot : {u"reteNUE"_s, u"abr"_s, u"xyz"_s, u"refai"_s, u"abr"_s}) {
-        auto & champ = *PreteBarreDOrdre().PreteComboDeRecherche();
-        champ.lineEdit()->clear();
-        QTest::keyClicks(champ.lineEdit(), mot);
-        QTest::keyClick(champ.lineEdit(), Qt::Key_Return);
-    }
-    auto const & champ = *PreteBarreDOrdre().PreteComboDeRecherche();
-    QStringList const visites = {u"abri"_s, u"refaire"_s, u"retenue"_s};
-    for (int i = 0; i < 3; ++i)
-        QCOMPARE(champ.itemText(i), visites.at(i));
-    QCOMPARE(champ.count(), 3);
-    QCOMPARE(champ.currentText(), u"abri"_s);
-
-    Refais();
-    auto & autre = *PreteBarreDOrdre().PreteComboDeRecherche();
-    QCOMPARE(autre.count(), 3);
-    QCOMPARE(autre.currentText(), QString());
-    Montre();
-    autre.setCurrentIndex(1);
-    QCOMPARE(Prete<DTableView>().currentIndex().data().toString(), u"refaire"_s);
-}
-
 void tst_PageFiltres::motCourantGarday()
 {
     Montre();
@@ -180,6 +147,36 @@ void tst_PageFiltres::motCourantGarday()
 
     QTest::keyClicks(&PreteChamp(), u"c"_s);
     QVERIFY(!liste.currentIndex().isValid());
+    QTest::keyClick(&PreteChamp(), Qt::Key_Backspace);
+    QCOMPARE(liste.currentIndex().data().toString(), u"refaire"_s);
+    Refais();
+    QCOMPARE(Prete<DTableView>().currentIndex().data().toString(), u"refaire"_s);
+}
+
+void tst_PageFiltres::flecheVersLaListe()
+{
+    Montre();
+    auto & liste = Prete<DTableView>();
+    PreteChamp().setFocus();
+    QTest::keyClicks(&PreteChamp(), u"rex"_s);
+    QTest::keyClick(maPage->focusWidget(), Qt::Key_Down); // nothing there to go to
+    QVERIFY(!liste.hasFocus());
+    QTest::keyClick(&PreteChamp(), Qt::Key_Backspace);
+    QTest::keyClick(maPage->focusWidget(), Qt::Key_Down, Qt::ShiftModifier);
+    QVERIFY(!liste.hasFocus());
+
+    QTest::keyClick(maPage->focusWidget(), Qt::Key_Down);
+    QVERIFY(liste.hasFocus());
+    QCOMPARE(liste.currentIndex().data().toString(), u"reçu"_s);
+    QCOMPARE(PreteChamp().text(), u"re"_s);
+    QTest::keyClick(&liste, Qt::Key_Down);
+    QCOMPARE(liste.currentIndex().data().toString(), u"refaire"_s);
+
+    // Back to the word on which one stood.
+    PreteChamp().setFocus();
+    QTest::keyClick(maPage->focusWidget(), Qt::Key_Down, Qt::KeypadModifier);
+    QVERIFY(liste.hasFocus());
+    QCOMPARE(liste.currentIndex().data().toString(), u"refaire"_s);
 }
 
 void tst_PageFiltres::sansFichier_data()

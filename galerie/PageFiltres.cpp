@@ -18,7 +18,6 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
-#include <QPushButton>
 #include <QVBoxLayout>
 
 #include <algorithm>
@@ -200,14 +199,9 @@ QWidget * PageFiltres::CreeApercu()
 
 QWidget * PageFiltres::CreeTrace()
 {
-    auto * const groupe = new QGroupBox(TraductionGalerie(TexteGalerie("Trace")));
+    maTrace = new TraceSignaux(TraductionGalerie(TexteGalerie("Trace")));
+    auto * const groupe = EncadreTrace(*maTrace);
     groupe->setFixedWidth(kLargeurCote);
-    maTrace = new TraceSignaux(groupe->title());
-    monBoutonEffacer = new QPushButton(TraductionGalerie(TexteGalerie("&Effacer la trace")));
-    monBoutonEffacer->setObjectName(u"effacer"_s);
-    auto * const disposition = new QVBoxLayout(groupe);
-    disposition->addWidget(maTrace, 1);
-    disposition->addWidget(monBoutonEffacer, 0, Qt::AlignTrailing);
     return groupe;
 }
 
@@ -225,8 +219,6 @@ void PageFiltres::Branche()
             &PageFiltres::PriseAllerA, Qt::UniqueConnection);
     connect(maBarreDOrdre->PreteComboDeRecherche()->lineEdit(), &QLineEdit::returnPressed, this,
             &PageFiltres::PriseMotVisitay, Qt::UniqueConnection);
-    connect(monBoutonEffacer, &QPushButton::clicked, maTrace, &TraceSignaux::clear,
-            Qt::UniqueConnection);
     BrancheTrace();
 }
 

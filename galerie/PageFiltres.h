@@ -18,7 +18,6 @@ class QAction;
 class QLabel;
 class QLayout;
 class QMenu;
-class QPushButton;
 class TraceSignaux;
 
 /// Filter bars over the French words: one with a pop-up and pills, one with a menu.
@@ -84,7 +83,6 @@ private:
     ModeleMots * monModele = nullptr;
     ApercuFenetre * monApercu = nullptr;
     TraceSignaux * maTrace = nullptr;
-    QPushButton * monBoutonEffacer = nullptr;
     QAction * maColonneLettres = nullptr;
     QAction * maColonneAccents = nullptr;
     ChargementMots * monChargement = nullptr;

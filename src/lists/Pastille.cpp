@@ -78,6 +78,7 @@ Pastille::Pastille(QString const & titre, QVariant const & donnees, QWidget * pa
     setFocusPolicy(Qt::TabFocus);
     setAccessibleName(titre);
     monDelai.setSingleShot(true);
+    monDelai.setTimerType(Qt::PreciseTimer); // a coarse one may be a quarter of a second late
     monDelai.setInterval(kDelaiPression);
     connect(&monDelai, &QTimer::timeout, this, &Pastille::PrisePressionTropLongue,
             Qt::UniqueConnection);

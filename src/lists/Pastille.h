@@ -13,9 +13,9 @@
 /// A criterion as a small tag, with a cross that asks for its removal.
 ///
 /// The pill only asks, with `PastilleASupprimer`: whoever knows the criterion takes the pill away
-/// with `Supprime`. A press on the cross that is held for more than 5 seconds asks for nothing. Tab
-/// leads to the pill, a click does not; Delete, Backspace, Return, Enter and Space ask for the
-/// removal.
+/// with `Supprime`. Only the left button works the cross, and a press that is held for more than 5
+/// seconds asks for nothing. Tab leads to the pill, a click does not; Delete, Backspace, Return,
+/// Enter and Space ask for the removal.
 ///
 /// The application supplies the two images of the cross, ":/Images/boutonSupprimerPastille.svg" and
 /// ":/Images/boutonSupprimerPastilleHover.svg" for the mouse over it. Without them it is not seen,

@@ -186,6 +186,7 @@ void tst_PastilleSouris::delaiDeLaPression()
     QVERIFY(delai->isActive());
     QVERIFY(delai->isSingleShot());
     QCOMPARE(delai->interval(), 5000);
+    QCOMPARE(delai->timerType(), Qt::PreciseTimer);
     QTest::mouseRelease(hote.pastille, Qt::LeftButton, {}, Hote::Corps());
 }
 

@@ -1,3 +1,4 @@
+// galerie/MemoireListes.cpp
 #include "MemoireListes.h"
 
 #include "lists/WidgetListeEditableCochable.h"

@@ -1,3 +1,4 @@
+// galerie/MemoireListes.h
 #pragma once
 
 #include "lists/WidgetListeEditable.h"

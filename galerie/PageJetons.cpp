@@ -158,11 +158,7 @@ QWidget * PageJetons::CreePolice()
 QWidget * PageJetons::CreeTrace()
 {
     maTrace = new TraceSignaux(TraductionGalerie(TexteGalerie("Signaux")));
-    maTrace->setFixedHeight(kHauteurTrace);
-    auto * const groupe = new QGroupBox(TraductionGalerie(TexteGalerie("Signaux")));
-    auto * const disposition = new QVBoxLayout(groupe);
-    disposition->addWidget(maTrace);
-    return groupe;
+    return EtiquetteTrace(*maTrace, TraductionGalerie(TexteGalerie("&Signaux")), kHauteurTrace);
 }
 
 void PageJetons::Branche()

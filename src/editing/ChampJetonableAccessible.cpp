@@ -109,8 +109,15 @@ QRect ChampJetonableAccessible::characterRect(int position) const
     if (lettre.isEmpty())
         return {};
     DLineEditJetonable const & champ = PreteChamp();
-    QFontMetrics const mesures(champ.font());
     QString const texte = DonneTexteLu();
+    if (champ.UnJetonEstActif()) {
+        QFontMetrics const mesures(champ.DonnePoliceJeton());
+        QRect const bloc = champ.DonneBlocJeton();
+        QPoint const coin(bloc.left() + mesures.horizontalAdvance(texte.left(position)),
+                          bloc.top());
+        return {champ.mapToGlobal(coin), QSize(mesures.horizontalAdvance(lettre), bloc.height())};
+    }
+    QFontMetrics const mesures(champ.font());
     // The caret is in the middle of this, with room on both sides.
     QRect const curseur = champ.inputMethodQuery(Qt::ImCursorRectangle).toRect();
     int const avance = mesures.horizontalAdvance(texte.left(position)) -

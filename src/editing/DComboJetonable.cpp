@@ -5,6 +5,7 @@
 #include "foundation/TexteRiche.h"
 #include "style/DStyleProxy.h"
 
+#include <QAbstractItemView>
 #include <QMouseEvent>
 #include <QStyleOptionComboBox>
 #include <QStylePainter>
@@ -70,6 +71,9 @@ void DComboJetonable::Branche()
             &DComboJetonable::SignalJetonChangay, Qt::UniqueConnection);
     connect(monChamp, &DLineEditJetonable::SignalRelachementGauche, this,
             &DComboJetonable::SignalShowPopup, Qt::UniqueConnection);
+    // Later: the view has the size before the combo box.
+    connect(view(), &QAbstractItemView::iconSizeChanged, this, &DComboJetonable::PriseTailleIcone,
+            Qt::ConnectionType(Qt::QueuedConnection | Qt::UniqueConnection));
     installEventFilter(this);
     monChamp->installEventFilter(this);
 }
@@ -254,6 +258,13 @@ void DComboJetonable::resizeEvent(QResizeEvent * evenement)
     DComboBox::resizeEvent(evenement);
     if (monChamp)
         DegageIcone();
+}
+
+// The base lays the field out only when its own size changes.
+void DComboJetonable::PriseTailleIcone()
+{
+    QResizeEvent evenement(size(), size());
+    resizeEvent(&evenement);
 }
 
 void DComboJetonable::MetsPositionSouris(QPoint const & position)

@@ -54,7 +54,8 @@ public:
     /// Of the token only. Until this call, and for what `police` leaves open, the field's own.
     void PrendsPoliceJeton(QFont police);
 
-    /// Replace one icon each; a path that leads to no icon leaves nothing to draw.
+    /// Replace one icon each. A path that leads to no icon leaves nothing to draw, or for a hover
+    /// icon the one that it belongs to.
     void PrendsCheminIconeNormale(UniChaine chemin);
     void PrendsCheminIconeNormaleHover(UniChaine chemin);
     void PrendsCheminIconeSupprime(UniChaine chemin);
@@ -107,6 +108,9 @@ protected:
     void leaveEvent(QEvent * evenement) override;
     void paintEvent(QPaintEvent * evenement) override;
     void resizeEvent(QResizeEvent * evenement) override;
+
+private Q_SLOTS:
+    void PriseTailleIcone();
 
 private:
     friend class ComboJetonableAccessible;

@@ -109,6 +109,16 @@ bool DLineEditJetonable::UnJetonEstActif() const
     return monJetonActif;
 }
 
+QFont DLineEditJetonable::DonnePoliceJeton() const
+{
+    return maPoliceJeton.resolve(font());
+}
+
+QRect DLineEditJetonable::DonneBlocJeton() const
+{
+    return DonneBloc(QFontMetrics(DonnePoliceJeton()), DonneTexteAbregay(), DonneZoneTexte());
+}
+
 QString DLineEditJetonable::DonneTexteJeton() const
 {
     return monJetonActif ? monTexteJeton : QString();
@@ -238,13 +248,17 @@ QRect DLineEditJetonable::DonneZoneTexte() const
     return {contenu.left() + kMargeTexte, 0, contenu.width() - 2 * kMargeTexte, height()};
 }
 
+QString DLineEditJetonable::DonneTexteAbregay() const
+{
+    QFontMetrics const mesures(DonnePoliceJeton());
+    return mesures.elidedText(monTexteJeton, Qt::ElideRight, DonneZoneTexte().width());
+}
+
 void DLineEditJetonable::DessineJeton(QPainter & peintre) const
 {
-    QFont police = maPoliceJeton.resolve(font());
-    QFontMetrics const mesures(police);
-    QRect const zone = DonneZoneTexte();
-    QString const texte = mesures.elidedText(monTexteJeton, Qt::ElideRight, zone.width());
-    QRect const bloc = DonneBloc(mesures, texte, zone);
+    QFont police = DonnePoliceJeton();
+    QString const texte = DonneTexteAbregay();
+    QRect const bloc = DonneBlocJeton();
     bool const focus = hasFocus();
     peintre.fillRect(bloc, focus ? palette().highlight() : QApplication::palette().base());
 

@@ -26,6 +26,10 @@ public:
     /// What `police` leaves open comes from the font of the field.
     void PrendsPoliceJeton(QFont const & police);
     bool UnJetonEstActif() const;
+    /// With what it leaves open from the font of the field.
+    QFont DonnePoliceJeton() const;
+    /// Where the token is painted while one is on.
+    QRect DonneBlocJeton() const;
     /// Empty while no token is on.
     QString DonneTexteJeton() const;
 
@@ -53,6 +57,7 @@ private:
     void MetsInfobulle(QString const & infobulle);
     void MetsPositionSouris(QPoint const & position);
     QRect DonneZoneTexte() const;
+    QString DonneTexteAbregay() const;
     void DessineJeton(QPainter & peintre) const;
 
     bool monJetonActif = false;

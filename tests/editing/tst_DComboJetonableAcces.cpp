@@ -25,6 +25,7 @@ private Q_SLOTS:
     void nom();
     void valeur();
     void texteDuJeton();
+    void lettresDuJetonEnGrand();
     void texteLibre();
     void description();
     void motDePasse();
@@ -118,6 +119,20 @@ void tst_DComboJetonableAcces::texteDuJeton()
     QVERIFY(!texte->characterRect(0).isEmpty());
     QVERIFY(texte->characterRect(4).left() > texte->characterRect(3).left());
     QVERIFY(texte->characterRect(10).isEmpty());
+}
+
+void tst_DComboJetonableAcces::lettresDuJetonEnGrand()
+{
+    QFont police = monCombo->font();
+    police.setPixelSize(30);
+    monCombo->PrendsPoliceJeton(police);
+    monCombo->PrendsTexteJeton(u"mmmm"_s, {});
+    QAccessibleTextInterface * const texte = InterfaceDuChamp().textInterface();
+    QFontMetrics const mesures(police);
+    QCOMPARE(texte->characterRect(3).left() - texte->characterRect(0).left(),
+             mesures.horizontalAdvance(u"mmm"_s));
+    QCOMPARE(texte->characterRect(0).width(), mesures.horizontalAdvance(u'm'));
+    QVERIFY(texte->characterRect(0).height() >= mesures.ascent());
 }
 
 void tst_DComboJetonableAcces::texteLibre()

@@ -312,6 +312,12 @@ void tst_DComboJetonableSouris::champSousLIconeApresUnChangement()
             QVERIFY2(!cachee(), qPrintable(u"icon of %1"_s.arg(icone)));
         }
     }
+    // A bigger icon alone changes no size, and a smaller one gives the field its room back.
+    int const avant = combo->lineEdit()->width();
+    combo->setIconSize(QSize(60, 10));
+    QTRY_VERIFY(!cachee());
+    combo->setIconSize(QSize(39, 10));
+    QTRY_COMPARE(combo->lineEdit()->width(), avant);
     // With more room for the field than before.
     combo->setStyle(nullptr);
     combo->setStyle(autre.get());

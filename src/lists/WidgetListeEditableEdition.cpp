@@ -118,7 +118,7 @@ void WidgetListeEditable::PriseElementModifiay(QModelIndex debut, QModelIndex fi
 void WidgetListeEditable::PriseEditionTerminay(QModelIndex const & element,
                                                QString const & ancienTexte)
 {
-    mesFinsAttendues.append(std::make_shared<FinAttendue>(element, ancienTexte));
+    mesFinsAttendues.append(std::make_shared<FinAttendue>(FinAttendue{element, ancienTexte}));
     QMetaObject::invokeMethod(this, &WidgetListeEditable::PriseFinAttendue, Qt::QueuedConnection);
 }
 

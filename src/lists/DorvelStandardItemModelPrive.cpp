@@ -1,6 +1,20 @@
 // lists/DorvelStandardItemModelPrive.cpp
 #include "lists/DorvelStandardItemModelPrive_p.h"
 
+void DorvelStandardItemModelPrive::MetsCellulesVidesModifiables(bool modifiables)
+{
+    monVideModifiable = modifiables;
+}
+
+Qt::ItemFlags DorvelStandardItemModelPrive::flags(QModelIndex const & index) const
+{
+    Qt::ItemFlags const drapeaux = QStandardItemModel::flags(index);
+    // By its place: asked by its index, the model would make the item.
+    bool const fige = !monVideModifiable && index.isValid() && !index.parent().isValid() &&
+                      item(index.row(), index.column()) == nullptr;
+    return fige ? drapeaux & ~Qt::ItemFlags(Qt::ItemIsEditable) : drapeaux;
+}
+
 bool DorvelStandardItemModelPrive::setData(QModelIndex const & index, QVariant const & valeur,
                                            int role)
 {

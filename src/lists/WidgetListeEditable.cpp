@@ -67,6 +67,7 @@ void WidgetListeEditable::CreeVue(int nbColonnes)
     setFocusProxy(maVue);
     monModele = new DorvelStandardItemModelPrive(maVue);
     monModele->setColumnCount(nbColonnes);
+    monModele->MetsCellulesVidesModifiables(monEditable);
     maVue->setModel(monModele);
     maVue->setSelectionBehavior(QAbstractItemView::SelectRows);
     maVue->setRootIsDecorated(false);

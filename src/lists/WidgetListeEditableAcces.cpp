@@ -92,6 +92,8 @@ std::list<int> WidgetListeEditable::DonneRangeesSelectionnay() const
     std::list<int> rangees;
     std::vector<char> vues(static_cast<std::size_t>(DonneNbRangee()), 0);
     for (QItemSelectionRange const & plage : maVue->selectionModel()->selection()) {
+        if (plage.parent().isValid()) // what a host has put under a cell is no row of the list
+            continue;
         for (int rangee = plage.top(); rangee <= plage.bottom(); ++rangee) {
             char & vue = vues[static_cast<std::size_t>(rangee)];
             if (vue == 0 && EstSelectionnable(*monModele, plage, rangee)) {

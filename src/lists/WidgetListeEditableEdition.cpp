@@ -40,7 +40,8 @@ bool WidgetListeEditable::TraiteTouche(int touche)
 {
     Emission const emission(*this);
     if (touche == Qt::Key_Delete || touche == Qt::Key_Backspace) {
-        if (!monBoutonRetirer->isEnabled() || (monEditeur && monEditeur->isVisible()))
+        if (!monBoutonRetirer->isEnabled() || (monEditeur && monEditeur->isVisible()) ||
+            UnEditeurALeFocus())
             return false;
         Q_EMIT SignalSuppression();
         return true;
@@ -56,7 +57,8 @@ bool WidgetListeEditable::TraiteTouche(int touche)
 
 void WidgetListeEditable::InitialiseEditeur()
 {
-    // That of the window: an editor may well open in one that is not active.
+    // That of the window: an editor may well open in one that is not active. A field of the host's
+    // is no editor, and keeps its placeholder and its width.
     auto * const editeur = qobject_cast<QLineEdit *>(window()->focusWidget());
     if (editeur == nullptr || !maVue->isAncestorOf(editeur))
         return;
@@ -99,6 +101,8 @@ void WidgetListeEditable::OuvreEditeur(QModelIndex const & index)
         return;
     maCelluleEditee = cellule;
     maVue->edit(cellule);
+    if (moi)
+        InitialiseEditeur(); // where the focus was, nobody may have been told that it left
 }
 
 void WidgetListeEditable::PriseElementModifiay()

@@ -23,6 +23,8 @@ private Q_SLOTS:
     void celluleVidee();
     void memeTexte();
     void nonEditable();
+    void nonEditableSansItem();
+    void suiteDepuisUnChampDeLHote();
     void modificationParLeCode();
     void plageModifiee();
     void echapSansEdition();
@@ -183,6 +185,36 @@ void tst_WidgetListeEditableEdition::nonEditable()
     QCOMPARE(journal.Prends(), QStringList{u"ajout"_s});
     liste.DoubleCliqueCellule(0);
     QCOMPARE(liste.NombreEditeurs(), 0);
+}
+
+// Rows of the add button have one cell filled; the others have no item that could refuse.
+void tst_WidgetListeEditableEdition::nonEditableSansItem()
+{
+    ListeEssai liste(2, false);
+    QVERIFY(liste.Montre());
+    liste.Clique(liste.DonneBoutonAjouter());
+    QVERIFY(liste.DonneElement(0, 1) == nullptr);
+    liste.DoubleCliqueCellule(0, 1);
+    QCOMPARE(liste.NombreEditeurs(), 0);
+}
+
+// The edit goes on to the next cell while a field of the host's has the focus.
+void tst_WidgetListeEditableEdition::suiteDepuisUnChampDeLHote()
+{
+    QWidget fenetre;
+    auto * const champ = new QLineEdit(&fenetre);
+    auto * const liste = new ListeEssai(2, true, true, {}, false, &fenetre);
+    liste->invites = {u"premier"_s, u"second"_s};
+    liste->Remplis({u"a"_s});
+    fenetre.show();
+    QVERIFY(QTest::qWaitForWindowActive(&fenetre));
+    champ->setFocus();
+    liste->MetsElement(liste->Index(0), u"b"_s);
+    QTRY_VERIFY(liste->PreteEditeur() != nullptr);
+    QCOMPARE(liste->PreteEditeur()->placeholderText(), u"premier"_s);
+    JournalSignaux journal(*liste);
+    QTest::keyClick(liste->PreteEditeur(), 'x');
+    QCOMPARE(journal.Prends(), QStringList{u"edition x"_s});
 }
 
 // A change by the host ends an edit as the user's does.

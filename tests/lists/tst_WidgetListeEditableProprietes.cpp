@@ -20,6 +20,7 @@ private Q_SLOTS:
     void defilement_data();
     void defilement();
     void rangeesSelectionnay();
+    void rangeesSousUneCellule();
     void selection();
     void signalSelection();
     void etatBoutonRetirer();
@@ -73,6 +74,18 @@ void tst_WidgetListeEditableProprietes::rangeesSelectionnay()
     QCOMPARE(liste.DonneElementsSelectionnays().first(), liste.Index(2));
     liste.VideSelection();
     QVERIFY(liste.DonneElementsSelectionnays().isEmpty());
+}
+
+// What a host has put under a cell can be selected, but is no row of the list.
+void tst_WidgetListeEditableProprietes::rangeesSousUneCellule()
+{
+    ListeEssai liste;
+    liste.Remplis({u"a"_s, u"b"_s});
+    for (int i = 0; i < 1000; ++i)
+        liste.DonneElement(0, 0)->appendRow(new QStandardItem(u"sous a"_s));
+    liste.PreteVue()->expandAll();
+    liste.PreteVue()->selectAll();
+    QCOMPARE(liste.RangeesSelectionnay(), (QList<int>{0, 1}));
 }
 
 void tst_WidgetListeEditableProprietes::selection()

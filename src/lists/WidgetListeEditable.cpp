@@ -27,6 +27,7 @@ constexpr Qt::Alignment kAlignementEntete = Qt::AlignLeft | Qt::AlignVCenter;
 
 } // namespace
 
+// NOLINTBEGIN(performance-unnecessary-value-param): by value is the interface
 WidgetListeEditable::WidgetListeEditable(QWidget * parent, int nbColonnes, bool editable,
                                          bool avecBoutonAjouter, QList<QValidator *> validateurs,
                                          bool insereApresSelection)
@@ -37,6 +38,7 @@ WidgetListeEditable::WidgetListeEditable(QWidget * parent, int nbColonnes, bool 
 {
     Initialise(nbColonnes, avecBoutonAjouter);
 }
+// NOLINTEND(performance-unnecessary-value-param)
 
 WidgetListeEditable::~WidgetListeEditable()
 {

@@ -149,6 +149,7 @@ bool WidgetListeEditable::MetsElement(QModelIndex const & index, QVariant const 
     return index.model() == monModele && monModele->setData(index, valeur, Qt::EditRole);
 }
 
+// NOLINTNEXTLINE(performance-unnecessary-value-param): by value is the interface
 void WidgetListeEditable::MetsEntete(QHeaderView * entete, sdd::ListeT<UniChaine> libelles,
                                      sdd::ListeT<QHeaderView::ResizeMode> const & modes, bool trier)
 {

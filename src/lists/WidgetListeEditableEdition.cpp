@@ -133,6 +133,7 @@ void WidgetListeEditable::PriseFinAttendue()
         PriseElementModifiay(fin->cellule, fin->ancienTexte);
 }
 
+// NOLINTNEXTLINE(performance-unnecessary-value-param): by value is the interface
 void WidgetListeEditable::PriseElementModifiay(QModelIndex element, QString ancienTexte)
 {
     if (element.model() != monModele)

@@ -15,7 +15,10 @@ DorvelTreeViewPrive::DorvelTreeViewPrive(QWidget * parent)
 void DorvelTreeViewPrive::FermeEditeurs(int rangee, bool valider)
 {
     QPointer<DorvelTreeViewPrive> const moi = this;
-    for (QPointer<QWidget> const editeur : DonneEditeurs(rangee)) {
+    QList<QWidget *> const ouverts = DonneEditeurs(rangee);
+    // Guarded before the first of them closes, which another may not survive.
+    QList<QPointer<QWidget>> const editeurs(ouverts.cbegin(), ouverts.cend());
+    for (QPointer<QWidget> const & editeur : editeurs) {
         if (moi && editeur && valider)
             commitData(editeur);
         // Who hears of the edit may have removed the row, and its editors with it.

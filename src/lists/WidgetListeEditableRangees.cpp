@@ -106,7 +106,6 @@ void WidgetListeEditable::PriseBoutonAjouter()
         OuvreEditeur(index);
     if (!moi)
         return;
-    InitialiseEditeur();
     Emission const emission(*this);
     Q_EMIT SignalAjout();
 }

@@ -23,6 +23,18 @@ private Q_SLOTS:
     void celluleNonModifiable();
 };
 
+namespace {
+
+// Adds a row and fills its first cell; the edit then goes on to the second.
+void AjouteJusquALaSeconde(ListeEssai & liste)
+{
+    liste.Clique(liste.DonneBoutonAjouter());
+    liste.Tape(u"a"_s);
+    liste.Touche(Qt::Key_Return);
+}
+
+} // namespace
+
 void tst_WidgetListeEditableCellules::cleanup()
 {
     QVERIFY(ToutEstParti());
@@ -33,9 +45,7 @@ void tst_WidgetListeEditableCellules::ajoutPendantLaSecondeCellule()
 {
     ListeEssai liste(2);
     QVERIFY(liste.Montre());
-    liste.Clique(liste.DonneBoutonAjouter());
-    liste.Tape(u"a"_s);
-    liste.Touche(Qt::Key_Return);
+    AjouteJusquALaSeconde(liste);
     QTRY_COMPARE(liste.CelluleEditee(), liste.Index(0, 1));
     liste.Tape(u"b"_s);
     liste.Clique(liste.DonneBoutonAjouter());
@@ -112,9 +122,7 @@ void tst_WidgetListeEditableCellules::echapDansLaSecondeCellule()
 {
     ListeEssai liste(2);
     QVERIFY(liste.Montre());
-    liste.Clique(liste.DonneBoutonAjouter());
-    liste.Tape(u"a"_s);
-    liste.Touche(Qt::Key_Return);
+    AjouteJusquALaSeconde(liste);
     QTRY_COMPARE(liste.CelluleEditee(), liste.Index(0, 1));
     QLineEdit const * const editeur = liste.Editeur();
     JournalSignaux journal(liste);
@@ -132,9 +140,7 @@ void tst_WidgetListeEditableCellules::secondeCelluleVide()
 {
     ListeEssai liste(2);
     QVERIFY(liste.Montre());
-    liste.Clique(liste.DonneBoutonAjouter());
-    liste.Tape(u"a"_s);
-    liste.Touche(Qt::Key_Return);
+    AjouteJusquALaSeconde(liste);
     QTRY_COMPARE(liste.CelluleEditee(), liste.Index(0, 1));
     liste.Touche(Qt::Key_Return);
     QTRY_COMPARE(liste.DonneNbRangee(), 0);

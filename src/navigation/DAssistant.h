@@ -96,6 +96,7 @@ private:
     void CreeBoutons();
     void PoseElements();
     void MetsCouleurs();
+    void AccordeTexte();
     void Branche();
 
     int RangeeCourante() const;
@@ -118,6 +119,7 @@ private:
     QPushButton * monBoutonTermine = nullptr;
     DListViewClique * maVueEtapes = nullptr;
     int monMaxEtape = 0;
+    bool monTexteNoirci = false;  // by this class, under a dark palette
     bool maToucheEnCours = false; // the list is handling a key
     int maRangeeChoisie = -1;     // by that key
 };

@@ -83,6 +83,8 @@ void DAssistant::PriseBoutonTermine()
 void DAssistant::changeEvent(QEvent * evenement)
 {
     QDialog::changeEvent(evenement);
+    if (evenement->type() == QEvent::PaletteChange)
+        AccordeTexte();
 }
 
 void DAssistant::closeEvent(QCloseEvent * evenement)
@@ -177,12 +179,14 @@ void DAssistant::PriseClicEtape(QModelIndex const & index)
 
 void DAssistant::PriseEtapeEnlevay(int index)
 {
-    DAssistantEtape * const etape = mesEtapes.takeAt(index);
-    monHistorique.removeAll(etape);
+    DAssistantEtape * const etape = mesEtapes.at(index);
     bool const etaitCourante = etape == monEtapeCourante;
     if (etaitCourante)
         monEtapeCourante = nullptr; // the row that goes selects a neighbour, which is no jump
+    // The row first: its selection model speaks up while the row is still counted.
     delete maVueEtapes->takeItem(index);
+    mesEtapes.removeAt(index);
+    monHistorique.removeAll(etape);
     NumeroteRangees();
     if (!etaitCourante)
         return;

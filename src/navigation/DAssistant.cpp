@@ -246,6 +246,7 @@ UniChaine DAssistant::DonneTitreGenerique(DAssistantEtape *) const
 
 void DAssistant::NumeroteRangees()
 {
+    maVueEtapes->setAccessibleName(DonneTitreGenerique(monEtapeCourante));
     for (int rangee = 0; rangee < maVueEtapes->count(); ++rangee) {
         QListWidgetItem * const item = maVueEtapes->item(rangee);
         item->setText(

@@ -104,7 +104,7 @@ private:
     void ActiveRangee(int rangee);
     void NumeroteRangees();
     void SauteA(int rangee, int distance);
-    void RevientA(DAssistantEtape * etape);
+    bool RevientA(DAssistantEtape * etape);
     void EntreDansEtapeCourante();
     void RangeFocus();
 

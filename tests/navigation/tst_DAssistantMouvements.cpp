@@ -400,6 +400,7 @@ void tst_DAssistantMouvements::entree()
     QTest::keyClick(banc.liste, Qt::Key_Return);
     QCOMPARE(banc.Rangee(), 0); // disabled
     banc.assistant->ActiveBoutonSuivant(true);
+    QTest::keyClick(banc.liste, Qt::Key_Return);
     QCOMPARE(banc.Rangee(), 1);
 }
 

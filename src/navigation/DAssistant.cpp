@@ -33,7 +33,9 @@ bool EstClair(QColor const & couleur)
 
 void ActiveItem(QListWidgetItem * item, bool actif)
 {
-    item->setFlags(item->flags().setFlag(Qt::ItemIsEnabled, actif));
+    // Qt tells assistive technologies of rows that can't be selected, not of disabled ones.
+    item->setFlags(
+        item->flags().setFlag(Qt::ItemIsEnabled, actif).setFlag(Qt::ItemIsSelectable, actif));
 }
 
 } // namespace

@@ -154,6 +154,7 @@ void DAssistant::ChangeTitre()
     QAccessible::updateAccessibility(&nouvelle);
 }
 
+// NOLINTNEXTLINE(performance-unnecessary-value-param): a slot, whose signature others name
 void DAssistant::PriseSelectionEtape(QItemSelection selectionnay, QItemSelection deselectionnay)
 {
     if (!monEtapeCourante)

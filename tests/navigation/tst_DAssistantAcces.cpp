@@ -61,6 +61,7 @@ public:
 private Q_SLOTS:
     void cleanup();
     void premierFocus();
+    void ordreAvantLAffichage();
     void ordreDuFocus();
     void ordreDesDerniers();
     void champNay();
@@ -86,6 +87,21 @@ void tst_DAssistantAcces::premierFocus()
     Banc banc(2);
     QVERIFY(banc.Active());
     QTRY_COMPARE(QApplication::focusWidget(), banc.liste);
+}
+
+void tst_DAssistantAcces::ordreAvantLAffichage()
+{
+    Banc banc(0, false);
+    auto * const etape = new EtapeTemoin(banc.journal, u"0"_s);
+    QWidget * const champ = AjouteChamp(etape);
+    banc.assistant->AjouteEtape(etape, false);
+    QList<QWidget *> chaine;
+    for (QWidget * w = banc.liste; !chaine.contains(w); w = w->nextInFocusChain()) {
+        if (w->focusPolicy() != Qt::NoFocus)
+            chaine.append(w);
+    }
+    QCOMPARE(chaine, QList<QWidget *>({banc.liste, champ, banc.annuler, banc.precedent,
+                                       banc.suivant, banc.termine}));
 }
 
 void tst_DAssistantAcces::ordreDuFocus()

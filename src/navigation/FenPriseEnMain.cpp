@@ -6,11 +6,11 @@
 #include "navigation/CtrlFenPriseEnMainInterface.h"
 
 #include "noyau/RoutinesBureau.h"
+#include "noyau/RoutinesTexte.h"
 #include "noyau/Traductions.h"
 
 #include <QAccessible>
 #include <QCheckBox>
-#include <QFile>
 #include <QHBoxLayout>
 #include <QKeyEvent>
 #include <QLabel>
@@ -20,7 +20,6 @@
 #include <QShortcut>
 #include <QSvgRenderer>
 #include <QSvgWidget>
-#include <QTextStream>
 #include <QVBoxLayout>
 
 using namespace Qt::StringLiterals;
@@ -34,16 +33,6 @@ constexpr int kHauteurMarges = 20; // above and below the contents
 constexpr int kHauteurReserve = 10;
 
 constexpr std::size_t kRangeesVisibles = 8;
-
-QString LisFichier(QString const & chemin)
-{
-    QFile fichier(chemin);
-    if (!fichier.open(QIODevice::ReadOnly | QIODevice::Text))
-        return {};
-    QTextStream flux(&fichier);
-    flux.setEncoding(QStringConverter::Utf8);
-    return flux.readAll();
-}
 
 void OuvreLien(UniChaine const & lien)
 {
@@ -77,10 +66,12 @@ FenPriseEnMain::FenPriseEnMain(bool premier, bool second)
     setWindowFlag(Qt::WindowContextHelpButtonHint, false);
     setSizePolicy(QSizePolicy::Minimum, QSizePolicy::Preferred);
     if (monCtrl)
-        monCtrl->Initialise(LisFichier(u":/fichiers/DonneesPriseEnMain.json"_s), premier, second);
+        monCtrl->Initialise(
+            RoutinesGeneralesQt::ContenuFichier(u":/fichiers/DonneesPriseEnMain.json"_s), premier,
+            second);
 
-    setStyleSheet(
-        ThemesQt::Instance()->AppliquerVariable(LisFichier(u":/Style/FenPriseEnMain.qss"_s)));
+    setStyleSheet(ThemesQt::Instance()->AppliquerVariable(
+        RoutinesGeneralesQt::ContenuFichier(u":/Style/FenPriseEnMain.qss"_s)));
     setWindowTitle(TraductionGui(TexteGui("Prise en main")));
     CreeDefilement();
 
@@ -134,10 +125,10 @@ void FenPriseEnMain::PopuleAffichage(QVBoxLayout * disposition)
 void FenPriseEnMain::resizeEvent(QResizeEvent * evenement)
 {
     QDialog::resizeEvent(evenement);
-    int hauteur = monTitre->sizeHint().height() + monExplication->sizeHint().height() +
-                  monImage->height() + kHauteurMarges;
     if (mesRangees.size() <= kRangeesVisibles)
         return;
+    int hauteur = monTitre->sizeHint().height() + monExplication->sizeHint().height() +
+                  monImage->height() + kHauteurMarges;
     for (std::size_t i = 0; i < kRangeesVisibles; ++i)
         hauteur += mesRangees[i]->sizeHint().height();
     setMaximumHeight(hauteur + kHauteurReserve);

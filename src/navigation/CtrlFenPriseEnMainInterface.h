@@ -21,7 +21,7 @@ public:
     CtrlFenPriseEnMainInterface & operator=(CtrlFenPriseEnMainInterface const &) = delete;
     virtual ~CtrlFenPriseEnMainInterface();
 
-    /// Records the check state of a row. May destroy the window.
+    /// Records the check state of a row. May close the window, but not destroy it.
     virtual void MetsReglage(UniChaine cle, bool coche) = 0;
     virtual UniChaine DonneNomProduit() = 0;
     virtual UniChaine DonneVersionNumerique() = 0;

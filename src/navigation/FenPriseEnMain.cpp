@@ -14,7 +14,6 @@
 #include <QHBoxLayout>
 #include <QKeyEvent>
 #include <QLabel>
-#include <QPointer>
 #include <QPushButton>
 #include <QScrollArea>
 #include <QShortcut>
@@ -238,11 +237,9 @@ void FenPriseEnMain::PriseFermeture()
 
 void FenPriseEnMain::PriseLien(QCheckBox * caseVue, QPushButton * bouton, UniChaine const & lien)
 {
-    QPointer<QPushButton> const garde(bouton);
     OuvreLien(lien);
     caseVue->setChecked(true);
-    if (garde) // the application hears of the check, and may destroy the window
-        MetsCouleurVisitay(*bouton);
+    MetsCouleurVisitay(*bouton);
 }
 
 void FenPriseEnMain::PriseEtat(UniChaine const & cle, int etat)

@@ -61,7 +61,6 @@ private Q_SLOTS:
     void sansCallback();
     void callbackQuiDetruit_data();
     void callbackQuiDetruit();
-    void fermeeParLeBureau();
 
 private:
     std::unique_ptr<FenetrePriseEnMain> monBanc;
@@ -319,6 +318,8 @@ void tst_FenPriseEnMain::fermeture_data()
     QTest::newRow("its button") << Ferme([](FenPriseEnMain & fenetre) { fenetre.close(); });
     QTest::newRow("Escape") << Ferme(
         [](FenPriseEnMain & fenetre) { QTest::keyClick(&fenetre, Qt::Key_Escape); });
+    QTest::newRow("the desktop") << Ferme(
+        [](FenPriseEnMain & fenetre) { fenetre.windowHandle()->close(); });
     QTest::newRow("accepted") << Ferme([](FenPriseEnMain & fenetre) { fenetre.accept(); });
 }
 
@@ -379,18 +380,6 @@ void tst_FenPriseEnMain::callbackQuiDetruit()
 
     QTRY_VERIFY(!FenPriseEnMain::Instance());
     QCOMPARE(vu, 3);
-}
-
-void tst_FenPriseEnMain::fermeeParLeBureau()
-{
-    FenPriseEnMain & fenetre = monBanc->Alloue(1);
-    int appels = 0;
-    fenetre.MetsCallbackFermeture([&appels](QPoint) { ++appels; });
-    fenetre.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&fenetre));
-    fenetre.windowHandle()->close();
-    QTRY_COMPARE(appels, 1);
-    QVERIFY(!fenetre.isVisible());
 }
 
 QTEST_MAIN(tst_FenPriseEnMain)

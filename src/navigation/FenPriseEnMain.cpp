@@ -16,6 +16,7 @@
 #include <QLabel>
 #include <QPushButton>
 #include <QScrollArea>
+#include <QScrollBar>
 #include <QShortcut>
 #include <QSvgRenderer>
 #include <QSvgWidget>
@@ -32,6 +33,26 @@ constexpr int kHauteurMarges = 20; // above and below the contents
 constexpr int kHauteurReserve = 10;
 
 constexpr std::size_t kRangeesVisibles = 8;
+
+// Never narrower than its contents beside the scroll bar: there is no other to reach the rest with.
+class Defilement : public QScrollArea
+{
+public:
+    QSize sizeHint() const override
+    {
+        return QScrollArea::sizeHint().expandedTo(QSize(DonneLargeurUtile(), 0));
+    }
+    QSize minimumSizeHint() const override
+    {
+        return QScrollArea::minimumSizeHint().expandedTo(QSize(DonneLargeurUtile(), 0));
+    }
+
+private:
+    int DonneLargeurUtile() const
+    {
+        return widget()->minimumSizeHint().width() + verticalScrollBar()->sizeHint().width();
+    }
+};
 
 void OuvreLien(UniChaine const & lien)
 {
@@ -153,7 +174,7 @@ void FenPriseEnMain::CreeDefilement()
     auto * const dispositionContenu = new QVBoxLayout(contenu);
     dispositionContenu->setContentsMargins(kMarge, kMarge, kMarge, kMarge);
 
-    monDefilement = new QScrollArea;
+    monDefilement = new Defilement;
     monDefilement->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     monDefilement->setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded);
     monDefilement->setWidgetResizable(true);

@@ -63,6 +63,7 @@ private Q_SLOTS:
     void hauteur_data();
     void hauteur();
     void hauteurUneFois();
+    void largeurSansCoupure();
     void defileAuClavier();
 
 private:
@@ -405,6 +406,30 @@ void tst_FenPriseEnMainRangees::hauteurUneFois()
     for (int tour = 0; tour < 50; ++tour)
         QCoreApplication::processEvents();
     QCOMPARE(compteur.compte, compte);
+}
+
+// There is no bar to scroll sideways with.
+void tst_FenPriseEnMainRangees::largeurSansCoupure()
+{
+    QJsonObject document = CreeDocument(20);
+    QJsonArray items = document[u"itemsPriseEnMain"_s].toArray();
+    QJsonObject item = items[15].toObject();
+    item[u"titreFR"_s] = u"Un titre bien plus long que ceux des autres rangées, "_s.repeated(3);
+    items[15] = item;
+    document[u"itemsPriseEnMain"_s] = items;
+    monBanc->MetsRessources(EcrisDocument(document));
+    FenPriseEnMain::AlloueInstance(true, true);
+    FenPriseEnMain & fenetre = *FenPriseEnMain::Instance();
+    auto const & defilement = *fenetre.findChild<QScrollArea *>();
+
+    fenetre.show();
+    for (int const largeur : {fenetre.width(), 10}) {
+        fenetre.resize(largeur, fenetre.height());
+        QCoreApplication::processEvents();
+        QVERIFY(defilement.verticalScrollBar()->isVisible());
+        QCOMPARE(defilement.horizontalScrollBar()->maximum(), 0);
+        QVERIFY(Lien(15).width() >= Lien(15).sizeHint().width());
+    }
 }
 
 void tst_FenPriseEnMainRangees::defileAuClavier()

@@ -97,3 +97,27 @@ inline QByteArray EcrisDocument(QJsonObject const & document)
 {
     return QJsonDocument(document).toJson();
 }
+
+/// A document of three rows with `valeur` at `cle`, which is that of its second row for
+/// "items/...". An undefined value removes the key.
+inline QByteArray RemplaceDansDocument(QString const & cle, QJsonValue const & valeur)
+{
+    QJsonObject document = CreeDocument(3);
+    auto const range = [&valeur](QJsonObject & objet, QString const & nom) {
+        Q_ASSERT(objet.contains(nom));
+        if (valeur.isUndefined())
+            objet.remove(nom);
+        else
+            objet.insert(nom, valeur);
+    };
+    if (!cle.startsWith(QStringLiteral("items/"))) {
+        range(document, cle);
+        return EcrisDocument(document);
+    }
+    QJsonArray items = document[QStringLiteral("itemsPriseEnMain")].toArray();
+    QJsonObject item = items[1].toObject();
+    range(item, cle.section(u'/', 1));
+    items[1] = item;
+    document[QStringLiteral("itemsPriseEnMain")] = items;
+    return EcrisDocument(document);
+}

@@ -6,8 +6,6 @@
 
 #include <QtTest>
 
-#include <QSvgWidget>
-
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -16,17 +14,6 @@ using Reglages = QList<QPair<QString, bool>>;
 
 constexpr auto kFeuilleLien = "color: rgba(24,126,188,255);"_L1;
 constexpr auto kFeuilleVisitay = "color :rgba(0,0,0,255);"_L1;
-
-class CompteurTailles : public QObject
-{
-public:
-    bool eventFilter(QObject *, QEvent * evenement) override
-    {
-        compte += evenement->type() == QEvent::Resize;
-        return false;
-    }
-    int compte = 0;
-};
 
 } // namespace
 
@@ -54,17 +41,6 @@ private Q_SLOTS:
     void controleurParti();
     void controleurQuiFerme_data();
     void controleurQuiFerme();
-
-    void ordreDesTabulations();
-    void clavier();
-    void entreeSurUneCase();
-    void nomsAccessibles();
-
-    void hauteur_data();
-    void hauteur();
-    void hauteurUneFois();
-    void largeurSansCoupure();
-    void defileAuClavier();
 
 private:
     static QCheckBox & Case(int rangee) { return FenetrePriseEnMain::Case(rangee); }
@@ -291,161 +267,6 @@ void tst_FenPriseEnMainRangees::controleurQuiFerme()
     QCOMPARE(monBanc->monCtrl.reglages.size(), 1);
     QCOMPARE(monBanc->Ouverts().size(), 1);
     QCOMPARE(Lien(1).styleSheet(), kFeuilleVisitay);
-}
-
-void tst_FenPriseEnMainRangees::ordreDesTabulations()
-{
-    FenPriseEnMain & fenetre = monBanc->Alloue(3);
-    fenetre.show();
-    QVERIFY(QTest::qWaitForWindowActive(&fenetre));
-    Case(0).setFocus();
-    for (int tour = 0; tour < 2; ++tour)
-        for (int i = 0; i < 3; ++i) {
-            QCOMPARE(QApplication::focusWidget(), &Case(i));
-            QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
-            QCOMPARE(QApplication::focusWidget(), &Lien(i));
-            QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
-        }
-    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Backtab);
-    QCOMPARE(QApplication::focusWidget(), &Lien(2));
-}
-
-void tst_FenPriseEnMainRangees::clavier()
-{
-    FenPriseEnMain & fenetre = monBanc->Alloue(4);
-    fenetre.show();
-    QVERIFY(QTest::qWaitForWindowActive(&fenetre));
-    int ouverts = 0;
-    for (auto const & [rangee, touche] :
-         {std::pair(1, Qt::Key_Space), std::pair(2, Qt::Key_Return), std::pair(3, Qt::Key_Enter)}) {
-        Lien(rangee).setFocus();
-        QTest::keyClick(&Lien(rangee), touche);
-        QCOMPARE(monBanc->Ouverts().size(), ++ouverts);
-        QVERIFY(Case(rangee).isChecked());
-    }
-    QTest::keyClick(&Case(3), Qt::Key_Space);
-    QVERIFY(!Case(3).isChecked());
-    QCOMPARE(monBanc->Ouverts().size(), ouverts);
-}
-
-// It opens nothing: no link is the window's answer.
-void tst_FenPriseEnMainRangees::entreeSurUneCase()
-{
-    FenPriseEnMain & fenetre = monBanc->Alloue(2);
-    fenetre.show();
-    QVERIFY(QTest::qWaitForWindowActive(&fenetre));
-    for (QWidget * const widget :
-         {static_cast<QWidget *>(&Case(1)), static_cast<QWidget *>(&fenetre)})
-        for (Qt::Key const touche : {Qt::Key_Return, Qt::Key_Enter}) {
-            widget->setFocus();
-            QTest::keyClick(widget, touche);
-            QVERIFY(monBanc->Ouverts().isEmpty());
-            QVERIFY(fenetre.isVisible());
-        }
-}
-
-void tst_FenPriseEnMainRangees::nomsAccessibles()
-{
-    monBanc->Alloue(2);
-    for (int i = 0; i < 2; ++i)
-        for (QWidget * const widget :
-             {static_cast<QWidget *>(&Case(i)), static_cast<QWidget *>(&Lien(i))})
-            QCOMPARE(QAccessible::queryAccessibleInterface(widget)->text(QAccessible::Name),
-                     u"Titre %1"_s.arg(i + 1));
-}
-
-void tst_FenPriseEnMainRangees::hauteur_data()
-{
-    QTest::addColumn<int>("rangees");
-    QTest::addColumn<bool>("limitee");
-    QTest::newRow("no row") << 0 << false;
-    QTest::newRow("one row") << 1 << false;
-    QTest::newRow("eight rows") << 8 << false;
-    QTest::newRow("nine rows") << 9 << true;
-    QTest::newRow("forty rows") << 40 << true;
-}
-
-void tst_FenPriseEnMainRangees::hauteur()
-{
-    QFETCH(int, rangees);
-    QFETCH(bool, limitee);
-    FenPriseEnMain & fenetre = monBanc->Alloue(rangees);
-    QCOMPARE(fenetre.maximumHeight(), QWIDGETSIZE_MAX);
-    auto const & defilement = *fenetre.findChild<QScrollArea *>();
-    fenetre.show();
-    fenetre.resize(fenetre.width(), 2000);
-    QCoreApplication::processEvents();
-    QVERIFY(defilement.widgetResizable());
-    if (!limitee) {
-        QCOMPARE(fenetre.maximumHeight(), QWIDGETSIZE_MAX);
-        QCOMPARE(fenetre.height(), 2000);
-        return;
-    }
-    int attendue = fenetre.findChild<QLabel *>(u"titrePriseEnMain"_s)->sizeHint().height() +
-                   fenetre.findChild<QLabel *>(u"explicationPriseEnMain"_s)->sizeHint().height() +
-                   50 + 20 + 10;
-    for (int i = 0; i < 8; ++i)
-        attendue += defilement.widget()->layout()->itemAt(3 + i)->sizeHint().height();
-    QCOMPARE(fenetre.maximumHeight(), attendue);
-    QTRY_COMPARE(fenetre.height(), attendue);
-    QVERIFY(defilement.verticalScrollBar()->maximum() > 0); // the others scroll
-    QCOMPARE(defilement.widget()->width(), defilement.viewport()->width());
-}
-
-void tst_FenPriseEnMainRangees::hauteurUneFois()
-{
-    FenPriseEnMain & fenetre = monBanc->Alloue(12);
-    CompteurTailles compteur;
-    fenetre.installEventFilter(&compteur);
-    fenetre.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&fenetre));
-    for (int tour = 0; tour < 50; ++tour)
-        QCoreApplication::processEvents();
-    int const compte = compteur.compte;
-    QVERIFY(compte <= 3); // its size, and the limit
-    for (int tour = 0; tour < 50; ++tour)
-        QCoreApplication::processEvents();
-    QCOMPARE(compteur.compte, compte);
-}
-
-// There is no bar to scroll sideways with.
-void tst_FenPriseEnMainRangees::largeurSansCoupure()
-{
-    QJsonObject document = CreeDocument(20);
-    QJsonArray items = document[u"itemsPriseEnMain"_s].toArray();
-    QJsonObject item = items[15].toObject();
-    item[u"titreFR"_s] = u"Un titre bien plus long que ceux des autres rangées, "_s.repeated(3);
-    items[15] = item;
-    document[u"itemsPriseEnMain"_s] = items;
-    monBanc->MetsRessources(EcrisDocument(document));
-    FenPriseEnMain::AlloueInstance(true, true);
-    FenPriseEnMain & fenetre = *FenPriseEnMain::Instance();
-    auto const & defilement = *fenetre.findChild<QScrollArea *>();
-
-    fenetre.show();
-    for (int const largeur : {fenetre.width(), 10}) {
-        fenetre.resize(largeur, fenetre.height());
-        QCoreApplication::processEvents();
-        QVERIFY(defilement.verticalScrollBar()->isVisible());
-        QCOMPARE(defilement.horizontalScrollBar()->maximum(), 0);
-        QVERIFY(Lien(15).width() >= Lien(15).sizeHint().width());
-    }
-}
-
-void tst_FenPriseEnMainRangees::defileAuClavier()
-{
-    FenPriseEnMain & fenetre = monBanc->Alloue(40);
-    fenetre.show();
-    QVERIFY(QTest::qWaitForWindowActive(&fenetre));
-    auto const & barre = *fenetre.findChild<QScrollArea *>()->verticalScrollBar();
-    QTRY_VERIFY(barre.maximum() > 0);
-    Case(0).setFocus();
-    QCOMPARE(barre.value(), 0);
-    QTest::keyClick(&Case(0), Qt::Key_Backtab); // round to the last one
-    QCOMPARE(QApplication::focusWidget(), &Lien(39));
-    QVERIFY(barre.value() > barre.maximum() / 2);
-    QTest::keyClick(&Lien(39), Qt::Key_PageUp);
-    QVERIFY(barre.value() < barre.maximum());
 }
 
 QTEST_MAIN(tst_FenPriseEnMainRangees)

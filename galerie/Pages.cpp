@@ -11,6 +11,7 @@
 #include "PageJetons.h"
 #include "PageListeModifiable.h"
 #include "PagePolices.h"
+#include "PagePriseEnMain.h"
 #include "PageRecherche.h"
 #include "PageStyle.h"
 #include "PageTactile.h"
@@ -64,6 +65,8 @@ QList<DescriptionPage> const & DonnePages()
          [](ThemeGalerie &) -> QWidget * { return new PageFiltres; }},
         {TexteGalerie("Jetons"), u"jetons"_s,
          [](ThemeGalerie &) -> QWidget * { return new PageJetons; }},
+        {TexteGalerie("Prise en main"), u"accueil"_s,
+         [](ThemeGalerie &) -> QWidget * { return new PagePriseEnMain; }},
     };
     return pages;
 }

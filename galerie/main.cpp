@@ -1,5 +1,6 @@
 // galerie/main.cpp
 #include "Captures.h"
+#include "CtrlPriseEnMain.h"
 #include "FenetreGalerie.h"
 #include "LigneDeCommande.h"
 #include "PageRecherche.h"
@@ -22,8 +23,8 @@
 namespace {
 
 // Before the first alert whose answer may be remembered. Not for pictures, which shall be the same
-// whatever was answered before.
-void NommeFichiersDesReponses()
+// whatever was answered and seen before.
+void NommeFichiers()
 {
     QDir const dossier(QStandardPaths::writableLocation(QStandardPaths::AppConfigLocation));
     StockageReponse::Initialise(DDialogue::StockeurParDefaut,
@@ -32,6 +33,7 @@ void NommeFichiersDesReponses()
     StockageReponse::Initialise(DDialogue::StockeurNePlusMAviser,
                                 UniChaine(dossier.filePath(QStringLiteral("ne-plus-m-aviser.ini"))),
                                 QSettings::IniFormat);
+    CtrlPriseEnMain::MetsFichier(dossier.filePath(QStringLiteral("prise-en-main.ini")));
 }
 
 // What the platform or the command line chose, Fusion where they name none.
@@ -45,7 +47,7 @@ QString DonneNomStyleDeBase()
 int Execute(ThemeGalerie & theme, LigneDeCommande const & commande)
 {
     if (commande.dossierCaptures.isEmpty())
-        NommeFichiersDesReponses();
+        NommeFichiers();
     if (!commande.texte.isEmpty()) {
         PageRecherche::PreteMemoire().fichier = commande.texte;
         PageRecherche::PreteMemoire().paquet.clear();

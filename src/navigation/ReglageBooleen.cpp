@@ -1,0 +1,4 @@
+// navigation/ReglageBooleen.cpp
+#include "navigation/ReglageBooleen.h"
+
+ReglageBooleen::~ReglageBooleen() = default;

@@ -259,7 +259,7 @@ void tst_DTabWidgetCouleurs::feuilleDeStyle()
 {
     DTabWidget onglets(nullptr, {});
     onglets.setStyleSheet(
-        u"QToolButton#boutonFermeture { background: #0000ff; }"
+        u"QToolButton#boutonFermeture { border: none; background: #0000ff; }"
         "QToolButton#boutonFermeture[selectionnay=\"true\"] { background: #00ff00; }"
         "QToolButton#boutonFermeture[selectionnay=\"false\"] { background: #ff0000; }"_s);
     Remplis(onglets, u"a b"_s);

@@ -254,8 +254,10 @@ void tst_DTabWidgetPages::detruiteParLHote()
     journal.Ecoute(onglets, u"x"_s);
     delete onglets.DonneWidget(index);
     QCOMPARE(Titres(onglets), reste);
-    QCOMPARE(journal.lignes, signaux);
     QCOMPARE(Pile(onglets).currentIndex(), onglets.DonneIndexCourant());
+    QVERIFY(journal.lignes.isEmpty()); // a receiver may not meet a page that is half destroyed
+    QCoreApplication::processEvents();
+    QCOMPARE(journal.lignes, signaux);
 }
 
 void tst_DTabWidgetPages::priseParUnAutreParent()

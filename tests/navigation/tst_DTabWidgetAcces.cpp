@@ -39,7 +39,7 @@ QStringList Selectionnes(DTabWidget & onglets)
     QStringList noms;
     for (QAccessibleInterface * const interface : std::as_const(visites)) {
         QAccessible::State const etat = interface->state();
-        if (interface->role() == QAccessible::PageTab && (etat.selected || etat.focused))
+        if (interface->role() == QAccessible::PageTab && etat.selected)
             noms.append(interface->text(QAccessible::Name));
     }
     return noms;

@@ -135,6 +135,7 @@ void tst_DTabBarInterneDeplacement::partSeulementDUneBonnePresse_data()
     QTest::newRow("left on a tab") << Qt::LeftButton << 2 << true << true;
     QTest::newRow("right on a tab") << Qt::RightButton << 2 << true << false;
     QTest::newRow("middle on a tab") << Qt::MiddleButton << 2 << true << false;
+    QTest::newRow("left on a disabled tab") << Qt::LeftButton << 3 << true << false;
     QTest::newRow("left beside the tabs") << Qt::LeftButton << 2 << false << false;
     QTest::newRow("left in a bar without tabs") << Qt::LeftButton << 0 << false << false;
 }
@@ -146,9 +147,10 @@ void tst_DTabBarInterneDeplacement::partSeulementDUneBonnePresse()
     QFETCH(bool, surUnOnglet);
     QFETCH(bool, part);
     RangeeDEssai source(nombre);
-    source.barre->setMinimumWidth(500); // room beside the tabs
+    source.barre->setMinimumWidth(600); // room beside the tabs
+    source.barre->setTabEnabled(1, nombre < 3);
     source.Expose();
-    QPoint const aCote = source.barre->mapToGlobal(QPoint(480, 15));
+    QPoint const aCote = source.barre->mapToGlobal(QPoint(580, 15));
 
     source.Envoie(QEvent::MouseButtonPress, surUnOnglet ? source.DonnePoint(1) : aCote, bouton,
                   bouton);

@@ -81,6 +81,8 @@ private Q_SLOTS:
     void deplacementQtNeLaisseRien_data();
     void deplacementQtNeLaisseRien();
     void retraitPendantLaPresseDansLaRangee();
+    void retraitPendantLeGlissement_data();
+    void retraitPendantLeGlissement();
     void autrePressePendantLeDeplacement();
     void presseGauchePerdue();
     void receveurDetruitLaBarre_data();
@@ -485,6 +487,60 @@ void tst_DTabBarInterneFins::retraitPendantLaPresseDansLaRangee()
 
     QCOMPARE(source.barre->count(), 2);
     QVERIFY(!TrouveOngletQtEnMouvement(*source.barre));
+}
+
+void tst_DTabBarInterneFins::retraitPendantLeGlissement_data()
+{
+    QTest::addColumn<int>("retiray"); // -1: one is inserted in front
+    QTest::addColumn<bool>("dehors");
+    QTest::addColumn<bool>("parLaBase");
+    QTest::addColumn<QString>("courant");
+    QTest::newRow("before it") << 0 << false << false << u"Onglet 1"_s;
+    QTest::newRow("before it, outside") << 0 << true << false << u"Onglet 1"_s;
+    QTest::newRow("itself") << 2 << false << false << u"Onglet 2"_s;
+    QTest::newRow("itself, outside") << 2 << true << false << u"Onglet 2"_s;
+    QTest::newRow("itself, by the base") << 2 << false << true << u"Onglet 2"_s;
+    QTest::newRow("inserted in front") << -1 << false << false << u"Onglet 1"_s;
+    QTest::newRow("inserted in front, outside") << -1 << true << false << u"Onglet 1"_s;
+}
+
+// While others still slide aside for it, Qt neither ends the move of a tab nor keeps the current
+// one.
+void tst_DTabBarInterneFins::retraitPendantLeGlissement()
+{
+    QFETCH(int, retiray);
+    QFETCH(bool, dehors);
+    QFETCH(bool, parLaBase);
+    QFETCH(QString, courant);
+    RangeeDEssai source(3);
+    source.Expose();
+    source.Presse(1);
+    for (int x = 0; source.barre->currentIndex() != 2 && x < 300; x += 5)
+        source.Deplace(source.barre->mapToGlobal(QPoint(185 + x, 14)));
+    QCOMPARE(source.DonneTitre(2), u"Onglet 1"_s);
+    if (dehors)
+        source.Deplace(source.DonneAuDessous());
+
+    if (retiray < 0)
+        source.InsereOnglet(0, u"Avant"_s);
+    else if (parLaBase)
+        static_cast<QTabBar *>(source.barre)->removeTab(retiray);
+    else
+        source.barre->removeTab(retiray);
+
+    QVERIFY(source.barre->currentIndex() >= 0);
+    QCOMPARE(source.DonneTitre(source.barre->currentIndex()), courant);
+    source.grab(); // painted without a tab that is no more
+    source.Deplace(source.DonnePoint(0));
+    source.Relache(source.DonnePoint(0));
+    if (parLaBase) { // Qt believes in its move until the next press has been released
+        source.Presse(0);
+        source.Relache(source.DonnePoint(0));
+    }
+    source.Presse(0);
+    QCOMPARE(source.barre->currentIndex(), 0); // free to change
+    source.Relache(source.DonnePoint(0));
+    QTRY_VERIFY(!TrouveOngletQtEnMouvement(*source.barre));
 }
 
 void tst_DTabBarInterneFins::autrePressePendantLeDeplacement()

@@ -89,10 +89,8 @@ Q_SIGNALS:
     /// For hosts: the bar never emits it.
     void SignalArretBarreExterneSurvolay();
 
-public:
-    bool eventFilter(QObject * objet, QEvent * evenement) override;
-
 protected:
+    bool eventFilter(QObject * objet, QEvent * evenement) override;
     bool event(QEvent * evenement) override;
     void mousePressEvent(QMouseEvent * evenement) override;
     void mouseReleaseEvent(QMouseEvent * evenement) override;

@@ -1,5 +1,5 @@
 // navigation/tst_DTabBarInterneDeplacement.cpp
-// Where a dragged tab goes, and the picture that follows the mouse.
+// When a drag begins, and where the tab goes.
 #include "RangeeDEssai.h"
 
 using namespace Qt::StringLiterals;
@@ -47,18 +47,12 @@ private Q_SLOTS:
     void boutonsDeDefilement();
     void ongletCoupeAGauche();
     void ongletCoupeADroite();
+    void ongletPlusLargeQueLaBarre();
     void autreGroupe();
     void memeBarre();
     void dUneCibleALAutre();
     void horsDeTouteFenetre();
     void indexCibleSuitLesFermetures();
-    void fantomeSuitLaSouris();
-    void fantomeMontreLOnglet();
-    void fantomeNeSuitPasLaFeuilleDeLaFenetre();
-    void fantomeAncienNestPasRepris();
-    void ongletSansCadrePartSansFantome();
-    void infobulleDeCoteUneFois();
-    void infobulleVideRevientVide();
     void boutonsDuMouvementNeComptentPas();
 };
 
@@ -135,6 +129,7 @@ void tst_DTabBarInterneDeplacement::partSeulementDUneBonnePresse_data()
     QTest::newRow("left on a tab") << Qt::LeftButton << 2 << true << true;
     QTest::newRow("right on a tab") << Qt::RightButton << 2 << true << false;
     QTest::newRow("middle on a tab") << Qt::MiddleButton << 2 << true << false;
+    QTest::newRow("left on a disabled tab") << Qt::LeftButton << 3 << true << false;
     QTest::newRow("left beside the tabs") << Qt::LeftButton << 2 << false << false;
     QTest::newRow("left in a bar without tabs") << Qt::LeftButton << 0 << false << false;
 }
@@ -146,9 +141,10 @@ void tst_DTabBarInterneDeplacement::partSeulementDUneBonnePresse()
     QFETCH(bool, surUnOnglet);
     QFETCH(bool, part);
     RangeeDEssai source(nombre);
-    source.barre->setMinimumWidth(500); // room beside the tabs
+    source.barre->setMinimumWidth(600); // room beside the tabs
+    source.barre->setTabEnabled(1, nombre < 3);
     source.Expose();
-    QPoint const aCote = source.barre->mapToGlobal(QPoint(480, 15));
+    QPoint const aCote = source.barre->mapToGlobal(QPoint(580, 15));
 
     source.Envoie(QEvent::MouseButtonPress, surUnOnglet ? source.DonnePoint(1) : aCote, bouton,
                   bouton);
@@ -291,22 +287,34 @@ void tst_DTabBarInterneDeplacement::ongletCoupeAGauche()
     RangeeDEssai cible(10, "groupe", kPlaceCible, 500);
     cible.Expose();
     source.Expose();
-    cible.barre->setCurrentIndex(9);
-    int coupe = 0;
-    while (cible.barre->tabRect(coupe).right() < 0)
-        ++coupe;
-    QRect const rect = cible.barre->tabRect(coupe);
-    QVERIFY(rect.left() < 0);
     QSignalSpy espion(source.barre, &DTabBarInterne::SignalAjouteOngletBarreExterne);
-    QPoint const point = cible.barre->mapToGlobal(QPoint(5, 10));
+    // Of which less than half is cut off.
+    auto const coupe = [&cible] {
+        int index = 0;
+        while (cible.barre->tabRect(index).right() < 0)
+            ++index;
+        return index;
+    };
+    for (int largeur = 120; largeur < 180; largeur += 5) {
+        cible.barre->MetsTailleOnglets(largeur);
+        QTRY_VERIFY(cible.barre->width() < 500);
+        cible.barre->setCurrentIndex(0);
+        cible.barre->setCurrentIndex(9);
+        QRect const rect = cible.barre->tabRect(coupe());
+        if (rect.left() < -2 && rect.left() > -rect.width() / 2 + 2)
+            break;
+    }
+    QRect const rect = cible.barre->tabRect(coupe());
+    QVERIFY(rect.left() < -2 && rect.left() > -rect.width() / 2 + 2);
+    QPoint const point = cible.barre->mapToGlobal(QPoint(1, 10));
 
     source.Presse(0);
     source.Deplace(point);
     QCOMPARE(cible.barre->DonnePositionIndicateur().x(), rect.left() + rect.width());
     source.Relache(point);
 
-    // Never before it, wherever the mouse is on what is left of it.
-    QCOMPARE(DonneDepot(espion).position, coupe + 1);
+    // Never before it, though the mouse is in its first half.
+    QCOMPARE(DonneDepot(espion).position, coupe() + 1);
 }
 
 void tst_DTabBarInterneDeplacement::ongletCoupeADroite()
@@ -317,7 +325,18 @@ void tst_DTabBarInterneDeplacement::ongletCoupeADroite()
     source.Expose();
     int const boutons =
         2 * cible.style()->pixelMetric(QStyle::PM_TabBarScrollButtonWidth, nullptr, cible.barre);
-    int const fin = cible.barre->width() - boutons - 1;
+    // Of which more than half is to be seen.
+    int fin = 0;
+    QRect rect;
+    for (int largeur = 120; largeur < 180; largeur += 5) {
+        cible.barre->MetsTailleOnglets(largeur);
+        QTRY_VERIFY(cible.barre->width() < 500);
+        fin = cible.barre->width() - boutons - 1;
+        rect = cible.barre->tabRect(cible.barre->tabAt(QPoint(fin, 10)));
+        if (fin - rect.left() > rect.width() / 2 + 2 && rect.right() > fin + 2)
+            break;
+    }
+    QVERIFY(fin - rect.left() > rect.width() / 2 + 2 && rect.right() > fin + 2);
     int const coupe = cible.barre->tabAt(QPoint(fin, 10));
     QSignalSpy espion(source.barre, &DTabBarInterne::SignalAjouteOngletBarreExterne);
 
@@ -327,6 +346,25 @@ void tst_DTabBarInterneDeplacement::ongletCoupeADroite()
 
     // Never behind it: that would be under the buttons.
     QCOMPARE(DonneDepot(espion).position, coupe);
+}
+
+void tst_DTabBarInterneDeplacement::ongletPlusLargeQueLaBarre()
+{
+    RangeeDEssai source(1);
+    RangeeDEssai cible(3, "groupe", kPlaceCible, 300);
+    cible.barre->MetsTailleOnglets(400);
+    cible.Expose();
+    source.Expose();
+    cible.barre->setCurrentIndex(1);
+    QRect const rect = cible.barre->tabRect(1);
+    QVERIFY(rect.left() < 0);
+    QPoint const point = cible.barre->mapToGlobal(QPoint(20, 10));
+
+    source.Presse(0);
+    source.Deplace(point);
+
+    // At its right edge, which is out of sight.
+    QCOMPARE(cible.barre->DonnePositionIndicateur().x(), rect.left() + rect.width() - 1);
 }
 
 void tst_DTabBarInterneDeplacement::autreGroupe()
@@ -422,136 +460,6 @@ void tst_DTabBarInterneDeplacement::indexCibleSuitLesFermetures()
     source.Relache(point);
 
     QCOMPARE(DonneDepot(espion).position, 1);
-}
-
-void tst_DTabBarInterneDeplacement::fantomeSuitLaSouris()
-{
-    RangeeDEssai source(2);
-    source.Expose();
-
-    source.Presse(1);
-    source.Deplace(QPoint(300, 310));
-    QPointer<QWidget> const fantome = TrouveFantome();
-    QVERIFY(fantome);
-    QCOMPARE(fantome->pos(), QPoint(300, 310));
-    QCOMPARE(fantome->size(), source.barre->DonneInfos(1).cadre->size());
-    QVERIFY(qAbs(fantome->windowOpacity() - 0.75) < 0.01);
-    QVERIFY(fantome->testAttribute(Qt::WA_TransparentForMouseEvents));
-    QVERIFY(fantome->windowFlags().testFlag(Qt::FramelessWindowHint));
-    QVERIFY(fantome->windowFlags().testFlag(Qt::Tool));
-    QCOMPARE(fantome->styleSheet(), u"border: 1px solid #D0D0D0"_s);
-    QVERIFY(!QApplication::activeWindow() || QApplication::activeWindow() == &source);
-
-    source.Deplace(QPoint(20, 500));
-    QCOMPARE(TrouveFantome(), fantome.data());
-    QCOMPARE(fantome->pos(), QPoint(20, 500));
-    source.Relache(QPoint(20, 500));
-    QVERIFY(!fantome->isVisible());
-}
-
-void tst_DTabBarInterneDeplacement::fantomeMontreLOnglet()
-{
-    RangeeDEssai source(2);
-    QPixmap rouge(20, 20);
-    rouge.fill(Qt::red);
-    source.barre->MetsIconeOnglet(1, QIcon(rouge));
-    source.Expose();
-    QRect const icone = source.barre->DonneInfos(1).etiquetteIcone->geometry();
-
-    source.Presse(1);
-    source.Deplace(QPoint(300, 310));
-    QImage const image = TrouveFantome()->grab().toImage();
-    double const ratio = image.devicePixelRatio();
-
-    QCOMPARE(image.pixelColor((QPointF(icone.center()) * ratio).toPoint()), QColor(Qt::red));
-    QCOMPARE(image.pixelColor(0, image.height() / 2), QColor(u"#D0D0D0"_s));
-}
-
-void tst_DTabBarInterneDeplacement::fantomeNeSuitPasLaFeuilleDeLaFenetre()
-{
-    RangeeDEssai source(2);
-    QPixmap rouge(20, 20);
-    rouge.fill(Qt::red);
-    source.barre->MetsIconeOnglet(1, QIcon(rouge));
-    source.setStyleSheet(u"QWidget { background: blue; }"_s);
-    source.Expose();
-    QRect const icone = source.barre->DonneInfos(1).etiquetteIcone->geometry();
-
-    source.Presse(1);
-    source.Deplace(QPoint(300, 310));
-    QImage const image = TrouveFantome()->grab().toImage();
-
-    QCOMPARE(image.pixelColor((QPointF(icone.center()) * image.devicePixelRatio()).toPoint()),
-             QColor(Qt::red));
-}
-
-void tst_DTabBarInterneDeplacement::fantomeAncienNestPasRepris()
-{
-    RangeeDEssai source(2);
-    QPixmap couleur(20, 20);
-    couleur.fill(Qt::red);
-    source.barre->MetsIconeOnglet(1, QIcon(couleur));
-    source.Expose();
-    QPoint const centre = source.barre->DonneInfos(1).etiquetteIcone->geometry().center();
-
-    source.Presse(1);
-    source.Deplace(QPoint(300, 310));
-    source.Relache(QPoint(300, 310));
-    couleur.fill(Qt::green);
-    source.barre->MetsIconeOnglet(1, QIcon(couleur));
-    source.Presse(1);
-    source.Deplace(QPoint(300, 310));
-    QImage const image = TrouveFantome()->grab().toImage();
-
-    QCOMPARE(image.pixelColor((QPointF(centre) * image.devicePixelRatio()).toPoint()),
-             QColor(Qt::green));
-}
-
-void tst_DTabBarInterneDeplacement::ongletSansCadrePartSansFantome()
-{
-    RangeeDEssai source;
-    source.barre->addTab(u"Sans cadre"_s);
-    source.Expose();
-    QSignalSpy espion(source.barre, &DTabBarInterne::SignalOngletNouvelleFenetre);
-
-    source.Presse(0);
-    source.Deplace(source.DonneAuDessous());
-    QVERIFY(source.barre->EstEnDeplacementExterne());
-    QVERIFY(!TrouveFantome());
-    source.Relache(source.DonneAuDessous());
-
-    QCOMPARE(espion.count(), 1);
-}
-
-void tst_DTabBarInterneDeplacement::infobulleDeCoteUneFois()
-{
-    RangeeDEssai source(3);
-    source.Expose();
-    QStringList const infobulles = source.DonneInfobulles();
-
-    source.Presse(1);
-    for (int i = 0; i < 3; ++i) {
-        source.Deplace(source.DonneAuDessous() + QPoint(i, i));
-        QCOMPARE(source.barre->tabToolTip(1), QString());
-    }
-    source.Deplace(source.DonnePoint(1));
-
-    QCOMPARE(source.DonneInfobulles(), infobulles);
-}
-
-void tst_DTabBarInterneDeplacement::infobulleVideRevientVide()
-{
-    RangeeDEssai source(3);
-    source.barre->setTabToolTip(1, QString());
-    source.Expose();
-    QStringList const infobulles = source.DonneInfobulles();
-
-    source.Presse(1);
-    source.Deplace(source.DonneAuDessous());
-    source.Deplace(source.DonneAuDessous() + QPoint(1, 1));
-    source.Relache(source.DonneAuDessous());
-
-    QCOMPARE(source.DonneInfobulles(), infobulles);
 }
 
 void tst_DTabBarInterneDeplacement::boutonsDuMouvementNeComptentPas()

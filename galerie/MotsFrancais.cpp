@@ -60,6 +60,22 @@ int MotsFrancais::Compte(QString const & debut)
     return static_cast<int>(dernier - premier);
 }
 
+bool MotsFrancais::Contient(QString const & mot)
+{
+    QString const simple = QString(mot).replace(u'’', u'\''); // as the list has it
+    QString cle;
+    for (QChar const caractere : simple)
+        AjouteReplie(cle, caractere);
+    Charge();
+    auto entree = std::lower_bound(
+        mesEntrees.cbegin(), mesEntrees.cend(), cle,
+        [this](Entree const & autre, QStringView texte) { return DonneCle(autre) < texte; });
+    for (; entree != mesEntrees.cend() && DonneCle(*entree) == cle; ++entree)
+        if (DonneMot(*entree).compare(simple, Qt::CaseInsensitive) == 0)
+            return true;
+    return false;
+}
+
 void MotsFrancais::Decoupe()
 {
     mesCles.reserve(mesMots.size());

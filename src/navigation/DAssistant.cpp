@@ -1,0 +1,242 @@
+// navigation/DAssistant.cpp
+#include "navigation/DAssistant.h"
+
+#include "controls/DListViewClique.h"
+#include "foundation/Layouts.h"
+#include "foundation/TraductionGui.h"
+#include "navigation/DAssistantEtape.h"
+#include "navigation/DelegayVueEtapes.h"
+
+#include <QBoxLayout>
+#include <QFrame>
+#include <QItemSelectionModel>
+#include <QListWidgetItem>
+#include <QPushButton>
+#include <QStackedWidget>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int kLargeurListe = 175; // logical pixels
+
+// The title of a step as it was when it was added, beside the numbered text of its row.
+constexpr int kRoleTitre = Qt::UserRole;
+
+void ActiveItem(QListWidgetItem * item, bool actif)
+{
+    item->setFlags(item->flags().setFlag(Qt::ItemIsEnabled, actif));
+}
+
+} // namespace
+
+DAssistant::DAssistant(QWidget * parent)
+    : QDialog(parent, Qt::Dialog | Qt::WindowTitleHint | Qt::WindowSystemMenuHint)
+    , maPile(new QStackedWidget)
+    , maVueEtapes(new DListViewClique)
+{
+    CreeListe();
+    CreeBoutons();
+    PoseElements();
+    MetsCouleurs();
+    Branche(); // last: no slot may run on a half-built wizard
+}
+
+DAssistant::~DAssistant()
+{
+    // The children die after this object has stopped being a wizard.
+    disconnect(maPile, nullptr, this, nullptr);
+    disconnect(maVueEtapes->selectionModel(), nullptr, this, nullptr);
+    maVueEtapes->removeEventFilter(this);
+}
+
+void DAssistant::CreeListe()
+{
+    maVueEtapes->setFixedWidth(kLargeurListe);
+    maVueEtapes->setEditTriggers(QAbstractItemView::NoEditTriggers);
+    maVueEtapes->setItemDelegate(new DelegayVueEtapes(this));
+    maVueEtapes->setUniformItemSizes(true);
+    maVueEtapes->setStyleSheet(u"QListWidget{border : 0px; border-right: 1px solid #BBBBBB;}"_s);
+}
+
+void DAssistant::CreeBoutons()
+{
+    monBoutonAnnuler = new QPushButton(TraductionGui(TexteGui("Annuler")));
+    monBoutonPrecedent = new QPushButton("< "_L1 + QString(TraductionGui(TexteGui("Précédent"))));
+    monBoutonSuivant = new QPushButton(QString(TraductionGui(TexteGui("Suivant"))) + " >"_L1);
+    monBoutonTermine = new QPushButton(TraductionGui(TexteGui("Terminer")));
+    monBoutonSuivant->setDefault(true);
+    for (auto * const bouton : {monBoutonPrecedent, monBoutonSuivant, monBoutonTermine})
+        bouton->setEnabled(false);
+}
+
+void DAssistant::PoseElements()
+{
+    auto * const haut = new QHBoxLayout;
+    haut->addWidget(maVueEtapes);
+    haut->addWidget(maPile);
+
+    auto * const barre = new QFrame;
+    barre->setStyleSheet(u"QFrame{background-color: #F0F0F0; border-top: 1px solid #BBBBBB;}"_s);
+    auto * const rangee = new QHBoxLayout(barre);
+    rangee->addStretch(1);
+    for (auto * const bouton :
+         {monBoutonAnnuler, monBoutonPrecedent, monBoutonSuivant, monBoutonTermine})
+        rangee->addWidget(bouton);
+
+    auto * const disposition = new QVBoxLayout(this);
+    RoutinesGeneralesQt::EnleveMargesDuLayout(disposition);
+    disposition->addLayout(haut);
+    disposition->addWidget(barre);
+}
+
+void DAssistant::MetsCouleurs()
+{
+    QPalette couleurs = palette();
+    couleurs.setColor(QPalette::Window, Qt::white);
+    setPalette(couleurs);
+    setAutoFillBackground(true);
+}
+
+void DAssistant::Branche()
+{
+    connect(monBoutonAnnuler, &QPushButton::clicked, this, &DAssistant::PriseBoutonAnnuler,
+            Qt::UniqueConnection);
+    connect(monBoutonPrecedent, &QPushButton::clicked, this, &DAssistant::PriseBoutonPrecedent,
+            Qt::UniqueConnection);
+    connect(monBoutonSuivant, &QPushButton::clicked, this, &DAssistant::PriseBoutonSuivant,
+            Qt::UniqueConnection);
+    connect(monBoutonTermine, &QPushButton::clicked, this, &DAssistant::PriseBoutonTermine,
+            Qt::UniqueConnection);
+    connect(maVueEtapes->selectionModel(), &QItemSelectionModel::selectionChanged, this,
+            &DAssistant::PriseSelectionEtape, Qt::UniqueConnection);
+    connect(maVueEtapes, &QAbstractItemView::clicked, this, &DAssistant::PriseClicEtape,
+            Qt::UniqueConnection);
+    connect(maPile, &QStackedWidget::widgetRemoved, this, &DAssistant::PriseEtapeEnlevay,
+            Qt::UniqueConnection);
+    maVueEtapes->installEventFilter(this);
+}
+
+void DAssistant::AjouteEtape(DAssistantEtape * etape, bool)
+{
+    if (!etape || mesEtapes.contains(etape))
+        return;
+    maPile->addWidget(etape);
+    mesEtapes.append(etape);
+
+    auto * const item = new QListWidgetItem;
+    item->setData(kRoleTitre, QString(etape->DonneTitreEtape()));
+    ActiveItem(item, false);
+    maVueEtapes->addItem(item);
+    NumeroteRangees();
+    RangeFocus();
+}
+
+void DAssistant::Reinitialise()
+{
+    monEtapeCourante = nullptr;
+    monHistorique.clear();
+    for (int rangee = 0; rangee < maVueEtapes->count(); ++rangee)
+        ActiveItem(maVueEtapes->item(rangee), false);
+}
+
+void DAssistant::DebarreToutesLesEtapes()
+{
+    for (int rangee = 0; rangee < maVueEtapes->count(); ++rangee)
+        ActiveRangee(rangee);
+}
+
+void DAssistant::ActiveBoutonAnnuler(bool actif)
+{
+    monBoutonAnnuler->setEnabled(actif);
+}
+
+void DAssistant::ActiveBoutonPrecedent(bool actif)
+{
+    monBoutonPrecedent->setEnabled(actif);
+}
+
+void DAssistant::ActiveBoutonSuivant(bool actif)
+{
+    monBoutonSuivant->setEnabled(actif);
+}
+
+void DAssistant::ActiveBoutonTermine(bool actif)
+{
+    monBoutonTermine->setEnabled(actif);
+}
+
+void DAssistant::ActiveBarreEtapes()
+{
+    maVueEtapes->setEnabled(true);
+}
+
+void DAssistant::DesactiveBarreEtapes()
+{
+    maVueEtapes->setDisabled(true);
+}
+
+void DAssistant::CacheBarreEtapes()
+{
+    maVueEtapes->hide();
+}
+
+void DAssistant::RenommeBoutonSuivant(QString texte)
+{
+    monBoutonSuivant->setText(texte);
+}
+
+int DAssistant::DonneMaxEtapeParcouru() const
+{
+    return monMaxEtape;
+}
+
+QVariant DAssistant::DonneOption(QString cle)
+{
+    auto const position = mesOptions.find(cle);
+    return position == mesOptions.end() ? QVariant() : position->second;
+}
+
+void DAssistant::PrendsOption(QString cle, QVariant valeur)
+{
+    mesOptions[cle] = valeur;
+}
+
+void DAssistant::EnleveOption(QString cle)
+{
+    mesOptions.erase(cle);
+}
+
+UniChaine DAssistant::DonneTitreGenerique(DAssistantEtape *) const
+{
+    // Deliberate: the text speaks of the visited path, not of the place of a step in the list.
+    return TraductionGuiFormatay(TexteGui("Étape {1} de {2}"),
+                                 {UniChaine::DepuisNombre(int(monHistorique.size()) + 1),
+                                  UniChaine::DepuisNombre(int(mesEtapes.size()))});
+}
+
+void DAssistant::NumeroteRangees()
+{
+    for (int rangee = 0; rangee < maVueEtapes->count(); ++rangee) {
+        QListWidgetItem * const item = maVueEtapes->item(rangee);
+        item->setText(
+            u"%1. %2"_s.arg(QString::number(rangee + 1), item->data(kRoleTitre).toString()));
+    }
+}
+
+void DAssistant::ActiveRangee(int rangee)
+{
+    ActiveItem(maVueEtapes->item(rangee), true);
+}
+
+void DAssistant::RangeFocus()
+{
+    // The steps' widgets, also those that a step made later, come between the list and the buttons.
+    for (auto * const bouton :
+         {monBoutonAnnuler, monBoutonPrecedent, monBoutonSuivant, monBoutonTermine}) {
+        QWidget * dernier = previousInFocusChain();
+        while (dernier->focusPolicy() == Qt::NoFocus && dernier != this)
+            dernier = dernier->previousInFocusChain();
+        setTabOrder(dernier, bouton);
+    }
+}

@@ -1,0 +1,253 @@
+// navigation/DAssistantMouvements.cpp
+#include "navigation/DAssistant.h"
+
+#include "controls/DListViewClique.h"
+#include "navigation/DAssistantEtape.h"
+
+#include <QAccessible>
+#include <QCloseEvent>
+#include <QItemSelectionModel>
+#include <QKeyEvent>
+#include <QPointer>
+#include <QPushButton>
+#include <QStackedWidget>
+
+#include <algorithm>
+#include <cstdlib>
+
+void DAssistant::PriseBoutonAnnuler()
+{
+    for (auto * const bouton : {monBoutonPrecedent, monBoutonSuivant, monBoutonTermine})
+        bouton->setEnabled(false);
+
+    QPointer<DAssistant> const garde(this);
+    if (monEtapeCourante)
+        monEtapeCourante->AnnuleEtape();
+    if (garde)
+        reject();
+}
+
+void DAssistant::PriseBoutonPrecedent()
+{
+    DAssistantEtape * const etape = monEtapeCourante;
+    if (!etape)
+        return;
+    QPointer<DAssistant> const garde(this);
+    if (etape->BloqueRetour() || !garde || etape != monEtapeCourante)
+        return;
+    if (!etape->PeutRevenir() || !garde || etape != monEtapeCourante)
+        return;
+    if (!monHistorique.isEmpty())
+        RevientA(monHistorique.takeLast());
+}
+
+bool DAssistant::PriseBoutonSuivant()
+{
+    DAssistantEtape * const etape = monEtapeCourante;
+    if (!etape)
+        return false;
+    QPointer<DAssistant> const garde(this);
+    if (etape->BloqueAvance() || !garde || etape != monEtapeCourante)
+        return false;
+    monBoutonSuivant->setEnabled(false);
+    monBoutonTermine->setEnabled(false);
+    if (!etape->PeutAvancer() || !garde || etape != monEtapeCourante)
+        return false;
+
+    int const cible = RangeeCourante() + 1;
+    if (cible >= mesEtapes.size())
+        return false; // behind the last step there is none: it refuses as any other may
+
+    monHistorique.append(etape);
+    monEtapeCourante = mesEtapes.at(cible);
+    maPile->setCurrentWidget(monEtapeCourante);
+    monBoutonPrecedent->setEnabled(true);
+    ChangeTitre();
+    monMaxEtape = std::max(monMaxEtape, cible);
+    ActiveRangee(cible);
+    SelectionneRangee(cible);
+    EntreDansEtapeCourante();
+    return true;
+}
+
+void DAssistant::PriseBoutonTermine()
+{
+    QPointer<DAssistant> const garde(this);
+    if (!monEtapeCourante || !monEtapeCourante->PeutTerminer() || !garde)
+        return;
+    monBoutonSuivant->setEnabled(false);
+    monBoutonTermine->setEnabled(false);
+    accept();
+}
+
+void DAssistant::changeEvent(QEvent * evenement)
+{
+    QDialog::changeEvent(evenement);
+}
+
+void DAssistant::closeEvent(QCloseEvent * evenement)
+{
+    QPointer<DAssistant> const garde(this);
+    bool const peut = !monEtapeCourante || monEtapeCourante->PeutFermer(evenement);
+    if (!garde)
+        return;
+    if (peut)
+        QDialog::closeEvent(evenement);
+    else
+        evenement->ignore();
+}
+
+bool DAssistant::eventFilter(QObject * objet, QEvent * evenement)
+{
+    if (objet != maVueEtapes || evenement->type() != QEvent::KeyPress || maToucheEnCours)
+        return QDialog::eventFilter(objet, evenement);
+
+    // The view goes on with its current index once a key has selected a row. The jump waits for
+    // that: a refused one puts the current index back, and a step may delete the wizard.
+    maToucheEnCours = true;
+    maRangeeChoisie = -1;
+    objet->event(evenement);
+    maToucheEnCours = false;
+    if (maRangeeChoisie >= 0)
+        SauteA(maRangeeChoisie, maRangeeChoisie - RangeeCourante());
+    return true;
+}
+
+void DAssistant::keyPressEvent(QKeyEvent * evenement)
+{
+    // Escape closes the window as its own button does, so the step is asked.
+    if (evenement->matches(QKeySequence::Cancel))
+        close();
+    else
+        QDialog::keyPressEvent(evenement);
+}
+
+void DAssistant::showEvent(QShowEvent * evenement)
+{
+    QDialog::showEvent(evenement);
+    if (!monEtapeCourante) {
+        if (mesEtapes.isEmpty())
+            return;
+        monEtapeCourante = mesEtapes.first();
+        maPile->setCurrentWidget(monEtapeCourante);
+        ActiveRangee(0);
+        SelectionneRangee(0);
+    }
+    ChangeTitre();
+    EntreDansEtapeCourante();
+}
+
+void DAssistant::ChangeTitre()
+{
+    if (!monEtapeCourante)
+        return;
+    setWindowTitle(monEtapeCourante->DonneTitre());
+    // Qt tells assistive technologies of a window's title only when the window is activated.
+    QAccessibleEvent nouvelle(this, QAccessible::NameChanged);
+    QAccessible::updateAccessibility(&nouvelle);
+}
+
+void DAssistant::PriseSelectionEtape(QItemSelection selectionnay, QItemSelection deselectionnay)
+{
+    if (!monEtapeCourante)
+        return;
+    QModelIndexList const nouvelles = selectionnay.indexes();
+    QModelIndexList const anciennes = deselectionnay.indexes();
+    // The keyboard can take the selection off: the list goes on showing where the wizard is.
+    if (nouvelles.isEmpty())
+        SelectionneRangee(RangeeCourante());
+    if (nouvelles.isEmpty() || anciennes.isEmpty())
+        return;
+
+    int const rangee = nouvelles.first().row();
+    if (rangee == RangeeCourante())
+        return; // by a move already made
+    if (maToucheEnCours)
+        maRangeeChoisie = rangee;
+    else
+        SauteA(rangee, rangee - anciennes.first().row());
+}
+
+void DAssistant::PriseClicEtape(QModelIndex const & index)
+{
+    // The list clicks disabled items too and selects nothing by itself.
+    if (index.flags().testFlag(Qt::ItemIsEnabled))
+        maVueEtapes->selectionModel()->select(index, QItemSelectionModel::ClearAndSelect);
+}
+
+void DAssistant::PriseEtapeEnlevay(int index)
+{
+    DAssistantEtape * const etape = mesEtapes.takeAt(index);
+    monHistorique.removeAll(etape);
+    bool const etaitCourante = etape == monEtapeCourante;
+    if (etaitCourante)
+        monEtapeCourante = nullptr; // the row that goes selects a neighbour, which is no jump
+    delete maVueEtapes->takeItem(index);
+    NumeroteRangees();
+    if (!etaitCourante)
+        return;
+
+    if (!monHistorique.isEmpty())
+        RevientA(monHistorique.takeLast());
+    else if (!mesEtapes.isEmpty())
+        RevientA(mesEtapes.first());
+}
+
+int DAssistant::RangeeCourante() const
+{
+    return int(mesEtapes.indexOf(monEtapeCourante));
+}
+
+void DAssistant::SelectionneRangee(int rangee)
+{
+    QModelIndex const index = maVueEtapes->model()->index(rangee, 0);
+    if (!index.isValid())
+        return;
+    QItemSelectionModel * const selection = maVueEtapes->selectionModel();
+    selection->select(index, QItemSelectionModel::ClearAndSelect);
+    // The arrow keys go on from the step.
+    selection->setCurrentIndex(index, QItemSelectionModel::NoUpdate);
+}
+
+void DAssistant::SauteA(int rangee, int distance)
+{
+    QPointer<DAssistant> const garde(this);
+    DAssistantEtape const * const cible = mesEtapes.at(rangee);
+    for (int pas = std::abs(distance); pas > 0 && garde && monEtapeCourante != cible; --pas) {
+        // Deliberate: a step that refuses to go back is asked again by each of the moves.
+        if (distance < 0)
+            PriseBoutonPrecedent();
+        else if (!PriseBoutonSuivant())
+            break;
+    }
+    // The row of the step that was reached: from any other the next click would measure its
+    // distance from a step where the wizard is not.
+    if (garde)
+        SelectionneRangee(RangeeCourante());
+}
+
+void DAssistant::RevientA(DAssistantEtape * etape)
+{
+    monEtapeCourante = etape;
+    SelectionneRangee(RangeeCourante());
+    monBoutonSuivant->setEnabled(false);
+    monBoutonTermine->setEnabled(false);
+
+    QPointer<DAssistant> const garde(this);
+    if (monHistorique.isEmpty() && !etape->GardePrecedentActif() && garde)
+        monBoutonPrecedent->setEnabled(false);
+    if (!garde || etape != monEtapeCourante)
+        return;
+    maPile->setCurrentWidget(etape);
+    ChangeTitre();
+    EntreDansEtapeCourante();
+}
+
+void DAssistant::EntreDansEtapeCourante()
+{
+    maVueEtapes->setAccessibleName(DonneTitreGenerique(monEtapeCourante));
+    QPointer<DAssistant> const garde(this);
+    monEtapeCourante->EntreDansEtape();
+    if (garde)
+        RangeFocus();
+}

@@ -1,0 +1,85 @@
+// navigation/ElementFilAriane.cpp
+#include "navigation/ElementFilAriane.h"
+
+#include "foundation/Layouts.h"
+
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QStyle>
+#include <QSvgRenderer>
+#include <QSvgWidget>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr QSize kTailleIcone(16, 16); // logical pixels
+
+struct Apparence
+{
+    QString icone;
+    QString nomTexte; // what the application's sheet sees
+};
+
+Apparence DonneApparence(ElementFilAriane::eEtat etat)
+{
+    switch (etat) {
+    case ElementFilAriane::kBienvenue:
+        return {u":/Images/iconeArianeActif.svg"_s, u"ArianeTexteBienvenue"_s};
+    case ElementFilAriane::kAVenir:
+        return {u":/Images/iconeArianeAffaire.svg"_s, u"ArianeTexteInactif"_s};
+    case ElementFilAriane::kEnCours:
+        return {u":/Images/iconeArianeEnCours.svg"_s, u"ArianeTexteActif"_s};
+    case ElementFilAriane::kFait:
+        return {u":/Images/iconeArianeFait.svg"_s, u"ArianeTexteInactif"_s};
+    }
+    return {};
+}
+
+} // namespace
+
+ElementFilAriane::ElementFilAriane(QWidget * parent)
+    : QWidget(parent)
+{
+    auto * const disposition = new QHBoxLayout;
+    RoutinesGeneralesQt::EnleveMargesDuLayout(disposition);
+    disposition->setSpacing(0);
+
+    monIcone = new QSvgWidget;
+    monTexte = new QLabel;
+    monTexte->setFocusPolicy(Qt::TabFocus); // the keyboard reaches each marker
+    disposition->addWidget(monIcone);
+    disposition->addWidget(monTexte);
+    setLayout(disposition);
+
+    MetsEtat(kAVenir);
+    MetsTailleIcone(kTailleIcone);
+}
+
+void ElementFilAriane::MetsEtat(ElementFilAriane::eEtat etat)
+{
+    Apparence const apparence = DonneApparence(etat);
+    if (!apparence.icone.isEmpty()) {
+        monIcone->load(apparence.icone);
+        // Each load puts the renderer back to filling the widget.
+        monIcone->renderer()->setAspectRatioMode(Qt::KeepAspectRatio);
+        monTexte->setObjectName(apparence.nomTexte);
+    }
+    monTexte->style()->unpolish(monTexte);
+    monTexte->style()->polish(monTexte);
+}
+
+void ElementFilAriane::PrendChaine(QString texte)
+{
+    monTexte->setText(texte);
+}
+
+void ElementFilAriane::MetsTailleIcone(QSize taille)
+{
+    monIcone->setFixedSize(taille);
+}
+
+void ElementFilAriane::CacheIcone(bool cachay)
+{
+    monIcone->setHidden(cachay);
+}

@@ -31,7 +31,7 @@ QString ImportMotsLecture::DonneMessage() const
     case kIllisible:
         return TraductionGalerie(TexteGalerie("{1} ne peut pas être lu."), {fichier});
     case kTropLong:
-        return TraductionGalerie(TexteGalerie("{1} est trop long : au plus {2}."),
+        return TraductionGalerie(TexteGalerie("{1} est trop long : au plus {2}."),
                                  {fichier, UniChaine(QLocale().formattedDataSize(maLimite, 0))});
     case kBinaire:
         return TraductionGalerie(TexteGalerie("{1} n’est pas un texte."), {fichier});

@@ -27,7 +27,6 @@ constexpr int kMilieu = 128;
 AssistantImport::AssistantImport(QWidget * parent)
     : DAssistant(parent)
 {
-    MetsCouleursClaires();
     resize(kTaille);
     QStringList const titres = DonneTitres();
     mesEtapes = {new EtapeSource(*this, titres.at(0)), new EtapeFormat(*this, titres.at(1)),
@@ -35,6 +34,7 @@ AssistantImport::AssistantImport(QWidget * parent)
                  new EtapeResume(*this, titres.at(4))};
     for (EtapeImport * const etape : std::as_const(mesEtapes))
         AjouteEtape(etape, false);
+    MetsCouleursClaires();
 }
 
 QStringList AssistantImport::DonneTitres()
@@ -139,4 +139,9 @@ void AssistantImport::MetsCouleursClaires()
         couleurs.setColor(QPalette::Disabled, role, texteGris);
     }
     setPalette(couleurs);
+    // Under a style sheet no widget takes the colours of its parent; those that have a sheet of
+    // their own take them from the application's alone.
+    for (QWidget * const widget : findChildren<QWidget *>())
+        widget->setPalette(couleurs);
+    setProperty("themeSombre", true);
 }

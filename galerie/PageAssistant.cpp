@@ -12,6 +12,7 @@
 #include "navigation/DFilAriane.h"
 #include "navigation/ElementFilAriane.h"
 
+#include <QFrame>
 #include <QGroupBox>
 #include <QHeaderView>
 #include <QKeyEvent>
@@ -144,7 +145,12 @@ QWidget * PageAssistant::CreeApercu()
     monModele->OuvrePourApercu(DonneSaisieMontree());
     monApercu = new ApercuFenetre(TraductionGalerie(TexteGalerie("Ce qui s’ouvre")), *monModele,
                                   [this] { return monModele->size(); });
-    return monApercu;
+    auto * const cadre = new QFrame; // for the white window on a page that is nearly white
+    cadre->setObjectName(u"cadreApercu"_s);
+    auto * const disposition = new QVBoxLayout(cadre);
+    disposition->setContentsMargins(1, 1, 1, 1);
+    disposition->addWidget(monApercu);
+    return cadre;
 }
 
 QWidget * PageAssistant::CreeCommandes()

@@ -7,6 +7,7 @@
 #include "navigation/DAssistantEtape.h"
 #include "navigation/DelegayVueEtapes.h"
 
+#include <QApplication>
 #include <QBoxLayout>
 #include <QFrame>
 #include <QItemSelectionModel>
@@ -22,6 +23,13 @@ constexpr int kLargeurListe = 175; // logical pixels
 
 // The title of a step as it was when it was added, beside the numbered text of its row.
 constexpr int kRoleTitre = Qt::UserRole;
+
+constexpr QRgb kTexteNoirci = qRgb(0, 0, 0);
+
+bool EstClair(QColor const & couleur)
+{
+    return couleur.lightness() > 127; // of 255
+}
 
 void ActiveItem(QListWidgetItem * item, bool actif)
 {
@@ -65,29 +73,29 @@ void DAssistant::CreeBoutons()
     monBoutonPrecedent = new QPushButton("< "_L1 + QString(TraductionGui(TexteGui("Précédent"))));
     monBoutonSuivant = new QPushButton(QString(TraductionGui(TexteGui("Suivant"))) + " >"_L1);
     monBoutonTermine = new QPushButton(TraductionGui(TexteGui("Terminer")));
-    monBoutonSuivant->setDefault(true);
     for (auto * const bouton : {monBoutonPrecedent, monBoutonSuivant, monBoutonTermine})
         bouton->setEnabled(false);
 }
 
 void DAssistant::PoseElements()
 {
+    auto * const disposition = new QVBoxLayout(this);
+    RoutinesGeneralesQt::EnleveMargesDuLayout(disposition);
+
     auto * const haut = new QHBoxLayout;
+    disposition->addLayout(haut);
     haut->addWidget(maVueEtapes);
     haut->addWidget(maPile);
 
     auto * const barre = new QFrame;
     barre->setStyleSheet(u"QFrame{background-color: #F0F0F0; border-top: 1px solid #BBBBBB;}"_s);
+    disposition->addWidget(barre);
     auto * const rangee = new QHBoxLayout(barre);
     rangee->addStretch(1);
     for (auto * const bouton :
          {monBoutonAnnuler, monBoutonPrecedent, monBoutonSuivant, monBoutonTermine})
         rangee->addWidget(bouton);
-
-    auto * const disposition = new QVBoxLayout(this);
-    RoutinesGeneralesQt::EnleveMargesDuLayout(disposition);
-    disposition->addLayout(haut);
-    disposition->addWidget(barre);
+    monBoutonSuivant->setDefault(true); // only now: a dialog counts its own buttons alone
 }
 
 void DAssistant::MetsCouleurs()
@@ -96,6 +104,27 @@ void DAssistant::MetsCouleurs()
     couleurs.setColor(QPalette::Window, Qt::white);
     setPalette(couleurs);
     setAutoFillBackground(true);
+    AccordeTexte();
+}
+
+void DAssistant::AccordeTexte()
+{
+    // The background is white under a dark palette too, whose text nobody could read on it.
+    QPalette couleurs = palette();
+    QPalette const application = QApplication::palette(this);
+    QColor const texte = couleurs.color(QPalette::Active, QPalette::WindowText);
+    if (EstClair(texte) && EstClair(couleurs.color(QPalette::Active, QPalette::Window))) {
+        monTexteNoirci = true;
+        couleurs.setColor(QPalette::WindowText, kTexteNoirci);
+        couleurs.setColor(QPalette::Disabled, QPalette::WindowText, Qt::darkGray);
+    } else if (monTexteNoirci && texte == kTexteNoirci &&
+               !EstClair(application.color(QPalette::Active, QPalette::WindowText))) {
+        monTexteNoirci = false;
+        for (auto const groupe : {QPalette::Active, QPalette::Inactive, QPalette::Disabled})
+            couleurs.setColor(groupe, QPalette::WindowText,
+                              application.color(groupe, QPalette::WindowText));
+    }
+    setPalette(couleurs);
 }
 
 void DAssistant::Branche()
@@ -217,6 +246,7 @@ UniChaine DAssistant::DonneTitreGenerique(DAssistantEtape *) const
 
 void DAssistant::NumeroteRangees()
 {
+    maVueEtapes->setAccessibleName(DonneTitreGenerique(monEtapeCourante));
     for (int rangee = 0; rangee < maVueEtapes->count(); ++rangee) {
         QListWidgetItem * const item = maVueEtapes->item(rangee);
         item->setText(

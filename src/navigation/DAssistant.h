@@ -96,6 +96,7 @@ private:
     void CreeBoutons();
     void PoseElements();
     void MetsCouleurs();
+    void AccordeTexte();
     void Branche();
 
     int RangeeCourante() const;
@@ -103,7 +104,7 @@ private:
     void ActiveRangee(int rangee);
     void NumeroteRangees();
     void SauteA(int rangee, int distance);
-    void RevientA(DAssistantEtape * etape);
+    bool RevientA(DAssistantEtape * etape);
     void EntreDansEtapeCourante();
     void RangeFocus();
 
@@ -118,6 +119,7 @@ private:
     QPushButton * monBoutonTermine = nullptr;
     DListViewClique * maVueEtapes = nullptr;
     int monMaxEtape = 0;
+    bool monTexteNoirci = false;  // by this class, under a dark palette
     bool maToucheEnCours = false; // the list is handling a key
     int maRangeeChoisie = -1;     // by that key
 };

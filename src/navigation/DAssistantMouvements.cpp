@@ -37,8 +37,8 @@ void DAssistant::PriseBoutonPrecedent()
         return;
     if (!etape->PeutRevenir() || !garde || etape != monEtapeCourante)
         return;
-    if (!monHistorique.isEmpty())
-        RevientA(monHistorique.takeLast());
+    if (!monHistorique.isEmpty() && RevientA(monHistorique.takeLast()))
+        EntreDansEtapeCourante();
 }
 
 bool DAssistant::PriseBoutonSuivant()
@@ -83,6 +83,8 @@ void DAssistant::PriseBoutonTermine()
 void DAssistant::changeEvent(QEvent * evenement)
 {
     QDialog::changeEvent(evenement);
+    if (evenement->type() == QEvent::PaletteChange)
+        AccordeTexte();
 }
 
 void DAssistant::closeEvent(QCloseEvent * evenement)
@@ -177,20 +179,28 @@ void DAssistant::PriseClicEtape(QModelIndex const & index)
 
 void DAssistant::PriseEtapeEnlevay(int index)
 {
-    DAssistantEtape * const etape = mesEtapes.takeAt(index);
-    monHistorique.removeAll(etape);
+    DAssistantEtape * const etape = mesEtapes.at(index);
     bool const etaitCourante = etape == monEtapeCourante;
     if (etaitCourante)
         monEtapeCourante = nullptr; // the row that goes selects a neighbour, which is no jump
+    // The row first: its selection model speaks up while the row is still counted.
     delete maVueEtapes->takeItem(index);
+    mesEtapes.removeAt(index);
+    monHistorique.removeAll(etape);
     NumeroteRangees();
     if (!etaitCourante)
         return;
 
-    if (!monHistorique.isEmpty())
-        RevientA(monHistorique.takeLast());
-    else if (!mesEtapes.isEmpty())
-        RevientA(mesEtapes.first());
+    if (mesEtapes.isEmpty()) {
+        for (auto * const bouton : {monBoutonPrecedent, monBoutonSuivant, monBoutonTermine})
+            bouton->setEnabled(false);
+        return;
+    }
+    DAssistantEtape * const suite =
+        monHistorique.isEmpty() ? mesEtapes.first() : monHistorique.takeLast();
+    ActiveRangee(int(mesEtapes.indexOf(suite)));
+    if (RevientA(suite) && isVisible()) // a hidden wizard enters it when it is shown
+        EntreDansEtapeCourante();
 }
 
 int DAssistant::RangeeCourante() const
@@ -226,7 +236,7 @@ void DAssistant::SauteA(int rangee, int distance)
         SelectionneRangee(RangeeCourante());
 }
 
-void DAssistant::RevientA(DAssistantEtape * etape)
+bool DAssistant::RevientA(DAssistantEtape * etape)
 {
     monEtapeCourante = etape;
     SelectionneRangee(RangeeCourante());
@@ -234,13 +244,14 @@ void DAssistant::RevientA(DAssistantEtape * etape)
     monBoutonTermine->setEnabled(false);
 
     QPointer<DAssistant> const garde(this);
-    if (monHistorique.isEmpty() && !etape->GardePrecedentActif() && garde)
-        monBoutonPrecedent->setEnabled(false);
+    bool const reste = !monHistorique.isEmpty() || etape->GardePrecedentActif();
     if (!garde || etape != monEtapeCourante)
-        return;
+        return false;
+    if (!reste)
+        monBoutonPrecedent->setEnabled(false);
     maPile->setCurrentWidget(etape);
     ChangeTitre();
-    EntreDansEtapeCourante();
+    return true;
 }
 
 void DAssistant::EntreDansEtapeCourante()

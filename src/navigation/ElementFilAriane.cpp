@@ -3,6 +3,7 @@
 
 #include "foundation/Layouts.h"
 
+#include <QFile>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QStyle>
@@ -36,6 +37,17 @@ Apparence DonneApparence(ElementFilAriane::eEtat etat)
     return {};
 }
 
+void MontreIcone(QSvgWidget & icone, QString const & fichier)
+{
+    // Qt would warn of a file that is not there; an empty document draws as little.
+    if (QFile::exists(fichier))
+        icone.load(fichier);
+    else
+        icone.load("<svg xmlns='http://www.w3.org/2000/svg'/>"_ba);
+    // Each load brings a new document, which fills the widget.
+    icone.renderer()->setAspectRatioMode(Qt::KeepAspectRatio);
+}
+
 } // namespace
 
 ElementFilAriane::ElementFilAriane(QWidget * parent)
@@ -60,9 +72,7 @@ void ElementFilAriane::MetsEtat(ElementFilAriane::eEtat etat)
 {
     Apparence const apparence = DonneApparence(etat);
     if (!apparence.icone.isEmpty()) {
-        monIcone->load(apparence.icone);
-        // Each load puts the renderer back to filling the widget.
-        monIcone->renderer()->setAspectRatioMode(Qt::KeepAspectRatio);
+        MontreIcone(*monIcone, apparence.icone);
         monTexte->setObjectName(apparence.nomTexte);
     }
     monTexte->style()->unpolish(monTexte);

@@ -12,6 +12,7 @@
 #include "noyau/DAlerteInfo.h"
 
 #include <QAbstractItemView>
+#include <QApplication>
 
 #include <algorithm>
 
@@ -19,8 +20,7 @@ namespace {
 
 constexpr QSize kTaille(660, 420); // logical pixels
 
-// Below this lightness of 0 to 255 the theme is a dark one.
-constexpr int kMilieu = 128;
+constexpr int kMilieu = 128; // of the lightness, 0 to 255: texts of a dark theme are above
 
 } // namespace
 
@@ -123,9 +123,9 @@ void AssistantImport::DemandeAbandon()
 // The window is white in every theme: texts and edges of a dark one would be lost on it.
 void AssistantImport::MetsCouleursClaires()
 {
-    QPalette couleurs = palette();
-    if (couleurs.color(QPalette::WindowText).lightness() < kMilieu)
+    if (QApplication::palette().color(QPalette::WindowText).lightness() < kMilieu)
         return;
+    QPalette couleurs = palette();
     QColor const texte(31, 35, 40);
     QColor const texteGris(120, 125, 133);
     QPalette const claires(QColor(239, 240, 242), QColor(Qt::white));

@@ -46,6 +46,8 @@ EtapeSource::EtapeSource(AssistantImport & assistant, QString const & titre)
     monTexte->setPlaceholderText(
         TraductionGalerie(TexteGalerie("Un mot par ligne, ou séparés par des virgules")));
     monTexte->setTabChangesFocus(true);
+    // To wrap a line of a million characters takes Qt a minute.
+    monTexte->setLineWrapMode(QPlainTextEdit::NoWrap);
     monAvancement = new QLabel(TraductionGalerie(TexteGalerie("Lecture du fichier…")));
     monAvancement->setObjectName(u"explicationPage"_s);
     monAvancement->hide();

@@ -49,6 +49,12 @@ bool EtapeVerification::BloqueAvance()
     return maVerification;
 }
 
+bool EtapeVerification::BloqueRetour()
+{
+    monAvanceEstDemandee = false; // no longer
+    return EtapeImport::BloqueRetour();
+}
+
 bool EtapeVerification::PeutAvancer()
 {
     PrendsOption(OptionsImport::kMotsRetenus, DonneRetenus());
@@ -59,7 +65,6 @@ void EtapeVerification::Affiche()
 {
     QSignalBlocker const retrait(monRetrait);
     monRetrait->setChecked(DonneOption(OptionsImport::kRetireInconnus).toBool());
-    monAvanceEstDemandee = false;
     QStringList const mots = DonneOption(OptionsImport::kMotsTries).toStringList();
     if (DonneOption(OptionsImport::kMotsVerifies).toStringList() == mots)
         MontreResultat();

@@ -21,6 +21,7 @@ public:
 
     /// True while words are checked; the wizard then goes on by itself when they are.
     bool BloqueAvance() override;
+    bool BloqueRetour() override;
     bool PeutAvancer() override;
 
 protected:

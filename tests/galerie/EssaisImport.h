@@ -103,11 +103,17 @@ protected:
         return {};
     }
 
+    /// Qt takes a window for active when the one before it is.
+    void AttendsAssistant()
+    {
+        QVERIFY(maPage->PreteAssistant());
+        QTRY_COMPARE(QApplication::activeWindow(), &Assistant());
+    }
+
     void Ouvre()
     {
         Clique(*maPage->findChild<QPushButton *>(QStringLiteral("importer")));
-        QVERIFY(maPage->PreteAssistant());
-        QVERIFY(QTest::qWaitForWindowActive(&Assistant()));
+        AttendsAssistant();
     }
 
     void Colle(QString const & texte)

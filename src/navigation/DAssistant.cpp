@@ -15,6 +15,8 @@
 #include <QPushButton>
 #include <QStackedWidget>
 
+#include <utility>
+
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -33,7 +35,9 @@ bool EstClair(QColor const & couleur)
 
 void ActiveItem(QListWidgetItem * item, bool actif)
 {
-    item->setFlags(item->flags().setFlag(Qt::ItemIsEnabled, actif));
+    // Qt tells assistive technologies of rows that can't be selected, not of disabled ones.
+    item->setFlags(
+        item->flags().setFlag(Qt::ItemIsEnabled, actif).setFlag(Qt::ItemIsSelectable, actif));
 }
 
 } // namespace
@@ -210,6 +214,7 @@ void DAssistant::CacheBarreEtapes()
     maVueEtapes->hide();
 }
 
+// NOLINTNEXTLINE(performance-unnecessary-value-param): by value is the interface
 void DAssistant::RenommeBoutonSuivant(QString texte)
 {
     monBoutonSuivant->setText(texte);
@@ -220,6 +225,7 @@ int DAssistant::DonneMaxEtapeParcouru() const
     return monMaxEtape;
 }
 
+// NOLINTBEGIN(performance-unnecessary-value-param): by value is the interface
 QVariant DAssistant::DonneOption(QString cle)
 {
     auto const position = mesOptions.find(cle);
@@ -228,13 +234,14 @@ QVariant DAssistant::DonneOption(QString cle)
 
 void DAssistant::PrendsOption(QString cle, QVariant valeur)
 {
-    mesOptions[cle] = valeur;
+    mesOptions[cle] = std::move(valeur);
 }
 
 void DAssistant::EnleveOption(QString cle)
 {
     mesOptions.erase(cle);
 }
+// NOLINTEND(performance-unnecessary-value-param)
 
 UniChaine DAssistant::DonneTitreGenerique(DAssistantEtape *) const
 {

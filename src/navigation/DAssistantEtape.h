@@ -13,7 +13,8 @@ class QCloseEvent;
 /// lets the move happen.
 ///
 /// An operation may call the wizard's own slots, delete the step or delete the wizard: the move
-/// under way then ends there.
+/// under way then ends there. Only while the wizard is being shown must its deletion be left to
+/// `deleteLater`.
 class FABRELGUI_EXPORT DAssistantEtape : public QWidget
 {
     Q_OBJECT

@@ -101,14 +101,19 @@ void DAssistant::closeEvent(QCloseEvent * evenement)
 
 bool DAssistant::eventFilter(QObject * objet, QEvent * evenement)
 {
-    if (objet != maVueEtapes || evenement->type() != QEvent::KeyPress || maToucheEnCours)
+    bool const choisit =
+        evenement->type() == QEvent::KeyPress || evenement->type() == QEvent::InputMethod;
+    if (objet != maVueEtapes || !choisit || maToucheEnCours)
         return QDialog::eventFilter(objet, evenement);
 
     // The view goes on with its current index once a key has selected a row. The jump waits for
     // that: a refused one puts the current index back, and a step may delete the wizard.
+    QPointer<DAssistant> const garde(this);
     maToucheEnCours = true;
     maRangeeChoisie = -1;
     objet->event(evenement);
+    if (!garde)
+        return true;
     maToucheEnCours = false;
     if (maRangeeChoisie >= 0)
         SauteA(maRangeeChoisie, maRangeeChoisie - RangeeCourante());
@@ -149,6 +154,7 @@ void DAssistant::ChangeTitre()
     QAccessible::updateAccessibility(&nouvelle);
 }
 
+// NOLINTNEXTLINE(performance-unnecessary-value-param): a slot, whose signature others name
 void DAssistant::PriseSelectionEtape(QItemSelection selectionnay, QItemSelection deselectionnay)
 {
     if (!monEtapeCourante)

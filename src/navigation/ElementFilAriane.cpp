@@ -79,6 +79,7 @@ void ElementFilAriane::MetsEtat(ElementFilAriane::eEtat etat)
     monTexte->style()->polish(monTexte);
 }
 
+// NOLINTNEXTLINE(performance-unnecessary-value-param): by value is the interface
 void ElementFilAriane::PrendChaine(QString texte)
 {
     monTexte->setText(texte);

@@ -62,6 +62,7 @@ private Q_SLOTS:
     void flecheRefusee();
     void premiereEtDerniere();
     void touchesLettres();
+    void saisieComposee();
     void selectionOtee();
     void selectionPrivee_data();
     void selectionPrivee();
@@ -286,6 +287,18 @@ void tst_DAssistantSauts::touchesLettres()
     QTest::keyClick(banc.liste, '2');
     QCOMPARE(banc.Rangee(), 1);
     QCOMPARE(banc.journal, Reculs(3, 1));
+}
+
+void tst_DAssistantSauts::saisieComposee()
+{
+    Banc banc(6);
+    QVERIFY(banc.Avance(3));
+    banc.etapes.at(3)->peutRevenir = false;
+    QInputMethodEvent saisie;
+    saisie.setCommitString(u"2"_s);
+    QCoreApplication::sendEvent(banc.liste, &saisie);
+    QCOMPARE(banc.journal.first(), u"3 BloqueRetour"_s);
+    QCOMPARE(banc.Rangee(), 3);
 }
 
 // Ctrl+Space takes the selection off the row.

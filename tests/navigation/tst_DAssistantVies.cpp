@@ -174,6 +174,7 @@ private Q_SLOTS:
     void seuleDetruite();
     void autreDetruite();
     void detruiteCachay();
+    void detruiteEnSAffichant();
     void etapeReprise();
     void hasardDesDestructions();
     void passeToutSeul();
@@ -361,6 +362,16 @@ void tst_DAssistantVies::detruiteCachay()
     QVERIFY(!banc.journal.contains(u"0 EntreDansEtape"_s));
     banc.Montre();
     QCOMPARE(banc.liste->currentRow(), 0);
+    VerifieCoherence(banc);
+}
+
+void tst_DAssistantVies::detruiteEnSAffichant()
+{
+    Banc banc(3, false);
+    banc.etapes.at(0)->enEntrant = [&banc] { delete banc.etapes.at(0); };
+    banc.assistant->show();
+    QCOMPARE(banc.journal, QStringList({u"0 EntreDansEtape"_s, u"1 GardePrecedentActif"_s,
+                                        u"1 EntreDansEtape"_s}));
     VerifieCoherence(banc);
 }
 

@@ -31,7 +31,7 @@ public:
     /// How many words begin as `debut`.
     int Compte(QString const & debut);
     /// Whether it is a word of the list, in upper or lower case, but with its accents, hyphens and
-    /// apostrophes.
+    /// apostrophes. Two letters in one, as in "œuvre", may stand apart.
     bool Contient(QString const & mot);
 
 private:

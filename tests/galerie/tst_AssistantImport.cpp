@@ -17,6 +17,7 @@ private Q_SLOTS:
     void toutALaSouris();
     void sourceRefusee_data();
     void sourceRefusee();
+    void fichierParcouru();
     void texteRefusay();
     void lectureBloque();
     void lectureAbandonnee();
@@ -151,6 +152,20 @@ void tst_AssistantImport::sourceRefusee()
     QVERIFY(Suivant().isEnabled());
     Clique(Suivant());
     QTRY_COMPARE(Etape(), static_cast<int>(kFormat));
+}
+
+void tst_AssistantImport::fichierParcouru()
+{
+    QString const fichier = Ecris(u"faune.txt"_s, "chat\n");
+    Ouvre();
+    Clique(Champ<QPushButton>("parcourir"));
+    auto * const dialogue = Assistant().findChild<QFileDialog *>();
+    QVERIFY(dialogue && dialogue->isVisible());
+    dialogue->selectFile(fichier);
+    QMetaObject::invokeMethod(dialogue, "accept");
+    QTRY_COMPARE(QDir::fromNativeSeparators(Champ<QLineEdit>("chemin").text()), fichier);
+    QTRY_VERIFY(!Assistant().findChild<QFileDialog *>());
+    AvanceJusqua(kFormat);
 }
 
 void tst_AssistantImport::texteRefusay()

@@ -6,6 +6,7 @@
 #include "PageAssistant.h"
 #include "PageRecherche.h"
 
+#include "controls/DTreeView.h"
 #include "noyau/Traductions.h"
 
 #include <QtTest>
@@ -139,6 +140,37 @@ protected:
         Colle(texte);
         AvanceJusqua(etape);
     }
+
+    void Importe(QString const & nom, QString const & texte)
+    {
+        OuvreALEtape(kResume, texte);
+        Champ<QLineEdit>("nom").selectAll();
+        QTest::keyClicks(&Champ<QLineEdit>("nom"), nom);
+        Clique(Termine());
+        QVERIFY(!maPage->PreteAssistant());
+    }
+
+    QListWidget & Etapes() const { return *Assistant().findChild<QListWidget *>(); }
+    void CliqueEtape(int etape) const
+    {
+        QTest::mouseClick(Etapes().viewport(), Qt::LeftButton, {},
+                          Etapes().visualItemRect(Etapes().item(etape)).center());
+    }
+
+    static QStringList Textes(QAbstractItemModel const & modele, int colonne = 0)
+    {
+        QStringList textes;
+        for (int rangee = 0; rangee < modele.rowCount(); ++rangee)
+            textes.append(modele.index(rangee, colonne).data().toString());
+        return textes;
+    }
+
+    /// The page's table of what was imported.
+    DTreeView & Listes() const
+    {
+        return *maPage->findChild<DTreeView *>(QStringLiteral("listesImportees"));
+    }
+    QStringList NomsDesListes() const { return Textes(*Listes().model()); }
 
     QTemporaryDir monDossier;
     std::unique_ptr<PageAssistant> maPage;

@@ -1,12 +1,8 @@
 #include "ApercuFenetre.h"
-#include "FenetreGalerie.h"
-#include "Pages.h"
 #include "ThemeGalerie.h"
 
 #include "galerie/EssaisImport.h"
 
-#include "controls/DTreeView.h"
-#include "dialogs/DMessageBox.h"
 #include "foundation/ThemesQt.h"
 #include "navigation/DFilAriane.h"
 #include "navigation/ElementFilAriane.h"
@@ -29,42 +25,18 @@ private Q_SLOTS:
     void unSeulAssistant();
     void listes();
     void retrait();
-    void fermetureVierge_data();
-    void fermetureVierge();
-    void fermetureAvecSaisie_data();
-    void fermetureAvecSaisie();
-    void annulerSansQuestion();
-    void pageRefaite();
-    void assistantRefait();
-    void assistantRefaitQuiRefuse();
-    void pageRefaitePendantLaQuestion();
-    void langueDeLaGalerie();
     void lisibleEnThemeSombre();
 
 private:
-    DTreeView & Listes() const { return *maPage->findChild<DTreeView *>(u"listesImportees"_s); }
-    QStringList NomsDesListes() const;
     QStringList Etats() const;
-    void Importe(QString const & nom, QString const & texte);
-    void DemandeFermeture(QString const & maniere);
     /// The least and the most lightness, from 0 to 255, that one sees in `zone` of the widget.
     std::pair<int, int> DonneClartes(QWidget const & widget, QRect const & zone) const;
-    DMessageBox * Question() const { return Assistant().findChild<DMessageBox *>(); }
-    void Reponds(QString const & bouton);
 };
 
 void tst_PageAssistant::cleanup()
 {
     Nettoie();
     QVERIFY(QApplication::topLevelWidgets().isEmpty());
-}
-
-QStringList tst_PageAssistant::NomsDesListes() const
-{
-    QStringList noms;
-    for (int rangee = 0; rangee < Listes().model()->rowCount(); ++rangee)
-        noms.append(Listes().model()->index(rangee, 0).data().toString());
-    return noms;
 }
 
 // "fait", "en cours" or "à venir", as a screen reader says it, for each marker whose look agrees.
@@ -81,23 +53,6 @@ QStringList tst_PageAssistant::Etats() const
     return etats;
 }
 
-void tst_PageAssistant::Importe(QString const & nom, QString const & texte)
-{
-    OuvreALEtape(kResume, texte);
-    Champ<QLineEdit>("nom").selectAll();
-    QTest::keyClicks(&Champ<QLineEdit>("nom"), nom);
-    Clique(Termine());
-    QVERIFY(!maPage->PreteAssistant());
-}
-
-void tst_PageAssistant::DemandeFermeture(QString const & maniere)
-{
-    if (maniere == u"Escape"_s)
-        QTest::keyClick(&Assistant(), Qt::Key_Escape);
-    else
-        Assistant().close();
-}
-
 std::pair<int, int> tst_PageAssistant::DonneClartes(QWidget const & widget,
                                                     QRect const & zone) const
 {
@@ -110,15 +65,6 @@ std::pair<int, int> tst_PageAssistant::DonneClartes(QWidget const & widget,
             clartes = {std::min(clartes.first, clarte), std::max(clartes.second, clarte)};
         }
     return clartes;
-}
-
-void tst_PageAssistant::Reponds(QString const & bouton)
-{
-    QTRY_VERIFY(Question() && Question()->isVisible());
-    for (QAbstractButton * const candidat : Question()->findChildren<QAbstractButton *>())
-        if (candidat->text().remove(u'&') == bouton)
-            return candidat->click();
-    QFAIL(qPrintable(bouton));
 }
 
 void tst_PageAssistant::icones()
@@ -231,152 +177,6 @@ void tst_PageAssistant::retrait()
     QVERIFY(NomsDesListes().isEmpty());
     QVERIFY(MemoireImports::DonneListes().isEmpty());
     QVERIFY(!bouton.isEnabled());
-}
-
-void tst_PageAssistant::fermetureVierge_data()
-{
-    QTest::addColumn<QString>("maniere");
-    QTest::newRow("Escape") << u"Escape"_s;
-    QTest::newRow("the window's button") << u"croix"_s;
-}
-
-void tst_PageAssistant::fermetureVierge()
-{
-    QFETCH(QString, maniere);
-    Ouvre();
-    DemandeFermeture(maniere);
-    QVERIFY(!maPage->PreteAssistant());
-}
-
-void tst_PageAssistant::fermetureAvecSaisie_data()
-{
-    fermetureVierge_data();
-}
-
-void tst_PageAssistant::fermetureAvecSaisie()
-{
-    QFETCH(QString, maniere);
-    Ouvre();
-    Colle(u"chat"_s);
-    AvanceJusqua(kFormat);
-    DemandeFermeture(maniere);
-    QVERIFY(Assistant().isVisible());
-    Reponds(u"Cancel"_s);
-    QTRY_VERIFY(!Question());
-    QVERIFY(Assistant().isVisible());
-    QCOMPARE(Etape(), static_cast<int>(kFormat));
-
-    DemandeFermeture(maniere);
-    Reponds(u"Abandonner"_s);
-    QTRY_VERIFY(!maPage->PreteAssistant());
-    QVERIFY(MemoireImports::DonneListes().isEmpty());
-}
-
-void tst_PageAssistant::annulerSansQuestion()
-{
-    OuvreALEtape(kTri, u"chat"_s);
-    Clique(Annule());
-    QVERIFY(!maPage->PreteAssistant());
-}
-
-void tst_PageAssistant::pageRefaite()
-{
-    Importe(u"Faune"_s, u"chat"_s);
-    Traductions::MetsLanguePourApplicationCourante(kLangueAnglais);
-    Construis();
-    QVERIFY(!maPage->PreteAssistant());
-    QCOMPARE(NomsDesListes(), QStringList{u"Faune"_s});
-    QCOMPARE(Listes().model()->headerData(0, Qt::Horizontal).toString(), u"Name"_s);
-}
-
-// What was entered, where one stood, and how far one had come.
-void tst_PageAssistant::assistantRefait()
-{
-    OuvreALEtape(kFormat, u"a;Chat\nb;Été\nc;Zz"_s);
-    Champ<QSpinBox>("colonne").setValue(2);
-    AvanceJusqua(kTri);
-    Champ<QSpinBox>("longueurMin").setValue(3);
-    AvanceJusqua(kResume);
-    QTest::keyClicks(&Champ<QLineEdit>("nom"), u" bis"_s);
-    Clique(Precedent());
-    Clique(Precedent());
-
-    Traductions::MetsLanguePourApplicationCourante(kLangueAnglais);
-    Construis();
-
-    QVERIFY(maPage->PreteAssistant());
-    Assistant().activateWindow();
-    AttendsAssistant();
-    QCOMPARE(Etape(), static_cast<int>(kTri));
-    QCOMPARE(Assistant().windowTitle(), u"Import a Word List – Cleaning"_s);
-    QCOMPARE(Assistant().DonneMaxEtapeParcouru(), static_cast<int>(kResume));
-    QCOMPARE(Champ<QSpinBox>("longueurMin").value(), 3);
-    QCOMPARE(Champ<QSpinBox>("colonne").value(), 2);
-    QCOMPARE(Champ<QLineEdit>("nom").text(), u"Texte collé bis"_s);
-    auto const & etapes = *Assistant().findChild<QListWidget *>();
-    QVERIFY(etapes.item(kResume)->flags().testFlag(Qt::ItemIsEnabled));
-    for (int i = 0; i < 2; ++i)
-        Clique(Bouton(u"Next >"_s));
-    QTRY_COMPARE(Etape(), static_cast<int>(kResume));
-    Clique(Bouton(u"Finish"_s));
-    QCOMPARE(MemoireImports::DonneListes().value(0).mots, (QStringList{u"Chat"_s, u"Été"_s}));
-    // Once only.
-    Construis();
-    QVERIFY(!maPage->PreteAssistant());
-}
-
-// The moves that lead back to a step are real ones: they end where one is refused.
-void tst_PageAssistant::assistantRefaitQuiRefuse()
-{
-    OuvreALEtape(kResume, u"chat\nété"_s);
-    for (int i = 0; i < 2; ++i)
-        Clique(Precedent());
-    Champ<QSpinBox>("longueurMin").setValue(20);
-    Clique(Precedent());
-    QCOMPARE(Etape(), static_cast<int>(kFormat));
-    Construis();
-    QVERIFY(maPage->PreteAssistant());
-    QCOMPARE(Etape(), static_cast<int>(kFormat));
-    AvanceJusqua(kTri);
-    QCOMPARE(Champ<QSpinBox>("longueurMin").value(), 20);
-}
-
-void tst_PageAssistant::pageRefaitePendantLaQuestion()
-{
-    OuvreALEtape(kFormat, u"chat"_s);
-    QTest::keyClick(&Assistant(), Qt::Key_Escape);
-    QTRY_VERIFY(Question() && Question()->isVisible());
-    Construis();
-    QVERIFY(maPage->PreteAssistant());
-    QVERIFY(!Question());
-    QCOMPARE(Etape(), static_cast<int>(kFormat));
-}
-
-void tst_PageAssistant::langueDeLaGalerie()
-{
-    Nettoie();
-    {
-        ThemeGalerie theme;
-        theme.Reinitialise();
-        FenetreGalerie fenetre(theme);
-        for (int i = 0; i < DonnePages().size(); ++i)
-            if (DonnePages().at(i).nom == u"assistant"_s)
-                fenetre.MontrePage(i);
-        fenetre.show();
-        auto const page = [&fenetre] { return fenetre.findChild<PageAssistant *>(); };
-        page()->findChild<QPushButton *>(u"importer"_s)->click();
-        auto const champ = [&page] {
-            return page()->PreteAssistant()->findChild<QLineEdit *>(u"chemin"_s);
-        };
-        champ()->setText(u"/tmp/mots"_s);
-        fenetre.MetsLangue(kLangueAnglais);
-        QTRY_VERIFY(page()->PreteAssistant() && page()->PreteAssistant()->isVisible());
-        QCOMPARE(champ()->text(), u"/tmp/mots"_s);
-        fenetre.RefaisPages(); // as for another theme
-        QTRY_VERIFY(page()->PreteAssistant());
-        QCOMPARE(champ()->text(), u"/tmp/mots"_s);
-    }
-    ThemesQt::DetruisToi();
 }
 
 // The window stays white: no text on it may be light, and no field dark.

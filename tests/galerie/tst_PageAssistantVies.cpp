@@ -5,6 +5,7 @@
 #include "galerie/EssaisImport.h"
 
 #include "dialogs/DMessageBox.h"
+#include "dialogs/StockageReponse.h"
 #include "foundation/ThemesQt.h"
 
 using namespace Qt::StringLiterals;
@@ -16,6 +17,7 @@ class tst_PageAssistantVies : public QObject, private EssaisImport
 private Q_SLOTS:
     void init() { Prepare(); }
     void cleanup();
+    void cleanupTestCase() { StockageReponse::LibereSingletons(); }
 
     void fermetureVierge_data();
     void fermetureVierge();

@@ -18,7 +18,7 @@
 
 namespace {
 
-constexpr QSize kTaille(660, 420); // logical pixels
+constexpr QSize kTaille(660, 396); // logical pixels
 
 constexpr int kMilieu = 128; // of the lightness, 0 to 255: texts of a dark theme are above
 

@@ -26,7 +26,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int kHauteurListes = 110; // logical pixels
+constexpr int kHauteurListes = 96; // logical pixels
 constexpr int kPremiersMots = 8;
 constexpr int kEtapeMontree = 2; // in the picture, with three to come or done around it
 

@@ -8,6 +8,24 @@
 
 using namespace Qt::StringLiterals;
 
+namespace {
+
+// Lists differ in what they write for an apostrophe and for two letters in one.
+QString Simplifie(QString texte)
+{
+    constexpr char16_t kFinLatin1 = 0x100;
+    // Most words have nothing of these.
+    if (std::none_of(texte.cbegin(), texte.cend(), [](QChar caractere) {
+            return caractere.unicode() >= kFinLatin1 || caractere == u'æ' || caractere == u'Æ';
+        }))
+        return texte;
+    return texte.replace(u'’', u'\'')
+        .replace(u'œ', u"oe"_s, Qt::CaseInsensitive)
+        .replace(u'æ', u"ae"_s, Qt::CaseInsensitive);
+}
+
+} // namespace
+
 MotsFrancais::MotsFrancais()
     : MotsFrancais(DonneFichierParDefaut())
 {
@@ -58,6 +76,22 @@ int MotsFrancais::Compte(QString const & debut)
 {
     auto const [premier, dernier] = Trouve(debut);
     return static_cast<int>(dernier - premier);
+}
+
+bool MotsFrancais::Contient(QString const & mot)
+{
+    QString const simple = Simplifie(mot);
+    QString cle;
+    for (QChar const caractere : simple)
+        AjouteReplie(cle, caractere);
+    Charge();
+    auto entree = std::lower_bound(
+        mesEntrees.cbegin(), mesEntrees.cend(), cle,
+        [this](Entree const & autre, QStringView texte) { return DonneCle(autre) < texte; });
+    for (; entree != mesEntrees.cend() && DonneCle(*entree) == cle; ++entree)
+        if (Simplifie(DonneMot(*entree).toString()).compare(simple, Qt::CaseInsensitive) == 0)
+            return true;
+    return false;
 }
 
 void MotsFrancais::Decoupe()

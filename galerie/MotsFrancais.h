@@ -30,6 +30,9 @@ public:
     QStringList Propose(QString const & debut, int combien);
     /// How many words begin as `debut`.
     int Compte(QString const & debut);
+    /// Whether it is a word of the list, in upper or lower case, but with its accents, hyphens and
+    /// apostrophes. Two letters in one, as in "œuvre", may stand apart.
+    bool Contient(QString const & mot);
 
 private:
     // Places in the texts below.

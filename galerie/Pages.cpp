@@ -2,6 +2,7 @@
 #include "Pages.h"
 
 #include "PageAlertes.h"
+#include "PageAssistant.h"
 #include "PageBoutons.h"
 #include "PageChevron.h"
 #include "PageCombos.h"
@@ -65,6 +66,8 @@ QList<DescriptionPage> const & DonnePages()
          [](ThemeGalerie &) -> QWidget * { return new PageFiltres; }},
         {TexteGalerie("Jetons"), u"jetons"_s,
          [](ThemeGalerie &) -> QWidget * { return new PageJetons; }},
+        {TexteGalerie("Assistant"), u"assistant"_s,
+         [](ThemeGalerie &) -> QWidget * { return new PageAssistant; }},
         {TexteGalerie("Prise en main"), u"accueil"_s,
          [](ThemeGalerie &) -> QWidget * { return new PagePriseEnMain; }},
     };

@@ -130,7 +130,7 @@ void tst_Galerie::captures()
          {u"01-theme"_s, u"02-textes"_s, u"03-polices"_s, u"04-ecrans"_s, u"05-alertes"_s,
           u"06-fenetres"_s, u"07-style"_s, u"08-texteriche"_s, u"09-boutons"_s, u"10-combos"_s,
           u"11-vues"_s, u"12-tactile"_s, u"13-recherche"_s, u"14-liste"_s, u"15-chevron"_s,
-          u"16-filtres"_s, u"17-jetons"_s, u"18-accueil"_s}) {
+          u"16-filtres"_s, u"17-jetons"_s, u"18-assistant"_s, u"19-accueil"_s}) {
         QVERIFY(images.contains(page + u"-fr.png"_s));
         QVERIFY(images.contains(page + u"-en.png"_s));
         QVERIFY2(QImage(destination + u'/' + page + u"-fr.png"_s) !=
@@ -147,7 +147,7 @@ void tst_Galerie::captures()
                      qPrintable(page));
         }
     }
-    QCOMPARE(images.size(), 72);
+    QCOMPARE(images.size(), 76);
     for (QString const & nom : images) {
         QImage const image(destination + u'/' + nom);
         QVERIFY2(!image.isNull() && !EstUniforme(image), qPrintable(nom));

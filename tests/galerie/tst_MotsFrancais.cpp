@@ -16,6 +16,8 @@ private Q_SLOTS:
     void propositions();
     void nombre_data();
     void nombre();
+    void contient_data();
+    void contient();
     void listeSansOrdre();
     void lignesSansMot();
     void sansFichier();
@@ -102,6 +104,35 @@ void tst_MotsFrancais::nombre()
     QFETCH(int, nombre);
 
     QCOMPARE(MotsFrancais(maListe).Compte(debut), nombre);
+}
+
+void tst_MotsFrancais::contient_data()
+{
+    QTest::addColumn<QString>("mot");
+    QTest::addColumn<bool>("contenu");
+    QTest::newRow("as it is") << u"étés"_s << true;
+    QTest::newRow("capitals") << u"ABAISSÉ"_s << true;
+    QTest::newRow("another word of the same letters") << u"abaissè"_s << false;
+    QTest::newRow("without accents") << u"ete"_s << false;
+    QTest::newRow("the beginning of one") << u"abais"_s << false;
+    QTest::newRow("more than one") << u"exils"_s << false;
+    QTest::newRow("hyphen") << u"ex-mari"_s << true;
+    QTest::newRow("without its hyphen") << u"exmari"_s << false;
+    QTest::newRow("apostrophe") << u"aujourd'hui"_s << true;
+    QTest::newRow("curly apostrophe") << u"Aujourd’hui"_s << true;
+    QTest::newRow("two letters in one") << u"CŒUR"_s << true;
+    QTest::newRow("two letters") << u"coeur"_s << true;
+    QTest::newRow("two letters that the list has apart") << u"cœxiste"_s << true;
+    QTest::newRow("nothing") << QString() << false;
+    QTest::newRow("no letter") << u"-"_s << false;
+}
+
+void tst_MotsFrancais::contient()
+{
+    QFETCH(QString, mot);
+    MotsFrancais mots(maListe);
+    QTEST(mots.Contient(mot), "contenu");
+    QVERIFY(!MotsFrancais(QString()).Contient(mot)); // without a list
 }
 
 void tst_MotsFrancais::listeSansOrdre()

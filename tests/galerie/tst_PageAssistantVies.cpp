@@ -1,0 +1,209 @@
+#include "FenetreGalerie.h"
+#include "Pages.h"
+#include "ThemeGalerie.h"
+
+#include "galerie/EssaisImport.h"
+
+#include "dialogs/DMessageBox.h"
+#include "dialogs/StockageReponse.h"
+#include "foundation/ThemesQt.h"
+
+using namespace Qt::StringLiterals;
+
+class tst_PageAssistantVies : public QObject, private EssaisImport
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init() { Prepare(); }
+    void cleanup();
+    void cleanupTestCase() { StockageReponse::LibereSingletons(); }
+
+    void fermetureVierge_data();
+    void fermetureVierge();
+    void fermetureAvecSaisie_data();
+    void fermetureAvecSaisie();
+    void annulerSansQuestion();
+    void pageRefaite();
+    void assistantRefait();
+    void assistantRefaitQuiRefuse();
+    void pageRefaitePendantLaQuestion();
+    void langueDeLaGalerie();
+
+private:
+    void DemandeFermeture(QString const & maniere);
+    DMessageBox * Question() const { return Assistant().findChild<DMessageBox *>(); }
+    void Reponds(QString const & bouton);
+};
+
+void tst_PageAssistantVies::cleanup()
+{
+    Nettoie();
+    QVERIFY(QApplication::topLevelWidgets().isEmpty());
+}
+
+void tst_PageAssistantVies::DemandeFermeture(QString const & maniere)
+{
+    if (maniere == u"Escape"_s)
+        QTest::keyClick(&Assistant(), Qt::Key_Escape);
+    else
+        Assistant().close();
+}
+
+void tst_PageAssistantVies::Reponds(QString const & bouton)
+{
+    QTRY_VERIFY(Question() && Question()->isVisible());
+    for (QAbstractButton * const candidat : Question()->findChildren<QAbstractButton *>())
+        if (candidat->text().remove(u'&') == bouton)
+            return candidat->click();
+    QFAIL(qPrintable(bouton));
+}
+
+void tst_PageAssistantVies::fermetureVierge_data()
+{
+    QTest::addColumn<QString>("maniere");
+    QTest::newRow("Escape") << u"Escape"_s;
+    QTest::newRow("the window's button") << u"croix"_s;
+}
+
+void tst_PageAssistantVies::fermetureVierge()
+{
+    QFETCH(QString, maniere);
+    Ouvre();
+    DemandeFermeture(maniere);
+    QVERIFY(!maPage->PreteAssistant());
+}
+
+void tst_PageAssistantVies::fermetureAvecSaisie_data()
+{
+    fermetureVierge_data();
+}
+
+void tst_PageAssistantVies::fermetureAvecSaisie()
+{
+    QFETCH(QString, maniere);
+    Ouvre();
+    Colle(u"chat"_s);
+    AvanceJusqua(kFormat);
+    DemandeFermeture(maniere);
+    QVERIFY(Assistant().isVisible());
+    Reponds(u"Cancel"_s);
+    QTRY_VERIFY(!Question());
+    QVERIFY(Assistant().isVisible());
+    QCOMPARE(Etape(), static_cast<int>(kFormat));
+
+    DemandeFermeture(maniere);
+    Reponds(u"Abandonner"_s);
+    QTRY_VERIFY(!maPage->PreteAssistant());
+    QVERIFY(MemoireImports::DonneListes().isEmpty());
+}
+
+void tst_PageAssistantVies::annulerSansQuestion()
+{
+    OuvreALEtape(kTri, u"chat"_s);
+    Clique(Annule());
+    QVERIFY(!maPage->PreteAssistant());
+}
+
+void tst_PageAssistantVies::pageRefaite()
+{
+    Importe(u"Faune"_s, u"chat"_s);
+    Traductions::MetsLanguePourApplicationCourante(kLangueAnglais);
+    Construis();
+    QVERIFY(!maPage->PreteAssistant());
+    QCOMPARE(NomsDesListes(), QStringList{u"Faune"_s});
+    QCOMPARE(Listes().model()->headerData(0, Qt::Horizontal).toString(), u"Name"_s);
+}
+
+// What was entered, where one stood, and how far one had come.
+void tst_PageAssistantVies::assistantRefait()
+{
+    OuvreALEtape(kFormat, u"a;Chat\nb;Été\nc;Zz"_s);
+    Champ<QSpinBox>("colonne").setValue(2);
+    AvanceJusqua(kTri);
+    Champ<QSpinBox>("longueurMin").setValue(3);
+    AvanceJusqua(kResume);
+    QTest::keyClicks(&Champ<QLineEdit>("nom"), u" bis"_s);
+    Clique(Precedent());
+    Clique(Precedent());
+
+    Traductions::MetsLanguePourApplicationCourante(kLangueAnglais);
+    Construis();
+
+    QVERIFY(maPage->PreteAssistant());
+    Assistant().activateWindow();
+    AttendsAssistant();
+    QCOMPARE(Etape(), static_cast<int>(kTri));
+    QCOMPARE(Assistant().windowTitle(), u"Import a Word List – Cleaning"_s);
+    QCOMPARE(Assistant().DonneMaxEtapeParcouru(), static_cast<int>(kResume));
+    QCOMPARE(Champ<QSpinBox>("longueurMin").value(), 3);
+    QCOMPARE(Champ<QSpinBox>("colonne").value(), 2);
+    QCOMPARE(Champ<QLineEdit>("nom").text(), u"Texte collé bis"_s);
+    auto const & etapes = *Assistant().findChild<QListWidget *>();
+    QVERIFY(etapes.item(kResume)->flags().testFlag(Qt::ItemIsEnabled));
+    for (int i = 0; i < 2; ++i)
+        Clique(Bouton(u"Next >"_s));
+    QTRY_COMPARE(Etape(), static_cast<int>(kResume));
+    Clique(Bouton(u"Finish"_s));
+    QCOMPARE(MemoireImports::DonneListes().value(0).mots, (QStringList{u"Chat"_s, u"Été"_s}));
+    // Once only.
+    Construis();
+    QVERIFY(!maPage->PreteAssistant());
+}
+
+// The moves that lead back to a step are real ones: they end where one is refused.
+void tst_PageAssistantVies::assistantRefaitQuiRefuse()
+{
+    OuvreALEtape(kResume, u"chat\nété"_s);
+    for (int i = 0; i < 2; ++i)
+        Clique(Precedent());
+    Champ<QSpinBox>("longueurMin").setValue(20);
+    Clique(Precedent());
+    QCOMPARE(Etape(), static_cast<int>(kFormat));
+    Construis();
+    QVERIFY(maPage->PreteAssistant());
+    QCOMPARE(Etape(), static_cast<int>(kFormat));
+    AvanceJusqua(kTri);
+    QCOMPARE(Champ<QSpinBox>("longueurMin").value(), 20);
+}
+
+void tst_PageAssistantVies::pageRefaitePendantLaQuestion()
+{
+    OuvreALEtape(kFormat, u"chat"_s);
+    QTest::keyClick(&Assistant(), Qt::Key_Escape);
+    QTRY_VERIFY(Question() && Question()->isVisible());
+    Construis();
+    QVERIFY(maPage->PreteAssistant());
+    QVERIFY(!Question());
+    QCOMPARE(Etape(), static_cast<int>(kFormat));
+}
+
+void tst_PageAssistantVies::langueDeLaGalerie()
+{
+    Nettoie();
+    {
+        ThemeGalerie theme;
+        theme.Reinitialise();
+        FenetreGalerie fenetre(theme);
+        for (int i = 0; i < DonnePages().size(); ++i)
+            if (DonnePages().at(i).nom == u"assistant"_s)
+                fenetre.MontrePage(i);
+        fenetre.show();
+        auto const page = [&fenetre] { return fenetre.findChild<PageAssistant *>(); };
+        page()->findChild<QPushButton *>(u"importer"_s)->click();
+        auto const champ = [&page] {
+            return page()->PreteAssistant()->findChild<QLineEdit *>(u"chemin"_s);
+        };
+        champ()->setText(u"/tmp/mots"_s);
+        fenetre.MetsLangue(kLangueAnglais);
+        QTRY_VERIFY(page()->PreteAssistant() && page()->PreteAssistant()->isVisible());
+        QCOMPARE(champ()->text(), u"/tmp/mots"_s);
+        fenetre.RefaisPages(); // as for another theme
+        QTRY_VERIFY(page()->PreteAssistant());
+        QCOMPARE(champ()->text(), u"/tmp/mots"_s);
+    }
+    ThemesQt::DetruisToi();
+}
+
+QTEST_MAIN(tst_PageAssistantVies)
+#include "tst_PageAssistantVies.moc"

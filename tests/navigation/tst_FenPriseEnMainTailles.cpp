@@ -34,6 +34,9 @@ private Q_SLOTS:
     void hauteur_data();
     void hauteur();
     void hauteurUneFois();
+    void contenuALaTaille_data();
+    void contenuALaTaille();
+    void populeEncore();
     void largeurSansCoupure();
 
 private:
@@ -106,6 +109,47 @@ void tst_FenPriseEnMainTailles::hauteurUneFois()
     for (int tour = 0; tour < 50; ++tour)
         QCoreApplication::processEvents();
     QCOMPARE(compteur.compte, compte);
+}
+
+void tst_FenPriseEnMainTailles::contenuALaTaille_data()
+{
+    QTest::addColumn<int>("rangees");
+    QTest::addColumn<bool>("ajustay");
+    QTest::newRow("eight rows") << 8 << false;
+    QTest::newRow("nine rows") << 9 << true;
+}
+
+// Within the event, also when the scroll area keeps its size and missed that its contents did not.
+void tst_FenPriseEnMainTailles::contenuALaTaille()
+{
+    QFETCH(int, rangees);
+    QFETCH(bool, ajustay);
+    FenPriseEnMain & fenetre = monBanc->Alloue(rangees);
+    fenetre.show();
+    fenetre.resize(fenetre.width(), 2000);
+    QCoreApplication::processEvents();
+    auto & defilement = *fenetre.findChild<QScrollArea *>();
+    QSize const petite(5, 5);
+    defilement.widget()->removeEventFilter(&defilement);
+    defilement.widget()->resize(petite);
+    defilement.widget()->installEventFilter(&defilement);
+
+    QResizeEvent evenement(fenetre.size(), fenetre.size());
+    QCoreApplication::sendEvent(&fenetre, &evenement);
+
+    QCOMPARE(defilement.widget()->width(),
+             ajustay ? defilement.viewport()->width() : petite.width());
+}
+
+// Five rows and five do not count as ten.
+void tst_FenPriseEnMainTailles::populeEncore()
+{
+    FenPriseEnMain & fenetre = monBanc->Alloue(5);
+    fenetre.PopuleAffichage(new QVBoxLayout(new QWidget(&fenetre)));
+    fenetre.show();
+    fenetre.resize(fenetre.width(), 2000);
+    QCoreApplication::processEvents();
+    QCOMPARE(fenetre.maximumHeight(), QWIDGETSIZE_MAX);
 }
 
 // There is no bar to scroll sideways with.

@@ -156,7 +156,7 @@ void FenPriseEnMain::resizeEvent(QResizeEvent * evenement)
     for (std::size_t i = 0; i < kRangeesVisibles; ++i)
         hauteur += mesRangees[i]->sizeHint().height();
     setMaximumHeight(hauteur + kHauteurReserve);
-    // The contents take the new height at once.
+    // The limit has shrunk the window in the midst of its layout, which is now done anew.
     monDefilement->setWidgetResizable(false);
     monDefilement->setWidgetResizable(true);
 }

@@ -62,7 +62,7 @@ bool OuvreLien(QPushButton & bouton, UniChaine const & lien)
     QPointer<QPushButton> const temoin = &bouton;
     RoutinesGeneralesQt::LanceFureteurExterne(
         ContexteLocalisationGui(), Traductions::DonneLocalePourApplicationCourante(), lien, {});
-    return temoin;
+    return !temoin.isNull();
 }
 
 void MetsFeuille(QPushButton & bouton, QString const & feuille)

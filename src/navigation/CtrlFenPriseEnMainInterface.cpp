@@ -36,12 +36,12 @@ RangeePriseEnMain DeserialiseRangee(Json const & objet, CtrlFenPriseEnMainInterf
     rangee.titre = LisTexteTraduit(objet, "titre");
     rangee.cle = objet.at("cle").get_ref<std::string const &>();
     UniChaine const nomProduit = Desechappe(ctrl.DonneNomProduit());
-    UniChaine const plateforme = Desechappe("win"); // Deliberate: on every system
     UniChaine const modules = Desechappe(ctrl.DonneModulesLangue(premier, second));
     UniChaine const version = Desechappe(ctrl.DonneVersionNumerique());
+    // Deliberate: "win" on every system.
     rangee.lien.Format(
         "%s?nom-produit=%s&plateforme=%s&modules-langue=%s&version-numerique-produit=%s",
-        LisTexteTraduit(objet, "lien"), nomProduit, plateforme, modules, version);
+        LisTexteTraduit(objet, "lien"), nomProduit, "win", modules, version);
     return rangee;
 }
 

@@ -29,7 +29,8 @@ public:
     virtual UniChaine DonneModulesLangue(bool premier, bool second) = 0;
 
     /// Reads the texts and the rows from a JSON document, in the language of the application:
-    /// French, or English for every other one. They replace those of an earlier call.
+    /// French, or English for every other one. They replace those of an earlier call once all are
+    /// read: the virtual functions, which are asked for each row, still find the earlier ones.
     ///
     /// An empty text changes nothing but the two booleans, which are kept for
     /// `DonneModulesLangue`. Throws an exception of nlohmann json, and keeps the texts and rows

@@ -14,6 +14,7 @@
 #include <QHBoxLayout>
 #include <QKeyEvent>
 #include <QLabel>
+#include <QPointer>
 #include <QPushButton>
 #include <QScrollArea>
 #include <QScrollBar>
@@ -54,10 +55,14 @@ private:
     }
 };
 
-void OuvreLien(UniChaine const & lien)
+// False when the window is gone: an application may open its addresses itself, and put the window
+// away for good as it does.
+bool OuvreLien(QPushButton & bouton, UniChaine const & lien)
 {
+    QPointer<QPushButton> const temoin = &bouton;
     RoutinesGeneralesQt::LanceFureteurExterne(
         ContexteLocalisationGui(), Traductions::DonneLocalePourApplicationCourante(), lien, {});
+    return !temoin.isNull();
 }
 
 void MetsFeuille(QPushButton & bouton, QString const & feuille)
@@ -97,7 +102,6 @@ FenPriseEnMain::FenPriseEnMain(bool premier, bool second)
 
     connect(this, &QDialog::finished, this, &FenPriseEnMain::PriseFermeture, Qt::UniqueConnection);
     auto * const raccourci = new QShortcut(QKeySequence(Qt::CTRL | Qt::Key_W), this);
-    raccourci->setContext(Qt::WindowShortcut);
     connect(raccourci, &QShortcut::activated, this, &QWidget::close, Qt::UniqueConnection);
 }
 
@@ -152,7 +156,7 @@ void FenPriseEnMain::resizeEvent(QResizeEvent * evenement)
     for (std::size_t i = 0; i < kRangeesVisibles; ++i)
         hauteur += mesRangees[i]->sizeHint().height();
     setMaximumHeight(hauteur + kHauteurReserve);
-    // The contents take the new height at once.
+    // The limit has shrunk the window in the midst of its layout, which is now done anew.
     monDefilement->setWidgetResizable(false);
     monDefilement->setWidgetResizable(true);
 }
@@ -195,6 +199,7 @@ void FenPriseEnMain::CreeEntete(QVBoxLayout * disposition)
     monImage = new QSvgWidget(u":/Images/fenetre-decouvrir-panacel.svg"_s);
     monImage->renderer()->setAspectRatioMode(Qt::KeepAspectRatio);
     monImage->setFixedHeight(kHauteurImage);
+    monImage->setAccessibleName(monCtrl ? monCtrl->DonneTitreFenetre() : kUniChaineNulle);
     entete->addWidget(monImage);
 
     monTitre = new QLabel(monCtrl ? monCtrl->DonneTitreFenetre() : kUniChaineNulle);
@@ -258,7 +263,8 @@ void FenPriseEnMain::PriseFermeture()
 
 void FenPriseEnMain::PriseLien(QCheckBox * caseVue, QPushButton * bouton, UniChaine const & lien)
 {
-    OuvreLien(lien);
+    if (!OuvreLien(*bouton, lien))
+        return;
     caseVue->setChecked(true);
     MetsCouleurVisitay(*bouton);
 }
@@ -275,6 +281,6 @@ void FenPriseEnMain::PriseCase(bool coche, QPushButton * bouton, UniChaine const
         MetsCouleurLien(*bouton);
         return;
     }
-    OuvreLien(lien);
-    MetsCouleurVisitay(*bouton);
+    if (OuvreLien(*bouton, lien))
+        MetsCouleurVisitay(*bouton);
 }

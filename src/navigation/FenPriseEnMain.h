@@ -29,7 +29,8 @@ struct RangeePriseEnMain;
 /// it calls `AlloueInstance`.
 ///
 /// The texts are those of the language at the time when the window is made. From the ninth row on
-/// they scroll. Closing the window hides it; it stays until `LibereSingleton`.
+/// they scroll. An ampersand in a row's title marks its mnemonic, as in any button; two of them are
+/// one that shows. Closing the window hides it; it stays until `LibereSingleton`.
 class FABRELGUI_EXPORT FenPriseEnMain : public QDialog
 {
     Q_OBJECT
@@ -51,7 +52,7 @@ public:
     /// `callback` is told where the window was each time it has closed; it may destroy the window.
     void MetsCallbackFermeture(std::function<void(QPoint)> const & callback);
     /// Adds the picture, the texts and a row for each of the controller's to `disposition`, which
-    /// is that of a widget of the window. Null is ignored.
+    /// is that of a widget of the window, for as long as that lives. Null is ignored.
     void PopuleAffichage(QVBoxLayout * disposition);
 
     static FenPriseEnMain * monInstance;

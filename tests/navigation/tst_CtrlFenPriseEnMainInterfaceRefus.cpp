@@ -58,6 +58,7 @@ private Q_SLOTS:
     void autreLangueNonLue();
     void cleManquante_data();
     void cleManquante();
+    void ordreDeLecture();
     void mauvaisType_data();
     void mauvaisType();
     void documentRefusay_data();
@@ -121,6 +122,19 @@ void tst_CtrlFenPriseEnMainInterfaceRefus::cleManquante()
     QVERIFY(monCtrl->DonneTitreFenetre().EstVide());
     QVERIFY(monCtrl->DonneExplication().EstVide());
     QVERIFY(Rangees().empty());
+}
+
+// Of a row: title and key, then what the application is asked, then the link.
+void tst_CtrlFenPriseEnMainInterfaceRefus::ordreDeLecture()
+{
+    for (auto const & [cle, rangeesDemandees] :
+         {std::pair(u"items/titreFR"_s, 1), std::pair(u"items/cle"_s, 1),
+          std::pair(u"items/lienFR"_s, 2)}) {
+        monCtrl->questions.clear();
+        QCOMPARE(DonneException(*monCtrl, RemplaceDansDocument(cle, QJsonValue::Undefined)),
+                 u"out_of_range 403"_s);
+        QCOMPARE(monCtrl->questions.count(u"version"_s), rangeesDemandees);
+    }
 }
 
 void tst_CtrlFenPriseEnMainInterfaceRefus::mauvaisType_data()

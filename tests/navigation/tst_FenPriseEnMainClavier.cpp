@@ -6,6 +6,8 @@
 
 #include <QtTest>
 
+#include <QSvgWidget>
+
 using namespace Qt::StringLiterals;
 
 class tst_FenPriseEnMainClavier : public QObject
@@ -16,6 +18,7 @@ private Q_SLOTS:
     void init();
     void cleanup();
 
+    void raccourci();
     void ordreDesTabulations();
     void clavier();
     void entreeSurUneCase();
@@ -39,6 +42,15 @@ void tst_FenPriseEnMainClavier::cleanup()
     monBanc.reset();
     QVERIFY(QApplication::topLevelWidgets().isEmpty());
     ThemesQt::DetruisToi();
+}
+
+// The application's other windows keep the keys for what they close.
+void tst_FenPriseEnMainClavier::raccourci()
+{
+    auto const raccourcis = monBanc->Alloue(1).findChildren<QShortcut *>();
+    QCOMPARE(raccourcis.size(), 1);
+    QCOMPARE(raccourcis.first()->key(), QKeySequence(Qt::CTRL | Qt::Key_W));
+    QCOMPARE(raccourcis.first()->context(), Qt::WindowShortcut);
 }
 
 void tst_FenPriseEnMainClavier::ordreDesTabulations()
@@ -100,6 +112,9 @@ void tst_FenPriseEnMainClavier::nomsAccessibles()
              {static_cast<QWidget *>(&Case(i)), static_cast<QWidget *>(&Lien(i))})
             QCOMPARE(QAccessible::queryAccessibleInterface(widget)->text(QAccessible::Name),
                      u"Titre %1"_s.arg(i + 1));
+    // A screen reader can reach it.
+    auto * const image = FenPriseEnMain::Instance()->findChild<QSvgWidget *>();
+    QCOMPARE(QAccessible::queryAccessibleInterface(image)->text(QAccessible::Name), u"Découvrir"_s);
 }
 
 void tst_FenPriseEnMainClavier::defileAuClavier()

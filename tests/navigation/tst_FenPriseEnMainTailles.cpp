@@ -34,6 +34,7 @@ private Q_SLOTS:
     void hauteur_data();
     void hauteur();
     void hauteurUneFois();
+    void populeEncore();
     void largeurSansCoupure();
 
 private:
@@ -88,6 +89,7 @@ void tst_FenPriseEnMainTailles::hauteur()
         attendue += defilement.widget()->layout()->itemAt(3 + i)->sizeHint().height();
     QCOMPARE(fenetre.maximumHeight(), attendue);
     QTRY_COMPARE(fenetre.height(), attendue);
+    QTRY_COMPARE(defilement.height(), attendue);            // none of it hangs out of the window
     QVERIFY(defilement.verticalScrollBar()->maximum() > 0); // the others scroll
     QCOMPARE(defilement.widget()->width(), defilement.viewport()->width());
 }
@@ -106,6 +108,17 @@ void tst_FenPriseEnMainTailles::hauteurUneFois()
     for (int tour = 0; tour < 50; ++tour)
         QCoreApplication::processEvents();
     QCOMPARE(compteur.compte, compte);
+}
+
+// Five rows and five do not count as ten.
+void tst_FenPriseEnMainTailles::populeEncore()
+{
+    FenPriseEnMain & fenetre = monBanc->Alloue(5);
+    fenetre.PopuleAffichage(new QVBoxLayout(new QWidget(&fenetre)));
+    fenetre.show();
+    fenetre.resize(fenetre.width(), 2000);
+    QCoreApplication::processEvents();
+    QCOMPARE(fenetre.maximumHeight(), QWIDGETSIZE_MAX);
 }
 
 // There is no bar to scroll sideways with.

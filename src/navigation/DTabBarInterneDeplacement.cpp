@@ -1,0 +1,289 @@
+// navigation/DTabBarInterneDeplacement.cpp
+// The drag of a tab out of its bar.
+#include "navigation/DTabBarInterne.h"
+
+#include "navigation/DTabBar.h"
+#include "navigation/FantomeOnglet_p.h"
+
+#include <QApplication>
+#include <QFrame>
+#include <QMouseEvent>
+#include <QStyle>
+#include <QWindow>
+
+#include <algorithm>
+
+namespace {
+
+// Where a tab is after `QTabBar::moveTab`.
+int SuisDeplacement(int index, int de, int vers)
+{
+    if (index == de)
+        return vers;
+    if (index < std::min(de, vers) || index > std::max(de, vers))
+        return index;
+    return de < vers ? index - 1 : index + 1;
+}
+
+} // namespace
+
+void DTabBarInterne::mousePressEvent(QMouseEvent * evenement)
+{
+    bool const gauche = evenement->button() == Qt::LeftButton;
+    if (gauche) {
+        TermineDeplacement(); // its release went astray
+        monBoutonEnfoncay = true;
+        monOngletPressay = false;
+    }
+    QPointer<DTabBarInterne> const moi(this);
+    QTabBar::mousePressEvent(evenement);
+    if (!moi || monDeplacementExterne) // another button, while a tab is outside
+        return;
+    monIndexDeplace = tabAt(evenement->position().toPoint());
+    monOngletPressay = monIndexDeplace >= 0;
+    monDeplacementPermis = gauche && monOngletPressay;
+}
+
+void DTabBarInterne::mouseReleaseEvent(QMouseEvent * evenement)
+{
+    QPointer<DTabBarInterne> const moi(this);
+    if (evenement->button() == Qt::MiddleButton)
+        // Deliberate: beside the tabs, with the index -1.
+        Q_EMIT tabCloseRequested(tabAt(evenement->position().toPoint()));
+    else if (monDeplacementExterne)
+        Depose();
+    if (!moi)
+        return;
+    if (evenement->button() == Qt::LeftButton)
+        monBoutonEnfoncay = false;
+    QTabBar::mouseReleaseEvent(evenement);
+}
+
+void DTabBarInterne::mouseMoveEvent(QMouseEvent * evenement)
+{
+    if (monPeutGlisserDeposer && EstHorsDeLaBarre(evenement->position().toPoint())) {
+        if (monDeplacementPermis && monIndexDeplace >= 0 && monIndexDeplace < count())
+            DeplaceHorsDeLaBarre(evenement->globalPosition().toPoint());
+        return;
+    }
+    TermineDeplacement();
+    QTabBar::mouseMoveEvent(evenement);
+}
+
+bool DTabBarInterne::event(QEvent * evenement)
+{
+    if (evenement->type() == QEvent::UngrabMouse)
+        AbandonneDeplacement();
+    return QTabBar::event(evenement);
+}
+
+// Installed on the application while a tab is outside: the keyboard focus is seldom here.
+bool DTabBarInterne::eventFilter(QObject * objet, QEvent * evenement)
+{
+    bool const touche =
+        evenement->type() == QEvent::KeyPress || evenement->type() == QEvent::ShortcutOverride;
+    if (monDeplacementExterne && touche &&
+        static_cast<QKeyEvent *>(evenement)->key() == Qt::Key_Escape) {
+        evenement->accept(); // the override: nobody's shortcut
+        if (evenement->type() == QEvent::KeyPress)
+            AbandonneDeplacement();
+        return true;
+    }
+    if (monDeplacementExterne && MetFinAuDeplacement(objet, *evenement))
+        AbandonneDeplacement();
+    return QTabBar::eventFilter(objet, evenement);
+}
+
+// Whether the mouse is lost to another widget: to a pop-up, to a dialog that blocks this window, or
+// to whoever gets a button.
+bool DTabBarInterne::MetFinAuDeplacement(QObject const * objet, QEvent const & evenement) const
+{
+    auto const * const widget = qobject_cast<QWidget const *>(objet);
+    switch (evenement.type()) {
+    case QEvent::WindowBlocked:
+        return objet == window() || objet == window()->windowHandle();
+    case QEvent::Show:
+        return widget && widget->windowType() == Qt::Popup;
+    case QEvent::MouseButtonPress:
+    case QEvent::MouseButtonRelease:
+        return widget && evenement.spontaneous() && widget != this && !isAncestorOf(widget) &&
+               !widget->isAncestorOf(this);
+    default:
+        return false;
+    }
+}
+
+bool DTabBarInterne::EstHorsDeLaBarre(QPoint const & position) const
+{
+    // Deliberate: the first column and the first row are outside.
+    return !(position.x() > 0 && position.x() < width() && position.y() >= 1 &&
+             position.y() < height());
+}
+
+void DTabBarInterne::DeplaceHorsDeLaBarre(QPoint const & positionGlobale)
+{
+    CommenceDeplacement();
+    monFantome->Montre(DonneInfos(currentIndex()).cadre, positionGlobale);
+    if (DTabBarInterne * const barre = TrouveBarreSous(positionGlobale))
+        VisePositionDans(*barre, positionGlobale);
+    else
+        VideCible();
+}
+
+void DTabBarInterne::CommenceDeplacement()
+{
+    if (monInfobulleSauvee.isEmpty())
+        monInfobulleSauvee = tabToolTip(monIndexDeplace);
+    setTabToolTip(monIndexDeplace, QString()); // it would pop up during the drag
+    if (monDeplacementExterne)
+        return;
+    monDeplacementExterne = true;
+    monOngletPressay = true;
+    qApp->installEventFilter(this);
+}
+
+void DTabBarInterne::TermineDeplacement()
+{
+    if (!monDeplacementExterne)
+        return;
+    monDeplacementExterne = false;
+    qApp->removeEventFilter(this);
+    RemetsInfobulle();
+    VideCible();
+    monFantome->Cache();
+}
+
+// Nothing more happens outside before the next press.
+void DTabBarInterne::AbandonneDeplacement()
+{
+    if (!monDeplacementExterne && !monBoutonEnfoncay)
+        return;
+    TermineDeplacement();
+    monDeplacementPermis = false;
+    AbandonneDeplacementQt();
+}
+
+// Ends the move inside the row that Qt has begun: only the release of the button tells it to.
+void DTabBarInterne::AbandonneDeplacementQt()
+{
+    if (!monBoutonEnfoncay)
+        return;
+    monBoutonEnfoncay = false;
+    QPoint const dehors(-1, -1);
+    QMouseEvent relache(QEvent::MouseButtonRelease, dehors, mapToGlobal(dehors), Qt::LeftButton,
+                        Qt::NoButton, Qt::NoModifier);
+    QTabBar::mouseReleaseEvent(&relache);
+}
+
+void DTabBarInterne::RemetsInfobulle()
+{
+    if (!monInfobulleSauvee.isEmpty())
+        setTabToolTip(monIndexDeplace, monInfobulleSauvee);
+    monInfobulleSauvee.clear();
+}
+
+DTabBarInterne * DTabBarInterne::TrouveBarreSous(QPoint const & positionGlobale) const
+{
+    QWidget const * widget = monFantome->TrouveWidgetDessous(positionGlobale);
+    DTabBar const * rangee = nullptr;
+    while (widget && !(rangee = qobject_cast<DTabBar const *>(widget)))
+        widget = widget->parentWidget();
+    if (!rangee || rangee->PreteBarreInterne() == this ||
+        !(rangee->DonneIdentifiantGroupe() == monIdentifiantGroupe))
+        return nullptr;
+    return rangee->PreteBarreInterne();
+}
+
+void DTabBarInterne::VisePositionDans(DTabBarInterne & barre, QPoint const & positionGlobale)
+{
+    int const nombre = barre.count();
+    int largeur = barre.width();
+    int const souris = barre.mapFromGlobal(positionGlobale).x();
+    // The hint is the width of all tabs: the right edge of the last one would not tell of the
+    // scroll buttons once the bar is scrolled to its end.
+    if (barre.sizeHint().width() > largeur) {
+        largeur -=
+            2 * barre.style()->pixelMetric(QStyle::PM_TabBarScrollButtonWidth, nullptr, &barre);
+        if (souris >= largeur) {
+            VideCible();
+            return;
+        }
+    }
+    if (maBarreCible != &barre)
+        VideCible();
+    int index = barre.tabAt(barre.mapFromGlobal(positionGlobale));
+    if (index == -1)
+        index = nombre - 1;
+    QRect const rect = barre.tabRect(index);
+    int x = rect.left();
+    bool const premiereMoitie = std::abs(souris - x) < rect.width() / 2;
+    if (x >= 0 && (premiereMoitie || rect.right() > largeur)) {
+        x += x < 1 ? 1 : 0;
+    } else {
+        ++index;
+        x += rect.width();
+        x -= x >= largeur || index == nombre ? 1 : 0;
+    }
+    monIndexCible = index;
+    barre.maPositionIndicateur = QPoint(x, 0);
+    barre.update();
+    maBarreCible = &barre;
+}
+
+void DTabBarInterne::VideCible()
+{
+    if (maBarreCible) {
+        maBarreCible->maPositionIndicateur = QPoint();
+        maBarreCible->update();
+    }
+    maBarreCible = nullptr;
+    monIndexCible = -1;
+}
+
+void DTabBarInterne::Depose()
+{
+    QPointer<DTabBarInterne> const cible = maBarreCible;
+    int const index = monIndexDeplace;
+    int const indexCible = monIndexCible;
+    TermineDeplacement(); // first: receivers may do anything
+    monDeplacementPermis = false;
+    // A window that was closed without being destroyed takes nothing, nor does a bar keep the
+    // places that it has lost since the last move of the mouse.
+    if (cible && cible->isVisible() && cible->monIdentifiantGroupe == monIdentifiantGroupe)
+        Q_EMIT SignalAjouteOngletBarreExterne(index, cible, std::min(indexCible, cible->count()));
+    else
+        Q_EMIT SignalOngletNouvelleFenetre();
+}
+
+void DTabBarInterne::tabInserted(int index)
+{
+    QTabBar::tabInserted(index);
+    bool const avant = !monOngletPressay || index <= monIndexDeplace;
+    if (avant)
+        AbandonneDeplacementQt(); // Qt does not keep the tab that it moves
+    if (monOngletPressay && avant)
+        ++monIndexDeplace;
+}
+
+void DTabBarInterne::tabRemoved(int index)
+{
+    QTabBar::tabRemoved(index);
+    if (!monOngletPressay || index <= monIndexDeplace)
+        AbandonneDeplacementQt();
+    if (!monOngletPressay)
+        return;
+    if (index == monIndexDeplace) {
+        monInfobulleSauvee.clear(); // it went with the tab
+        TermineDeplacement();
+        monDeplacementPermis = false;
+        monOngletPressay = false;
+        monIndexDeplace = -1;
+    } else if (index < monIndexDeplace) {
+        --monIndexDeplace;
+    }
+}
+
+void DTabBarInterne::PriseOngletDeplacay(int de, int vers)
+{
+    monIndexDeplace = SuisDeplacement(monIndexDeplace, de, vers);
+}

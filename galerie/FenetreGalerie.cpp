@@ -57,8 +57,7 @@ QWidget * FenetreGalerie::CreePanneau()
     maListe->setObjectName(u"listePages"_s);
     maListe->installEventFilter(this);
     for (DescriptionPage const & page : DonnePages()) {
-        auto * const element =
-            new QListWidgetItem(CreeIconePage(page), QString());
+        auto * const element = new QListWidgetItem(CreeIconePage(page), QString());
         element->setSizeHint(QSize(0, kHauteurLigne));
         maListe->addItem(element);
     }
@@ -105,8 +104,8 @@ void FenetreGalerie::Branche()
             &FenetreGalerie::PriseLangueChoisie, Qt::UniqueConnection);
     connect(mesPages.get(), &PagesOuvertes::SignalPageMontray, this, &FenetreGalerie::MarquePage,
             Qt::UniqueConnection);
-    connect(mesPages.get(), &PagesOuvertes::SignalPrincipauxChangays, maPhrase,
-            &QLabel::setVisible, Qt::UniqueConnection);
+    connect(mesPages.get(), &PagesOuvertes::SignalPrincipauxChangays, maPhrase, &QLabel::setVisible,
+            Qt::UniqueConnection);
 }
 
 void FenetreGalerie::MetsLangue(eLangue langue)

@@ -19,8 +19,8 @@ FenetreOnglets::FenetreOnglets()
 void FenetreOnglets::MetsTitre()
 {
     if (CadrePage const * const cadre = mesOnglets->PreteCadreCourant())
-        setWindowTitle(
-            TraductionGalerie(TexteGalerie("{1} – Galerie de libFabrelGui"), {cadre->DonneTitre()}));
+        setWindowTitle(TraductionGalerie(TexteGalerie("{1} – Galerie de libFabrelGui"),
+                                         {cadre->DonneTitre()}));
 }
 
 void FenetreOnglets::closeEvent(QCloseEvent * evenement)

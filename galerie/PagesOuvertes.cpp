@@ -268,7 +268,8 @@ void PagesOuvertes::PriseAjout(OngletsGalerie & onglets)
         DescriptionPage const & description = DonnePages().at(page);
         QAction const * const action =
             menu.addAction(CreeIconePage(description), TraductionGalerie(description.titre));
-        connect(action, &QAction::triggered, this, [this, page, &onglets] { Ouvre(page, onglets); });
+        connect(action, &QAction::triggered, this,
+                [this, page, &onglets] { Ouvre(page, onglets); });
     }
     QPushButton const & bouton = *onglets.PreteBarre()->PreteBoutonAjout();
     OuvreMenu(menu, bouton.mapToGlobal(bouton.rect().bottomLeft()));
@@ -330,9 +331,8 @@ void PagesOuvertes::PriseOngletEnvoyay(OngletsGalerie & source, DTabWidget & cib
 
 void PagesOuvertes::PriseDetachement(OngletsGalerie & onglets, int index)
 {
-    QPoint const coin = jeDetacheAuClavier
-                            ? onglets.window()->frameGeometry().topLeft() + kDecalage
-                            : QCursor::pos() - kPriseDuTitre;
+    QPoint const coin = jeDetacheAuClavier ? onglets.window()->frameGeometry().topLeft() + kDecalage
+                                           : QCursor::pos() - kPriseDuTitre;
     auto * seule = qobject_cast<FenetreOnglets *>(onglets.window());
     if (seule == nullptr || onglets.DonneTotalOnglet() > 1)
         seule = &DeplaceDansNouvelleFenetre(onglets, index);

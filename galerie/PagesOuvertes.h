@@ -85,6 +85,6 @@ private:
     OngletsGalerie & mesPrincipaux;
     QPointer<OngletsGalerie> mesActifs; // of the window that was active last
     QList<FenetreOnglets *> mesFenetres;
-    QList<SaisiesPage> mesSaisies;       // of the pages that are closed
+    QList<SaisiesPage> mesSaisies; // of the pages that are closed
     bool jeDetacheAuClavier = false;
 };

@@ -52,8 +52,7 @@ void tst_FenetreGalerieOnglets::cleanup()
 
 void tst_FenetreGalerieOnglets::Ferme(OngletsGalerie & onglets, int index)
 {
-    QWidget * const bouton =
-        BancOnglets::PreteBarre(onglets).tabButton(index, QTabBar::RightSide);
+    QWidget * const bouton = BancOnglets::PreteBarre(onglets).tabButton(index, QTabBar::RightSide);
     QVERIFY(bouton);
     static_cast<QAbstractButton *>(bouton)->click();
 }
@@ -342,10 +341,8 @@ void tst_FenetreGalerieOnglets::themeDesOnglets()
     fenetre.RefaisPages();
 
     auto const couleur = [&](int index) {
-        return BancOnglets::PreteBarre(onglets)
-            .DonneInfos(index)
-            .etiquetteTitre->palette()
-            .color(QPalette::WindowText);
+        return BancOnglets::PreteBarre(onglets).DonneInfos(index).etiquetteTitre->palette().color(
+            QPalette::WindowText);
     };
     QCOMPARE(couleur(0), ThemesQt::Instance()->DonneCouleur(u"couleurTexteGris"_s));
     QCOMPARE(couleur(1), ThemesQt::Instance()->DonneCouleur(u"couleurTexteDeBase"_s));

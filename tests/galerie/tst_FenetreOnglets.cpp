@@ -400,8 +400,7 @@ void tst_FenetreOnglets::menuDuBoutonDeFermeture()
 {
     auto const fenetre = Ouvre({BancOnglets::kTheme, BancOnglets::kTextes});
     OngletsGalerie & onglets = fenetre->PreteOnglets();
-    QWidget * const bouton =
-        BancOnglets::PreteBarre(onglets).tabButton(0, QTabBar::RightSide);
+    QWidget * const bouton = BancOnglets::PreteBarre(onglets).tabButton(0, QTabBar::RightSide);
     bouton->setFocus();
     QVERIFY(bouton->hasFocus());
 
@@ -427,9 +426,8 @@ void tst_FenetreOnglets::entreesDuMenu()
     FenetreOnglets const * const seconde = BancOnglets::Detache(onglets, BancOnglets::kPolices);
     menu = OuvreMenu(premiere->PreteOnglets(), 0);
     QVERIFY(menu);
-    QCOMPARE(BancOnglets::DonneTextes(*menu),
-             (QStringList{u"&Détacher dans une nouvelle fenêtre"_s, u"&Envoyer vers"_s,
-                          u"&Fermer"_s}));
+    QCOMPARE(BancOnglets::DonneTextes(*menu), (QStringList{u"&Détacher dans une nouvelle fenêtre"_s,
+                                                           u"&Envoyer vers"_s, u"&Fermer"_s}));
     QVERIFY(!menu->actions().constFirst()->isEnabled()); // it has a window of its own
     QCOMPARE(BancOnglets::DonneTextes(*menu->actions().at(1)->menu()),
              (QStringList{fenetre->windowTitle(), seconde->windowTitle()}));

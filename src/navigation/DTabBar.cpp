@@ -4,6 +4,7 @@
 #include "foundation/TraductionGui.h"
 
 #include "navigation/DTabBarInterne.h"
+#include "navigation/DTabWidget.h"
 
 #include <QHBoxLayout>
 #include <QPushButton>
@@ -22,7 +23,7 @@ constexpr QSize kTailleBoutonAjout(28, 28);
 } // namespace
 
 DTabBar::DTabBar(DTabWidget * parent, UniChaine identifiantGroupe)
-    : QFrame(reinterpret_cast<QWidget *>(parent))
+    : QFrame(parent)
     , monIdentifiantGroupe(std::move(identifiantGroupe))
     , monLayout(new QHBoxLayout(this))
 {

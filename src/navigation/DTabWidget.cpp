@@ -74,15 +74,11 @@ DTabWidget::~DTabWidget()
     maPile->disconnect(this);
     PreteBarreInterne()->removeEventFilter(this);
 
-    // Destroyed by a receiver of a signal: Qt's functions that are still running in the bar, and
-    // those that take a page out of the pile, need them until they return.
+    // Destroyed by a receiver of a signal: functions of Qt's bar may be running that need it until
+    // they return.
     if (mesEmissions > 0) {
         monBarre->setParent(nullptr);
         monBarre->deleteLater();
-    }
-    if (maPageSEnVa) {
-        maPile->setParent(nullptr);
-        maPile->deleteLater();
     }
 }
 
@@ -375,11 +371,11 @@ void DTabWidget::PrisePageRetiree(int index)
 {
     if (monRetraitEnCours)
         return;
-    QPointer<DTabWidget> const vivant(this);
-    maPageSEnVa = true;
+    // Amid the destruction of a page or its change of parent, no receiver may destroy this.
+    ++mesRetenues;
     RetireDeLaBarre(index);
-    if (vivant)
-        maPageSEnVa = false;
+    --mesRetenues;
+    QMetaObject::invokeMethod(this, &DTabWidget::Diffuse, Qt::QueuedConnection);
 }
 
 DTabBarInterne * DTabWidget::PreteBarreInterne() const

@@ -19,8 +19,9 @@ class QVBoxLayout;
 ///
 /// It never closes a tab, creates a page or opens a window by itself: it asks its host by signals.
 /// Pages belong to it as long as they have a tab. A page that is deleted, or taken into another
-/// parent, takes its tab along. Indices start at 0; every operation on a tab that does not exist
-/// does nothing and answers empty. Receivers of its signals may change its tabs and delete it.
+/// parent, takes its tab along; the signals of this follow when the event loop runs. Indices start
+/// at 0; every operation on a tab that does not exist does nothing and answers empty. Receivers of
+/// its signals may change its tabs and delete it.
 class FABRELGUI_EXPORT DTabWidget : public QFrame
 {
     Q_OBJECT
@@ -138,5 +139,4 @@ private:
     int mesRetenues = 0;
     int mesEmissions = 0;           // signals that are being delivered
     bool monRetraitEnCours = false; // a page leaves the pile by our own hand
-    bool maPageSEnVa = false;       // the pile is amid the loss of a page that the host has taken
 };

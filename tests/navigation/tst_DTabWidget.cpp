@@ -75,12 +75,17 @@ void tst_DTabWidget::ordreDesSignaux()
     QList<QByteArray> noms;
     for (int i = meta.methodOffset(); i < meta.methodCount(); ++i)
         noms.append(meta.method(i).name());
-    QList<QByteArray> const attendus = {
-        "SignalAjouteOnglet", "SignalDemandeFermetureOnglet", "SignalOngletCourantChangay",
-        "SignalOngletDeplacay", "SignalOngletDeplacayVersBarreExterne",
-        "SignalOngletNouvelleFenetre", "PriseDeplaceOngletVersBarreExterne",
-        "PriseNouvelleFenetreOngletExistant", "PriseOngletChangay", "PriseOngletDeplacay",
-        "PriseBoutonFermeture"};
+    QList<QByteArray> const attendus = {"SignalAjouteOnglet",
+                                        "SignalDemandeFermetureOnglet",
+                                        "SignalOngletCourantChangay",
+                                        "SignalOngletDeplacay",
+                                        "SignalOngletDeplacayVersBarreExterne",
+                                        "SignalOngletNouvelleFenetre",
+                                        "PriseDeplaceOngletVersBarreExterne",
+                                        "PriseNouvelleFenetreOngletExistant",
+                                        "PriseOngletChangay",
+                                        "PriseOngletDeplacay",
+                                        "PriseBoutonFermeture"};
     QCOMPARE(noms.first(attendus.size()), attendus);
 }
 
@@ -99,7 +104,8 @@ void tst_DTabWidget::ajoute()
     for (int i : {0, 1}) {
         QVERIFY(Barre(onglets).tabText(i).isEmpty());
         QCOMPARE(Barre(onglets).tabToolTip(i), onglets.DonneTitre(i));
-        QCOMPARE(Barre(onglets).tabButton(i, QTabBar::LeftSide), Barre(onglets).DonneInfos(i).cadre);
+        QCOMPARE(Barre(onglets).tabButton(i, QTabBar::LeftSide),
+                 Barre(onglets).DonneInfos(i).cadre);
         QCOMPARE(CouleurTitre(onglets, i), CouleurActive());
         QVERIFY(Fermeture(onglets, i));
     }
@@ -245,8 +251,7 @@ void tst_DTabWidget::widgetsCommuns()
     QList<QWidget *> widgets;
     for (int i = 0; i < onglets.layout()->count(); ++i)
         widgets.append(onglets.layout()->itemAt(i)->widget());
-    QCOMPARE(widgets,
-             (QList<QWidget *>{onglets.PreteBarre(), &premier, &second, &Pile(onglets)}));
+    QCOMPARE(widgets, (QList<QWidget *>{onglets.PreteBarre(), &premier, &second, &Pile(onglets)}));
     QCOMPARE(premier.parentWidget(), &onglets);
 }
 

@@ -103,8 +103,7 @@ void tst_DTabWidgetSignaux::boutonDuMilieu()
     QVERIFY(QTest::qWaitForWindowExposed(&onglets));
     Journal journal;
     journal.Ecoute(onglets, u"x"_s);
-    QTest::mouseClick(&Barre(onglets), Qt::MiddleButton, {},
-                      Barre(onglets).tabRect(1).center());
+    QTest::mouseClick(&Barre(onglets), Qt::MiddleButton, {}, Barre(onglets).tabRect(1).center());
     QCOMPARE(journal.lignes, QStringList(u"x ferme 1"_s));
     QCOMPARE(Titres(onglets), u"a b c"_s);
 }
@@ -265,8 +264,7 @@ void tst_DTabWidgetSignaux::versUnAutreWidget()
     QVERIFY(cible.DonneWidget(0)->isHidden());
 
     Q_EMIT Barre(source).SignalAjouteOngletBarreExterne(0, &Barre(cible), 2);
-    QCOMPARE(journal.Prends(),
-             (QStringList{u"source courant -1"_s, u"source parti 0 2 cible"_s}));
+    QCOMPARE(journal.Prends(), (QStringList{u"source courant -1"_s, u"source parti 0 2 cible"_s}));
     QCOMPARE(source.DonneTotalOnglet(), 0);
     QCOMPARE(Titres(cible), u"c a b"_s);
 }
@@ -454,7 +452,8 @@ void tst_DTabWidgetSignaux::glisseDansLaBarre()
     QTest::mousePress(&barre, Qt::LeftButton, {}, depart);
     QTest::mouseMove(&barre, depart + QPoint(30, 0));
     QTest::mouseMove(&barre, depart + QPoint(140, 0));
-    QCOMPARE(journal.lignes, (QStringList{u"x deplacay 0 1"_s, u"x courant 1"_s}));
+    // Under the mouse, Qt moves the neighbour past the tab that is dragged.
+    QCOMPARE(journal.lignes, (QStringList{u"x deplacay 1 0"_s, u"x courant 1"_s}));
     QCOMPARE(Titres(onglets), u"b a c"_s);
     QTest::mouseRelease(&barre, Qt::LeftButton, {}, depart + QPoint(140, 0));
     QCOMPARE(onglets.DonneWidgetCourant()->objectName(), u"a"_s);

@@ -1,0 +1,570 @@
+// navigation/tst_DTabBarInterneDeplacement.cpp
+// Where a dragged tab goes, and the picture that follows the mouse.
+#include "RangeeDEssai.h"
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr QPoint kPlaceCible(40, 300);
+
+struct Depot
+{
+    int index = -1;
+    QWidget * barre = nullptr;
+    int position = -1;
+};
+
+Depot DonneDepot(QSignalSpy const & espion)
+{
+    if (espion.count() != 1)
+        return {};
+    QVariantList const arguments = espion.at(0);
+    return {arguments.at(0).toInt(), arguments.at(1).value<QWidget *>(), arguments.at(2).toInt()};
+}
+
+} // namespace
+
+class tst_DTabBarInterneDeplacement : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void cleanup() { QVERIFY(QApplication::topLevelWidgets().isEmpty()); }
+
+    void rienSansPermission();
+    void limitesDeLaBarre_data();
+    void limitesDeLaBarre();
+    void sansPresseLePremierOngletPart();
+    void partSeulementDUneBonnePresse_data();
+    void partSeulementDUneBonnePresse();
+    void positionDansLaCible_data();
+    void positionDansLaCible();
+    void moitieEntiere_data();
+    void moitieEntiere();
+    void cibleSansOnglet();
+    void boutonsDeDefilement_data();
+    void boutonsDeDefilement();
+    void ongletCoupeAGauche();
+    void ongletCoupeADroite();
+    void autreGroupe();
+    void memeBarre();
+    void dUneCibleALAutre();
+    void horsDeTouteFenetre();
+    void indexCibleSuitLesFermetures();
+    void fantomeSuitLaSouris();
+    void fantomeMontreLOnglet();
+    void fantomeNeSuitPasLaFeuilleDeLaFenetre();
+    void fantomeAncienNestPasRepris();
+    void ongletSansCadrePartSansFantome();
+    void infobulleDeCoteUneFois();
+    void infobulleVideRevientVide();
+    void boutonsDuMouvementNeComptentPas();
+};
+
+void tst_DTabBarInterneDeplacement::rienSansPermission()
+{
+    RangeeDEssai source(3);
+    source.barre->MetsPeutGlisserDeposer(false);
+    source.Expose();
+    QSignalSpy espion(source.barre, &DTabBarInterne::SignalOngletNouvelleFenetre);
+
+    source.Presse(1);
+    source.Deplace(source.DonneAuDessous());
+
+    QVERIFY(!source.barre->EstEnDeplacementExterne());
+    QVERIFY(!TrouveFantome());
+    QCOMPARE(source.barre->tabToolTip(1), u"Infobulle de Onglet 1"_s);
+    source.Relache(source.DonneAuDessous());
+    QCOMPARE(espion.count(), 0);
+}
+
+void tst_DTabBarInterneDeplacement::limitesDeLaBarre_data()
+{
+    QTest::addColumn<int>("x"); // from the left, or the right where negative
+    QTest::addColumn<int>("y");
+    QTest::addColumn<bool>("dehors");
+    QTest::newRow("in the middle") << 100 << 10 << false;
+    QTest::newRow("the first column is outside") << 0 << 10 << true;
+    QTest::newRow("the second column is inside") << 1 << 10 << false;
+    QTest::newRow("the last column is inside") << -1 << 10 << false;
+    QTest::newRow("behind the last column") << -1000 << 10 << true;
+    QTest::newRow("the first row is outside") << 100 << 0 << true;
+    QTest::newRow("the second row is inside") << 100 << 1 << false;
+    QTest::newRow("the last row is inside") << 100 << 28 << false;
+    QTest::newRow("below the last row") << 100 << 29 << true;
+    QTest::newRow("above") << 100 << -1 << true;
+    QTest::newRow("to the left") << -2000 << 10 << true;
+}
+
+void tst_DTabBarInterneDeplacement::limitesDeLaBarre()
+{
+    QFETCH(int, x);
+    QFETCH(int, y);
+    QFETCH(bool, dehors);
+    RangeeDEssai source(2);
+    source.Expose();
+    int const largeur = source.barre->width();
+    int const colonne = x == -1 ? largeur - 1 : x == -1000 ? largeur : x == -2000 ? -1 : x;
+
+    source.Presse(0);
+    source.Deplace(source.barre->mapToGlobal(QPoint(colonne, y)));
+
+    QCOMPARE(source.barre->EstEnDeplacementExterne(), dehors);
+}
+
+void tst_DTabBarInterneDeplacement::sansPresseLePremierOngletPart()
+{
+    RangeeDEssai source(3);
+    source.barre->setCurrentIndex(2);
+    source.Expose();
+
+    source.Deplace(source.DonneAuDessous());
+
+    QVERIFY(source.barre->EstEnDeplacementExterne());
+    QCOMPARE(source.barre->tabToolTip(0), QString());
+    QCOMPARE(source.barre->tabToolTip(2), u"Infobulle de Onglet 2"_s);
+}
+
+void tst_DTabBarInterneDeplacement::partSeulementDUneBonnePresse_data()
+{
+    QTest::addColumn<Qt::MouseButton>("bouton");
+    QTest::addColumn<int>("nombre");
+    QTest::addColumn<bool>("surUnOnglet");
+    QTest::addColumn<bool>("part");
+    QTest::newRow("left on a tab") << Qt::LeftButton << 2 << true << true;
+    QTest::newRow("right on a tab") << Qt::RightButton << 2 << true << false;
+    QTest::newRow("middle on a tab") << Qt::MiddleButton << 2 << true << false;
+    QTest::newRow("left beside the tabs") << Qt::LeftButton << 2 << false << false;
+    QTest::newRow("left in a bar without tabs") << Qt::LeftButton << 0 << false << false;
+}
+
+void tst_DTabBarInterneDeplacement::partSeulementDUneBonnePresse()
+{
+    QFETCH(Qt::MouseButton, bouton);
+    QFETCH(int, nombre);
+    QFETCH(bool, surUnOnglet);
+    QFETCH(bool, part);
+    RangeeDEssai source(nombre);
+    source.barre->setMinimumWidth(500); // room beside the tabs
+    source.Expose();
+    QPoint const aCote = source.barre->mapToGlobal(QPoint(480, 15));
+
+    source.Envoie(QEvent::MouseButtonPress, surUnOnglet ? source.DonnePoint(1) : aCote, bouton,
+                  bouton);
+    source.Deplace(source.DonneAuDessous());
+
+    QCOMPARE(source.barre->EstEnDeplacementExterne(), part);
+    QCOMPARE(TrouveFantome() != nullptr, part);
+}
+
+void tst_DTabBarInterneDeplacement::positionDansLaCible_data()
+{
+    QTest::addColumn<int>("x"); // in the target bar of three tabs of 100
+    QTest::addColumn<int>("position");
+    QTest::addColumn<int>("indicateur");
+    QTest::newRow("left end") << 0 << 0 << 1;
+    QTest::newRow("first half of the first tab") << 49 << 0 << 1;
+    QTest::newRow("second half of the first tab") << 50 << 1 << 100;
+    QTest::newRow("first half of the second tab") << 149 << 1 << 100;
+    QTest::newRow("second half of the second tab") << 150 << 2 << 200;
+    QTest::newRow("first half of the last tab") << 249 << 2 << 200;
+    QTest::newRow("second half of the last tab") << 250 << 3 << 299;
+    QTest::newRow("past the last tab, over the row") << 320 << 3 << 299;
+}
+
+void tst_DTabBarInterneDeplacement::positionDansLaCible()
+{
+    QFETCH(int, x);
+    QFETCH(int, position);
+    QFETCH(int, indicateur);
+    RangeeDEssai source(3);
+    RangeeDEssai cible(3, "groupe", kPlaceCible);
+    cible.barre->MetsTailleOnglets(100);
+    source.Expose();
+    cible.Expose();
+    QSignalSpy espion(source.barre, &DTabBarInterne::SignalAjouteOngletBarreExterne);
+    QSignalSpy espionFenetre(source.barre, &DTabBarInterne::SignalOngletNouvelleFenetre);
+    QPoint const point = cible.barre->mapToGlobal(QPoint(x, 10));
+
+    source.Presse(1);
+    source.Deplace(point);
+    QCOMPARE(cible.barre->DonnePositionIndicateur(), QPoint(indicateur, 0));
+    source.Relache(point);
+
+    QCOMPARE(espionFenetre.count(), 0);
+    Depot const depot = DonneDepot(espion);
+    QCOMPARE(depot.index, 1);
+    QCOMPARE(depot.barre, cible.barre);
+    QCOMPARE(depot.position, position);
+    QCOMPARE(cible.barre->DonnePositionIndicateur(), QPoint());
+}
+
+void tst_DTabBarInterneDeplacement::moitieEntiere_data()
+{
+    QTest::addColumn<int>("x"); // over a tab of 185: its half is 92
+    QTest::addColumn<int>("position");
+    QTest::newRow("91 of 92") << 91 << 0;
+    QTest::newRow("92 of 92") << 92 << 1;
+}
+
+void tst_DTabBarInterneDeplacement::moitieEntiere()
+{
+    QFETCH(int, x);
+    QFETCH(int, position);
+    RangeeDEssai source(1);
+    RangeeDEssai cible(1, "groupe", kPlaceCible);
+    source.Expose();
+    cible.Expose();
+    QSignalSpy espion(source.barre, &DTabBarInterne::SignalAjouteOngletBarreExterne);
+    QPoint const point = cible.barre->mapToGlobal(QPoint(x, 10));
+
+    source.Presse(0);
+    source.Deplace(point);
+    source.Relache(point);
+
+    QCOMPARE(DonneDepot(espion).position, position);
+}
+
+void tst_DTabBarInterneDeplacement::cibleSansOnglet()
+{
+    RangeeDEssai source(2);
+    RangeeDEssai cible(0, "groupe", kPlaceCible);
+    source.Expose();
+    cible.Expose();
+    QSignalSpy espion(source.barre, &DTabBarInterne::SignalAjouteOngletBarreExterne);
+    QPoint const point = cible.barre->mapToGlobal(QPoint(50, 10));
+
+    source.Presse(0);
+    source.Deplace(point);
+    QCOMPARE(cible.barre->DonnePositionIndicateur(), QPoint(-1, 0));
+    source.Relache(point);
+
+    QCOMPARE(DonneDepot(espion).barre, cible.barre);
+    QCOMPARE(DonneDepot(espion).position, 0);
+}
+
+void tst_DTabBarInterneDeplacement::boutonsDeDefilement_data()
+{
+    QTest::addColumn<int>("courant");  // the bar is scrolled to it
+    QTest::addColumn<int>("ecart");    // from where the buttons begin
+    QTest::addColumn<int>("position"); // -1: a new window
+    QTest::newRow("at the left end, before the buttons") << 0 << -1 << 2;
+    QTest::newRow("at the left end, on the buttons") << 0 << 0 << -1;
+    QTest::newRow("at the left end, on the right button") << 0 << 20 << -1;
+    QTest::newRow("at the right end, before the buttons") << 9 << -1 << 10;
+    QTest::newRow("at the right end, on the buttons") << 9 << 0 << -1;
+    QTest::newRow("at the right end, on the right button") << 9 << 20 << -1;
+}
+
+void tst_DTabBarInterneDeplacement::boutonsDeDefilement()
+{
+    QFETCH(int, courant);
+    QFETCH(int, ecart);
+    QFETCH(int, position);
+    RangeeDEssai source(1);
+    RangeeDEssai cible(10, "groupe", kPlaceCible, 500);
+    cible.Expose();
+    source.Expose();
+    cible.barre->setCurrentIndex(courant);
+    int const boutons =
+        2 * cible.style()->pixelMetric(QStyle::PM_TabBarScrollButtonWidth, nullptr, cible.barre);
+    QPoint const point =
+        cible.barre->mapToGlobal(QPoint(cible.barre->width() - boutons + ecart, 10));
+    QSignalSpy espion(source.barre, &DTabBarInterne::SignalAjouteOngletBarreExterne);
+    QSignalSpy espionFenetre(source.barre, &DTabBarInterne::SignalOngletNouvelleFenetre);
+
+    source.Presse(0);
+    source.Deplace(cible.DonnePoint(courant)); // a target that is to be forgotten
+    QVERIFY(cible.barre->DonnePositionIndicateur().x() > 0);
+    source.Deplace(point);
+    QCOMPARE(cible.barre->DonnePositionIndicateur().isNull(), position < 0);
+    source.Relache(point);
+
+    QCOMPARE(espionFenetre.count(), position < 0 ? 1 : 0);
+    QCOMPARE(DonneDepot(espion).position, position);
+}
+
+void tst_DTabBarInterneDeplacement::ongletCoupeAGauche()
+{
+    RangeeDEssai source(1);
+    RangeeDEssai cible(10, "groupe", kPlaceCible, 500);
+    cible.Expose();
+    source.Expose();
+    cible.barre->setCurrentIndex(9);
+    int coupe = 0;
+    while (cible.barre->tabRect(coupe).right() < 0)
+        ++coupe;
+    QRect const rect = cible.barre->tabRect(coupe);
+    QVERIFY(rect.left() < 0);
+    QSignalSpy espion(source.barre, &DTabBarInterne::SignalAjouteOngletBarreExterne);
+    QPoint const point = cible.barre->mapToGlobal(QPoint(5, 10));
+
+    source.Presse(0);
+    source.Deplace(point);
+    QCOMPARE(cible.barre->DonnePositionIndicateur().x(), rect.left() + rect.width());
+    source.Relache(point);
+
+    // Never before it, wherever the mouse is on what is left of it.
+    QCOMPARE(DonneDepot(espion).position, coupe + 1);
+}
+
+void tst_DTabBarInterneDeplacement::ongletCoupeADroite()
+{
+    RangeeDEssai source(1);
+    RangeeDEssai cible(10, "groupe", kPlaceCible, 500);
+    cible.Expose();
+    source.Expose();
+    int const boutons =
+        2 * cible.style()->pixelMetric(QStyle::PM_TabBarScrollButtonWidth, nullptr, cible.barre);
+    int const fin = cible.barre->width() - boutons - 1;
+    int const coupe = cible.barre->tabAt(QPoint(fin, 10));
+    QSignalSpy espion(source.barre, &DTabBarInterne::SignalAjouteOngletBarreExterne);
+
+    source.Presse(0);
+    source.Deplace(cible.barre->mapToGlobal(QPoint(fin, 10)));
+    source.Relache(cible.barre->mapToGlobal(QPoint(fin, 10)));
+
+    // Never behind it: that would be under the buttons.
+    QCOMPARE(DonneDepot(espion).position, coupe);
+}
+
+void tst_DTabBarInterneDeplacement::autreGroupe()
+{
+    RangeeDEssai source(2);
+    RangeeDEssai autre(2, "autre groupe", kPlaceCible);
+    source.Expose();
+    autre.Expose();
+    QSignalSpy espion(source.barre, &DTabBarInterne::SignalAjouteOngletBarreExterne);
+    QSignalSpy espionFenetre(source.barre, &DTabBarInterne::SignalOngletNouvelleFenetre);
+
+    source.Presse(0);
+    source.Deplace(autre.DonnePoint(1));
+    QCOMPARE(autre.barre->DonnePositionIndicateur(), QPoint());
+    source.Relache(autre.DonnePoint(1));
+
+    QCOMPARE(espion.count(), 0);
+    QCOMPARE(espionFenetre.count(), 1);
+}
+
+void tst_DTabBarInterneDeplacement::memeBarre()
+{
+    RangeeDEssai source(2);
+    source.Expose();
+    QSignalSpy espion(source.barre, &DTabBarInterne::SignalAjouteOngletBarreExterne);
+    QSignalSpy espionFenetre(source.barre, &DTabBarInterne::SignalOngletNouvelleFenetre);
+
+    source.Presse(0);
+    QPoint const aCote = source.rangee->PreteBoutonAjout()->mapToGlobal(QPoint(5, 5));
+    source.Deplace(aCote); // out of the bar, but in its row
+    QVERIFY(source.barre->EstEnDeplacementExterne());
+    QCOMPARE(source.barre->DonnePositionIndicateur(), QPoint());
+    source.Relache(aCote);
+
+    QCOMPARE(espion.count(), 0);
+    QCOMPARE(espionFenetre.count(), 1);
+}
+
+void tst_DTabBarInterneDeplacement::dUneCibleALAutre()
+{
+    RangeeDEssai source(2);
+    RangeeDEssai premiere(2, "groupe", kPlaceCible);
+    RangeeDEssai seconde(2, "groupe", {40, 500});
+    source.Expose();
+    premiere.Expose();
+    seconde.Expose();
+    QSignalSpy espion(source.barre, &DTabBarInterne::SignalAjouteOngletBarreExterne);
+
+    source.Presse(0);
+    source.Deplace(premiere.DonnePoint(1));
+    QVERIFY(!premiere.barre->DonnePositionIndicateur().isNull());
+    source.Deplace(seconde.DonnePoint(1));
+    QCOMPARE(premiere.barre->DonnePositionIndicateur(), QPoint());
+    QVERIFY(!seconde.barre->DonnePositionIndicateur().isNull());
+    source.Relache(seconde.DonnePoint(1));
+
+    QCOMPARE(DonneDepot(espion).barre, seconde.barre);
+}
+
+void tst_DTabBarInterneDeplacement::horsDeTouteFenetre()
+{
+    RangeeDEssai source(2);
+    RangeeDEssai cible(2, "groupe", kPlaceCible);
+    source.Expose();
+    cible.Expose();
+    QSignalSpy espionFenetre(source.barre, &DTabBarInterne::SignalOngletNouvelleFenetre);
+    QPoint const bureau(700, 700);
+    QVERIFY(!QApplication::widgetAt(bureau));
+
+    source.Presse(0);
+    source.Deplace(cible.DonnePoint(1));
+    QVERIFY(!cible.barre->DonnePositionIndicateur().isNull());
+    source.Deplace(bureau);
+    QCOMPARE(cible.barre->DonnePositionIndicateur(), QPoint());
+    source.Relache(bureau);
+
+    QCOMPARE(espionFenetre.count(), 1);
+}
+
+void tst_DTabBarInterneDeplacement::indexCibleSuitLesFermetures()
+{
+    RangeeDEssai source(2);
+    RangeeDEssai cible(3, "groupe", kPlaceCible);
+    source.Expose();
+    cible.Expose();
+    QSignalSpy espion(source.barre, &DTabBarInterne::SignalAjouteOngletBarreExterne);
+    QPoint const point = cible.DonnePoint(2, 0.75);
+
+    source.Presse(0);
+    source.Deplace(point);
+    cible.barre->removeTab(0);
+    cible.barre->removeTab(0);
+    source.Relache(point);
+
+    QCOMPARE(DonneDepot(espion).position, 1);
+}
+
+void tst_DTabBarInterneDeplacement::fantomeSuitLaSouris()
+{
+    RangeeDEssai source(2);
+    source.Expose();
+
+    source.Presse(1);
+    source.Deplace(QPoint(300, 310));
+    QPointer<QWidget> const fantome = TrouveFantome();
+    QVERIFY(fantome);
+    QCOMPARE(fantome->pos(), QPoint(300, 310));
+    QCOMPARE(fantome->size(), source.barre->DonneInfos(1).cadre->size());
+    QVERIFY(qAbs(fantome->windowOpacity() - 0.75) < 0.01);
+    QVERIFY(fantome->testAttribute(Qt::WA_TransparentForMouseEvents));
+    QVERIFY(fantome->windowFlags().testFlag(Qt::FramelessWindowHint));
+    QVERIFY(fantome->windowFlags().testFlag(Qt::Tool));
+    QCOMPARE(fantome->styleSheet(), u"border: 1px solid #D0D0D0"_s);
+    QVERIFY(!QApplication::activeWindow() || QApplication::activeWindow() == &source);
+
+    source.Deplace(QPoint(20, 500));
+    QCOMPARE(TrouveFantome(), fantome.data());
+    QCOMPARE(fantome->pos(), QPoint(20, 500));
+    source.Relache(QPoint(20, 500));
+    QVERIFY(!fantome->isVisible());
+}
+
+void tst_DTabBarInterneDeplacement::fantomeMontreLOnglet()
+{
+    RangeeDEssai source(2);
+    QPixmap rouge(20, 20);
+    rouge.fill(Qt::red);
+    source.barre->MetsIconeOnglet(1, QIcon(rouge));
+    source.Expose();
+    QRect const icone = source.barre->DonneInfos(1).etiquetteIcone->geometry();
+
+    source.Presse(1);
+    source.Deplace(QPoint(300, 310));
+    QImage const image = TrouveFantome()->grab().toImage();
+    double const ratio = image.devicePixelRatio();
+
+    QCOMPARE(image.pixelColor((QPointF(icone.center()) * ratio).toPoint()), QColor(Qt::red));
+    QCOMPARE(image.pixelColor(0, image.height() / 2), QColor(u"#D0D0D0"_s));
+}
+
+void tst_DTabBarInterneDeplacement::fantomeNeSuitPasLaFeuilleDeLaFenetre()
+{
+    RangeeDEssai source(2);
+    QPixmap rouge(20, 20);
+    rouge.fill(Qt::red);
+    source.barre->MetsIconeOnglet(1, QIcon(rouge));
+    source.setStyleSheet(u"QWidget { background: blue; }"_s);
+    source.Expose();
+    QRect const icone = source.barre->DonneInfos(1).etiquetteIcone->geometry();
+
+    source.Presse(1);
+    source.Deplace(QPoint(300, 310));
+    QImage const image = TrouveFantome()->grab().toImage();
+
+    QCOMPARE(image.pixelColor((QPointF(icone.center()) * image.devicePixelRatio()).toPoint()),
+             QColor(Qt::red));
+}
+
+void tst_DTabBarInterneDeplacement::fantomeAncienNestPasRepris()
+{
+    RangeeDEssai source(2);
+    QPixmap couleur(20, 20);
+    couleur.fill(Qt::red);
+    source.barre->MetsIconeOnglet(1, QIcon(couleur));
+    source.Expose();
+    QPoint const centre = source.barre->DonneInfos(1).etiquetteIcone->geometry().center();
+
+    source.Presse(1);
+    source.Deplace(QPoint(300, 310));
+    source.Relache(QPoint(300, 310));
+    couleur.fill(Qt::green);
+    source.barre->MetsIconeOnglet(1, QIcon(couleur));
+    source.Presse(1);
+    source.Deplace(QPoint(300, 310));
+    QImage const image = TrouveFantome()->grab().toImage();
+
+    QCOMPARE(image.pixelColor((QPointF(centre) * image.devicePixelRatio()).toPoint()),
+             QColor(Qt::green));
+}
+
+void tst_DTabBarInterneDeplacement::ongletSansCadrePartSansFantome()
+{
+    RangeeDEssai source;
+    source.barre->addTab(u"Sans cadre"_s);
+    source.Expose();
+    QSignalSpy espion(source.barre, &DTabBarInterne::SignalOngletNouvelleFenetre);
+
+    source.Presse(0);
+    source.Deplace(source.DonneAuDessous());
+    QVERIFY(source.barre->EstEnDeplacementExterne());
+    QVERIFY(!TrouveFantome());
+    source.Relache(source.DonneAuDessous());
+
+    QCOMPARE(espion.count(), 1);
+}
+
+void tst_DTabBarInterneDeplacement::infobulleDeCoteUneFois()
+{
+    RangeeDEssai source(3);
+    source.Expose();
+    QStringList const infobulles = source.DonneInfobulles();
+
+    source.Presse(1);
+    for (int i = 0; i < 3; ++i) {
+        source.Deplace(source.DonneAuDessous() + QPoint(i, i));
+        QCOMPARE(source.barre->tabToolTip(1), QString());
+    }
+    source.Deplace(source.DonnePoint(1));
+
+    QCOMPARE(source.DonneInfobulles(), infobulles);
+}
+
+void tst_DTabBarInterneDeplacement::infobulleVideRevientVide()
+{
+    RangeeDEssai source(3);
+    source.barre->setTabToolTip(1, QString());
+    source.Expose();
+    QStringList const infobulles = source.DonneInfobulles();
+
+    source.Presse(1);
+    source.Deplace(source.DonneAuDessous());
+    source.Deplace(source.DonneAuDessous() + QPoint(1, 1));
+    source.Relache(source.DonneAuDessous());
+
+    QCOMPARE(source.DonneInfobulles(), infobulles);
+}
+
+void tst_DTabBarInterneDeplacement::boutonsDuMouvementNeComptentPas()
+{
+    RangeeDEssai source(2);
+    source.barre->setMouseTracking(true); // else Qt delivers no such move
+    source.Expose();
+
+    source.Presse(1);
+    source.Envoie(QEvent::MouseMove, source.DonneAuDessous(), Qt::NoButton, Qt::NoButton);
+
+    QVERIFY(source.barre->EstEnDeplacementExterne());
+}
+
+QTEST_MAIN(tst_DTabBarInterneDeplacement)
+#include "tst_DTabBarInterneDeplacement.moc"

@@ -4,6 +4,7 @@
 #include "CadrePage.h"
 #include "Pages.h"
 
+#include "foundation/ThemesQt.h"
 #include "foundation/TraductionGui.h"
 #include "navigation/DTabBar.h"
 #include "navigation/DTabBarInterne.h"
@@ -13,6 +14,13 @@
 #include <QShortcut>
 
 using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr QStringView kFeuilleLigne =
+    u"QFrame { border-bottom-width: 1px; border-style: solid; border-color: @couleurSeparateur; }";
+
+} // namespace
 
 OngletsGalerie::OngletsGalerie(QWidget * parent)
     : DTabWidget(parent, u"galerie"_s)
@@ -32,6 +40,11 @@ OngletsGalerie::OngletsGalerie(QWidget * parent)
         auto * const raccourci = new QShortcut(touche, this);
         connect(raccourci, &QShortcut::activated, this, prise, Qt::UniqueConnection);
     }
+    // Not all systems ask for the menu with it, as they do with the key of its own.
+    auto * const menu = new QShortcut(Qt::SHIFT | Qt::Key_F10, PreteBarre()->PreteBarreInterne());
+    menu->setContext(Qt::WidgetWithChildrenShortcut);
+    connect(menu, &QShortcut::activated, this, &OngletsGalerie::PriseMenuAuClavier,
+            Qt::UniqueConnection);
 }
 
 CadrePage * OngletsGalerie::PreteCadre(int index)
@@ -63,18 +76,15 @@ void OngletsGalerie::Habille()
         HabilleOnglet(i);
     PreteBarre()->PreteBoutonAjout()->setAccessibleName(
         TraductionGui(TexteGui("Ajouter un onglet")));
+    // The line behind the button, whose own colour is for light windows.
+    for (QFrame * const ligne :
+         PreteBarre()->findChildren<QFrame *>(QString(), Qt::FindDirectChildrenOnly))
+        ligne->setStyleSheet(ThemesQt::Instance()->AppliquerVariable(kFeuilleLigne.toString()));
 }
 
 void OngletsGalerie::MetsAjout(bool possible)
 {
     PreteBarre()->PreteBoutonAjout()->setVisible(possible);
-}
-
-QPoint OngletsGalerie::DonneOrigineMenu(int index) const
-{
-    QTabBar const & barre = *PreteBarre()->PreteBarreInterne();
-    // The tab may have been scrolled out of the bar.
-    return barre.mapToGlobal(barre.tabRect(index).intersected(barre.rect()).bottomLeft());
 }
 
 bool OngletsGalerie::event(QEvent * evenement)
@@ -89,14 +99,11 @@ bool OngletsGalerie::eventFilter(QObject * objet, QEvent * evenement)
     if (evenement->type() != QEvent::ContextMenu)
         return DTabWidget::eventFilter(objet, evenement);
     auto const & demande = *static_cast<QContextMenuEvent *>(evenement);
-    QTabBar const & barre = *PreteBarre()->PreteBarreInterne();
-    // The place that comes with a key is the middle of what has the focus: one of the close buttons
-    // means its own tab, the bar the current one.
-    bool const auClavier = demande.reason() == QContextMenuEvent::Keyboard;
-    int const index =
-        auClavier && barre.hasFocus() ? barre.currentIndex() : barre.tabAt(demande.pos());
-    if (index >= 0)
-        Q_EMIT SignalMenuOnglet(index, auClavier ? DonneOrigineMenu(index) : demande.globalPos());
+    int const index = PreteBarre()->PreteBarreInterne()->tabAt(demande.pos());
+    if (demande.reason() == QContextMenuEvent::Keyboard)
+        PriseMenuAuClavier();
+    else if (index >= 0)
+        Q_EMIT SignalMenuOnglet(index, demande.globalPos());
     return true;
 }
 
@@ -114,6 +121,20 @@ void OngletsGalerie::PriseFermer()
 {
     if (DonneTotalOnglet() > 0)
         Q_EMIT SignalDemandeFermetureOnglet(DonneIndexCourant());
+}
+
+void OngletsGalerie::PriseMenuAuClavier()
+{
+    QTabBar const & barre = *PreteBarre()->PreteBarreInterne();
+    int index = barre.currentIndex();
+    // On a close button it is the menu of that tab.
+    if (QWidget const * const foyer = barre.focusWidget(); foyer != nullptr && foyer != &barre)
+        index = barre.tabAt(foyer->mapTo(&barre, foyer->rect().center()));
+    if (index < 0)
+        return;
+    // The tab may have been scrolled out of the bar.
+    QRect const onglet = barre.tabRect(index).intersected(barre.rect());
+    Q_EMIT SignalMenuOnglet(index, barre.mapToGlobal(onglet.bottomLeft()));
 }
 
 void OngletsGalerie::HabilleOnglet(int index)

@@ -28,8 +28,6 @@ public:
     void Habille();
     /// Shows or hides the add button.
     void MetsAjout(bool possible);
-    /// Where a menu of the tab opens, for one who does not use the mouse.
-    QPoint DonneOrigineMenu(int index) const;
 
 Q_SIGNALS:
     /// A menu of the tab is asked for, at a point of the screen.
@@ -45,6 +43,7 @@ private Q_SLOTS:
     void PriseSuivant();
     void PrisePrecedent();
     void PriseFermer();
+    void PriseMenuAuClavier();
 
 private:
     void HabilleOnglet(int index);

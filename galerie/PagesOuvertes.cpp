@@ -11,6 +11,7 @@
 #include "navigation/DTabBar.h"
 
 #include <QCursor>
+#include <QLayout>
 #include <QLocale>
 #include <QMenu>
 #include <QPushButton>
@@ -336,6 +337,7 @@ void PagesOuvertes::PriseDetachement(OngletsGalerie & onglets, int index)
     auto * seule = qobject_cast<FenetreOnglets *>(onglets.window());
     if (seule == nullptr || onglets.DonneTotalOnglet() > 1)
         seule = &DeplaceDansNouvelleFenetre(onglets, index);
+    seule->layout()->activate(); // grows to what the page needs, before that has to fit
     seule->move(coin);
     RoutinesGeneralesQt::AjusteDansEcran(*seule, false, true, true);
     AmeneDevant(*seule);

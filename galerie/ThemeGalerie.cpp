@@ -2,6 +2,7 @@
 #include "ThemeGalerie.h"
 
 #include "foundation/ThemesQt.h"
+#include "navigation/DTabBarInterne.h"
 #include "noyau/RoutinesTexte.h"
 #include "style/DStyleProxy.h"
 
@@ -10,6 +11,7 @@
 #include <QPalette>
 #include <QRegularExpression>
 #include <QStyleFactory>
+#include <QStyleOption>
 
 #include <utility>
 
@@ -37,6 +39,19 @@ public:
         peintre.setOpacity(kOpacite);
         peintre.drawPixmap(0, 0, image);
         return pale;
+    }
+
+    // The style's selected tab is white in every palette, and the titles of travelling tabs have
+    // the theme's colour, which is light on dark windows. The colour of fields goes with both
+    // themes.
+    void drawControl(ControlElement element, QStyleOption const * option, QPainter * peintre,
+                     QWidget const * widget) const override
+    {
+        DStyleProxy::drawControl(element, option, peintre, widget);
+        constexpr QMargins kBords(1, 3, 1, 0); // logical pixels: the outline, and the accent
+        if (element == CE_TabBarTabShape && option->state.testFlag(State_Selected) &&
+            qobject_cast<DTabBarInterne const *>(widget))
+            peintre->fillRect(option->rect.marginsRemoved(kBords), option->palette.base());
     }
 };
 
@@ -84,15 +99,30 @@ QPalette DonnePalette()
     return palette;
 }
 
+bool EstSombre(QColor const & fond)
+{
+    constexpr int kMilieu = 128; // of the lightness, 0 to 255
+    return fond.lightness() < kMilieu;
+}
+
+// The general sheet, the gallery's own, and what a dark theme needs besides.
+QString LisFeuilles()
+{
+    QString feuilles = RoutinesGeneralesQt::ContenuFichier(u":/Style/StyleGeneralGui.qss"_s) +
+                       RoutinesGeneralesQt::ContenuFichier(u":/Style/StyleGalerie.qss"_s);
+    if (QColor const fond = Couleur(u"couleurFondGris"_s); fond.isValid() && EstSombre(fond))
+        feuilles += RoutinesGeneralesQt::ContenuFichier(u":/Style/StyleGalerieSombre.qss"_s);
+    return feuilles;
+}
+
 // The Fusion style draws the edges of these in a darker shade of the window's colour, which none of
 // them fills with it. Nobody sees that shade on a dark window: there it is to be the borders'
 // colour.
 void MetsBords(QPalette palette)
 {
-    constexpr int kMilieu = 128;          // of the lightness, 0 to 255
     constexpr int kFacteurDesBords = 140; // percent: QColor::darker, as the style calls it
     QColor const bordure = Couleur(u"couleurBordureGeneral"_s);
-    bool const sombre = palette.color(QPalette::Window).lightness() < kMilieu && bordure.isValid();
+    bool const sombre = EstSombre(palette.color(QPalette::Window)) && bordure.isValid();
     // A little darker than the others: views have grids too.
     if (sombre)
         palette.setColor(QPalette::Window, bordure);
@@ -176,8 +206,7 @@ void ThemeGalerie::Remplace(QString const & nom, QColor const & couleur)
 
 bool ThemeGalerie::Applique() const
 {
-    QString const feuilles = RoutinesGeneralesQt::ContenuFichier(u":/Style/StyleGeneralGui.qss"_s) +
-                             RoutinesGeneralesQt::ContenuFichier(u":/Style/StyleGalerie.qss"_s);
+    QString const feuilles = LisFeuilles();
     // A name that the table lacks would keep AppliquerVariable from returning.
     QStringList const inconnues = ThemesQt::Instance()->VariablesInconnues(feuilles);
     if (!inconnues.isEmpty()) {

@@ -19,6 +19,17 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
+QColor Couleur(QString const & nom)
+{
+    return ThemesQt::Instance()->DonneCouleur(nom);
+}
+
+bool EstSombre(QColor const & fond)
+{
+    constexpr int kMilieu = 128; // of the lightness, 0 to 255
+    return fond.lightness() < kMilieu;
+}
+
 // Qt makes a disabled icon of the lightness of the drawing alone: on a dark window a drawing in
 // grey, which suits both themes, would come out no dimmer than it is.
 class StyleGalerie : public DStyleProxy
@@ -42,23 +53,29 @@ public:
     }
 
     // The style's selected tab is white in every palette, and the titles of travelling tabs have
-    // the theme's colour, which is light on dark windows. The colour of fields goes with both
-    // themes.
+    // the theme's colour, which is light on dark windows.
     void drawControl(ControlElement element, QStyleOption const * option, QPainter * peintre,
                      QWidget const * widget) const override
     {
-        DStyleProxy::drawControl(element, option, peintre, widget);
-        constexpr QMargins kBords(1, 3, 1, 0); // logical pixels: the outline, and the accent
         if (element == CE_TabBarTabShape && option->state.testFlag(State_Selected) &&
+            EstSombre(option->palette.color(QPalette::Window)) &&
             qobject_cast<DTabBarInterne const *>(widget))
-            peintre->fillRect(option->rect.marginsRemoved(kBords), option->palette.base());
+            DessineOngletSombre(*option, *peintre);
+        else
+            DStyleProxy::drawControl(element, option, peintre, widget);
+    }
+
+private:
+    static void DessineOngletSombre(QStyleOption const & option, QPainter & peintre)
+    {
+        constexpr int kAccent = 3; // logical pixels, as of the white tab
+        QRect const & rect = option.rect;
+        peintre.fillRect(rect, Couleur(u"couleurSeparateur"_s));
+        peintre.fillRect(rect.adjusted(1, 0, -1, 0), option.palette.base());
+        peintre.fillRect(QRect(rect.topLeft(), QSize(rect.width(), kAccent)),
+                         option.palette.highlight());
     }
 };
-
-QColor Couleur(QString const & nom)
-{
-    return ThemesQt::Instance()->DonneCouleur(nom);
-}
 
 // A text that is no colour leaves the role as it was.
 void MetsCouleur(QPalette & palette, QPalette::ColorGroup groupe, QPalette::ColorRole role,
@@ -97,12 +114,6 @@ QPalette DonnePalette()
     // The style paints a default button in this colour, also one that is disabled.
     MetsCouleur(palette, QPalette::Disabled, QPalette::Highlight, u"couleurFondBoutonHover"_s);
     return palette;
-}
-
-bool EstSombre(QColor const & fond)
-{
-    constexpr int kMilieu = 128; // of the lightness, 0 to 255
-    return fond.lightness() < kMilieu;
 }
 
 // The general sheet, the gallery's own, and what a dark theme needs besides.

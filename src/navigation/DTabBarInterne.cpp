@@ -5,6 +5,7 @@
 
 #include "foundation/ThemesQt.h"
 
+#include "navigation/BarreOngletsAccessible_p.h"
 #include "navigation/DTabBar.h"
 #include "navigation/FantomeOnglet_p.h"
 
@@ -31,6 +32,7 @@ DTabBarInterne::DTabBarInterne(DTabBar * parent, UniChaine identifiantGroupe)
     , monIdentifiantGroupe(std::move(identifiantGroupe))
     , monFantome(std::make_unique<FantomeOnglet>())
 {
+    BarreOngletsAccessible::PrendsFabrique();
     qRegisterMetaType<DTabBarInterne::InfosOnglet>("DTabBarInterne::InfosOnglet");
     connect(this, &QTabBar::tabMoved, this, &DTabBarInterne::PriseOngletDeplacay,
             Qt::UniqueConnection);
@@ -39,6 +41,7 @@ DTabBarInterne::DTabBarInterne(DTabBar * parent, UniChaine identifiantGroupe)
 DTabBarInterne::~DTabBarInterne()
 {
     VideCible();
+    BarreOngletsAccessible::LibereFabrique();
 }
 
 void DTabBarInterne::CreeCadreOnglet(int index)

@@ -1,4 +1,4 @@
-#include "lists/EntreeX11.h"
+#include "outils/EntreeX11.h"
 #include "lists/PiecesBarreDeFiltre.h"
 
 #include <QLineEdit>

@@ -1,6 +1,6 @@
 #include "lists/ListeChoixFlottante.h"
 
-#include "lists/EntreeX11.h"
+#include "outils/EntreeX11.h"
 #include "lists/EssaisListeChoix.h"
 
 #include <QDialog>

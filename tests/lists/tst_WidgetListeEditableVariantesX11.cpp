@@ -1,7 +1,7 @@
 #include "lists/WidgetListeEditableAvecListeChoix.h"
 #include "lists/WidgetListeEditableDragAndDrop.h"
 
-#include "lists/EntreeX11.h"
+#include "outils/EntreeX11.h"
 #include "lists/EssaisVariantes.h"
 #include "lists/ListeChoixFlottante.h"
 

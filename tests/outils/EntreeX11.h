@@ -1,4 +1,4 @@
-// lists/EntreeX11.h
+// outils/EntreeX11.h
 #pragma once
 
 #include <QPoint>

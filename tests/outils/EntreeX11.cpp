@@ -1,5 +1,5 @@
-// lists/EntreeX11.cpp
-#include "lists/EntreeX11.h"
+// outils/EntreeX11.cpp
+#include "outils/EntreeX11.h"
 
 #include <xcb/xcb.h>
 #include <xcb/xcbext.h>

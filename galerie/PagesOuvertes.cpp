@@ -48,6 +48,16 @@ void AmeneDevant(QWidget & fenetre)
     fenetre.activateWindow();
 }
 
+// `cadre` is what the frame adds to a window: a new one has none of its own before it is shown.
+void PlaceDansEcran(QWidget & fenetre, QPoint const & coin, QSize const & cadre)
+{
+    fenetre.layout()->activate(); // grows to what the page needs, before that has to fit
+    QRect place(coin, fenetre.size() + cadre);
+    RoutinesGeneralesQt::AjusteDansEcran(place, false, true, true);
+    fenetre.move(place.topLeft());
+    fenetre.resize(place.size() - cadre);
+}
+
 } // namespace
 
 PagesOuvertes::PagesOuvertes(ThemeGalerie & theme, OngletsGalerie & principaux)
@@ -332,14 +342,14 @@ void PagesOuvertes::PriseOngletEnvoyay(OngletsGalerie & source, DTabWidget & cib
 
 void PagesOuvertes::PriseDetachement(OngletsGalerie & onglets, int index)
 {
-    QPoint const coin = jeDetacheAuClavier ? onglets.window()->frameGeometry().topLeft() + kDecalage
-                                           : QCursor::pos() - kPriseDuTitre;
+    QRect const origine = onglets.window()->frameGeometry();
+    QSize const cadre = origine.size() - onglets.window()->size();
+    QPoint const coin =
+        jeDetacheAuClavier ? origine.topLeft() + kDecalage : QCursor::pos() - kPriseDuTitre;
     auto * seule = qobject_cast<FenetreOnglets *>(onglets.window());
     if (seule == nullptr || onglets.DonneTotalOnglet() > 1)
         seule = &DeplaceDansNouvelleFenetre(onglets, index);
-    seule->layout()->activate(); // grows to what the page needs, before that has to fit
-    seule->move(coin);
-    RoutinesGeneralesQt::AjusteDansEcran(*seule, false, true, true);
+    PlaceDansEcran(*seule, coin, cadre);
     AmeneDevant(*seule);
     mesActifs = &seule->PreteOnglets();
     seule->PreteOnglets().PreteCadreCourant()->ReprendsFocus();

@@ -8,7 +8,6 @@
 #include <QEvent>
 #include <QPushButton>
 #include <QScopedValueRollback>
-#include <QSignalBlocker>
 #include <QStackedWidget>
 #include <QStyle>
 #include <QToolButton>
@@ -23,34 +22,6 @@ namespace {
 
 // Logical pixels.
 constexpr int kCoteBoutonFermeture = 16;
-
-// Under which all that a host has attached to a tab arrives in another widget.
-constexpr int kCleApresDeplacement = Qt::UserRole + 1;
-
-DTabWidget * TrouveWidgetOnglets(QWidget * widget)
-{
-    while (widget && !qobject_cast<DTabWidget *>(widget))
-        widget = widget->parentWidget();
-    return static_cast<DTabWidget *>(widget);
-}
-
-// Of one place of the pile. The page on show is never taken out, since it would lose the focus and
-// be hidden for a moment: its neighbours pass it by instead.
-void DeplacePage(QStackedWidget & pile, int de, int vers)
-{
-    auto const deplace = [&pile](int depart, int arrivee) {
-        QWidget * const page = pile.widget(depart);
-        pile.removeWidget(page);
-        pile.insertWidget(arrivee, page);
-    };
-    if (de != pile.currentIndex()) {
-        deplace(de, vers);
-        return;
-    }
-    int const pas = de < vers ? 1 : -1;
-    for (int i = de; i != vers; i += pas)
-        deplace(i + pas, i);
-}
 
 } // namespace
 
@@ -247,29 +218,6 @@ DTabBar * DTabWidget::PreteBarre() const
     return monBarre;
 }
 
-bool DTabWidget::EnvoieOnglet(int index, DTabWidget * cible, int position)
-{
-    QWidget const * const page = maPile->widget(index);
-    if (!page || !cible || cible == this || page == cible || page->isAncestorOf(cible))
-        return false;
-    DTabBarInterne & barre = *cible->PreteBarreInterne();
-    if (barre.DonneIdentifiantGroupe() != PreteBarreInterne()->DonneIdentifiantGroupe())
-        return false;
-    PriseDeplaceOngletVersBarreExterne(index, &barre, position);
-    return true;
-}
-
-void DTabWidget::DetacheOnglet(int index)
-{
-    QWidget const * const page = maPile->widget(index);
-    if (!page)
-        return;
-    QPointer<DTabWidget> const vivant(this);
-    MetsIndexCourant(index);
-    if (vivant && DonneWidgetCourant() == page)
-        PriseNouvelleFenetreOngletExistant();
-}
-
 void DTabWidget::changeEvent(QEvent * evenement)
 {
     QFrame::changeEvent(evenement);
@@ -295,39 +243,6 @@ bool DTabWidget::eventFilter(QObject * objet, QEvent * evenement)
     return true;
 }
 
-void DTabWidget::PriseDeplaceOngletVersBarreExterne(int index, QWidget * barre, int position)
-{
-    QPointer<DTabWidget> const cible(TrouveWidgetOnglets(barre));
-    QPointer<QWidget> const page(maPile->widget(index));
-    if (!cible || cible == this || !page || page == cible || page->isAncestorOf(cible))
-        return;
-    QPointer<DTabWidget> const vivant(this);
-    auto const infos = PreteBarreInterne()->DonneInfos(index);
-    QPointer<QWidget> const remplacant(RemplacePage(index));
-    cible->InsereOnglet(page, position, infos.titre);
-
-    position = cible ? cible->maPile->indexOf(page) : -1;
-    if (position >= 0) {
-        cible->MetsIconeOnglet(position, infos.icone);
-        // Deliberate: one key for all, whatever theirs was, so that only the last value stays.
-        for (QVariant const & donnee : infos.donnees)
-            cible->MetsDataOnglet(position, donnee, kCleApresDeplacement);
-    }
-    if (vivant && remplacant)
-        RetireRemplacant(remplacant);
-    if (!cible || position < 0)
-        return;
-    cible->activateWindow();
-    if (vivant)
-        Q_EMIT SignalOngletDeplacayVersBarreExterne(index, position, cible);
-}
-
-void DTabWidget::PriseNouvelleFenetreOngletExistant()
-{
-    Q_EMIT SignalOngletNouvelleFenetre(PreteBarreInterne()->currentIndex(),
-                                       maPile->currentWidget());
-}
-
 void DTabWidget::PriseOngletChangay(int index)
 {
     maPile->setCurrentIndex(index);
@@ -339,21 +254,6 @@ void DTabWidget::PriseOngletChangay(int index)
     }
     monIndexPrecedent = index;
     Publie({false, index, index});
-}
-
-void DTabWidget::PriseOngletDeplacay(int de, int vers)
-{
-    {
-        QSignalBlocker const silence(maPile);
-        DeplacePage(*maPile, de, vers);
-    }
-    if (monIndexPrecedent == de)
-        monIndexPrecedent = vers;
-    else if (de < monIndexPrecedent && monIndexPrecedent <= vers)
-        --monIndexPrecedent;
-    else if (vers <= monIndexPrecedent && monIndexPrecedent < de)
-        ++monIndexPrecedent;
-    Publie({true, de, vers});
 }
 
 void DTabWidget::PriseBoutonFermeture()
@@ -381,6 +281,13 @@ void DTabWidget::PrisePageRetiree(int index)
 DTabBarInterne * DTabWidget::PreteBarreInterne() const
 {
     return monBarre->PreteBarreInterne();
+}
+
+DTabWidget * DTabWidget::TrouveDepuis(QWidget * widget)
+{
+    while (widget && !qobject_cast<DTabWidget *>(widget))
+        widget = widget->parentWidget();
+    return static_cast<DTabWidget *>(widget);
 }
 
 void DTabWidget::Branche()
@@ -412,7 +319,7 @@ int DTabWidget::PoseOnglet(QWidget * page, int position)
     QPointer<DTabWidget> const vivant(this);
     QPointer<QWidget> const pageVivante(page);
     // Out of the tab that it has, before the pile takes it out of there amid its own change.
-    DTabWidget * const ancien = TrouveWidgetOnglets(page->parentWidget());
+    DTabWidget * const ancien = TrouveDepuis(page->parentWidget());
     if (ancien)
         ancien->RetireOnglet(ancien->maPile->indexOf(page));
     if (!vivant || !pageVivante)
@@ -425,6 +332,8 @@ int DTabWidget::PoseOnglet(QWidget * page, int position)
     if (index <= monIndexPrecedent && DonneTotalOnglet() > 1)
         ++monIndexPrecedent;
     mesPagesNeuves.append(pageVivante);
+    if (mesPagesNeuves.size() > DonneTotalOnglet()) // some have gone again
+        mesPagesNeuves.removeIf([this](auto const & neuve) { return maPile->indexOf(neuve) < 0; });
     Diffuse();
     return vivant && pageVivante ? maPile->indexOf(page) : -1;
 }
@@ -458,26 +367,6 @@ void DTabWidget::RetireDeLaBarre(int index)
     PreteBarreInterne()->removeTab(index);
     --mesRetenues;
     Diffuse();
-}
-
-// Puts an empty page in the place of one that leaves, so that bar and pile stay in step until the
-// tab goes as well.
-QWidget * DTabWidget::RemplacePage(int index)
-{
-    auto * const remplacant = new QWidget;
-    maPile->insertWidget(index + 1, remplacant);
-    RetireDeLaPile(maPile->widget(index));
-    return remplacant;
-}
-
-void DTabWidget::RetireRemplacant(QWidget * remplacant)
-{
-    int const index = maPile->indexOf(remplacant);
-    if (index >= 0)
-        RetireDeLaPile(remplacant);
-    delete remplacant;
-    if (index >= 0)
-        RetireDeLaBarre(index);
 }
 
 void DTabWidget::MontreActif(int index, bool actif)

@@ -113,6 +113,8 @@ private:
         int vers;
     };
 
+    static DTabWidget * TrouveDepuis(QWidget * widget);
+
     DTabBarInterne * PreteBarreInterne() const;
     void Branche();
     int PoseOnglet(QWidget * page, int position);

@@ -311,7 +311,5 @@ void tst_DTabWidgetVies::tousLesMouvementsSontDits()
     QCOMPARE(Titres(onglets), u"b c d a"_s);
 }
 
-Q_DECLARE_METATYPE(Geste)
-
 QTEST_MAIN(tst_DTabWidgetVies)
 #include "tst_DTabWidgetVies.moc"

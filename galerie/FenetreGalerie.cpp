@@ -25,7 +25,7 @@ namespace {
 constexpr QSize kTailleFenetre(1100, 760);
 constexpr int kLargeurPanneau = 190;
 constexpr int kMargePanneau = 10;
-constexpr int kHauteurLigne = 40;
+constexpr int kHauteurLigne = 36;
 
 } // namespace
 
@@ -88,8 +88,9 @@ void FenetreGalerie::CreeOnglets(ThemeGalerie & theme)
     maPhrase->setObjectName(u"phraseSansPage"_s);
     maPhrase->setAlignment(Qt::AlignCenter);
     maPhrase->setWordWrap(true);
-    maPhrase->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
     mesOnglets->AjouteWidgetCommun(maPhrase);
+    // All the room is its own: without it the pages would take half, even where there is none.
+    static_cast<QBoxLayout *>(mesOnglets->layout())->setStretchFactor(maPhrase, 1);
     mesPages = std::make_unique<PagesOuvertes>(theme, *mesOnglets);
 }
 

@@ -10,6 +10,7 @@
 #include "navigation/DTabBarInterne.h"
 
 #include <QContextMenuEvent>
+#include <QLayout>
 #include <QPushButton>
 #include <QShortcut>
 
@@ -27,6 +28,8 @@ OngletsGalerie::OngletsGalerie(QWidget * parent)
 {
     MetsPeutGlisserDeposerOnglet(true);
     PreteBarre()->PreteBarreInterne()->installEventFilter(this);
+    // The row is a pixel higher than the tabs: so the line below them goes on behind the button.
+    PreteBarre()->layout()->setAlignment(PreteBarre()->PreteBarreInterne(), Qt::AlignBottom);
     struct
     {
         QKeySequence::StandardKey touche;

@@ -52,6 +52,15 @@ public:
         return pale;
     }
 
+    // The line under travelling tabs goes on behind their add button, at the bottom of the row.
+    int pixelMetric(PixelMetric mesure, QStyleOption const * option,
+                    QWidget const * widget) const override
+    {
+        return mesure == PM_TabBarBaseOverlap && qobject_cast<DTabBarInterne const *>(widget)
+                   ? 1
+                   : DStyleProxy::pixelMetric(mesure, option, widget);
+    }
+
     // The style's selected tab is white in every palette, and the titles of travelling tabs have
     // the theme's colour, which is light on dark windows.
     void drawControl(ControlElement element, QStyleOption const * option, QPainter * peintre,

@@ -51,6 +51,9 @@ public:
 
     UniChaine DonneIdentifiantGroupe() const { return monIdentifiantGroupe; }
 
+    /// Qt's, which must not be called while Qt slides tabs aside for one that is being moved.
+    void removeTab(int index);
+
     /// Gives a tab that was just added its frame and its record.
     void CreeCadreOnglet(int index);
     /// An empty record for a tab without one, and out of range.
@@ -86,10 +89,8 @@ Q_SIGNALS:
     /// For hosts: the bar never emits it.
     void SignalArretBarreExterneSurvolay();
 
-public:
-    bool eventFilter(QObject * objet, QEvent * evenement) override;
-
 protected:
+    bool eventFilter(QObject * objet, QEvent * evenement) override;
     bool event(QEvent * evenement) override;
     void mousePressEvent(QMouseEvent * evenement) override;
     void mouseReleaseEvent(QMouseEvent * evenement) override;

@@ -33,15 +33,19 @@ void DTabBarInterne::mousePressEvent(QMouseEvent * evenement)
     if (gauche) {
         TermineDeplacement(); // its release went astray
         monBoutonEnfoncay = true;
-        monOngletPressay = false;
     }
-    QPointer<DTabBarInterne> const moi(this);
-    QTabBar::mousePressEvent(evenement);
-    if (!moi || monDeplacementExterne) // another button, while a tab is outside
+    if (monDeplacementExterne) { // another button, while a tab is outside
+        QTabBar::mousePressEvent(evenement);
         return;
+    }
+    // Before the base: its receivers may change the tabs, and the bar may scroll.
     monIndexDeplace = tabAt(evenement->position().toPoint());
     monOngletPressay = monIndexDeplace >= 0;
-    monDeplacementPermis = gauche && monOngletPressay;
+    QPointer<DTabBarInterne> const moi(this);
+    QTabBar::mousePressEvent(evenement);
+    // A disabled tab is not made current, but the picture and the new window are of that one.
+    if (moi)
+        monDeplacementPermis = gauche && isTabEnabled(monIndexDeplace);
 }
 
 void DTabBarInterne::mouseReleaseEvent(QMouseEvent * evenement)
@@ -255,21 +259,31 @@ void DTabBarInterne::Depose()
         Q_EMIT SignalOngletNouvelleFenetre();
 }
 
+// Qt cannot change the current tab while it moves one, and keeps neither index if others are
+// sliding aside: it would go on to paint a tab that is no more.
+void DTabBarInterne::removeTab(int index)
+{
+    if (index <= monIndexDeplace)
+        AbandonneDeplacementQt();
+    QTabBar::removeTab(index);
+}
+
 void DTabBarInterne::tabInserted(int index)
 {
     QTabBar::tabInserted(index);
-    bool const avant = !monOngletPressay || index <= monIndexDeplace;
-    if (avant)
-        AbandonneDeplacementQt(); // Qt does not keep the tab that it moves
-    if (monOngletPressay && avant)
-        ++monIndexDeplace;
+    if (!monOngletPressay || index > monIndexDeplace)
+        return;
+    AbandonneDeplacementQt(); // Qt does not keep the tab that it moves
+    ++monIndexDeplace;
 }
 
 void DTabBarInterne::tabRemoved(int index)
 {
     QTabBar::tabRemoved(index);
-    if (!monOngletPressay || index <= monIndexDeplace)
+    if (index <= monIndexDeplace)
         AbandonneDeplacementQt();
+    if (currentIndex() < 0) // see `removeTab`, which a host may have called by its base
+        setCurrentIndex(std::min(index, count() - 1));
     if (!monOngletPressay)
         return;
     if (index == monIndexDeplace) {

@@ -2,6 +2,7 @@
 #include "navigation/FantomeOnglet_p.h"
 
 #include <QApplication>
+#include <QPainter>
 #include <QWindow>
 
 using namespace Qt::StringLiterals;
@@ -14,6 +15,7 @@ constexpr Qt::WindowFlags kFanions = Qt::Tool | Qt::FramelessWindowHint |
                                      Qt::BypassWindowManagerHint | Qt::WindowTransparentForInput |
                                      Qt::WindowDoesNotAcceptFocus;
 constexpr double kOpacite = 0.75;
+constexpr int kBordure = 1; // logical pixels, as in the sheet below
 
 QWidget * TrouveWidgetDe(QWindow const * fenetre)
 {
@@ -81,4 +83,14 @@ QWidget * FantomeOnglet::TrouveWidgetDessous(QPoint const & positionGlobale) con
         return enfant ? enfant : widget;
     }
     return nullptr;
+}
+
+// The background is the picture too, but for a sheet of the application that has one for every
+// widget.
+void FantomeOnglet::paintEvent(QPaintEvent * evenement)
+{
+    QWidget::paintEvent(evenement);
+    QPainter peintre(this);
+    peintre.setClipRect(rect().adjusted(kBordure, kBordure, -kBordure, -kBordure));
+    peintre.drawPixmap(0, 0, monPixmap);
 }

@@ -22,6 +22,9 @@ public:
     /// `QApplication::widgetAt`, which may not see through the picture by itself.
     QWidget * TrouveWidgetDessous(QPoint const & positionGlobale) const;
 
+protected:
+    void paintEvent(QPaintEvent * evenement) override;
+
 private:
     void Photographie(QWidget & modele);
 

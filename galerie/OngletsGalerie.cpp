@@ -30,24 +30,8 @@ OngletsGalerie::OngletsGalerie(QWidget * parent)
     PreteBarre()->PreteBarreInterne()->installEventFilter(this);
     // The row is a pixel higher than the tabs: so the line below them goes on behind the button.
     PreteBarre()->layout()->setAlignment(PreteBarre()->PreteBarreInterne(), Qt::AlignBottom);
-    struct
-    {
-        QKeySequence::StandardKey touche;
-        void (OngletsGalerie::*prise)();
-    } const raccourcis[] = {
-        {QKeySequence::NextChild, &OngletsGalerie::PriseSuivant},
-        {QKeySequence::PreviousChild, &OngletsGalerie::PrisePrecedent},
-        {QKeySequence::Close, &OngletsGalerie::PriseFermer},
-    };
-    for (auto const & [touche, prise] : raccourcis) {
-        auto * const raccourci = new QShortcut(touche, this);
-        connect(raccourci, &QShortcut::activated, this, prise, Qt::UniqueConnection);
-    }
-    // Not all systems ask for the menu with it, as they do with the key of its own.
-    auto * const menu = new QShortcut(Qt::SHIFT | Qt::Key_F10, PreteBarre()->PreteBarreInterne());
-    menu->setContext(Qt::WidgetWithChildrenShortcut);
-    connect(menu, &QShortcut::activated, this, &OngletsGalerie::PriseMenuAuClavier,
-            Qt::UniqueConnection);
+    AccordeLigne();
+    BrancheClavier();
 }
 
 CadrePage * OngletsGalerie::PreteCadre(int index)
@@ -79,10 +63,6 @@ void OngletsGalerie::Habille()
         HabilleOnglet(i);
     PreteBarre()->PreteBoutonAjout()->setAccessibleName(
         TraductionGui(TexteGui("Ajouter un onglet")));
-    // The line behind the button, whose own colour is for light windows.
-    for (QFrame * const ligne :
-         PreteBarre()->findChildren<QFrame *>(QString(), Qt::FindDirectChildrenOnly))
-        ligne->setStyleSheet(ThemesQt::Instance()->AppliquerVariable(kFeuilleLigne.toString()));
 }
 
 void OngletsGalerie::MetsAjout(bool possible)
@@ -95,6 +75,14 @@ bool OngletsGalerie::event(QEvent * evenement)
     if (evenement->type() == QEvent::WindowActivate)
         Q_EMIT SignalActivay();
     return DTabWidget::event(evenement);
+}
+
+void OngletsGalerie::changeEvent(QEvent * evenement)
+{
+    DTabWidget::changeEvent(evenement);
+    // Later: style sheets take their palettes away from the labels, which hear of it behind this.
+    if (evenement->type() == QEvent::StyleChange)
+        QMetaObject::invokeMethod(this, &OngletsGalerie::PriseThemeChangay, Qt::QueuedConnection);
 }
 
 bool OngletsGalerie::eventFilter(QObject * objet, QEvent * evenement)
@@ -138,6 +126,44 @@ void OngletsGalerie::PriseMenuAuClavier()
     // The tab may have been scrolled out of the bar.
     QRect const onglet = barre.tabRect(index).intersected(barre.rect());
     Q_EMIT SignalMenuOnglet(index, barre.mapToGlobal(onglet.bottomLeft()));
+}
+
+void OngletsGalerie::PriseThemeChangay()
+{
+    AccordeLigne();
+    DTabBarInterne & barre = *PreteBarre()->PreteBarreInterne();
+    for (int i = 0; i < barre.count(); ++i)
+        barre.MetsCouleurTitre(i, i == barre.currentIndex());
+}
+
+// The line behind the add button, whose own colour is for light windows.
+void OngletsGalerie::AccordeLigne()
+{
+    for (QFrame * const ligne :
+         PreteBarre()->findChildren<QFrame *>(QString(), Qt::FindDirectChildrenOnly))
+        ligne->setStyleSheet(ThemesQt::Instance()->AppliquerVariable(kFeuilleLigne.toString()));
+}
+
+void OngletsGalerie::BrancheClavier()
+{
+    struct
+    {
+        QKeySequence::StandardKey touche;
+        void (OngletsGalerie::*prise)();
+    } const raccourcis[] = {
+        {QKeySequence::NextChild, &OngletsGalerie::PriseSuivant},
+        {QKeySequence::PreviousChild, &OngletsGalerie::PrisePrecedent},
+        {QKeySequence::Close, &OngletsGalerie::PriseFermer},
+    };
+    for (auto const & [touche, prise] : raccourcis) {
+        auto * const raccourci = new QShortcut(touche, this);
+        connect(raccourci, &QShortcut::activated, this, prise, Qt::UniqueConnection);
+    }
+    // Not all systems ask for the menu with it, as they do with the key of its own.
+    auto * const menu = new QShortcut(Qt::SHIFT | Qt::Key_F10, PreteBarre()->PreteBarreInterne());
+    menu->setContext(Qt::WidgetWithChildrenShortcut);
+    connect(menu, &QShortcut::activated, this, &OngletsGalerie::PriseMenuAuClavier,
+            Qt::UniqueConnection);
 }
 
 void OngletsGalerie::HabilleOnglet(int index)

@@ -37,6 +37,7 @@ Q_SIGNALS:
 
 protected:
     bool event(QEvent * evenement) override;
+    void changeEvent(QEvent * evenement) override;
     bool eventFilter(QObject * objet, QEvent * evenement) override;
 
 private Q_SLOTS:
@@ -44,8 +45,11 @@ private Q_SLOTS:
     void PrisePrecedent();
     void PriseFermer();
     void PriseMenuAuClavier();
+    void PriseThemeChangay();
 
 private:
+    void AccordeLigne();
+    void BrancheClavier();
     void HabilleOnglet(int index);
     void Tourne(int pas);
 };

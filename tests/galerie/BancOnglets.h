@@ -25,6 +25,7 @@ public:
         kTextes = 1,
         kPolices = 2,
         kEcrans = 3,
+        kTexteRiche = 7,
         kVues = 10
     };
 

@@ -5,6 +5,7 @@
 #include "TraductionGalerie.h"
 
 #include "controls/DLabelElision.h"
+#include "editing/DLineEditRaccourci.h"
 
 using namespace Qt::StringLiterals;
 
@@ -22,6 +23,7 @@ private Q_SLOTS:
     void fermetureGardeLaSaisie_data();
     void fermetureGardeLaSaisie();
     void fermetureACotePasser();
+    void champDeRaccourciGardeSesTouches();
     void sansPageLaPhrase();
     void listeChoisitParClicEtEntree();
     void listeReprendSaMarque();
@@ -135,6 +137,28 @@ void tst_FenetreGalerieOnglets::fermetureACotePasser()
     Q_EMIT onglets.SignalDemandeFermetureOnglet(-1); // of a middle click beside the tabs
     Q_EMIT onglets.SignalDemandeFermetureOnglet(7);
     QCOMPARE(onglets.DonneTotalOnglet(), 1);
+}
+
+// The field of a page that takes in shortcuts takes those of the window too.
+void tst_FenetreGalerieOnglets::champDeRaccourciGardeSesTouches()
+{
+    FenetreGalerie fenetre(monBanc.PreteTheme());
+    OngletsGalerie & onglets = fenetre.PreteOnglets();
+    fenetre.MontrePage(BancOnglets::kTexteRiche);
+    fenetre.show();
+    fenetre.activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(&fenetre));
+    auto * const champ = fenetre.findChild<DLineEditRaccourci *>();
+    QVERIFY(champ);
+    champ->setFocus();
+    QVERIFY(champ->hasFocus());
+
+    QTest::keyClick(champ, Qt::Key_W, Qt::ControlModifier);
+    QTest::keyClick(champ, Qt::Key_Tab, Qt::ControlModifier);
+
+    QCOMPARE(BancOnglets::DonnePages(onglets),
+             (QList<int>{BancOnglets::kTheme, BancOnglets::kTexteRiche}));
+    QCOMPARE(onglets.DonneIndexCourant(), 1);
 }
 
 void tst_FenetreGalerieOnglets::sansPageLaPhrase()
@@ -337,15 +361,26 @@ void tst_FenetreGalerieOnglets::themeDesOnglets()
     fenetre.MontrePage(BancOnglets::kPolices);
 
     monBanc.PreteTheme().Assombris();
-    QVERIFY(monBanc.PreteTheme().Applique());
-    fenetre.RefaisPages();
+    QVERIFY(monBanc.PreteTheme().Applique()); // as the page on the theme does, without rebuilding
 
     auto const couleur = [&](int index) {
         return BancOnglets::PreteBarre(onglets).DonneInfos(index).etiquetteTitre->palette().color(
             QPalette::WindowText);
     };
-    QCOMPARE(couleur(0), ThemesQt::Instance()->DonneCouleur(u"couleurTexteGris"_s));
+    QTRY_COMPARE(couleur(0), ThemesQt::Instance()->DonneCouleur(u"couleurTexteGris"_s));
     QCOMPARE(couleur(1), ThemesQt::Instance()->DonneCouleur(u"couleurTexteDeBase"_s));
+    // The white tab of light themes would leave that title unread.
+    fenetre.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&fenetre));
+    DTabBarInterne & barre = BancOnglets::PreteBarre(onglets);
+    QImage const image = barre.grab().toImage();
+    for (int const x : {2, 92, 182}) // logical pixels, beside the title
+        QVERIFY(image.pixelColor(barre.tabRect(1).left() + x, barre.height() - 4).lightness() <
+                128);
+    // The line behind the add button follows as well.
+    QImage const rangee = onglets.PreteBarre()->grab().toImage();
+    QCOMPARE(rangee.pixelColor(rangee.width() - 2, rangee.height() - 1),
+             ThemesQt::Instance()->DonneCouleur(u"couleurSeparateur"_s));
 }
 
 void tst_FenetreGalerieOnglets::seuleFermeLesAutres()

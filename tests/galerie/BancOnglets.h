@@ -15,6 +15,8 @@
 
 #include <QtTest>
 
+#include <memory>
+
 /// The windows of the gallery, as their tests see them: pages go by their places in the list.
 class BancOnglets
 {
@@ -47,6 +49,21 @@ public:
     }
 
     ThemeGalerie & PreteTheme() { return monTheme; }
+
+    /// The main window with these tabs, the last one current.
+    std::unique_ptr<FenetreGalerie> Ouvre(QList<int> const & pages)
+    {
+        auto fenetre = std::make_unique<FenetreGalerie>(monTheme);
+        fenetre->MontreSeule(pages.first());
+        for (int const page : pages)
+            fenetre->MontrePage(page);
+        fenetre->resize(700, 500); // logical pixels: smaller than any screen
+        fenetre->show();
+        fenetre->activateWindow();
+        if (!QTest::qWaitForWindowActive(fenetre.get()))
+            qWarning("The window did not become active");
+        return fenetre;
+    }
 
     static DTabBarInterne & PreteBarre(OngletsGalerie const & onglets)
     {

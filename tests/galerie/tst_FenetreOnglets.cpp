@@ -1,21 +1,7 @@
 // tests/galerie/tst_FenetreOnglets.cpp
 #include "BancOnglets.h"
 
-#include <memory>
-
 using namespace Qt::StringLiterals;
-
-namespace {
-
-// As the platforms that have the key do.
-void EnvoieToucheMenu(QWidget & fenetre)
-{
-    QPoint const point = fenetre.rect().center();
-    QContextMenuEvent evenement(QContextMenuEvent::Keyboard, point, fenetre.mapToGlobal(point));
-    QCoreApplication::sendEvent(fenetre.windowHandle(), &evenement);
-}
-
-} // namespace
 
 // Windows that were torn off, beside the main one.
 class tst_FenetreOnglets : public QObject
@@ -39,16 +25,8 @@ private Q_SLOTS:
     void choixDansLaListe();
     void marqueDeLaFenetreActive();
     void ajoutDansLaFenetreDetachee();
-    void menuAuClavier_data();
-    void menuAuClavier();
-    void menuDunAutreOnglet();
-    void entreesDuMenu();
-    void positions();
 
 private:
-    std::unique_ptr<FenetreGalerie> Ouvre(QList<int> const & pages);
-    QMenu * OuvreMenu(OngletsGalerie & onglets, int index);
-
     BancOnglets monBanc;
 };
 
@@ -62,33 +40,10 @@ void tst_FenetreOnglets::cleanup()
     monBanc.Range();
 }
 
-// The main window with these tabs, the last one current.
-std::unique_ptr<FenetreGalerie> tst_FenetreOnglets::Ouvre(QList<int> const & pages)
-{
-    auto fenetre = std::make_unique<FenetreGalerie>(monBanc.PreteTheme());
-    fenetre->MontreSeule(pages.first());
-    for (int const page : pages)
-        fenetre->MontrePage(page);
-    fenetre->resize(700, 500); // logical pixels: smaller than any screen
-    fenetre->show();
-    fenetre->activateWindow();
-    if (!QTest::qWaitForWindowActive(fenetre.get()))
-        qWarning("The window did not become active");
-    return fenetre;
-}
-
-QMenu * tst_FenetreOnglets::OuvreMenu(OngletsGalerie & onglets, int index)
-{
-    DTabBarInterne & barre = BancOnglets::PreteBarre(onglets);
-    QPoint const point = barre.tabRect(index).center();
-    QContextMenuEvent evenement(QContextMenuEvent::Mouse, point, barre.mapToGlobal(point));
-    QCoreApplication::sendEvent(&barre, &evenement);
-    return BancOnglets::PreteMenu();
-}
-
 void tst_FenetreOnglets::detachementGardeLaPage()
 {
-    auto const fenetre = Ouvre({BancOnglets::kTheme, BancOnglets::kTextes, BancOnglets::kPolices});
+    auto const fenetre =
+        monBanc.Ouvre({BancOnglets::kTheme, BancOnglets::kTextes, BancOnglets::kPolices});
     OngletsGalerie & onglets = fenetre->PreteOnglets();
     onglets.MetsIndexCourant(1);
     QPointer<QWidget> const cadre = onglets.DonneWidgetCourant();
@@ -121,7 +76,7 @@ void tst_FenetreOnglets::detachementGardeLaPage()
 
 void tst_FenetreOnglets::renvoiParLaMemeVoie()
 {
-    auto const fenetre = Ouvre({BancOnglets::kTheme, BancOnglets::kTextes});
+    auto const fenetre = monBanc.Ouvre({BancOnglets::kTheme, BancOnglets::kTextes});
     OngletsGalerie & onglets = fenetre->PreteOnglets();
     QPointer<QLineEdit> const champ = fenetre->findChild<QLineEdit *>(u"filtreMessages"_s);
     champ->setFocus();
@@ -145,7 +100,8 @@ void tst_FenetreOnglets::renvoiParLaMemeVoie()
 
 void tst_FenetreOnglets::envoiEntreDetachees()
 {
-    auto const fenetre = Ouvre({BancOnglets::kTheme, BancOnglets::kTextes, BancOnglets::kPolices});
+    auto const fenetre =
+        monBanc.Ouvre({BancOnglets::kTheme, BancOnglets::kTextes, BancOnglets::kPolices});
     OngletsGalerie & onglets = fenetre->PreteOnglets();
     FenetreOnglets * const premiere = BancOnglets::Detache(onglets, BancOnglets::kTextes);
     QPointer<FenetreOnglets> const seconde = BancOnglets::Detache(onglets, BancOnglets::kPolices);
@@ -162,7 +118,7 @@ void tst_FenetreOnglets::envoiEntreDetachees()
 
 void tst_FenetreOnglets::dernierOngletFermay()
 {
-    auto const fenetre = Ouvre({BancOnglets::kTheme, BancOnglets::kTextes});
+    auto const fenetre = monBanc.Ouvre({BancOnglets::kTheme, BancOnglets::kTextes});
     QPointer<FenetreOnglets> const detachee =
         BancOnglets::Detache(fenetre->PreteOnglets(), BancOnglets::kTextes);
     detachee->findChild<QLineEdit *>(u"filtreMessages"_s)->setText(u"fermer"_s);
@@ -179,7 +135,7 @@ void tst_FenetreOnglets::dernierOngletFermay()
 // Dropped on the desktop: a second window would only replace the first.
 void tst_FenetreOnglets::seulOngletDetachayDeplaceSaFenetre()
 {
-    auto const fenetre = Ouvre({BancOnglets::kTheme, BancOnglets::kTextes});
+    auto const fenetre = monBanc.Ouvre({BancOnglets::kTheme, BancOnglets::kTextes});
     FenetreOnglets * const detachee =
         BancOnglets::Detache(fenetre->PreteOnglets(), BancOnglets::kTextes);
     QPointer<QWidget> const cadre = detachee->PreteOnglets().DonneWidgetCourant();
@@ -192,7 +148,7 @@ void tst_FenetreOnglets::seulOngletDetachayDeplaceSaFenetre()
 
 void tst_FenetreOnglets::detachementDuSeulOngletPrincipal()
 {
-    auto const fenetre = Ouvre({BancOnglets::kTextes});
+    auto const fenetre = monBanc.Ouvre({BancOnglets::kTextes});
     auto const * const phrase = fenetre->findChild<QLabel *>(u"phraseSansPage"_s);
 
     FenetreOnglets * const detachee =
@@ -206,7 +162,8 @@ void tst_FenetreOnglets::detachementDuSeulOngletPrincipal()
 
 void tst_FenetreOnglets::fermetureRameneLesPages()
 {
-    auto const fenetre = Ouvre({BancOnglets::kTheme, BancOnglets::kTextes, BancOnglets::kPolices});
+    auto const fenetre =
+        monBanc.Ouvre({BancOnglets::kTheme, BancOnglets::kTextes, BancOnglets::kPolices});
     OngletsGalerie & onglets = fenetre->PreteOnglets();
     QPointer<QLineEdit> const champ = fenetre->findChild<QLineEdit *>(u"filtreMessages"_s);
     champ->setText(u"fermer"_s);
@@ -229,7 +186,8 @@ void tst_FenetreOnglets::fermetureRameneLesPages()
 
 void tst_FenetreOnglets::fermetureDeLaPrincipale()
 {
-    auto const fenetre = Ouvre({BancOnglets::kTheme, BancOnglets::kTextes, BancOnglets::kPolices});
+    auto const fenetre =
+        monBanc.Ouvre({BancOnglets::kTheme, BancOnglets::kTextes, BancOnglets::kPolices});
     OngletsGalerie & onglets = fenetre->PreteOnglets();
     QPointer<FenetreOnglets> const premiere = BancOnglets::Detache(onglets, BancOnglets::kTextes);
     QPointer<FenetreOnglets> const seconde = BancOnglets::Detache(onglets, BancOnglets::kPolices);
@@ -244,7 +202,8 @@ void tst_FenetreOnglets::fermetureDeLaPrincipale()
 
 void tst_FenetreOnglets::destructionAvecDetachees()
 {
-    auto fenetre = Ouvre({BancOnglets::kTheme, BancOnglets::kTextes, BancOnglets::kPolices});
+    auto fenetre =
+        monBanc.Ouvre({BancOnglets::kTheme, BancOnglets::kTextes, BancOnglets::kPolices});
     OngletsGalerie & onglets = fenetre->PreteOnglets();
     QPointer<QWidget> const premiere = BancOnglets::Detache(onglets, BancOnglets::kTextes);
     QPointer<QWidget> const seconde = BancOnglets::Detache(onglets, BancOnglets::kPolices);
@@ -257,7 +216,8 @@ void tst_FenetreOnglets::destructionAvecDetachees()
 
 void tst_FenetreOnglets::langueDansToutesLesFenetres()
 {
-    auto const fenetre = Ouvre({BancOnglets::kTheme, BancOnglets::kTextes, BancOnglets::kPolices});
+    auto const fenetre =
+        monBanc.Ouvre({BancOnglets::kTheme, BancOnglets::kTextes, BancOnglets::kPolices});
     OngletsGalerie & onglets = fenetre->PreteOnglets();
     FenetreOnglets * const detachee = BancOnglets::Detache(onglets, BancOnglets::kTextes);
     QVERIFY(onglets.EnvoieOnglet(1, &detachee->PreteOnglets(), 1));
@@ -287,7 +247,8 @@ void tst_FenetreOnglets::langueDansToutesLesFenetres()
 
 void tst_FenetreOnglets::choixDansLaListe()
 {
-    auto const fenetre = Ouvre({BancOnglets::kTheme, BancOnglets::kTextes, BancOnglets::kPolices});
+    auto const fenetre =
+        monBanc.Ouvre({BancOnglets::kTheme, BancOnglets::kTextes, BancOnglets::kPolices});
     OngletsGalerie & onglets = fenetre->PreteOnglets();
     FenetreOnglets * const detachee = BancOnglets::Detache(onglets, BancOnglets::kTextes);
     QVERIFY(onglets.EnvoieOnglet(1, &detachee->PreteOnglets(), 1));
@@ -308,7 +269,8 @@ void tst_FenetreOnglets::choixDansLaListe()
 
 void tst_FenetreOnglets::marqueDeLaFenetreActive()
 {
-    auto const fenetre = Ouvre({BancOnglets::kTheme, BancOnglets::kTextes, BancOnglets::kPolices});
+    auto const fenetre =
+        monBanc.Ouvre({BancOnglets::kTheme, BancOnglets::kTextes, BancOnglets::kPolices});
     QListWidget const & liste = BancOnglets::PreteListe(*fenetre);
     FenetreOnglets * const detachee =
         BancOnglets::Detache(fenetre->PreteOnglets(), BancOnglets::kTextes);
@@ -326,7 +288,7 @@ void tst_FenetreOnglets::marqueDeLaFenetreActive()
 
 void tst_FenetreOnglets::ajoutDansLaFenetreDetachee()
 {
-    auto const fenetre = Ouvre({BancOnglets::kTheme, BancOnglets::kTextes});
+    auto const fenetre = monBanc.Ouvre({BancOnglets::kTheme, BancOnglets::kTextes});
     FenetreOnglets * const detachee =
         BancOnglets::Detache(fenetre->PreteOnglets(), BancOnglets::kTextes);
     detachee->PreteOnglets().PreteBarre()->PreteBoutonAjout()->click();
@@ -341,126 +303,6 @@ void tst_FenetreOnglets::ajoutDansLaFenetreDetachee()
              (QList<int>{BancOnglets::kTextes, BancOnglets::kVues}));
     QCOMPARE(detachee->PreteOnglets().DonneIndexCourant(), 1);
     QCOMPARE(BancOnglets::PreteListe(*fenetre).currentRow(), int{BancOnglets::kVues});
-}
-
-void tst_FenetreOnglets::menuAuClavier_data()
-{
-    QTest::addColumn<bool>("toucheMenu");
-    QTest::addColumn<bool>("surUnBouton");
-    QTest::newRow("Menu key, on the bar") << true << false;
-    QTest::newRow("Shift+F10, on the bar") << false << false;
-    QTest::newRow("Menu key, on a close button") << true << true;
-    QTest::newRow("Shift+F10, on a close button") << false << true;
-}
-
-void tst_FenetreOnglets::menuAuClavier()
-{
-    QFETCH(bool, toucheMenu);
-    QFETCH(bool, surUnBouton);
-    auto const fenetre = Ouvre({BancOnglets::kTheme, BancOnglets::kTextes, BancOnglets::kPolices});
-    OngletsGalerie & onglets = fenetre->PreteOnglets();
-    onglets.MetsIndexCourant(surUnBouton ? 0 : 1);
-    DTabBarInterne & barre = BancOnglets::PreteBarre(onglets);
-    QWidget * const foyer = surUnBouton ? barre.tabButton(1, QTabBar::RightSide) : &barre;
-    foyer->setFocus();
-    QVERIFY(foyer->hasFocus());
-
-    if (toucheMenu)
-        EnvoieToucheMenu(*fenetre);
-    else
-        QTest::keyClick(foyer, Qt::Key_F10, Qt::ShiftModifier);
-
-    QTRY_VERIFY(BancOnglets::PreteMenu());
-    QMenu * const menu = BancOnglets::PreteMenu();
-    QCOMPARE(menu->activeAction(), menu->actions().constFirst());
-    QRect const onglet(barre.mapToGlobal(barre.tabRect(1).topLeft()), barre.tabRect(1).size());
-    QVERIFY(menu->geometry().intersects(onglet.adjusted(0, 0, 0, 2)));
-
-    BancOnglets::Choisis(menu, u"&Détacher dans une nouvelle fenêtre"_s);
-
-    QCOMPARE(BancOnglets::DonneDetachees().size(), 1);
-    QCOMPARE(BancOnglets::DonnePages(BancOnglets::DonneDetachees().first()->PreteOnglets()),
-             QList<int>{BancOnglets::kTextes});
-}
-
-// The mouse need not make a tab current to ask for its menu.
-void tst_FenetreOnglets::menuDunAutreOnglet()
-{
-    auto const fenetre = Ouvre({BancOnglets::kTheme, BancOnglets::kTextes, BancOnglets::kPolices});
-    OngletsGalerie & onglets = fenetre->PreteOnglets();
-
-    BancOnglets::Choisis(OuvreMenu(onglets, 0), u"&Fermer"_s);
-    QCOMPARE(BancOnglets::DonnePages(onglets),
-             (QList<int>{BancOnglets::kTextes, BancOnglets::kPolices}));
-    QCOMPARE(onglets.DonneIndexCourant(), 1);
-
-    BancOnglets::Choisis(OuvreMenu(onglets, 0), u"&Détacher dans une nouvelle fenêtre"_s);
-    QCOMPARE(BancOnglets::DonneDetachees().size(), 1);
-    FenetreOnglets * const detachee = BancOnglets::DonneDetachees().first();
-
-    QMenu * const menu = OuvreMenu(onglets, 0);
-    QVERIFY(menu);
-    QMenu * const envois = menu->actions().at(1)->menu();
-    QVERIFY(envois);
-    QCOMPARE(BancOnglets::DonneTextes(*envois), QStringList{detachee->windowTitle()});
-    envois->actions().constFirst()->trigger();
-    menu->close();
-    QCOMPARE(BancOnglets::DonnePages(detachee->PreteOnglets()),
-             (QList<int>{BancOnglets::kTextes, BancOnglets::kPolices}));
-    QCOMPARE(detachee->PreteOnglets().DonneIndexCourant(), 1);
-
-    // Beside the tabs there is none.
-    DTabBarInterne & barre = BancOnglets::PreteBarre(onglets);
-    QContextMenuEvent evenement(QContextMenuEvent::Mouse, QPoint(-5, 5), QPoint());
-    QCoreApplication::sendEvent(&barre, &evenement);
-    QVERIFY(!BancOnglets::PreteMenu());
-}
-
-void tst_FenetreOnglets::entreesDuMenu()
-{
-    auto const fenetre = Ouvre({BancOnglets::kTheme, BancOnglets::kTextes, BancOnglets::kPolices});
-    OngletsGalerie & onglets = fenetre->PreteOnglets();
-    QMenu * menu = OuvreMenu(onglets, 0);
-    QVERIFY(menu);
-    // No other window to send it to.
-    QCOMPARE(BancOnglets::DonneTextes(*menu),
-             (QStringList{u"&Détacher dans une nouvelle fenêtre"_s, u"&Fermer"_s}));
-    menu->close();
-
-    FenetreOnglets * const premiere = BancOnglets::Detache(onglets, BancOnglets::kTextes);
-    FenetreOnglets const * const seconde = BancOnglets::Detache(onglets, BancOnglets::kPolices);
-    menu = OuvreMenu(premiere->PreteOnglets(), 0);
-    QVERIFY(menu);
-    QCOMPARE(BancOnglets::DonneTextes(*menu), (QStringList{u"&Détacher dans une nouvelle fenêtre"_s,
-                                                           u"&Envoyer vers"_s, u"&Fermer"_s}));
-    QVERIFY(!menu->actions().constFirst()->isEnabled()); // it has a window of its own
-    QCOMPARE(BancOnglets::DonneTextes(*menu->actions().at(1)->menu()),
-             (QStringList{fenetre->windowTitle(), seconde->windowTitle()}));
-    menu->actions().at(1)->menu()->actions().constFirst()->trigger();
-    menu->close();
-    QCOMPARE(BancOnglets::DonnePages(onglets),
-             (QList<int>{BancOnglets::kTheme, BancOnglets::kTextes}));
-    QCOMPARE(onglets.DonneIndexCourant(), 1);
-}
-
-void tst_FenetreOnglets::positions()
-{
-    auto const fenetre = Ouvre({BancOnglets::kTheme, BancOnglets::kTextes, BancOnglets::kPolices});
-    OngletsGalerie & onglets = fenetre->PreteOnglets();
-    QRect const ecran = fenetre->screen()->availableGeometry();
-    fenetre->move(ecran.topLeft() + QPoint(10, 10));
-
-    // By the keyboard it stands beside the window, not over it.
-    BancOnglets::Choisis(OuvreMenu(onglets, 1), u"&Détacher dans une nouvelle fenêtre"_s);
-    QCOMPARE(BancOnglets::DonneDetachees().size(), 1);
-    FenetreOnglets const * const premiere = BancOnglets::DonneDetachees().first();
-    QVERIFY(premiere->pos() != fenetre->pos());
-    QVERIFY(ecran.contains(premiere->frameGeometry()));
-
-    // By the mouse it stands at the mouse, as far as it is on the screen.
-    QCursor::setPos(ecran.bottomRight());
-    FenetreOnglets const * const seconde = BancOnglets::Detache(onglets, BancOnglets::kPolices);
-    QVERIFY(ecran.contains(seconde->frameGeometry()));
 }
 
 QTEST_MAIN(tst_FenetreOnglets)

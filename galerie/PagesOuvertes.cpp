@@ -197,10 +197,11 @@ void PagesOuvertes::Detache(int page)
     jeDetacheAuClavier = false;
 }
 
-void PagesOuvertes::Envoie(int page, OngletsGalerie & cible)
+void PagesOuvertes::Envoie(int page, OngletsGalerie * cible)
 {
-    if (Place const place = Trouve(page); place.onglets != nullptr)
-        place.onglets->EnvoieOnglet(place.index, &cible, cible.DonneTotalOnglet());
+    Place const place = Trouve(page);
+    if (place.onglets != nullptr && cible != nullptr)
+        place.onglets->EnvoieOnglet(place.index, cible, cible->DonneTotalOnglet());
 }
 
 void PagesOuvertes::Ramene(FenetreOnglets & fenetre)

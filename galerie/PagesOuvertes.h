@@ -65,7 +65,7 @@ private:
     void Ouvre(int page, OngletsGalerie & onglets);
     void Ferme(int page);
     void Detache(int page);
-    void Envoie(int page, OngletsGalerie & cible);
+    void Envoie(int page, OngletsGalerie * cible);
     void Ramene(FenetreOnglets & fenetre);
     void Retire(FenetreOnglets & fenetre);
     void RetireSiVide(OngletsGalerie & onglets);

@@ -40,7 +40,7 @@ void PagesOuvertes::AjouteEnvois(QMenu & menu, OngletsGalerie const & onglets, i
         if (cible == &onglets)
             continue;
         QAction const * const action = envois.addAction(cible->window()->windowTitle());
-        connect(action, &QAction::triggered, this, [this, page, cible] { Envoie(page, *cible); });
+        connect(action, &QAction::triggered, this, [this, page, cible] { Envoie(page, cible); });
     }
 }
 

@@ -13,6 +13,8 @@
 #include <QHBoxLayout>
 #include <QKeyEvent>
 #include <QLabel>
+#include <QScopedValueRollback>
+#include <QStyleOptionTab>
 
 #include <algorithm>
 
@@ -44,6 +46,18 @@ DTabBarInterne::~DTabBarInterne()
     BarreOngletsAccessible::LibereFabrique();
 }
 
+int DTabBarInterne::InsereOngletVide(int index)
+{
+    QScopedValueRollback const sommaire(monLayoutEstSommaire, !isVisible());
+    return insertTab(index, QString());
+}
+
+void DTabBarInterne::PoseBouton(int index, ButtonPosition cote, QWidget * bouton)
+{
+    QScopedValueRollback const sommaire(monLayoutEstSommaire, !isVisible());
+    setTabButton(index, cote, bouton);
+}
+
 void DTabBarInterne::CreeCadreOnglet(int index)
 {
     if (index < 0 || index >= count())
@@ -52,7 +66,7 @@ void DTabBarInterne::CreeCadreOnglet(int index)
     infos.cadre = new QFrame(this);
     infos.cadre->setMinimumHeight(maTailleIcone.height());
     CreeEtiquettes(infos);
-    setTabButton(index, LeftSide, infos.cadre);
+    PoseBouton(index, LeftSide, infos.cadre);
     MetsInfos(index, infos);
     AjusteLargeurTitre(index);
 }
@@ -259,6 +273,25 @@ void DTabBarInterne::changeEvent(QEvent * evenement)
     for (int i = 0; i < count(); ++i)
         if (DLabelElision * const etiquette = DonneInfos(i).etiquetteTitre)
             etiquette->PrendsPolice(font());
+}
+
+void DTabBarInterne::initStyleOption(QStyleOptionTab * option, int index) const
+{
+    if (!monLayoutEstSommaire) {
+        QTabBar::initStyleOption(option, index);
+        return;
+    }
+    // Qt asks for every tab at each insertion and at each button, though only one is new. What the
+    // places of the buttons depend on is a small part of the option.
+    option->state = index == currentIndex() ? QStyle::State_Selected : QStyle::State_None;
+    option->direction = layoutDirection();
+    option->rect = tabRect(index);
+    option->shape = shape();
+    option->tabIndex = index;
+    if (QWidget const * const gauche = tabButton(index, LeftSide))
+        option->leftButtonSize = gauche->size();
+    if (QWidget const * const droite = tabButton(index, RightSide))
+        option->rightButtonSize = droite->size();
 }
 
 QSize DTabBarInterne::tabSizeHint(int) const

@@ -51,6 +51,11 @@ public:
 
     UniChaine DonneIdentifiantGroupe() const { return monIdentifiantGroupe; }
 
+    /// `insertTab` of a tab without text, and `setTabButton`, for the owner who adds many: while
+    /// the bar is hidden, they lay the other tabs out roughly, as `show` does it anew.
+    int InsereOngletVide(int index);
+    void PoseBouton(int index, ButtonPosition cote, QWidget * bouton);
+
     /// Qt's, which must not be called while Qt slides tabs aside for one that is being moved.
     void removeTab(int index);
 
@@ -100,6 +105,7 @@ protected:
     void showEvent(QShowEvent * evenement) override;
     void hideEvent(QHideEvent * evenement) override;
     void changeEvent(QEvent * evenement) override;
+    void initStyleOption(QStyleOptionTab * option, int index) const override;
     QSize tabSizeHint(int index) const override;
     QSize minimumTabSizeHint(int index) const override;
     void tabInserted(int index) override;
@@ -143,9 +149,10 @@ private:
     int maLargeurOnglet = 185; // logical pixels, as the next one
     QSize maTailleIcone{20, 20};
     std::unique_ptr<FantomeOnglet> const monFantome;
-    bool monDeplacementPermis = true; // from the press on a tab to the end of its drag
-    bool monOngletPressay = false;    // `monIndexDeplace` is that of a press
-    bool monBoutonEnfoncay = false;   // Qt may be moving a tab of its own accord
+    bool monDeplacementPermis = true;  // from the press on a tab to the end of its drag
+    bool monOngletPressay = false;     // `monIndexDeplace` is that of a press
+    bool monBoutonEnfoncay = false;    // Qt may be moving a tab of its own accord
+    bool monLayoutEstSommaire = false; // its positions serve until the bar is shown
 };
 
 Q_DECLARE_METATYPE(DTabBarInterne::InfosOnglet)

@@ -45,8 +45,8 @@ DTabWidget::~DTabWidget()
     maPile->disconnect(this);
     PreteBarreInterne()->removeEventFilter(this);
 
-    // Destroyed by a receiver of a signal: functions of Qt's bar may be running that need it until
-    // they return.
+    // Destroyed by a receiver of a signal: functions of Qt's bar and of its buttons may be running,
+    // which need them until they return.
     if (mesEmissions > 0) {
         monBarre->setParent(nullptr);
         monBarre->deleteLater();
@@ -262,7 +262,11 @@ void DTabWidget::PriseBoutonFermeture()
     for (int i = 0; sender() && i < barre.count(); ++i) {
         if (barre.tabButton(i, QTabBar::RightSide) != sender())
             continue;
+        QPointer<DTabWidget> const vivant(this);
+        ++mesEmissions; // Qt's button is still handling its release
         Q_EMIT SignalDemandeFermetureOnglet(i);
+        if (vivant)
+            --mesEmissions;
         return;
     }
 }
@@ -327,7 +331,7 @@ int DTabWidget::PoseOnglet(QWidget * page, int position)
 
     int const index = maPile->insertWidget(position, page);
     ++mesRetenues; // Qt's bar does not stand that receivers change it while it inserts a tab
-    PreteBarreInterne()->insertTab(index, QString());
+    PreteBarreInterne()->InsereOngletVide(index);
     --mesRetenues;
     if (index <= monIndexPrecedent && DonneTotalOnglet() > 1)
         ++monIndexPrecedent;
@@ -347,7 +351,7 @@ void DTabWidget::AjouteBoutonFermeture(int index)
     bouton->setObjectName(u"boutonFermeture"_s); // style sheets know it under this name
     bouton->setAccessibleName(TraductionGui(TexteGui("Fermer l'onglet")));
     bouton->setFixedSize(kCoteBoutonFermeture, kCoteBoutonFermeture);
-    PreteBarreInterne()->setTabButton(index, QTabBar::RightSide, bouton);
+    PreteBarreInterne()->PoseBouton(index, QTabBar::RightSide, bouton);
     PreteBarreInterne()->AjusteLargeurTitre(index);
 }
 

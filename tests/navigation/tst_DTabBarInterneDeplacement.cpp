@@ -47,6 +47,7 @@ private Q_SLOTS:
     void boutonsDeDefilement();
     void ongletCoupeAGauche();
     void ongletCoupeADroite();
+    void ongletPlusLargeQueLaBarre();
     void autreGroupe();
     void memeBarre();
     void dUneCibleALAutre();
@@ -286,22 +287,34 @@ void tst_DTabBarInterneDeplacement::ongletCoupeAGauche()
     RangeeDEssai cible(10, "groupe", kPlaceCible, 500);
     cible.Expose();
     source.Expose();
-    cible.barre->setCurrentIndex(9);
-    int coupe = 0;
-    while (cible.barre->tabRect(coupe).right() < 0)
-        ++coupe;
-    QRect const rect = cible.barre->tabRect(coupe);
-    QVERIFY(rect.left() < 0);
     QSignalSpy espion(source.barre, &DTabBarInterne::SignalAjouteOngletBarreExterne);
-    QPoint const point = cible.barre->mapToGlobal(QPoint(5, 10));
+    // Of which less than half is cut off.
+    auto const coupe = [&cible] {
+        int index = 0;
+        while (cible.barre->tabRect(index).right() < 0)
+            ++index;
+        return index;
+    };
+    for (int largeur = 120; largeur < 180; largeur += 5) {
+        cible.barre->MetsTailleOnglets(largeur);
+        QTRY_VERIFY(cible.barre->width() < 500);
+        cible.barre->setCurrentIndex(0);
+        cible.barre->setCurrentIndex(9);
+        QRect const rect = cible.barre->tabRect(coupe());
+        if (rect.left() < -2 && rect.left() > -rect.width() / 2 + 2)
+            break;
+    }
+    QRect const rect = cible.barre->tabRect(coupe());
+    QVERIFY(rect.left() < -2 && rect.left() > -rect.width() / 2 + 2);
+    QPoint const point = cible.barre->mapToGlobal(QPoint(1, 10));
 
     source.Presse(0);
     source.Deplace(point);
     QCOMPARE(cible.barre->DonnePositionIndicateur().x(), rect.left() + rect.width());
     source.Relache(point);
 
-    // Never before it, wherever the mouse is on what is left of it.
-    QCOMPARE(DonneDepot(espion).position, coupe + 1);
+    // Never before it, though the mouse is in its first half.
+    QCOMPARE(DonneDepot(espion).position, coupe() + 1);
 }
 
 void tst_DTabBarInterneDeplacement::ongletCoupeADroite()
@@ -312,7 +325,18 @@ void tst_DTabBarInterneDeplacement::ongletCoupeADroite()
     source.Expose();
     int const boutons =
         2 * cible.style()->pixelMetric(QStyle::PM_TabBarScrollButtonWidth, nullptr, cible.barre);
-    int const fin = cible.barre->width() - boutons - 1;
+    // Of which more than half is to be seen.
+    int fin = 0;
+    QRect rect;
+    for (int largeur = 120; largeur < 180; largeur += 5) {
+        cible.barre->MetsTailleOnglets(largeur);
+        QTRY_VERIFY(cible.barre->width() < 500);
+        fin = cible.barre->width() - boutons - 1;
+        rect = cible.barre->tabRect(cible.barre->tabAt(QPoint(fin, 10)));
+        if (fin - rect.left() > rect.width() / 2 + 2 && rect.right() > fin + 2)
+            break;
+    }
+    QVERIFY(fin - rect.left() > rect.width() / 2 + 2 && rect.right() > fin + 2);
     int const coupe = cible.barre->tabAt(QPoint(fin, 10));
     QSignalSpy espion(source.barre, &DTabBarInterne::SignalAjouteOngletBarreExterne);
 
@@ -322,6 +346,25 @@ void tst_DTabBarInterneDeplacement::ongletCoupeADroite()
 
     // Never behind it: that would be under the buttons.
     QCOMPARE(DonneDepot(espion).position, coupe);
+}
+
+void tst_DTabBarInterneDeplacement::ongletPlusLargeQueLaBarre()
+{
+    RangeeDEssai source(1);
+    RangeeDEssai cible(3, "groupe", kPlaceCible, 300);
+    cible.barre->MetsTailleOnglets(400);
+    cible.Expose();
+    source.Expose();
+    cible.barre->setCurrentIndex(1);
+    QRect const rect = cible.barre->tabRect(1);
+    QVERIFY(rect.left() < 0);
+    QPoint const point = cible.barre->mapToGlobal(QPoint(20, 10));
+
+    source.Presse(0);
+    source.Deplace(point);
+
+    // At its right edge, which is out of sight.
+    QCOMPARE(cible.barre->DonnePositionIndicateur().x(), rect.left() + rect.width() - 1);
 }
 
 void tst_DTabBarInterneDeplacement::autreGroupe()

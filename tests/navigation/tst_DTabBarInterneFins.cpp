@@ -21,6 +21,7 @@ private Q_SLOTS:
     void echappementSansDeplacement();
     void finForcee_data();
     void finForcee();
+    void evenementFabriquayAilleurs();
     void permissionRetiree();
     void deplacementDansLaRangeePuisDehors();
     void autrePressePendantLeDeplacement();
@@ -200,6 +201,20 @@ void tst_DTabBarInterneFins::finForcee()
     QVERIFY(scene.EstAuRepos());
     scene.source.Relache(scene.cible->DonnePoint(1));
     QCOMPARE(scene.CompteSignaux(), 0);
+}
+
+// A host that plays an event to a widget of its own takes no mouse away.
+void tst_DTabBarInterneFins::evenementFabriquayAilleurs()
+{
+    Scene scene;
+    QPushButton ailleurs;
+    ailleurs.show();
+    QMouseEvent relache(QEvent::MouseButtonRelease, QPoint(1, 1), QPoint(1, 1), Qt::LeftButton,
+                        Qt::NoButton, Qt::NoModifier);
+
+    QApplication::sendEvent(&ailleurs, &relache);
+
+    QVERIFY(scene.EstEnCours());
 }
 
 void tst_DTabBarInterneFins::permissionRetiree()

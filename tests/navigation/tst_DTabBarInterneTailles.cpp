@@ -76,7 +76,7 @@ void tst_DTabBarInterneTailles::tailleIcone()
         QCOMPARE(infos.cadre->minimumHeight(), 14);
     }
     QLabel const & etiquette = *essai.barre->DonneInfos(0).etiquetteIcone;
-    QVERIFY(etiquette.pixmap(Qt::ReturnByValue).width() <= 12);
+    QVERIFY(etiquette.pixmap(Qt::ReturnByValue).deviceIndependentSize().width() <= 12);
     QVERIFY(essai.barre->DonneInfos(1).etiquetteIcone->isHidden());
     essai.AjouteOnglet(u"Neuf"_s);
     QCOMPARE(essai.barre->DonneInfos(2).etiquetteIcone->size(), QSize(12, 14));

@@ -19,6 +19,7 @@ private Q_SLOTS:
     void ordreDesSignaux();
     void ajoute();
     void titreDejaJusteApresLAjout();
+    void memesPlacesAjoutayCachay();
     void insere_data();
     void insere();
     void pageNulle();
@@ -125,6 +126,41 @@ void tst_DTabWidget::titreDejaJusteApresLAjout()
         // The close button is there, so that the title ends 5 pixels before it.
         QCOMPARE(infos.cadre->x() + infos.cadre->width(), Fermeture(onglets, i)->x() - 5);
     }
+}
+
+// Tabs that are added before the widget is shown stand as those that are added afterwards.
+void tst_DTabWidget::memesPlacesAjoutayCachay()
+{
+    auto const places = [](DTabWidget const & onglets) {
+        QList<QRect> rects;
+        for (int i = 0; i < onglets.DonneTotalOnglet(); ++i)
+            rects << Barre(onglets).tabRect(i)
+                  << Barre(onglets).tabButton(i, QTabBar::LeftSide)->geometry()
+                  << Fermeture(onglets, i)->geometry()
+                  << Barre(onglets).DonneInfos(i).etiquetteTitre->geometry();
+        return rects;
+    };
+    QString const noms = u"un deux trois quatre cinq six"_s;
+    DTabWidget cachay(nullptr, {});
+    DTabWidget montray(nullptr, {});
+    Remplis(cachay, noms);
+    cachay.InsereOnglet(Page(u"sept"_s), 1, u"sept"_s);
+    cachay.MetsIndexCourant(2);
+    QList<QSize> avant; // of the frames
+    for (int i = 0; i < cachay.DonneTotalOnglet(); ++i)
+        avant.append(Barre(cachay).DonneInfos(i).cadre->minimumSize());
+    for (DTabWidget * onglets : {&cachay, &montray}) {
+        onglets->resize(900, 200);
+        onglets->show();
+        QVERIFY(QTest::qWaitForWindowExposed(onglets));
+    }
+    Remplis(montray, noms);
+    montray.InsereOnglet(Page(u"sept"_s), 1, u"sept"_s);
+    montray.MetsIndexCourant(2);
+
+    QTRY_COMPARE(places(cachay), places(montray));
+    for (int i = 0; i < cachay.DonneTotalOnglet(); ++i)
+        QCOMPARE(Barre(cachay).DonneInfos(i).cadre->minimumSize(), avant.at(i));
 }
 
 void tst_DTabWidget::insere_data()

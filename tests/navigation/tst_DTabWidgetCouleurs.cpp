@@ -50,6 +50,7 @@ private Q_SLOTS:
     void cleanup();
     void activesJusquAuPremierChangement();
     void ongletAjoutayApresUnChangement();
+    void ongletNeufTantQueLActifNeChangePas();
     void insertionAvantLActif();
     void retrait_data();
     void retrait();
@@ -92,6 +93,29 @@ void tst_DTabWidgetCouleurs::ongletAjoutayApresUnChangement()
     QCOMPARE(Couleurs(onglets), u"gAAA"_s);
     onglets.MetsIndexCourant(2);
     QCOMPARE(Couleurs(onglets), u"ggAg"_s);
+}
+
+// Another index for the active tab is no change of tab.
+void tst_DTabWidgetCouleurs::ongletNeufTantQueLActifNeChangePas()
+{
+    DTabWidget onglets(nullptr, {});
+    Remplis(onglets, u"a b c"_s);
+    onglets.MetsIndexCourant(2);
+    Remplis(onglets, u"d"_s);
+    QCOMPARE(Couleurs(onglets), u"ggAA"_s);
+    delete onglets.DonneWidget(1);
+    QCOMPARE(Couleurs(onglets), u"gAA"_s);
+    onglets.InsereOnglet(Page(u"n"_s), 0, u"n"_s);
+    QCOMPARE(Couleurs(onglets), u"AgAA"_s);
+    Barre(onglets).moveTab(0, 2); // past the active one
+    QCOMPARE(Titres(onglets), u"a c n d"_s);
+    QCOMPARE(Couleurs(onglets), u"gAAA"_s);
+    Barre(onglets).moveTab(2, 1); // and back
+    QCOMPARE(Couleurs(onglets), u"gAAA"_s);
+    QVERIFY(!Fermeture(onglets, 1)->property("selectionnay").isValid());
+    QVERIFY(!Fermeture(onglets, 3)->property("selectionnay").isValid());
+    onglets.MetsIndexCourant(0);
+    QCOMPARE(Couleurs(onglets), u"Aggg"_s);
 }
 
 void tst_DTabWidgetCouleurs::insertionAvantLActif()

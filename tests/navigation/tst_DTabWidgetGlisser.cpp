@@ -71,6 +71,8 @@ private Q_SLOTS:
     void cleanup();
     void versUnAutreWidget_data();
     void versUnAutreWidget();
+    void activeLaFenetreCible();
+    void changementRefusayPendantUnGlissement();
     void refuseeSansPermission();
     void autreGroupe();
     void horsDeToutWidget();
@@ -116,6 +118,29 @@ void tst_DTabWidgetGlisser::versUnAutreWidget()
     QCOMPARE(bureau.cible->DonneWidget(sur), page);
     QCOMPARE(bureau.cible->DonneDataOnglet(sur, 257), QVariant(u"donnee"_s));
     QCOMPARE(Barre(*bureau.cible).tabToolTip(sur), bureau.cible->DonneTitre(sur));
+}
+
+void tst_DTabWidgetGlisser::activeLaFenetreCible()
+{
+    Bureau bureau;
+    bureau.source->activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(bureau.source.get()));
+    QVERIFY(bureau.source->EnvoieOnglet(0, bureau.cible.get(), 0));
+    QTRY_VERIFY(bureau.cible->isActiveWindow());
+}
+
+// Qt's bar keeps its tab while one is dragged; the page on show stays that of the tab.
+void tst_DTabWidgetGlisser::changementRefusayPendantUnGlissement()
+{
+    Bureau bureau;
+    bureau.Prends(0);
+    QPoint const depart =
+        Barre(*bureau.source).mapToGlobal(Barre(*bureau.source).tabRect(0).center());
+    bureau.VaA(depart + QPoint(40, 0));
+    bureau.source->MetsIndexCourant(2);
+    QCOMPARE(bureau.source->DonneIndexCourant(), 0);
+    QCOMPARE(bureau.source->DonneWidgetCourant(), bureau.source->DonneWidget(0));
+    bureau.LacheA(depart);
 }
 
 void tst_DTabWidgetGlisser::refuseeSansPermission()

@@ -278,7 +278,12 @@ void tst_DTabWidgetPages::priseParUnAutreWidget()
     DTabWidget source(nullptr, u"g"_s);
     DTabWidget cible(nullptr, u"autre"_s);
     Remplis(source, u"a b c"_s);
+    source.MetsIndexCourant(1);
+    Journal journal;
+    journal.Ecoute(source, u"source"_s);
+    journal.Ecoute(cible, u"cible"_s);
     cible.AjouteOnglet(source.DonneWidget(1), u"b"_s);
+    QCOMPARE(journal.lignes, (QStringList{u"source courant 1"_s, u"cible courant 0"_s}));
     QCOMPARE(Titres(source), u"a c"_s);
     QCOMPARE(Titres(cible), u"b"_s);
     cible.InsereOnglet(source.DonneWidget(1), 0, u"c"_s);

@@ -47,7 +47,7 @@ CadrePage * OngletsGalerie::PreteCadreCourant()
 int OngletsGalerie::TrouvePage(int page)
 {
     for (int i = 0; i < DonneTotalOnglet(); ++i)
-        if (PreteCadre(i)->DonnePage() == page)
+        if (CadrePage const * const cadre = PreteCadre(i); cadre && cadre->DonnePage() == page)
             return i;
     return -1;
 }

@@ -16,7 +16,7 @@ class OngletsGalerie : public DTabWidget
 public:
     explicit OngletsGalerie(QWidget * parent = nullptr);
 
-    /// Null without a tab of that index.
+    /// Null without a tab of that index, and for one whose page is on its way to another window.
     CadrePage * PreteCadre(int index);
     CadrePage * PreteCadreCourant();
     /// The index of the tab that holds the page; -1 without one.

@@ -69,10 +69,12 @@ bool tst_FenetreOngletsX11::Tire(OngletsGalerie & onglets, int index)
     DTabBarInterne & barre = BancOnglets::PreteBarre(onglets);
     QSignalSpy const presses(&barre, &QTabBar::tabBarClicked);
     auto const surLOnglet = [&] { return barre.mapToGlobal(barre.tabRect(index).center()); };
-    if (!Amene(surLOnglet, [&] {
-            return QApplication::widgetAt(QCursor::pos()) != nullptr &&
-                   QCursor::pos().y() == surLOnglet().y();
-        }))
+    auto const dessus = [&] {
+        QWidget const * const widget = QApplication::widgetAt(QCursor::pos());
+        return widget && (widget == &barre || barre.isAncestorOf(widget)) &&
+               barre.tabAt(barre.mapFromGlobal(QCursor::pos())) == index;
+    };
+    if (!Amene(surLOnglet, dessus))
         return false;
     monEntree.Presse();
     return QTest::qWaitFor([&] { return presses.count() == 1; }, kDelai);
@@ -115,9 +117,10 @@ void tst_FenetreOngletsX11::tireDehorsEtRamene()
                              kDelai);
 
     // And back, onto the first tab's left half.
-    fenetre.raise();
     DTabBarInterne & ailleurs = BancOnglets::PreteBarre(detachee->PreteOnglets());
-    detachee->move(60, 560);
+    QPoint const acote = fenetre.frameGeometry().topRight() + QPoint(20, 0);
+    detachee->move(acote);
+    QTRY_COMPARE_WITH_TIMEOUT(detachee->pos(), acote, kDelai);
     QVERIFY(Tire(detachee->PreteOnglets(), 0));
     auto const devant = [&] { return barre.mapToGlobal(QPoint(15, barre.height() / 2)); };
     QVERIFY(Amene(devant, [&] { return !barre.DonnePositionIndicateur().isNull(); }));

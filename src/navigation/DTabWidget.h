@@ -135,9 +135,8 @@ private:
     QIcon monIconeFermeture;
     int monNombreWidgetsCommuns = 0;
 
-    QList<QPointer<QWidget>>
-        mesPagesNeuves;         // whose titles still have the colour that they began with
-    QList<Annonce> mesAnnonces; // held back while Qt's tab bar is amid a change
+    QList<QPointer<QWidget>> mesPagesNeuves; // whose titles have the colour that they began with
+    QList<Annonce> mesAnnonces;              // held back while Qt's tab bar is amid a change
     int mesRetenues = 0;
     int mesEmissions = 0;           // signals that are being delivered
     bool monRetraitEnCours = false; // a page leaves the pile by our own hand

@@ -87,7 +87,7 @@ QString OngletAccessible::text(QAccessible::Text nature) const
     if (!isValid())
         return {};
     QString const nom = maBarre->accessibleTabName(monIndex);
-    QString const infobulle = maBarre->tabToolTip(monIndex);
+    QString infobulle = maBarre->tabToolTip(monIndex);
     if (nature == QAccessible::Name)
         return nom.isEmpty() ? maBarre->tabText(monIndex) : nom;
     // Most tool tips repeat the title, which would be read twice.
@@ -189,7 +189,7 @@ int BarreOngletsAccessible::indexOfChild(QAccessibleInterface const * enfant) co
 
 QString BarreOngletsAccessible::text(QAccessible::Text nature) const
 {
-    QString const texte = QAccessibleWidget::text(nature);
+    QString texte = QAccessibleWidget::text(nature);
     if (nature != QAccessible::Name || !texte.isEmpty())
         return texte;
     QAccessibleInterface const * const onglet = child(PreteBarre().currentIndex());

@@ -19,6 +19,13 @@ CadrePage::CadrePage(int page, ThemeGalerie & theme, SaisiesPage saisies)
             Qt::UniqueConnection);
 }
 
+CadrePage::~CadrePage()
+{
+    // The focus goes elsewhere when a window of the page does, and nobody is here any more to
+    // follow.
+    disconnect(qApp, nullptr, this, nullptr);
+}
+
 QString CadrePage::DonneTitre() const
 {
     return TraductionGalerie(DonnePages().at(maPage).titre);

@@ -18,6 +18,7 @@ public:
     /// For the page of that index, which must exist; `theme` must outlive the frame. `saisies` is
     /// what the page gets when it is built.
     CadrePage(int page, ThemeGalerie & theme, SaisiesPage saisies = {});
+    ~CadrePage() override;
 
     int DonnePage() const { return maPage; }
     QString DonneTitre() const;

@@ -21,6 +21,7 @@ private Q_SLOTS:
     void fermetureRameneLesPages();
     void fermetureDeLaPrincipale();
     void destructionAvecDetachees();
+    void destructionAvecFenetreDePage();
     void langueDansToutesLesFenetres();
     void choixDansLaListe();
     void marqueDeLaFenetreActive();
@@ -212,6 +213,23 @@ void tst_FenetreOnglets::destructionAvecDetachees()
 
     QVERIFY(!premiere);
     QVERIFY(!seconde);
+}
+
+// The focus leaves a window that dies with its page, when much of the rest is gone.
+void tst_FenetreOnglets::destructionAvecFenetreDePage()
+{
+    auto fenetre = monBanc.Ouvre({BancOnglets::kTheme, BancOnglets::kTextes});
+    QPointer<QDialog> const dialogue = new QDialog(fenetre->PreteOnglets().DonneWidgetCourant());
+    auto * const champ = new QLineEdit(dialogue);
+    dialogue->show();
+    dialogue->activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(dialogue));
+    champ->setFocus();
+    QTRY_VERIFY(champ->hasFocus());
+
+    fenetre.reset();
+
+    QVERIFY(!dialogue);
 }
 
 void tst_FenetreOnglets::langueDansToutesLesFenetres()

@@ -86,7 +86,7 @@ private:
         DescriptionPage const & description = DonnePages().at(page);
         QString const nom = u"%1-%2%3-%4.png"_s.arg(page + 1, 2, 10, QChar(u'0'))
                                 .arg(description.nom, variante, langue);
-        maFenetre.MontrePage(page);
+        maFenetre.MontreSeule(page); // the same picture, whatever others are taken
         QDeadlineTimer const delaiChargements(kDelaiChargements);
         while (ChargementsEnCours(maFenetre) && !delaiChargements.hasExpired())
             QCoreApplication::processEvents(QEventLoop::AllEvents, kDelaiFondus);

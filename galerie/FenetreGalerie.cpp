@@ -2,21 +2,20 @@
 #include "FenetreGalerie.h"
 
 #include "Langues.h"
+#include "OngletsGalerie.h"
 #include "Pages.h"
+#include "PagesOuvertes.h"
 #include "TraductionGalerie.h"
 
-#include "controls/DBoutonAbstrait.h"
 #include "noyau/Traductions.h"
 
+#include <QCloseEvent>
 #include <QComboBox>
 #include <QCoreApplication>
 #include <QHBoxLayout>
-#include <QIcon>
 #include <QLabel>
 #include <QLibraryInfo>
 #include <QListWidget>
-#include <QMetaProperty>
-#include <QStackedWidget>
 #include <QVBoxLayout>
 
 using namespace Qt::StringLiterals;
@@ -26,104 +25,29 @@ namespace {
 constexpr QSize kTailleFenetre(1100, 760);
 constexpr int kLargeurPanneau = 190;
 constexpr int kMargePanneau = 10;
-constexpr int kHauteurLigne = 40;
-
-// The style would tint the icon of the selected line: there it is drawn as it is.
-QIcon CreeIcone(QString const & chemin)
-{
-    QIcon icone(chemin);
-    icone.addFile(chemin, QSize(), QIcon::Selected);
-    return icone;
-}
-
-// What the user gives `widget`: its text, its number, its check mark.
-QMetaProperty DonneSaisie(QWidget const & widget)
-{
-    QMetaObject const & classe = *widget.metaObject();
-    // Not the text of a choice, which is of one language.
-    return qobject_cast<QComboBox const *>(&widget)
-               ? classe.property(classe.indexOfProperty("currentIndex"))
-               : classe.userProperty();
-}
-
-// Those of the page that have a name, but for the inner ones of Qt's widgets.
-QList<QWidget *> DonneNommes(QWidget const & page)
-{
-    QList<QWidget *> nommes;
-    for (QWidget * const widget : page.findChildren<QWidget *>())
-        if (!widget->objectName().isEmpty() && !widget->objectName().startsWith(u"qt_") &&
-            (qobject_cast<DBoutonAbstrait *>(widget) || DonneSaisie(*widget).isWritable()))
-            nommes.append(widget);
-    return nommes;
-}
-
-QVariant LisSaisie(QWidget const & widget)
-{
-    // Made of other widgets, it has no property of its own.
-    if (auto const * const bouton = qobject_cast<DBoutonAbstrait const *>(&widget))
-        return bouton->EstCochay();
-    return DonneSaisie(widget).read(&widget);
-}
-
-void EcrisSaisie(QWidget & widget, QVariant const & saisie)
-{
-    if (auto * const bouton = qobject_cast<DBoutonAbstrait *>(&widget))
-        bouton->MetsCochay(saisie.toBool());
-    else
-        DonneSaisie(widget).write(&widget, saisie);
-}
-
-QHash<QString, QVariantList> DonneSaisies(QWidget const & page)
-{
-    QHash<QString, QVariantList> saisies;
-    for (QWidget const * const widget : DonneNommes(page))
-        saisies[widget->objectName()].append(LisSaisie(*widget));
-    return saisies;
-}
-
-// Widgets of one name, as the two fields of a search bar, take theirs in turn.
-void RemetsSaisies(QWidget const & page, QHash<QString, QVariantList> saisies)
-{
-    for (QWidget * const widget : DonneNommes(page)) {
-        auto const restantes = saisies.find(widget->objectName());
-        if (restantes == saisies.end() || restantes->isEmpty())
-            continue;
-        QVariant const saisie = restantes->takeFirst();
-        // Some tell of a value that is written even when it is the same.
-        if (LisSaisie(*widget) != saisie)
-            EcrisSaisie(*widget, saisie);
-    }
-}
+constexpr int kHauteurLigne = 36;
 
 } // namespace
 
 FenetreGalerie::FenetreGalerie(ThemeGalerie & theme)
-    : monTheme(theme)
 {
     auto * const centre = new QWidget;
     auto * const disposition = new QHBoxLayout(centre);
     disposition->setContentsMargins({});
     disposition->setSpacing(0);
-    maPile = new QStackedWidget;
-    for (int i = 0; i < DonnePages().size(); ++i) {
-        auto * const cadre = new QWidget;
-        (new QVBoxLayout(cadre))->setContentsMargins({});
-        maPile->addWidget(cadre);
-    }
-    mesPages.resize(DonnePages().size());
     disposition->addWidget(CreePanneau());
-    disposition->addWidget(maPile, 1);
+    CreeOnglets(theme);
+    disposition->addWidget(mesOnglets, 1);
     setCentralWidget(centre);
     resize(kTailleFenetre);
+    Branche();
 
     QCoreApplication::installTranslator(&monTraducteurQt);
     MetsLangue(Traductions::DonneLanguePourApplicationCourante());
     MontrePage(0);
-    connect(maListe, &QListWidget::currentRowChanged, this, &FenetreGalerie::MontrePage,
-            Qt::UniqueConnection);
-    connect(monChoixLangue, &QComboBox::currentIndexChanged, this,
-            &FenetreGalerie::PriseLangueChoisie, Qt::UniqueConnection);
 }
+
+FenetreGalerie::~FenetreGalerie() = default;
 
 QWidget * FenetreGalerie::CreePanneau()
 {
@@ -131,9 +55,9 @@ QWidget * FenetreGalerie::CreePanneau()
     panneau->setFixedWidth(kLargeurPanneau);
     maListe = new QListWidget;
     maListe->setObjectName(u"listePages"_s);
+    maListe->installEventFilter(this);
     for (DescriptionPage const & page : DonnePages()) {
-        auto * const element =
-            new QListWidgetItem(CreeIcone(u":/images/"_s + page.nom + u".svg"_s), QString());
+        auto * const element = new QListWidgetItem(CreeIconePage(page), QString());
         element->setSizeHint(QSize(0, kHauteurLigne));
         maListe->addItem(element);
     }
@@ -157,6 +81,34 @@ QWidget * FenetreGalerie::CreePanneau()
     return panneau;
 }
 
+void FenetreGalerie::CreeOnglets(ThemeGalerie & theme)
+{
+    mesOnglets = new OngletsGalerie;
+    maPhrase = new QLabel;
+    maPhrase->setObjectName(u"phraseSansPage"_s);
+    maPhrase->setAlignment(Qt::AlignCenter);
+    maPhrase->setWordWrap(true);
+    mesOnglets->AjouteWidgetCommun(maPhrase);
+    // All the room is its own: without it the pages would take half, even where there is none.
+    static_cast<QBoxLayout *>(mesOnglets->layout())->setStretchFactor(maPhrase, 1);
+    mesPages = std::make_unique<PagesOuvertes>(theme, *mesOnglets);
+}
+
+void FenetreGalerie::Branche()
+{
+    // The arrows only move through the list: a tab for each page on the way would be too many.
+    connect(maListe, &QListWidget::itemClicked, this, &FenetreGalerie::PrisePageChoisie,
+            Qt::UniqueConnection);
+    connect(maListe, &QListWidget::itemActivated, this, &FenetreGalerie::PrisePageChoisie,
+            Qt::UniqueConnection);
+    connect(monChoixLangue, &QComboBox::currentIndexChanged, this,
+            &FenetreGalerie::PriseLangueChoisie, Qt::UniqueConnection);
+    connect(mesPages.get(), &PagesOuvertes::SignalPageMontray, this, &FenetreGalerie::MarquePage,
+            Qt::UniqueConnection);
+    connect(mesPages.get(), &PagesOuvertes::SignalPrincipauxChangays, maPhrase, &QLabel::setVisible,
+            Qt::UniqueConnection);
+}
+
 void FenetreGalerie::MetsLangue(eLangue langue)
 {
     Traductions::MetsLanguePourApplicationCourante(langue);
@@ -170,6 +122,8 @@ void FenetreGalerie::MetsLangue(eLangue langue)
                                            QLibraryInfo::path(QLibraryInfo::TranslationsPath)));
     setWindowTitle(TraductionGalerie(TexteGalerie("Galerie de libFabrelGui")));
     maListe->setAccessibleName(TraductionGalerie(TexteGalerie("Pages")));
+    maPhrase->setText(TraductionGalerie(
+        TexteGalerie("Aucune page n’est ouverte ici. Choisissez-en une dans la liste.")));
     monEtiquetteLangue->setText(TraductionGalerie(TexteGalerie("&Langue")));
     for (int i = 0; i < DonnePages().size(); ++i)
         maListe->item(i)->setText(TraductionGalerie(DonnePages().at(i).titre));
@@ -179,36 +133,43 @@ void FenetreGalerie::MetsLangue(eLangue langue)
 
 void FenetreGalerie::MontrePage(int indice)
 {
-    if (indice < 0 || indice >= mesPages.size())
-        return;
-    ConstruisPage(indice);
-    maListe->setCurrentRow(indice);
-    maPile->setCurrentIndex(indice);
+    mesPages->Montre(indice);
+}
+
+void FenetreGalerie::MontreSeule(int indice)
+{
+    mesPages->MontreSeule(indice);
 }
 
 void FenetreGalerie::RefaisPages()
 {
-    int const courante = maPile->currentIndex();
-    for (Page & page : mesPages) {
-        if (!page.widget)
-            continue;
-        page.saisies = DonneSaisies(*page.widget);
-        delete page.widget;
-    }
-    ConstruisPage(courante);
-    maPile->setCurrentIndex(courante);
+    mesPages->Refais();
+    mesPages->Habille();
 }
 
-// Most of what a page costs is its building: it is built when it is first shown.
-void FenetreGalerie::ConstruisPage(int indice)
+void FenetreGalerie::closeEvent(QCloseEvent * evenement)
 {
-    Page & page = mesPages[indice];
-    if (page.widget)
-        return;
-    page.widget = DonnePages().at(indice).cree(monTheme);
-    auto * const cadre = maPile->widget(indice);
-    cadre->layout()->addWidget(page.widget);
-    RemetsSaisies(*page.widget, page.saisies);
+    // Without it no window is left from which a page could be chosen.
+    mesPages->RameneTout();
+    evenement->accept();
+}
+
+bool FenetreGalerie::eventFilter(QObject * objet, QEvent * evenement)
+{
+    if (objet == maListe && evenement->type() == QEvent::FocusOut)
+        MarquePage(maPage);
+    return QMainWindow::eventFilter(objet, evenement);
+}
+
+void FenetreGalerie::MarquePage(int page)
+{
+    maPage = page;
+    maListe->setCurrentRow(page);
+}
+
+void FenetreGalerie::PrisePageChoisie(QListWidgetItem * element)
+{
+    MontrePage(maListe->row(element));
 }
 
 void FenetreGalerie::PriseLangueChoisie(int indice)

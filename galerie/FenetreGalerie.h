@@ -3,20 +3,21 @@
 
 #include "noyau/DLocale.h"
 
-#include <QHash>
-#include <QList>
 #include <QMainWindow>
-#include <QPointer>
 #include <QTranslator>
-#include <QVariant>
 
+#include <memory>
+
+class OngletsGalerie;
+class PagesOuvertes;
 class QComboBox;
 class QLabel;
 class QListWidget;
-class QStackedWidget;
+class QListWidgetItem;
 class ThemeGalerie;
 
-/// The window of the gallery: the list of pages at the left, the page at the right.
+/// The main window of the gallery: the list of pages at the left, the tabs of those that are open
+/// at the right.
 ///
 /// Texts are looked up when a widget is built, so another language means other pages. What was
 /// typed and chosen in the old ones goes over to the new ones, widget by widget, by their object
@@ -28,30 +29,38 @@ class FenetreGalerie : public QMainWindow
 public:
     /// `theme` must outlive the window.
     explicit FenetreGalerie(ThemeGalerie & theme);
+    ~FenetreGalerie() override;
 
-    /// Makes `langue` that of the application and builds the pages again.
+    OngletsGalerie & PreteOnglets() const { return *mesOnglets; }
+
+    /// Makes `langue` that of the application and builds the pages again, in all windows.
     void MetsLangue(eLangue langue);
-    /// Does nothing without a page of that index.
+    /// Makes the page current in whichever window it stands, or opens it here. Does nothing without
+    /// a page of that index.
     void MontrePage(int indice);
+    /// Shows the page here, closing all others.
+    void MontreSeule(int indice);
     /// Builds the pages again, for what they show of the theme. What was entered stays.
     void RefaisPages();
 
-private:
-    struct Page
-    {
-        QPointer<QWidget> widget;             // null until it is shown
-        QHash<QString, QVariantList> saisies; // of widgets of one name, in their order
-    };
+protected:
+    void closeEvent(QCloseEvent * evenement) override;
+    bool eventFilter(QObject * objet, QEvent * evenement) override;
 
+private:
     QWidget * CreePanneau();
-    void ConstruisPage(int indice);
+    void CreeOnglets(ThemeGalerie & theme);
+    void Branche();
+    void MarquePage(int page);
+    void PrisePageChoisie(QListWidgetItem * element);
     void PriseLangueChoisie(int indice);
 
-    ThemeGalerie & monTheme;
     QTranslator monTraducteurQt; // of the dialogs that come from Qt
     QListWidget * maListe = nullptr;
     QLabel * monEtiquetteLangue = nullptr;
     QComboBox * monChoixLangue = nullptr;
-    QStackedWidget * maPile = nullptr; // a frame for each page
-    QList<Page> mesPages;
+    OngletsGalerie * mesOnglets = nullptr;
+    QLabel * maPhrase = nullptr; // where no page is open
+    std::unique_ptr<PagesOuvertes> mesPages;
+    int maPage = -1; // which the list marks
 };

@@ -24,6 +24,7 @@
 #include "TraductionGalerie.h"
 
 #include <QHeaderView>
+#include <QIcon>
 #include <QLabel>
 #include <QTableView>
 #include <QVBoxLayout>
@@ -72,6 +73,14 @@ QList<DescriptionPage> const & DonnePages()
          [](ThemeGalerie &) -> QWidget * { return new PagePriseEnMain; }},
     };
     return pages;
+}
+
+QIcon CreeIconePage(DescriptionPage const & page)
+{
+    QString const chemin = u":/images/"_s + page.nom + u".svg"_s;
+    QIcon icone(chemin);
+    icone.addFile(chemin, QSize(), QIcon::Selected);
+    return icone;
 }
 
 QVBoxLayout * CreeMiseEnPage(QWidget * page, QString const & titre, QString const & explication)

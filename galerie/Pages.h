@@ -6,6 +6,7 @@
 #include <QList>
 #include <QString>
 
+class QIcon;
 class QTableView;
 class QVBoxLayout;
 class QWidget;
@@ -21,6 +22,9 @@ struct DescriptionPage
 
 /// The pages in the order of the list. A widget's page is added here.
 QList<DescriptionPage> const & DonnePages();
+
+/// The page's icon, drawn as it is where it is selected too: the style would tint it.
+QIcon CreeIconePage(DescriptionPage const & page);
 
 /// The layout of a page, begun with its title and a sentence on what the page shows.
 QVBoxLayout * CreeMiseEnPage(QWidget * page, QString const & titre, QString const & explication);

@@ -2,6 +2,7 @@
 #include "ThemeGalerie.h"
 
 #include "foundation/ThemesQt.h"
+#include "navigation/DTabBarInterne.h"
 #include "noyau/RoutinesTexte.h"
 #include "style/DStyleProxy.h"
 
@@ -10,12 +11,24 @@
 #include <QPalette>
 #include <QRegularExpression>
 #include <QStyleFactory>
+#include <QStyleOption>
 
 #include <utility>
 
 using namespace Qt::StringLiterals;
 
 namespace {
+
+QColor Couleur(QString const & nom)
+{
+    return ThemesQt::Instance()->DonneCouleur(nom);
+}
+
+bool EstSombre(QColor const & fond)
+{
+    constexpr int kMilieu = 128; // of the lightness, 0 to 255
+    return fond.lightness() < kMilieu;
+}
 
 // Qt makes a disabled icon of the lightness of the drawing alone: on a dark window a drawing in
 // grey, which suits both themes, would come out no dimmer than it is.
@@ -38,12 +51,40 @@ public:
         peintre.drawPixmap(0, 0, image);
         return pale;
     }
-};
 
-QColor Couleur(QString const & nom)
-{
-    return ThemesQt::Instance()->DonneCouleur(nom);
-}
+    // The line under travelling tabs goes on behind their add button, at the bottom of the row.
+    int pixelMetric(PixelMetric mesure, QStyleOption const * option,
+                    QWidget const * widget) const override
+    {
+        return mesure == PM_TabBarBaseOverlap && qobject_cast<DTabBarInterne const *>(widget)
+                   ? 1
+                   : DStyleProxy::pixelMetric(mesure, option, widget);
+    }
+
+    // The style's selected tab is white in every palette, and the titles of travelling tabs have
+    // the theme's colour, which is light on dark windows.
+    void drawControl(ControlElement element, QStyleOption const * option, QPainter * peintre,
+                     QWidget const * widget) const override
+    {
+        if (element == CE_TabBarTabShape && option->state.testFlag(State_Selected) &&
+            EstSombre(option->palette.color(QPalette::Window)) &&
+            qobject_cast<DTabBarInterne const *>(widget))
+            DessineOngletSombre(*option, *peintre);
+        else
+            DStyleProxy::drawControl(element, option, peintre, widget);
+    }
+
+private:
+    static void DessineOngletSombre(QStyleOption const & option, QPainter & peintre)
+    {
+        constexpr int kAccent = 3; // logical pixels, as of the white tab
+        QRect const & rect = option.rect;
+        peintre.fillRect(rect, Couleur(u"couleurSeparateur"_s));
+        peintre.fillRect(rect.adjusted(1, 0, -1, 0), option.palette.base());
+        peintre.fillRect(QRect(rect.topLeft(), QSize(rect.width(), kAccent)),
+                         option.palette.highlight());
+    }
+};
 
 // A text that is no colour leaves the role as it was.
 void MetsCouleur(QPalette & palette, QPalette::ColorGroup groupe, QPalette::ColorRole role,
@@ -84,15 +125,24 @@ QPalette DonnePalette()
     return palette;
 }
 
+// The general sheet, the gallery's own, and what a dark theme needs besides.
+QString LisFeuilles()
+{
+    QString feuilles = RoutinesGeneralesQt::ContenuFichier(u":/Style/StyleGeneralGui.qss"_s) +
+                       RoutinesGeneralesQt::ContenuFichier(u":/Style/StyleGalerie.qss"_s);
+    if (QColor const fond = Couleur(u"couleurFondGris"_s); fond.isValid() && EstSombre(fond))
+        feuilles += RoutinesGeneralesQt::ContenuFichier(u":/Style/StyleGalerieSombre.qss"_s);
+    return feuilles;
+}
+
 // The Fusion style draws the edges of these in a darker shade of the window's colour, which none of
 // them fills with it. Nobody sees that shade on a dark window: there it is to be the borders'
 // colour.
 void MetsBords(QPalette palette)
 {
-    constexpr int kMilieu = 128;          // of the lightness, 0 to 255
     constexpr int kFacteurDesBords = 140; // percent: QColor::darker, as the style calls it
     QColor const bordure = Couleur(u"couleurBordureGeneral"_s);
-    bool const sombre = palette.color(QPalette::Window).lightness() < kMilieu && bordure.isValid();
+    bool const sombre = EstSombre(palette.color(QPalette::Window)) && bordure.isValid();
     // A little darker than the others: views have grids too.
     if (sombre)
         palette.setColor(QPalette::Window, bordure);
@@ -176,8 +226,7 @@ void ThemeGalerie::Remplace(QString const & nom, QColor const & couleur)
 
 bool ThemeGalerie::Applique() const
 {
-    QString const feuilles = RoutinesGeneralesQt::ContenuFichier(u":/Style/StyleGeneralGui.qss"_s) +
-                             RoutinesGeneralesQt::ContenuFichier(u":/Style/StyleGalerie.qss"_s);
+    QString const feuilles = LisFeuilles();
     // A name that the table lacks would keep AppliquerVariable from returning.
     QStringList const inconnues = ThemesQt::Instance()->VariablesInconnues(feuilles);
     if (!inconnues.isEmpty()) {

@@ -3,6 +3,7 @@
 
 #include "ApercuFenetre.h"
 #include "Langues.h"
+#include "OngletsGalerie.h"
 #include "PageRecherche.h"
 #include "Pages.h"
 #include "ThemeGalerie.h"
@@ -89,23 +90,23 @@ void tst_FenetreGalerie::cleanup()
 void tst_FenetreGalerie::langueRefaitLesPages()
 {
     FenetreGalerie fenetre(monTheme);
-    auto const * const pile = fenetre.findChild<QStackedWidget *>();
+    OngletsGalerie & onglets = fenetre.PreteOnglets();
     auto const * const liste = fenetre.findChild<QListWidget *>(u"listePages"_s);
     auto * const choix = fenetre.findChild<QComboBox *>(u"choixLangue"_s);
     fenetre.MontrePage(2);
-    QPointer<QWidget> const page = pile->currentWidget()->findChild<QWidget *>();
-    auto const titre = [&] {
-        return pile->currentWidget()->findChild<QLabel *>(u"titrePage"_s)->text();
-    };
+    QPointer<QWidget> const cadre = onglets.DonneWidgetCourant();
+    QPointer<QWidget> const page = cadre->findChild<QWidget *>();
+    auto const titre = [&] { return cadre->findChild<QLabel *>(u"titrePage"_s)->text(); };
     QCOMPARE(titre(), u"Polices"_s);
 
     choix->setCurrentIndex(choix->findData(kLangueAnglais));
 
     QVERIFY(page.isNull());
-    QCOMPARE(pile->currentIndex(), 2);
-    QCOMPARE(pile->count(), liste->count());
+    QCOMPARE(onglets.DonneWidgetCourant(), cadre); // rebuilt in place
+    QCOMPARE(onglets.DonneTotalOnglet(), 2);
     QCOMPARE(titre(), u"Fonts"_s);
     QCOMPARE(liste->item(2)->text(), u"Fonts"_s);
+    QCOMPARE(liste->currentRow(), 2);
     QCOMPARE(fenetre.locale().language(), QLocale::English);
 
     fenetre.MetsLangue(kLangueFrancais);
@@ -214,16 +215,19 @@ void tst_FenetreGalerie::lettresUniques()
     QFETCH(eLangue, langue);
     FenetreGalerie fenetre(monTheme);
     fenetre.MetsLangue(langue);
-    auto const * const pile = fenetre.findChild<QStackedWidget *>();
+    OngletsGalerie const & onglets = fenetre.PreteOnglets();
     for (int i = 0; i < DonnePages().size(); ++i) {
         fenetre.MontrePage(i);
+        QWidget const * const page = onglets.DonneWidgetCourant();
         QStringList textes;
         for (auto const * const etiquette : fenetre.findChildren<QLabel *>())
-            if (etiquette->buddy() &&
-                (pile->currentWidget()->isAncestorOf(etiquette) || !pile->isAncestorOf(etiquette)))
+            // Windows of the pages, as the wizard's, have letters of their own.
+            // Windows of the pages, as the wizard's, have letters of their own.
+            if (etiquette->buddy() && etiquette->window() == &fenetre &&
+                (page->isAncestorOf(etiquette) || !onglets.isAncestorOf(etiquette)))
                 textes.append(etiquette->text());
         QVERIFY(!textes.isEmpty());
-        for (auto const * const bouton : pile->currentWidget()->findChildren<QAbstractButton *>())
+        for (auto const * const bouton : page->findChildren<QAbstractButton *>())
             textes.append(bouton->text());
         QSet<QKeySequence> lettres;
         for (QString const & texte : textes) {

@@ -179,6 +179,10 @@ private Q_SLOTS:
     void hasardDesDestructions();
     void passeToutSeul();
     void sautParDessusUneAutomatique();
+    void passeEnSAffichant();
+    void detruitParLeTitre_data();
+    void detruitParLeTitre();
+    void bougeParLeTitre();
 };
 
 void tst_DAssistantVies::cleanup()
@@ -264,10 +268,12 @@ void tst_DAssistantVies::reinitialise()
     (*banc->etapes.at(cas.etape)).*cas.effet = [&banc] { banc->assistant->Reinitialise(); };
     cas.geste(*banc);
     (*banc->etapes.at(cas.etape)).*cas.effet = nullptr;
-    // Without a current step nothing moves until the next show.
+    // Whatever was under way has ended, and no step is the current one.
     QCOMPARE(banc->Actives(), Rangees{});
+    QCOMPARE(QString(banc->assistant->DonneTitreGenerique(nullptr)), u"Étape 1 de 4"_s);
     banc->journal.clear();
-    QVERIFY(!banc->assistant->PriseBoutonSuivant());
+    banc->assistant->PriseBoutonPrecedent();
+    banc->Clique(0);
     QVERIFY(banc->journal.isEmpty());
     banc->assistant->hide();
     VerifieCoherence(*banc);
@@ -434,6 +440,77 @@ void tst_DAssistantVies::sautParDessusUneAutomatique()
     banc.Clique(0);
     QVERIFY(banc.Rangee() >= 0);
     VerifieCoherence(banc);
+}
+
+// The step needs no entering: it goes on as soon as it is shown.
+void tst_DAssistantVies::passeEnSAffichant()
+{
+    class EtapeVue : public EtapeTemoin
+    {
+    public:
+        using EtapeTemoin::EtapeTemoin;
+        std::function<void()> enSeMontrant;
+
+    protected:
+        void showEvent(QShowEvent *) override { enSeMontrant(); }
+    };
+    Banc banc(1, false);
+    auto * const etape = new EtapeVue(banc.journal, u"1"_s);
+    etape->enSeMontrant = [&banc] { banc.assistant->PriseBoutonSuivant(); };
+    banc.etapes.append(etape);
+    banc.assistant->AjouteEtape(etape, false);
+    banc.Ajoute();
+    banc.Montre();
+
+    QVERIFY(banc.assistant->PriseBoutonSuivant());
+    QCOMPARE(banc.Rangee(), 2);
+    QCOMPARE(banc.journal.count(u"1 EntreDansEtape"_s), 0);
+    QCOMPARE(QString(banc.assistant->DonneTitreGenerique(nullptr)), u"Étape 3 de 3"_s);
+
+    banc.journal.clear();
+    etape->enSeMontrant = [&banc] { banc.assistant->PriseBoutonPrecedent(); };
+    banc.assistant->PriseBoutonPrecedent();
+    QCOMPARE(banc.Rangee(), 0);
+    QCOMPARE(banc.journal.count(u"1 EntreDansEtape"_s), 0);
+    etape->enSeMontrant = [] {};
+    VerifieCoherence(banc);
+}
+
+void tst_DAssistantVies::detruitParLeTitre_data()
+{
+    using Geste = void (*)(Banc &);
+    QTest::addColumn<Geste>("geste");
+    QTest::newRow("Next") << Geste(Avance);
+    QTest::newRow("Previous") << Geste(Recule);
+    QTest::newRow("click forward") << Geste(ClicDevant);
+    QTest::newRow("click back") << Geste(ClicDerriere);
+    QTest::newRow("key forward") << Geste(ToucheDevant);
+    QTest::newRow("key back") << Geste(ToucheDerriere);
+}
+
+void tst_DAssistantVies::detruitParLeTitre()
+{
+    using Geste = void (*)(Banc &);
+    QFETCH(Geste, geste);
+    auto const banc = Prepare();
+    QVERIFY(banc);
+    connect(banc->assistant, &QWidget::windowTitleChanged, banc->assistant,
+            [&banc] { delete banc->assistant; });
+    geste(*banc);
+    QVERIFY(!banc->assistant);
+}
+
+// Whoever listens to the title moves on: the step is left before it was entered.
+void tst_DAssistantVies::bougeParLeTitre()
+{
+    auto const banc = std::make_unique<Banc>(4, false);
+    connect(banc->assistant, &QWidget::windowTitleChanged, banc->assistant,
+            [&banc] { banc->assistant->PriseBoutonSuivant(); });
+    banc->assistant->show();
+    QCOMPARE(banc->pile->currentIndex(), 3);
+    QCOMPARE(banc->journal.filter(u"EntreDansEtape"_s), QStringList{u"3 EntreDansEtape"_s});
+    disconnect(banc->assistant, &QWidget::windowTitleChanged, nullptr, nullptr);
+    VerifieCoherence(*banc);
 }
 
 QTEST_MAIN(tst_DAssistantVies)

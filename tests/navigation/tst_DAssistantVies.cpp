@@ -167,6 +167,7 @@ private Q_SLOTS:
     void detruitToutesLesEtapes();
     void reinitialise_data();
     void reinitialise();
+    void reinitialiseEnChemin();
     void bougeEncore_data();
     void bougeEncore();
     void etapeCouranteDetruite();
@@ -277,6 +278,17 @@ void tst_DAssistantVies::reinitialise()
     QVERIFY(banc->journal.isEmpty());
     banc->assistant->hide();
     VerifieCoherence(*banc);
+}
+
+// The rest of the jump doesn't begin again.
+void tst_DAssistantVies::reinitialiseEnChemin()
+{
+    Banc banc(4);
+    banc.assistant->DebarreToutesLesEtapes();
+    banc.etapes.at(1)->enEntrant = [&banc] { banc.assistant->Reinitialise(); };
+    banc.Clique(3);
+    QCOMPARE(banc.journal.filter(u"EntreDansEtape"_s), QStringList{u"1 EntreDansEtape"_s});
+    QCOMPARE(banc.Actives(), Rangees{});
 }
 
 void tst_DAssistantVies::bougeEncore_data()
@@ -471,7 +483,7 @@ void tst_DAssistantVies::passeEnSAffichant()
     etape->enSeMontrant = [&banc] { banc.assistant->PriseBoutonPrecedent(); };
     banc.assistant->PriseBoutonPrecedent();
     QCOMPARE(banc.Rangee(), 0);
-    QCOMPARE(banc.journal.count(u"1 EntreDansEtape"_s), 0);
+    QCOMPARE(banc.journal.filter(u"EntreDansEtape"_s), QStringList{u"0 EntreDansEtape"_s});
     etape->enSeMontrant = [] {};
     VerifieCoherence(banc);
 }

@@ -105,7 +105,7 @@ bool DAssistant::eventFilter(QObject * objet, QEvent * evenement)
 {
     bool const choisit =
         evenement->type() == QEvent::KeyPress || evenement->type() == QEvent::InputMethod;
-    if (objet != maVueEtapes || !choisit || maToucheEnCours)
+    if (objet != maVueEtapes || !choisit)
         return QDialog::eventFilter(objet, evenement);
 
     // The view goes on with its current index once a key has selected a row. The jump waits for

@@ -68,6 +68,13 @@ void ToucheDerriere(Banc & banc)
     QTest::keyClick(banc.liste, Qt::Key_Home);
 }
 
+void SaisieDerriere(Banc & banc)
+{
+    QInputMethodEvent saisie;
+    saisie.setCommitString(u"1"_s);
+    QCoreApplication::sendEvent(banc.liste, &saisie);
+}
+
 void BoutonSuivant(Banc & banc)
 {
     QTest::mouseClick(banc.suivant, Qt::LeftButton);
@@ -103,6 +110,8 @@ Occasion const kOccasions[] = {
     {"key back, on the way", &EtapeTemoin::enRevenant, 1, ToucheDerriere},
     {"key back, keeping Previous", &EtapeTemoin::enGardant, 0, ToucheDerriere},
     {"key back, entering", &EtapeTemoin::enEntrant, 0, ToucheDerriere},
+    {"composed text, leaving", &EtapeTemoin::enRevenant, 2, SaisieDerriere},
+    {"composed text, entering", &EtapeTemoin::enEntrant, 0, SaisieDerriere},
 };
 
 void LignesDOccasions()

@@ -54,13 +54,7 @@ DAssistant::DAssistant(QWidget * parent)
     Branche(); // last: no slot may run on a half-built wizard
 }
 
-DAssistant::~DAssistant()
-{
-    // The children die after this object has stopped being a wizard.
-    disconnect(maPile, nullptr, this, nullptr);
-    disconnect(maVueEtapes->selectionModel(), nullptr, this, nullptr);
-    maVueEtapes->removeEventFilter(this);
-}
+DAssistant::~DAssistant() = default;
 
 void DAssistant::CreeListe()
 {

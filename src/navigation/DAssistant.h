@@ -25,9 +25,9 @@ class QStackedWidget;
 /// moves of one step, so each step on the way may refuse. Previous goes back along the visited
 /// steps. Next and Finish are disabled by each move: the step that is entered enables them.
 ///
-/// Without steps, before the first show and after `Reinitialise` there is no current step, and
-/// the slots that move do nothing. A step that is deleted or taken out leaves the wizard; if it was
-/// the current one, the step visited before it becomes current, or the first.
+/// Without steps, before the first show and after `Reinitialise` there is no current step: Next
+/// then enters the first, and nothing else moves. A step that is deleted or taken out leaves the
+/// wizard; if it was the current one, the step visited before it becomes current, or the first.
 class FABRELGUI_EXPORT DAssistant : public QDialog
 {
     Q_OBJECT
@@ -40,7 +40,8 @@ public:
     /// and a step that is already there are ignored.
     void AjouteEtape(DAssistantEtape * etape, bool sansEffet);
 
-    /// The next show begins at the first step again. The options and `DonneMaxEtapeParcouru` stay.
+    /// The next show, or Next, begins at the first step again. The options, the buttons and
+    /// `DonneMaxEtapeParcouru` stay.
     void Reinitialise();
 
     /// Lets every step be chosen in the list.

@@ -44,25 +44,27 @@ void DAssistant::PriseBoutonPrecedent()
 bool DAssistant::PriseBoutonSuivant()
 {
     DAssistantEtape * const etape = monEtapeCourante;
-    if (!etape)
-        return false;
     QPointer<DAssistant> const garde(this);
-    if (etape->BloqueAvance() || !garde || etape != monEtapeCourante)
+    if (etape && (etape->BloqueAvance() || !garde || etape != monEtapeCourante))
         return false;
     monBoutonSuivant->setEnabled(false);
     monBoutonTermine->setEnabled(false);
-    if (!etape->PeutAvancer() || !garde || etape != monEtapeCourante)
+    if (etape && (!etape->PeutAvancer() || !garde || etape != monEtapeCourante))
         return false;
 
-    int const cible = RangeeCourante() + 1;
+    int const cible = RangeeCourante() + 1; // the first one from no step
     if (cible >= mesEtapes.size())
         return false; // behind the last step there is none: it refuses as any other may
 
-    monHistorique.append(etape);
-    monEtapeCourante = mesEtapes.at(cible);
-    maPile->setCurrentWidget(monEtapeCourante);
-    monBoutonPrecedent->setEnabled(true);
+    if (etape)
+        monHistorique.append(etape);
+    DAssistantEtape * const suivante = mesEtapes.at(cible);
+    monEtapeCourante = suivante;
+    maPile->setCurrentWidget(suivante);
+    monBoutonPrecedent->setEnabled(!monHistorique.isEmpty());
     ChangeTitre();
+    if (!garde || suivante != monEtapeCourante)
+        return true; // the step has moved on as it was shown, or whoever listens to the title
     monMaxEtape = std::max(monMaxEtape, cible);
     ActiveRangee(cible);
     SelectionneRangee(cible);
@@ -103,7 +105,7 @@ bool DAssistant::eventFilter(QObject * objet, QEvent * evenement)
 {
     bool const choisit =
         evenement->type() == QEvent::KeyPress || evenement->type() == QEvent::InputMethod;
-    if (objet != maVueEtapes || !choisit || maToucheEnCours)
+    if (objet != maVueEtapes || !choisit)
         return QDialog::eventFilter(objet, evenement);
 
     // The view goes on with its current index once a key has selected a row. The jump waits for
@@ -117,6 +119,8 @@ bool DAssistant::eventFilter(QObject * objet, QEvent * evenement)
     maToucheEnCours = false;
     if (maRangeeChoisie >= 0)
         SauteA(maRangeeChoisie, maRangeeChoisie - RangeeCourante());
+    else
+        SelectionneRangee(RangeeCourante()); // Ctrl+Space has taken the selection off
     return true;
 }
 
@@ -140,15 +144,20 @@ void DAssistant::showEvent(QShowEvent * evenement)
         ActiveRangee(0);
         SelectionneRangee(0);
     }
+    DAssistantEtape const * const etape = monEtapeCourante;
     ChangeTitre();
-    EntreDansEtapeCourante();
+    if (etape == monEtapeCourante)
+        EntreDansEtapeCourante();
 }
 
 void DAssistant::ChangeTitre()
 {
     if (!monEtapeCourante)
         return;
-    setWindowTitle(monEtapeCourante->DonneTitre());
+    QPointer<DAssistant> const garde(this);
+    setWindowTitle(monEtapeCourante->DonneTitre()); // may destroy the wizard
+    if (!garde)
+        return;
     // Qt tells assistive technologies of a window's title only when the window is activated.
     QAccessibleEvent nouvelle(this, QAccessible::NameChanged);
     QAccessible::updateAccessibility(&nouvelle);
@@ -161,9 +170,6 @@ void DAssistant::PriseSelectionEtape(QItemSelection selectionnay, QItemSelection
         return;
     QModelIndexList const nouvelles = selectionnay.indexes();
     QModelIndexList const anciennes = deselectionnay.indexes();
-    // The keyboard can take the selection off: the list goes on showing where the wizard is.
-    if (nouvelles.isEmpty())
-        SelectionneRangee(RangeeCourante());
     if (nouvelles.isEmpty() || anciennes.isEmpty())
         return;
 
@@ -228,8 +234,9 @@ void DAssistant::SelectionneRangee(int rangee)
 void DAssistant::SauteA(int rangee, int distance)
 {
     QPointer<DAssistant> const garde(this);
-    DAssistantEtape const * const cible = mesEtapes.at(rangee);
-    for (int pas = std::abs(distance); pas > 0 && garde && monEtapeCourante != cible; --pas) {
+    DAssistantEtape const * const cible = mesEtapes.value(rangee);
+    for (int pas = std::abs(distance);
+         pas > 0 && garde && monEtapeCourante && monEtapeCourante != cible; --pas) {
         // Deliberate: a step that refuses to go back is asked again by each of the moves.
         if (distance < 0)
             PriseBoutonPrecedent();
@@ -257,7 +264,7 @@ bool DAssistant::RevientA(DAssistantEtape * etape)
         monBoutonPrecedent->setEnabled(false);
     maPile->setCurrentWidget(etape);
     ChangeTitre();
-    return true;
+    return garde && etape == monEtapeCourante;
 }
 
 void DAssistant::EntreDansEtapeCourante()

@@ -39,11 +39,11 @@ Apparence DonneApparence(ElementFilAriane::eEtat etat)
 
 void MontreIcone(QSvgWidget & icone, QString const & fichier)
 {
-    // Qt would warn of a file that is not there; an empty document draws as little.
+    // Qt would warn of a file that is not there; no document draws as little.
     if (QFile::exists(fichier))
         icone.load(fichier);
     else
-        icone.load("<svg xmlns='http://www.w3.org/2000/svg'/>"_ba);
+        icone.load(QByteArray());
     // Each load brings a new document, which fills the widget.
     icone.renderer()->setAspectRatioMode(Qt::KeepAspectRatio);
 }

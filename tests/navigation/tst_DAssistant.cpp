@@ -41,6 +41,7 @@ private Q_SLOTS:
     void debarre();
     void reinitialise();
     void reinitialiseApresAvance();
+    void reinitialiseEtSuivant();
     void changeTitre();
     void boutonsCliques();
 };
@@ -363,7 +364,6 @@ void tst_DAssistant::reinitialiseApresAvance()
     banc.assistant->Reinitialise();
     // Still visible, with no current step.
     banc.ActiveTout();
-    QVERIFY(!banc.assistant->PriseBoutonSuivant());
     banc.assistant->PriseBoutonPrecedent();
     banc.assistant->PriseBoutonTermine();
     banc.Clique(0);
@@ -379,6 +379,26 @@ void tst_DAssistant::reinitialiseApresAvance()
     banc.assistant->hide();
     banc.assistant->show();
     QCOMPARE(banc.Rangee(), 0);
+}
+
+// Next begins again without a new show.
+void tst_DAssistant::reinitialiseEtSuivant()
+{
+    Banc banc(4);
+    QVERIFY(banc.Avance(2));
+    banc.ActiveTout();
+    banc.assistant->Reinitialise();
+    for (int const rangee : {0, 1}) {
+        QVERIFY(banc.assistant->PriseBoutonSuivant());
+        QCOMPARE(banc.Rangee(), rangee);
+        QCOMPARE(banc.Boutons(), rangee == 0 ? u"a"_s : u"ap"_s); // behind the first is nothing
+        QCOMPARE(QString(banc.assistant->DonneTitreGenerique(nullptr)),
+                 u"Étape %1 de 4"_s.arg(rangee + 1));
+    }
+    QCOMPARE(banc.journal, QStringList({u"0 EntreDansEtape"_s, u"0 BloqueAvance"_s,
+                                        u"0 PeutAvancer"_s, u"1 EntreDansEtape"_s}));
+    QCOMPARE(banc.Actives(), Rangees({0, 1}));
+    QCOMPARE(banc.assistant->DonneMaxEtapeParcouru(), 2);
 }
 
 void tst_DAssistant::changeTitre()

@@ -74,6 +74,7 @@ private Q_SLOTS:
     void paletteSombre();
     void paletteQuiChange();
     void paletteDeLHote();
+    void couleurDeLHoteGarday();
 };
 
 void tst_DAssistantAcces::cleanup()
@@ -253,6 +254,8 @@ void tst_DAssistantAcces::paletteSombre()
     QCOMPARE(texte.palette().color(QPalette::Window), QColor(Qt::white));
     for (auto const groupe : {QPalette::Active, QPalette::Inactive, QPalette::Disabled})
         QVERIFY(texte.palette().color(groupe, QPalette::WindowText).lightness() <= 128);
+    QVERIFY(texte.palette().color(QPalette::Disabled, QPalette::WindowText) !=
+            texte.palette().color(QPalette::Active, QPalette::WindowText));
     // What is drawn on the colours of the application keeps them.
     QCOMPARE(champ.palette().color(QPalette::Text), Sombre().color(QPalette::Text));
     QCOMPARE(banc.annuler->palette().color(QPalette::ButtonText),
@@ -286,6 +289,30 @@ void tst_DAssistantAcces::paletteDeLHote()
     palette.setColor(QPalette::WindowText, QColor(250, 250, 250));
     banc.assistant->setPalette(palette);
     QCOMPARE(banc.assistant->palette().color(QPalette::WindowText), QColor(250, 250, 250));
+}
+
+// A colour that the host has set stays its own when the application's change.
+void tst_DAssistantAcces::couleurDeLHoteGarday()
+{
+    auto const colore = [](Banc & banc, QColor const & couleur) {
+        QPalette palette = banc.assistant->palette();
+        palette.setColor(QPalette::WindowText, couleur);
+        banc.assistant->setPalette(palette);
+    };
+    QPalette bleue;
+    bleue.setColor(QPalette::WindowText, QColor(0, 0, 90));
+    {
+        QApplication::setPalette(bleue);
+        Banc banc(1);
+        colore(banc, Qt::black);
+        QCOMPARE(banc.assistant->palette().color(QPalette::WindowText), QColor(Qt::black));
+    }
+    QApplication::setPalette(Sombre());
+    Banc banc(1);
+    colore(banc, QColor(0, 80, 0));
+    QApplication::setPalette(bleue);
+    QTRY_VERIFY(banc.assistant->palette().color(QPalette::Base).lightness() > 128);
+    QCOMPARE(banc.assistant->palette().color(QPalette::WindowText), QColor(0, 80, 0));
 }
 
 QTEST_MAIN(tst_DAssistantAcces)

@@ -110,7 +110,6 @@ void tst_DAssistantMouvements::avantLAffichage()
 {
     Banc banc(2, false);
     banc.ActiveTout();
-    QVERIFY(!banc.assistant->PriseBoutonSuivant());
     banc.assistant->PriseBoutonPrecedent();
     banc.assistant->PriseBoutonTermine();
     QVERIFY(banc.journal.isEmpty());
@@ -120,6 +119,13 @@ void tst_DAssistantMouvements::avantLAffichage()
     banc.assistant->PriseBoutonAnnuler();
     QVERIFY(banc.journal.isEmpty());
     QCOMPARE(banc.Boutons(), u"a"_s);
+
+    // Next enters the first step; the show stays there.
+    QVERIFY(banc.assistant->PriseBoutonSuivant());
+    QCOMPARE(banc.journal, QStringList{u"0 EntreDansEtape"_s});
+    QVERIFY(banc.assistant->PriseBoutonSuivant());
+    banc.Montre();
+    QCOMPARE(banc.Rangee(), 1);
 }
 
 void tst_DAssistantMouvements::avance()

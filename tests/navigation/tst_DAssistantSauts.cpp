@@ -64,6 +64,7 @@ private Q_SLOTS:
     void touchesLettres();
     void saisieComposee();
     void selectionOtee();
+    void selectionOteeParLHote();
     void selectionPrivee_data();
     void selectionPrivee();
     void historiquePlusCourt();
@@ -309,11 +310,35 @@ void tst_DAssistantSauts::selectionOtee()
     QTest::keyClick(banc.liste, Qt::Key_Space, Qt::ControlModifier);
     QCOMPARE(banc.Rangee(), 2);
     QVERIFY(banc.journal.isEmpty());
-    banc.liste->clearSelection();
-    QCOMPARE(banc.Rangee(), 2);
     banc.Clique(0);
     QCOMPARE(banc.Rangee(), 0);
     QCOMPARE(banc.journal, Reculs(2, 0));
+}
+
+// Only a selection that takes the place of another is a jump.
+void tst_DAssistantSauts::selectionOteeParLHote()
+{
+    Banc banc(4);
+    QVERIFY(banc.Avance(2));
+    auto const choisis = [&banc](int rangee) {
+        banc.liste->selectionModel()->select(banc.liste->model()->index(rangee, 0),
+                                             QItemSelectionModel::ClearAndSelect);
+    };
+    banc.liste->clearSelection();
+    QVERIFY(banc.liste->selectedItems().isEmpty());
+    choisis(0);
+    QCOMPARE(banc.pile->currentIndex(), 2);
+    QVERIFY(banc.journal.isEmpty());
+    choisis(2);
+    choisis(3); // not reached
+    QVERIFY(banc.liste->selectedItems().isEmpty());
+    QVERIFY(banc.journal.isEmpty());
+    // The next move shows where the wizard is.
+    QVERIFY(banc.Avance(1));
+    QCOMPARE(banc.Rangee(), 3);
+    choisis(1);
+    QCOMPARE(banc.journal, Reculs(3, 1));
+    QCOMPARE(banc.Rangee(), 1);
 }
 
 void tst_DAssistantSauts::selectionPrivee_data()

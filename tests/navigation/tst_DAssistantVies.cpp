@@ -68,6 +68,13 @@ void ToucheDerriere(Banc & banc)
     QTest::keyClick(banc.liste, Qt::Key_Home);
 }
 
+void SaisieDerriere(Banc & banc)
+{
+    QInputMethodEvent saisie;
+    saisie.setCommitString(u"1"_s);
+    QCoreApplication::sendEvent(banc.liste, &saisie);
+}
+
 void BoutonSuivant(Banc & banc)
 {
     QTest::mouseClick(banc.suivant, Qt::LeftButton);
@@ -103,6 +110,8 @@ Occasion const kOccasions[] = {
     {"key back, on the way", &EtapeTemoin::enRevenant, 1, ToucheDerriere},
     {"key back, keeping Previous", &EtapeTemoin::enGardant, 0, ToucheDerriere},
     {"key back, entering", &EtapeTemoin::enEntrant, 0, ToucheDerriere},
+    {"composed text, leaving", &EtapeTemoin::enRevenant, 2, SaisieDerriere},
+    {"composed text, entering", &EtapeTemoin::enEntrant, 0, SaisieDerriere},
 };
 
 void LignesDOccasions()
@@ -167,6 +176,7 @@ private Q_SLOTS:
     void detruitToutesLesEtapes();
     void reinitialise_data();
     void reinitialise();
+    void reinitialiseEnChemin();
     void bougeEncore_data();
     void bougeEncore();
     void etapeCouranteDetruite();
@@ -179,6 +189,10 @@ private Q_SLOTS:
     void hasardDesDestructions();
     void passeToutSeul();
     void sautParDessusUneAutomatique();
+    void passeEnSAffichant();
+    void detruitParLeTitre_data();
+    void detruitParLeTitre();
+    void bougeParLeTitre();
 };
 
 void tst_DAssistantVies::cleanup()
@@ -264,13 +278,26 @@ void tst_DAssistantVies::reinitialise()
     (*banc->etapes.at(cas.etape)).*cas.effet = [&banc] { banc->assistant->Reinitialise(); };
     cas.geste(*banc);
     (*banc->etapes.at(cas.etape)).*cas.effet = nullptr;
-    // Without a current step nothing moves until the next show.
+    // Whatever was under way has ended, and no step is the current one.
     QCOMPARE(banc->Actives(), Rangees{});
+    QCOMPARE(QString(banc->assistant->DonneTitreGenerique(nullptr)), u"Étape 1 de 4"_s);
     banc->journal.clear();
-    QVERIFY(!banc->assistant->PriseBoutonSuivant());
+    banc->assistant->PriseBoutonPrecedent();
+    banc->Clique(0);
     QVERIFY(banc->journal.isEmpty());
     banc->assistant->hide();
     VerifieCoherence(*banc);
+}
+
+// The rest of the jump doesn't begin again.
+void tst_DAssistantVies::reinitialiseEnChemin()
+{
+    Banc banc(4);
+    banc.assistant->DebarreToutesLesEtapes();
+    banc.etapes.at(1)->enEntrant = [&banc] { banc.assistant->Reinitialise(); };
+    banc.Clique(3);
+    QCOMPARE(banc.journal.filter(u"EntreDansEtape"_s), QStringList{u"1 EntreDansEtape"_s});
+    QCOMPARE(banc.Actives(), Rangees{});
 }
 
 void tst_DAssistantVies::bougeEncore_data()
@@ -434,6 +461,77 @@ void tst_DAssistantVies::sautParDessusUneAutomatique()
     banc.Clique(0);
     QVERIFY(banc.Rangee() >= 0);
     VerifieCoherence(banc);
+}
+
+// The step needs no entering: it goes on as soon as it is shown.
+void tst_DAssistantVies::passeEnSAffichant()
+{
+    class EtapeVue : public EtapeTemoin
+    {
+    public:
+        using EtapeTemoin::EtapeTemoin;
+        std::function<void()> enSeMontrant;
+
+    protected:
+        void showEvent(QShowEvent *) override { enSeMontrant(); }
+    };
+    Banc banc(1, false);
+    auto * const etape = new EtapeVue(banc.journal, u"1"_s);
+    etape->enSeMontrant = [&banc] { banc.assistant->PriseBoutonSuivant(); };
+    banc.etapes.append(etape);
+    banc.assistant->AjouteEtape(etape, false);
+    banc.Ajoute();
+    banc.Montre();
+
+    QVERIFY(banc.assistant->PriseBoutonSuivant());
+    QCOMPARE(banc.Rangee(), 2);
+    QCOMPARE(banc.journal.count(u"1 EntreDansEtape"_s), 0);
+    QCOMPARE(QString(banc.assistant->DonneTitreGenerique(nullptr)), u"Étape 3 de 3"_s);
+
+    banc.journal.clear();
+    etape->enSeMontrant = [&banc] { banc.assistant->PriseBoutonPrecedent(); };
+    banc.assistant->PriseBoutonPrecedent();
+    QCOMPARE(banc.Rangee(), 0);
+    QCOMPARE(banc.journal.filter(u"EntreDansEtape"_s), QStringList{u"0 EntreDansEtape"_s});
+    etape->enSeMontrant = [] {};
+    VerifieCoherence(banc);
+}
+
+void tst_DAssistantVies::detruitParLeTitre_data()
+{
+    using Geste = void (*)(Banc &);
+    QTest::addColumn<Geste>("geste");
+    QTest::newRow("Next") << Geste(Avance);
+    QTest::newRow("Previous") << Geste(Recule);
+    QTest::newRow("click forward") << Geste(ClicDevant);
+    QTest::newRow("click back") << Geste(ClicDerriere);
+    QTest::newRow("key forward") << Geste(ToucheDevant);
+    QTest::newRow("key back") << Geste(ToucheDerriere);
+}
+
+void tst_DAssistantVies::detruitParLeTitre()
+{
+    using Geste = void (*)(Banc &);
+    QFETCH(Geste, geste);
+    auto const banc = Prepare();
+    QVERIFY(banc);
+    connect(banc->assistant, &QWidget::windowTitleChanged, banc->assistant,
+            [&banc] { delete banc->assistant; });
+    geste(*banc);
+    QVERIFY(!banc->assistant);
+}
+
+// Whoever listens to the title moves on: the step is left before it was entered.
+void tst_DAssistantVies::bougeParLeTitre()
+{
+    auto const banc = std::make_unique<Banc>(4, false);
+    connect(banc->assistant, &QWidget::windowTitleChanged, banc->assistant,
+            [&banc] { banc->assistant->PriseBoutonSuivant(); });
+    banc->assistant->show();
+    QCOMPARE(banc->pile->currentIndex(), 3);
+    QCOMPARE(banc->journal.filter(u"EntreDansEtape"_s), QStringList{u"3 EntreDansEtape"_s});
+    disconnect(banc->assistant, &QWidget::windowTitleChanged, nullptr, nullptr);
+    VerifieCoherence(*banc);
 }
 
 QTEST_MAIN(tst_DAssistantVies)

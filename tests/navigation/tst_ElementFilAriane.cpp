@@ -181,6 +181,7 @@ void tst_ElementFilAriane::ressourceAbsente()
 
     ElementFilAriane element(nullptr);
     QCOMPARE(Couleur(element, {8, 8}).alpha(), 0);
+    QVERIFY(!Icone(element)->renderer()->isValid());
     element.MetsEtat(ElementFilAriane::kFait);
     QCOMPARE(Couleur(element, {8, 8}).alpha(), 0);
     QCOMPARE(Texte(element)->objectName(), u"ArianeTexteInactif"_s);

@@ -79,6 +79,7 @@ void DAssistant::PoseElements()
 {
     auto * const disposition = new QVBoxLayout(this);
     RoutinesGeneralesQt::EnleveMargesDuLayout(disposition);
+    disposition->setSpacing(0); // the line beside the list meets the one above the buttons
 
     auto * const haut = new QHBoxLayout;
     disposition->addLayout(haut);

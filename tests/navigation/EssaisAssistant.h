@@ -191,4 +191,32 @@ struct Banc
 
 using Rangees = QList<int>;
 
+/// List, stack, selection and title agree, and every move still works.
+inline void VerifieCoherence(Banc & banc)
+{
+    QCOMPARE(banc.liste->count(), banc.pile->count());
+    if (banc.pile->count() == 0)
+        return;
+    if (!banc.assistant->isVisible())
+        banc.assistant->show();
+    auto const accord = [&banc] {
+        auto * const etape = qobject_cast<DAssistantEtape *>(banc.pile->currentWidget());
+        return etape && banc.liste->currentRow() == banc.pile->currentIndex() &&
+               banc.liste->selectedItems() == QList<QListWidgetItem *>{banc.liste->currentItem()} &&
+               banc.liste->currentItem()->flags().testFlag(Qt::ItemIsEnabled) &&
+               banc.assistant->windowTitle() == etape->DonneTitre();
+    };
+    for (int i = 0; i < banc.liste->count(); ++i)
+        QVERIFY(banc.liste->item(i)->text().startsWith(QString::number(i + 1) + u'.'));
+    QVERIFY(accord());
+    while (banc.assistant->PriseBoutonSuivant())
+        QVERIFY(accord());
+    QCOMPARE(banc.pile->currentIndex(), banc.pile->count() - 1);
+    banc.Clique(0);
+    QVERIFY(accord());
+    for (int i = 0; i < 5; ++i)
+        banc.assistant->PriseBoutonPrecedent();
+    QVERIFY(accord());
+}
+
 } // namespace EssaisAssistant

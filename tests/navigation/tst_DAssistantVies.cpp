@@ -132,34 +132,6 @@ std::unique_ptr<Banc> Prepare()
     return banc;
 }
 
-/// List, stack, selection and title agree, and every move still works.
-void VerifieCoherence(Banc & banc)
-{
-    QCOMPARE(banc.liste->count(), banc.pile->count());
-    if (banc.pile->count() == 0)
-        return;
-    if (!banc.assistant->isVisible())
-        banc.assistant->show();
-    auto const accord = [&banc] {
-        auto * const etape = qobject_cast<DAssistantEtape *>(banc.pile->currentWidget());
-        return etape && banc.liste->currentRow() == banc.pile->currentIndex() &&
-               banc.liste->selectedItems() == QList<QListWidgetItem *>{banc.liste->currentItem()} &&
-               banc.liste->currentItem()->flags().testFlag(Qt::ItemIsEnabled) &&
-               banc.assistant->windowTitle() == etape->DonneTitre();
-    };
-    for (int i = 0; i < banc.liste->count(); ++i)
-        QVERIFY(banc.liste->item(i)->text().startsWith(QString::number(i + 1) + u'.'));
-    QVERIFY(accord());
-    while (banc.assistant->PriseBoutonSuivant())
-        QVERIFY(accord());
-    QCOMPARE(banc.pile->currentIndex(), banc.pile->count() - 1);
-    banc.Clique(0);
-    QVERIFY(accord());
-    for (int i = 0; i < 5; ++i)
-        banc.assistant->PriseBoutonPrecedent();
-    QVERIFY(accord());
-}
-
 } // namespace
 
 class tst_DAssistantVies : public QObject
@@ -179,20 +151,8 @@ private Q_SLOTS:
     void reinitialiseEnChemin();
     void bougeEncore_data();
     void bougeEncore();
-    void etapeCouranteDetruite();
-    void premiereDetruite();
-    void seuleDetruite();
-    void autreDetruite();
-    void detruiteCachay();
-    void detruiteEnSAffichant();
-    void etapeReprise();
-    void hasardDesDestructions();
-    void passeToutSeul();
-    void sautParDessusUneAutomatique();
-    void passeEnSAffichant();
     void detruitParLeTitre_data();
     void detruitParLeTitre();
-    void bougeParLeTitre();
 };
 
 void tst_DAssistantVies::cleanup()
@@ -324,179 +284,6 @@ void tst_DAssistantVies::bougeEncore()
     }
 }
 
-void tst_DAssistantVies::etapeCouranteDetruite()
-{
-    Banc banc(4);
-    QVERIFY(banc.Avance(2));
-    banc.ActiveTout();
-    delete banc.etapes.at(2);
-    QCOMPARE(banc.journal, QStringList{u"1 EntreDansEtape"_s});
-    QCOMPARE(banc.pile->currentWidget(), banc.etapes.at(1));
-    QCOMPARE(banc.liste->currentRow(), 1);
-    QCOMPARE(banc.assistant->windowTitle(), u"Titre 1"_s);
-    QCOMPARE(banc.Boutons(), u"ap"_s);
-    QCOMPARE(QString(banc.assistant->DonneTitreGenerique(nullptr)), u"Étape 2 de 3"_s);
-    QCOMPARE(banc.liste->item(2)->text(), u"3. Liste 3"_s);
-    VerifieCoherence(banc);
-}
-
-void tst_DAssistantVies::premiereDetruite()
-{
-    Banc banc(3);
-    banc.ActiveTout();
-    delete banc.etapes.at(0);
-    QCOMPARE(banc.journal, QStringList({u"1 GardePrecedentActif"_s, u"1 EntreDansEtape"_s}));
-    QCOMPARE(banc.Actives(), Rangees{0});
-    QCOMPARE(banc.Boutons(), u"a"_s);
-    VerifieCoherence(banc);
-}
-
-void tst_DAssistantVies::seuleDetruite()
-{
-    Banc banc(1);
-    delete banc.etapes.at(0);
-    QCOMPARE(banc.liste->count(), 0);
-    QVERIFY(!banc.assistant->PriseBoutonSuivant());
-    banc.assistant->PriseBoutonTermine();
-    QVERIFY(banc.assistant->isVisible());
-    QVERIFY(banc.assistant->close());
-}
-
-void tst_DAssistantVies::autreDetruite()
-{
-    for (int const autre : {0, 1, 3}) {
-        Banc banc(4);
-        QVERIFY(banc.Avance(2));
-        banc.ActiveTout();
-        delete banc.etapes.at(autre);
-        QVERIFY(banc.journal.isEmpty());
-        QCOMPARE(banc.pile->currentWidget(), banc.etapes.at(2));
-        QCOMPARE(banc.liste->currentRow(), autre < 2 ? 1 : 2);
-        QCOMPARE(banc.Boutons(), u"apst"_s);
-        QCOMPARE(QString(banc.assistant->DonneTitreGenerique(nullptr)),
-                 autre < 2 ? u"Étape 2 de 3"_s : u"Étape 3 de 3"_s);
-        VerifieCoherence(banc);
-    }
-}
-
-// A hidden wizard enters no step; its next show does.
-void tst_DAssistantVies::detruiteCachay()
-{
-    Banc banc(3);
-    QVERIFY(banc.Avance(1));
-    banc.assistant->hide();
-    delete banc.etapes.at(1);
-    QVERIFY(!banc.journal.contains(u"0 EntreDansEtape"_s));
-    banc.Montre();
-    QCOMPARE(banc.liste->currentRow(), 0);
-    VerifieCoherence(banc);
-}
-
-void tst_DAssistantVies::detruiteEnSAffichant()
-{
-    Banc banc(3, false);
-    banc.etapes.at(0)->enEntrant = [&banc] { delete banc.etapes.at(0); };
-    banc.assistant->show();
-    QCOMPARE(banc.journal, QStringList({u"0 EntreDansEtape"_s, u"1 GardePrecedentActif"_s,
-                                        u"1 EntreDansEtape"_s}));
-    VerifieCoherence(banc);
-}
-
-// The application takes a step back without destroying it.
-void tst_DAssistantVies::etapeReprise()
-{
-    Banc banc(3);
-    QVERIFY(banc.Avance(1));
-    banc.etapes.at(1)->setParent(nullptr);
-    std::unique_ptr<EtapeTemoin> const reprise(banc.etapes.at(1));
-    QCOMPARE(banc.liste->count(), 2);
-    VerifieCoherence(banc);
-    banc.assistant->AjouteEtape(banc.etapes.at(1), false);
-    QCOMPARE(banc.liste->item(2)->text(), u"3. Liste 1"_s);
-    VerifieCoherence(banc);
-}
-
-void tst_DAssistantVies::hasardDesDestructions()
-{
-    QRandomGenerator hasard(8);
-    for (int tour = 0; tour < 200; ++tour) {
-        Banc banc(6);
-        for (int action = 0; action < 12; ++action) {
-            if (banc.liste->count() > 0 && hasard.bounded(2))
-                banc.Clique(hasard.bounded(banc.liste->count()));
-            for (int pas = hasard.bounded(4); pas > 0; --pas)
-                banc.assistant->PriseBoutonSuivant();
-            if (hasard.bounded(3) == 0)
-                delete banc.etapes.at(hasard.bounded(int(banc.etapes.size())));
-            if (hasard.bounded(4) == 0)
-                banc.Ajoute();
-        }
-        banc.assistant->hide();
-        VerifieCoherence(banc);
-        if (QTest::currentTestFailed())
-            return;
-    }
-}
-
-// A step with nothing to ask goes on by itself.
-void tst_DAssistantVies::passeToutSeul()
-{
-    Banc banc(4);
-    banc.etapes.at(1)->enEntrant = [&banc] { banc.assistant->PriseBoutonSuivant(); };
-    QVERIFY(banc.assistant->PriseBoutonSuivant());
-    QCOMPARE(banc.Rangee(), 2);
-    QCOMPARE(QString(banc.assistant->DonneTitreGenerique(nullptr)), u"Étape 3 de 4"_s);
-}
-
-// The jump ends where it was to lead, although a step on the way has made one of the moves.
-void tst_DAssistantVies::sautParDessusUneAutomatique()
-{
-    Banc banc(6);
-    banc.assistant->DebarreToutesLesEtapes();
-    banc.etapes.at(1)->enEntrant = [&banc] { banc.assistant->PriseBoutonSuivant(); };
-    banc.Clique(3);
-    QCOMPARE(banc.Rangee(), 3);
-
-    // It can't be entered to stay: the selection follows the wizard.
-    banc.Clique(0);
-    QVERIFY(banc.Rangee() >= 0);
-    VerifieCoherence(banc);
-}
-
-// The step needs no entering: it goes on as soon as it is shown.
-void tst_DAssistantVies::passeEnSAffichant()
-{
-    class EtapeVue : public EtapeTemoin
-    {
-    public:
-        using EtapeTemoin::EtapeTemoin;
-        std::function<void()> enSeMontrant;
-
-    protected:
-        void showEvent(QShowEvent *) override { enSeMontrant(); }
-    };
-    Banc banc(1, false);
-    auto * const etape = new EtapeVue(banc.journal, u"1"_s);
-    etape->enSeMontrant = [&banc] { banc.assistant->PriseBoutonSuivant(); };
-    banc.etapes.append(etape);
-    banc.assistant->AjouteEtape(etape, false);
-    banc.Ajoute();
-    banc.Montre();
-
-    QVERIFY(banc.assistant->PriseBoutonSuivant());
-    QCOMPARE(banc.Rangee(), 2);
-    QCOMPARE(banc.journal.count(u"1 EntreDansEtape"_s), 0);
-    QCOMPARE(QString(banc.assistant->DonneTitreGenerique(nullptr)), u"Étape 3 de 3"_s);
-
-    banc.journal.clear();
-    etape->enSeMontrant = [&banc] { banc.assistant->PriseBoutonPrecedent(); };
-    banc.assistant->PriseBoutonPrecedent();
-    QCOMPARE(banc.Rangee(), 0);
-    QCOMPARE(banc.journal.filter(u"EntreDansEtape"_s), QStringList{u"0 EntreDansEtape"_s});
-    etape->enSeMontrant = [] {};
-    VerifieCoherence(banc);
-}
-
 void tst_DAssistantVies::detruitParLeTitre_data()
 {
     using Geste = void (*)(Banc &);
@@ -519,19 +306,6 @@ void tst_DAssistantVies::detruitParLeTitre()
             [&banc] { delete banc->assistant; });
     geste(*banc);
     QVERIFY(!banc->assistant);
-}
-
-// Whoever listens to the title moves on: the step is left before it was entered.
-void tst_DAssistantVies::bougeParLeTitre()
-{
-    auto const banc = std::make_unique<Banc>(4, false);
-    connect(banc->assistant, &QWidget::windowTitleChanged, banc->assistant,
-            [&banc] { banc->assistant->PriseBoutonSuivant(); });
-    banc->assistant->show();
-    QCOMPARE(banc->pile->currentIndex(), 3);
-    QCOMPARE(banc->journal.filter(u"EntreDansEtape"_s), QStringList{u"3 EntreDansEtape"_s});
-    disconnect(banc->assistant, &QWidget::windowTitleChanged, nullptr, nullptr);
-    VerifieCoherence(*banc);
 }
 
 QTEST_MAIN(tst_DAssistantVies)

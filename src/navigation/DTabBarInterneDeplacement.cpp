@@ -74,13 +74,6 @@ void DTabBarInterne::mouseMoveEvent(QMouseEvent * evenement)
     QTabBar::mouseMoveEvent(evenement);
 }
 
-bool DTabBarInterne::event(QEvent * evenement)
-{
-    if (evenement->type() == QEvent::UngrabMouse)
-        AbandonneDeplacement();
-    return QTabBar::event(evenement);
-}
-
 // Installed on the application while a tab is outside: the keyboard focus is seldom here.
 bool DTabBarInterne::eventFilter(QObject * objet, QEvent * evenement)
 {
@@ -104,6 +97,8 @@ bool DTabBarInterne::MetFinAuDeplacement(QObject const * objet, QEvent const & e
 {
     auto const * const widget = qobject_cast<QWidget const *>(objet);
     switch (evenement.type()) {
+    case QEvent::UngrabMouse:
+        return objet == this;
     case QEvent::WindowBlocked:
         return objet == window() || objet == window()->windowHandle();
     case QEvent::Show:
@@ -150,11 +145,8 @@ void DTabBarInterne::TermineDeplacement()
 {
     if (!monDeplacementExterne)
         return;
-    monDeplacementExterne = false;
-    qApp->removeEventFilter(this);
-    RemetsInfobulle();
+    RemetsOnglet();
     VideCible();
-    monFantome->Cache();
 }
 
 // Nothing more happens outside before the next press.
@@ -179,8 +171,12 @@ void DTabBarInterne::AbandonneDeplacementQt()
     QTabBar::mouseReleaseEvent(&relache);
 }
 
-void DTabBarInterne::RemetsInfobulle()
+// As it was before it left the bar.
+void DTabBarInterne::RemetsOnglet()
 {
+    monDeplacementExterne = false;
+    qApp->removeEventFilter(this);
+    monFantome->Cache();
     if (!monInfobulleSauvee.isEmpty())
         setTabToolTip(monIndexDeplace, monInfobulleSauvee);
     monInfobulleSauvee.clear();
@@ -200,9 +196,13 @@ DTabBarInterne * DTabBarInterne::TrouveBarreSous(QPoint const & positionGlobale)
 
 void DTabBarInterne::VisePositionDans(DTabBarInterne & barre, QPoint const & positionGlobale)
 {
+    // Counted from the right where the tabs stand from right to left: "before" is there, and the
+    // scroll buttons are at the left.
+    Qt::LayoutDirection const sens = barre.layoutDirection();
+    QPoint const position = barre.mapFromGlobal(positionGlobale);
+    int const souris = QStyle::visualPos(sens, barre.rect(), position).x();
     int const nombre = barre.count();
     int largeur = barre.width();
-    int const souris = barre.mapFromGlobal(positionGlobale).x();
     // The hint is the width of all tabs: the right edge of the last one would not tell of the
     // scroll buttons once the bar is scrolled to its end.
     if (barre.sizeHint().width() > largeur) {
@@ -215,10 +215,10 @@ void DTabBarInterne::VisePositionDans(DTabBarInterne & barre, QPoint const & pos
     }
     if (maBarreCible != &barre)
         VideCible();
-    int index = barre.tabAt(barre.mapFromGlobal(positionGlobale));
+    int index = barre.tabAt(position);
     if (index == -1)
         index = nombre - 1;
-    QRect const rect = barre.tabRect(index);
+    QRect const rect = QStyle::visualRect(sens, barre.rect(), barre.tabRect(index));
     int x = rect.left();
     bool const premiereMoitie = std::abs(souris - x) < rect.width() / 2;
     if (x >= 0 && (premiereMoitie || rect.right() > largeur)) {
@@ -229,7 +229,7 @@ void DTabBarInterne::VisePositionDans(DTabBarInterne & barre, QPoint const & pos
         x -= x >= largeur || index == nombre ? 1 : 0;
     }
     monIndexCible = index;
-    barre.maPositionIndicateur = QPoint(x, 0);
+    barre.maPositionIndicateur = QStyle::visualPos(sens, barre.rect(), QPoint(x, 0));
     barre.update();
     maBarreCible = &barre;
 }
@@ -246,17 +246,19 @@ void DTabBarInterne::VideCible()
 
 void DTabBarInterne::Depose()
 {
-    QPointer<DTabBarInterne> const cible = maBarreCible;
-    int const index = monIndexDeplace;
-    int const indexCible = monIndexCible;
-    TermineDeplacement(); // first: receivers may do anything
+    RemetsOnglet(); // first: receivers may do anything
     monDeplacementPermis = false;
+    QPointer<DTabBarInterne> const moi(this);
     // A window that was closed without being destroyed takes nothing, nor does a bar keep the
     // places that it has lost since the last move of the mouse.
-    if (cible && cible->isVisible() && cible->monIdentifiantGroupe == monIdentifiantGroupe)
-        Q_EMIT SignalAjouteOngletBarreExterne(index, cible, std::min(indexCible, cible->count()));
+    if (maBarreCible && maBarreCible->isVisible() &&
+        maBarreCible->monIdentifiantGroupe == monIdentifiantGroupe)
+        Q_EMIT SignalAjouteOngletBarreExterne(monIndexDeplace, maBarreCible,
+                                              std::min(monIndexCible, maBarreCible->count()));
     else
         Q_EMIT SignalOngletNouvelleFenetre();
+    if (moi && !monDeplacementExterne) // a receiver that waits may have let the next one begin
+        VideCible();
 }
 
 // Qt cannot change the current tab while it moves one, and keeps neither index if others are

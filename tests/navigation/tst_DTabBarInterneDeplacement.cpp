@@ -40,11 +40,14 @@ private Q_SLOTS:
     void partSeulementDUneBonnePresse();
     void positionDansLaCible_data();
     void positionDansLaCible();
+    void positionDeDroiteAGauche_data();
+    void positionDeDroiteAGauche();
     void moitieEntiere_data();
     void moitieEntiere();
     void cibleSansOnglet();
     void boutonsDeDefilement_data();
     void boutonsDeDefilement();
+    void boutonsDeDefilementDeDroiteAGauche();
     void ongletCoupeAGauche();
     void ongletCoupeADroite();
     void ongletPlusLargeQueLaBarre();
@@ -194,6 +197,60 @@ void tst_DTabBarInterneDeplacement::positionDansLaCible()
     QCOMPARE(depot.barre, cible.barre);
     QCOMPARE(depot.position, position);
     QCOMPARE(cible.barre->DonnePositionIndicateur(), QPoint());
+}
+
+void tst_DTabBarInterneDeplacement::positionDeDroiteAGauche_data()
+{
+    QTest::addColumn<int>("x"); // from the right end of the target bar of three tabs of 100
+    QTest::addColumn<int>("position");
+    QTest::newRow("right half of the first tab") << 49 << 0;
+    QTest::newRow("left half of the first tab") << 51 << 1;
+    QTest::newRow("right half of the last tab") << 249 << 2;
+    QTest::newRow("left half of the last tab") << 251 << 3;
+}
+
+void tst_DTabBarInterneDeplacement::positionDeDroiteAGauche()
+{
+    QFETCH(int, x);
+    QFETCH(int, position);
+    RangeeDEssai source(3);
+    RangeeDEssai cible(3, "groupe", kPlaceCible);
+    cible.barre->MetsTailleOnglets(100);
+    cible.setLayoutDirection(Qt::RightToLeft);
+    source.Expose();
+    cible.Expose();
+    QSignalSpy espion(source.barre, &DTabBarInterne::SignalAjouteOngletBarreExterne);
+    int const fin = cible.barre->width();
+    QPoint const point = cible.barre->mapToGlobal(QPoint(fin - 1 - x, 10));
+
+    source.Presse(1);
+    source.Deplace(point);
+    int const indicateur = cible.barre->DonnePositionIndicateur().x();
+    QVERIFY(qAbs(indicateur - (fin - 100 * position)) <= 2); // at the edge, or beside it
+    source.Relache(point);
+
+    QCOMPARE(DonneDepot(espion).position, position);
+}
+
+void tst_DTabBarInterneDeplacement::boutonsDeDefilementDeDroiteAGauche()
+{
+    RangeeDEssai source(1);
+    RangeeDEssai cible(10, "groupe", kPlaceCible, 500);
+    cible.setLayoutDirection(Qt::RightToLeft);
+    cible.Expose();
+    source.Expose();
+    QSignalSpy espion(source.barre, &DTabBarInterne::SignalOngletNouvelleFenetre);
+    QPoint const surLeBouton = cible.barre->mapToGlobal(QPoint(6, 14));
+    QVERIFY(qobject_cast<QToolButton *>(QApplication::widgetAt(surLeBouton)));
+
+    source.Presse(0);
+    source.Deplace(cible.barre->mapToGlobal(QPoint(cible.barre->width() - 6, 14)));
+    QVERIFY(!cible.barre->DonnePositionIndicateur().isNull());
+    source.Deplace(surLeBouton);
+    QVERIFY(cible.barre->DonnePositionIndicateur().isNull());
+    source.Relache(surLeBouton);
+
+    QCOMPARE(espion.count(), 1);
 }
 
 void tst_DTabBarInterneDeplacement::moitieEntiere_data()

@@ -44,6 +44,9 @@ private Q_SLOTS:
     void tailleDesOngletsDefiles();
     void miseEnPagesDUneBarreCachee();
     void deDroiteAGauche();
+    void largeurDeDroiteAGauche_data();
+    void largeurDeDroiteAGauche();
+    void changementDeSens();
 };
 
 void tst_DTabBarInterneTailles::iconeLaisseLeTitreEntier()
@@ -280,6 +283,57 @@ void tst_DTabBarInterneTailles::deDroiteAGauche()
     QVERIFY(!source.barre->EstEnDeplacementExterne());
     QTest::keyClick(essai.barre, Qt::Key_Tab, Qt::ControlModifier);
     QCOMPARE(essai.barre->currentIndex(), 0);
+}
+
+void tst_DTabBarInterneTailles::largeurDeDroiteAGauche_data()
+{
+    largeurDuCadre_data();
+}
+
+// The mirror image of a bar from left to right, to the pixel.
+void tst_DTabBarInterneTailles::largeurDeDroiteAGauche()
+{
+    QFETCH(bool, montree);
+    QFETCH(int, nombre);
+    RangeeDEssai modele;
+    RangeeDEssai essai;
+    essai.setLayoutDirection(Qt::RightToLeft);
+    for (RangeeDEssai * const rangee : {&modele, &essai}) {
+        if (montree)
+            rangee->Expose();
+        for (int i = 0; i < nombre; ++i)
+            rangee->AjouteOnglet(u"Un titre de plus"_s);
+        rangee->barre->MetsIconeOnglet(0, DonneCarre(Qt::red));
+        rangee->Expose();
+        if (nombre == 3)
+            rangee->barre->setTabButton(1, QTabBar::RightSide, nullptr);
+        rangee->barre->AjusteLargeurTitre(1);
+    }
+
+    for (int i = 0; i < nombre; ++i) {
+        QWidget const & cadre = *essai.barre->tabButton(i, QTabBar::LeftSide);
+        QWidget const & voulu = *modele.barre->tabButton(i, QTabBar::LeftSide);
+        QCOMPARE(QStyle::visualRect(Qt::RightToLeft, essai.barre->rect(), cadre.geometry()),
+                 voulu.geometry());
+        QVERIFY(cadre.width() > 100);
+        QTRY_COMPARE(essai.PreteTitre(i)->width(), modele.PreteTitre(i)->width());
+    }
+}
+
+void tst_DTabBarInterneTailles::changementDeSens()
+{
+    RangeeDEssai essai(3);
+    essai.Expose();
+    QRect const avant = essai.barre->DonneInfos(2).cadre->geometry();
+
+    essai.setLayoutDirection(Qt::RightToLeft);
+    QTRY_COMPARE(QStyle::visualRect(Qt::RightToLeft, essai.barre->rect(),
+                                    essai.barre->DonneInfos(2).cadre->geometry()),
+                 avant);
+    QVERIFY(essai.barre->tabRect(2).contains(essai.barre->DonneInfos(2).cadre->geometry()));
+
+    essai.setLayoutDirection(Qt::LeftToRight);
+    QTRY_COMPARE(essai.barre->DonneInfos(2).cadre->geometry(), avant);
 }
 
 QTEST_MAIN(tst_DTabBarInterneTailles)

@@ -121,8 +121,6 @@ private:
     void AjouteBoutonFermeture(int index);
     void RetireDeLaPile(QWidget * page);
     void RetireDeLaBarre(int index);
-    QWidget * RemplacePage(int index);
-    void RetireRemplacant(QWidget * remplacant);
     void MontreActif(int index, bool actif);
     void GriseTitresNeufs(int indexActif);
     void Publie(Annonce const & annonce);
@@ -136,7 +134,7 @@ private:
     int monNombreWidgetsCommuns = 0;
 
     QList<QPointer<QWidget>> mesPagesNeuves; // whose titles have the colour that they began with
-    QList<Annonce> mesAnnonces;              // held back while Qt's tab bar is amid a change
+    QList<Annonce> mesAnnonces;              // held back amid a change
     int mesRetenues = 0;
     int mesEmissions = 0;           // signals that are being delivered
     bool monRetraitEnCours = false; // a page leaves the pile by our own hand

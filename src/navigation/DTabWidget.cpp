@@ -43,7 +43,6 @@ DTabWidget::~DTabWidget()
     // Their deletion by the base tells of changes, which nobody is left to follow.
     PreteBarreInterne()->disconnect(this);
     maPile->disconnect(this);
-    PreteBarreInterne()->removeEventFilter(this);
 
     // Destroyed by a receiver of a signal: functions of Qt's bar and of its buttons may be running,
     // which need them until they return.
@@ -378,15 +377,16 @@ void DTabWidget::MontreActif(int index, bool actif)
     if (index < 0)
         return;
     DTabBarInterne & barre = *PreteBarreInterne();
-    auto * const bouton = qobject_cast<QToolButton *>(barre.tabButton(index, QTabBar::RightSide));
-    if (bouton || !actif)
+    QWidget * const droite = barre.tabButton(index, QTabBar::RightSide);
+    if (droite || !actif)
         barre.MetsCouleurTitre(index, actif);
-    if (!bouton)
+    if (!droite)
         return;
-    bouton->setProperty("selectionnay", actif);
-    bouton->style()->unpolish(bouton);
-    bouton->style()->polish(bouton);
-    if (actif)
+    droite->setProperty("selectionnay", actif);
+    droite->style()->unpolish(droite);
+    droite->style()->polish(droite);
+    auto * const bouton = qobject_cast<QToolButton *>(droite);
+    if (bouton && actif)
         bouton->setIcon(monIconeFermeture);
 }
 

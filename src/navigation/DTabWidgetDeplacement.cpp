@@ -92,6 +92,8 @@ void DTabWidget::PriseNouvelleFenetreOngletExistant()
 
 void DTabWidget::PriseOngletDeplacay(int de, int vers)
 {
+    if (!maPile->widget(de) || !maPile->widget(vers))
+        return;
     {
         QSignalBlocker const silence(maPile);
         DeplacePage(*maPile, de, vers);

@@ -40,7 +40,7 @@ DTabWidget::DTabWidget(QWidget * parent, QString identifiantGroupe)
 
 DTabWidget::~DTabWidget()
 {
-    // Their deletion by the base tells of changes, which nobody is left to follow.
+    // A host that hears of the destruction by `destroyed` may still take pages and tabs away.
     PreteBarreInterne()->disconnect(this);
     maPile->disconnect(this);
 
@@ -229,14 +229,14 @@ void DTabWidget::changeEvent(QEvent * evenement)
     }
 }
 
-bool DTabWidget::eventFilter(QObject * objet, QEvent * evenement)
+bool DTabWidget::eventFilter(QObject * barre, QEvent * evenement)
 {
-    if (evenement->type() != QEvent::MouseMove || objet != PreteBarreInterne())
-        return QFrame::eventFilter(objet, evenement);
+    if (evenement->type() != QEvent::MouseMove)
+        return QFrame::eventFilter(barre, evenement);
     // While it moves a tab with the mouse, Qt's bar does not stand the removal of another: hosts
     // hear of the move when the event is over.
     ++mesRetenues;
-    objet->event(evenement);
+    barre->event(evenement);
     --mesRetenues;
     Diffuse();
     return true;

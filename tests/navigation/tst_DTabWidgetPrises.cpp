@@ -28,6 +28,7 @@ class tst_DTabWidgetPrises : public QObject
 private Q_SLOTS:
     void cleanup();
     void changement();
+    void laPageAvantLOnglet();
     void boutonDeLHote();
     void deplacement_data();
     void deplacement();
@@ -60,6 +61,22 @@ void tst_DTabWidgetPrises::changement()
         QVERIFY(!Fermeture(onglets, 2)->property("selectionnay").isValid());
         QCOMPARE(journal.Prends(), QStringList(u"x courant 1"_s));
     }
+}
+
+void tst_DTabWidgetPrises::laPageAvantLOnglet()
+{
+    DTabWidget onglets(nullptr, {});
+    Remplis(onglets, u"a b"_s);
+    QStringList vus;
+    connect(&Pile(onglets), &QStackedWidget::currentChanged, this, [&](int index) {
+        vus.append(u"pile %1, barre %2"_s.arg(index).arg(onglets.DonneIndexCourant()));
+    });
+    connect(&onglets, &DTabWidget::SignalOngletCourantChangay, this,
+            [&](int index) { vus.append(u"widget %1"_s.arg(index)); });
+    connect(&Barre(onglets), &QTabBar::currentChanged, this,
+            [&](int index) { vus.append(u"barre %1"_s.arg(index)); });
+    onglets.MetsIndexCourant(1);
+    QCOMPARE(vus, (QStringList{u"pile 1, barre 0"_s, u"widget 1"_s, u"barre 1"_s}));
 }
 
 // Whatever a host has put in the place of the close button.

@@ -241,6 +241,7 @@ private Q_SLOTS:
     void receveurs_data();
     void receveurs();
     void fenetreDetruitePendantLeSignal();
+    void hoteQuiRangeALaDestruction();
     void tousLesMouvementsSontDits();
 };
 
@@ -291,6 +292,25 @@ void tst_DTabWidgetVies::fenetreDetruitePendantLeSignal()
     connect(onglets, &DTabWidget::SignalOngletCourantChangay, this, [fenetre] { delete fenetre; });
     QTest::mousePress(&Barre(*onglets), Qt::LeftButton, {}, Barre(*onglets).tabRect(1).center());
     QVERIFY(!page);
+}
+
+// Bar and pile live until then, but are no longer kept in step.
+void tst_DTabWidgetVies::hoteQuiRangeALaDestruction()
+{
+    auto * const onglets = new DTabWidget(nullptr, {});
+    Remplis(*onglets, u"a b c"_s);
+    DTabBarInterne & barre = Barre(*onglets);
+    QStackedWidget & pile = Pile(*onglets);
+    bool range = false;
+    connect(onglets, &QObject::destroyed, this, [&] {
+        delete pile.widget(0);
+        QCOMPARE(barre.count(), 3);
+        barre.setCurrentIndex(2);
+        QCOMPARE(pile.currentIndex(), 0);
+        range = true;
+    });
+    delete onglets;
+    QVERIFY(range);
 }
 
 // One event of the mouse may move a tab by several places.

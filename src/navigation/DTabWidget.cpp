@@ -86,7 +86,7 @@ void DTabWidget::RetireOnglet(int index)
 
 void DTabWidget::AjouteWidgetCommun(QWidget * widget)
 {
-    if (!widget)
+    if (!widget || Contient(widget, this))
         return;
     // One that the host has deleted since is counted, but has no place any more.
     monLayout->removeWidget(widget);
@@ -238,6 +238,14 @@ DTabWidget * DTabWidget::TrouveDepuis(QWidget * widget)
     while (widget && !qobject_cast<DTabWidget *>(widget))
         widget = widget->parentWidget();
     return static_cast<DTabWidget *>(widget);
+}
+
+// Also by way of another window, such as a dialog of the page, which `isAncestorOf` does not see.
+bool DTabWidget::Contient(QWidget const * page, QWidget const * widget)
+{
+    while (widget && widget != page)
+        widget = widget->parentWidget();
+    return widget;
 }
 
 void DTabWidget::Branche()

@@ -114,6 +114,7 @@ private:
     };
 
     static DTabWidget * TrouveDepuis(QWidget * widget);
+    static bool Contient(QWidget const * page, QWidget const * widget);
 
     DTabBarInterne * PreteBarreInterne() const;
     void Branche();
@@ -133,7 +134,7 @@ private:
     QIcon monIconeFermeture;
     int monNombreWidgetsCommuns = 0;
 
-    QList<QPointer<QWidget>> mesPagesNeuves; // whose titles have the colour that they began with
+    QList<QPointer<QWidget>> mesPagesNeuves; // since the last change of tab; some may have gone
     QList<Annonce> mesAnnonces;              // held back amid a change
     int mesRetenues = 0;
     int mesEmissions = 0;           // signals that are being delivered

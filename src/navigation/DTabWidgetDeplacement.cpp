@@ -33,7 +33,7 @@ void DeplacePage(QStackedWidget & pile, int de, int vers)
 bool DTabWidget::EnvoieOnglet(int index, DTabWidget * cible, int position)
 {
     QWidget const * const page = maPile->widget(index);
-    if (!page || !cible || cible == this || page == cible || page->isAncestorOf(cible))
+    if (!page || !cible || cible == this || Contient(page, cible))
         return false;
     DTabBarInterne & barre = *cible->PreteBarreInterne();
     if (barre.DonneIdentifiantGroupe() != PreteBarreInterne()->DonneIdentifiantGroupe())
@@ -57,7 +57,7 @@ void DTabWidget::PriseDeplaceOngletVersBarreExterne(int index, QWidget * barre, 
 {
     QPointer<DTabWidget> const cible(TrouveDepuis(barre));
     QWidget * const page = maPile->widget(index);
-    if (!cible || cible == this || !page || page == cible || page->isAncestorOf(cible))
+    if (!cible || cible == this || !page || Contient(page, cible))
         return;
     auto const infos = PreteBarreInterne()->DonneInfos(index);
     // Hosts hear of it when bar and pages are in step again on both sides.

@@ -62,7 +62,7 @@ void DTabWidget::PrisePageRetiree(int index)
 // The index of the new tab; -1 when there is none, and when this is gone.
 int DTabWidget::PoseOnglet(QWidget * page, int position)
 {
-    if (!page || page == maPile || page->isAncestorOf(maPile))
+    if (!page || Contient(page, maPile))
         return -1;
     QPointer<DTabWidget> const vivant(this);
     QPointer<QWidget> const pageVivante(page);
@@ -80,10 +80,8 @@ int DTabWidget::PoseOnglet(QWidget * page, int position)
     if (index <= monIndexPrecedent && DonneTotalOnglet() > 1)
         ++monIndexPrecedent;
     mesPagesNeuves.append(pageVivante);
-    if (mesPagesNeuves.size() > DonneTotalOnglet()) // some have gone again
-        mesPagesNeuves.removeIf([this](auto const & neuve) { return maPile->indexOf(neuve) < 0; });
     Diffuse();
-    return vivant && pageVivante ? maPile->indexOf(page) : -1;
+    return vivant ? maPile->indexOf(pageVivante) : -1;
 }
 
 void DTabWidget::RetireDeLaPile(QWidget * page)
@@ -110,6 +108,7 @@ void DTabWidget::MontreActif(int index, bool actif)
         return;
     DTabBarInterne & barre = *PreteBarreInterne();
     QWidget * const droite = barre.tabButton(index, QTabBar::RightSide);
+    // Deliberate: a tab without anything there is not drawn as the active one.
     if (droite || !actif)
         barre.MetsCouleurTitre(index, actif);
     if (!droite)
@@ -128,7 +127,7 @@ void DTabWidget::GriseTitresNeufs(int indexActif)
 {
     for (QPointer<QWidget> const & page : std::exchange(mesPagesNeuves, {})) {
         int const index = maPile->indexOf(page);
-        if (index >= 0 && index != indexActif)
+        if (index != indexActif)
             PreteBarreInterne()->MetsCouleurTitre(index, false);
     }
 }

@@ -216,6 +216,10 @@ void tst_DTabWidget::pageQuiContientLeWidget()
     QCOMPARE(onglets.AjouteOnglet(&fenetre, u"x"_s), -1);
     QCOMPARE(onglets.AjouteOnglet(&onglets, u"x"_s), -1);
     QCOMPARE(onglets.AjouteOnglet(&Pile(onglets), u"x"_s), -1);
+    onglets.AjouteWidgetCommun(&fenetre);
+    QCOMPARE(onglets.layout()->count(), 2);
+    onglets.setWindowFlag(Qt::Dialog); // in another window, of which that one is the parent
+    QCOMPARE(onglets.AjouteOnglet(&fenetre, u"x"_s), -1);
     QCOMPARE(onglets.DonneTotalOnglet(), 0);
 }
 

@@ -93,6 +93,11 @@ void tst_DTabWidgetPrises::boutonDeLHote()
     onglets.MetsIndexCourant(2);
     QCOMPARE(etiquette->property("selectionnay"), QVariant(false));
     QCOMPARE(Couleurs(onglets), u"ggg"_s); // only a tab with one takes the active colour
+    onglets.MetsIndexCourant(0);
+    Barre(onglets).setTabButton(0, QTabBar::RightSide, nullptr);
+    QCOMPARE(Couleurs(onglets), u"Agg"_s);
+    onglets.MetsIndexCourant(1);
+    QCOMPARE(Couleurs(onglets), u"gAg"_s); // but any loses it
 }
 
 void tst_DTabWidgetPrises::deplacement_data()

@@ -241,6 +241,7 @@ private Q_SLOTS:
     void receveurs_data();
     void receveurs();
     void fenetreDetruitePendantLeSignal();
+    void receveurQuiInsereAvantLePremier();
     void hoteQuiRangeALaDestruction();
     void tousLesMouvementsSontDits();
 };
@@ -292,6 +293,22 @@ void tst_DTabWidgetVies::fenetreDetruitePendantLeSignal()
     connect(onglets, &DTabWidget::SignalOngletCourantChangay, this, [fenetre] { delete fenetre; });
     QTest::mousePress(&Barre(*onglets), Qt::LeftButton, {}, Barre(*onglets).tabRect(1).center());
     QVERIFY(!page);
+}
+
+// What follows the tab that is being added goes to that one.
+void tst_DTabWidgetVies::receveurQuiInsereAvantLePremier()
+{
+    DTabWidget onglets(nullptr, {});
+    connect(&onglets, &DTabWidget::SignalOngletCourantChangay, this, [&] {
+        if (onglets.DonneTotalOnglet() == 1)
+            onglets.InsereOnglet(Page(u"x"_s), 0, u"x"_s);
+    });
+    QCOMPARE(onglets.AjouteOnglet(Page(u"a"_s), u"a"_s), 1);
+    QCOMPARE(Titres(onglets), u"x a"_s);
+    onglets.MetsIndexCourant(0);
+    QCOMPARE(Fermeture(onglets, 0)->property("selectionnay"), QVariant(true));
+    QCOMPARE(Fermeture(onglets, 1)->property("selectionnay"), QVariant(false));
+    QCOMPARE(Couleurs(onglets), u"Ag"_s);
 }
 
 // Bar and pile live until then, but are no longer kept in step.

@@ -301,11 +301,8 @@ void DTabBarInterne::initStyleOption(QStyleOptionTab * option, int index) const
     }
     // Qt asks for every tab at each insertion and at each button, though only one is new. What the
     // places of the buttons depend on is a small part of the option.
-    option->state = index == currentIndex() ? QStyle::State_Selected : QStyle::State_None;
     option->direction = layoutDirection();
     option->rect = tabRect(index);
-    option->shape = shape();
-    option->tabIndex = index;
     if (QWidget const * const gauche = tabButton(index, LeftSide))
         option->leftButtonSize = gauche->size();
     if (QWidget const * const droite = tabButton(index, RightSide))

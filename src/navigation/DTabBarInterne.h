@@ -150,8 +150,6 @@ private:
     QSize maTailleIcone{20, 20};
     std::unique_ptr<FantomeOnglet> const monFantome;
     bool monDeplacementPermis = true;  // from the press on a tab to the end of its drag
-    bool monOngletPressay = false;     // `monIndexDeplace` is that of a press
-    bool monBoutonEnfoncay = false;    // Qt may be moving a tab of its own accord
     bool monLayoutEstSommaire = false; // its positions serve until the bar is shown
 };
 

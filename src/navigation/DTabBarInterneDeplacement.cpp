@@ -30,17 +30,14 @@ int SuisDeplacement(int index, int de, int vers)
 void DTabBarInterne::mousePressEvent(QMouseEvent * evenement)
 {
     bool const gauche = evenement->button() == Qt::LeftButton;
-    if (gauche) {
-        TermineDeplacement(); // its release went astray
-        monBoutonEnfoncay = true;
-    }
+    if (gauche)
+        TermineDeplacement();    // its release went astray
     if (monDeplacementExterne) { // another button, while a tab is outside
         QTabBar::mousePressEvent(evenement);
         return;
     }
     // Before the base: its receivers may change the tabs, and the bar may scroll.
     monIndexDeplace = tabAt(evenement->position().toPoint());
-    monOngletPressay = monIndexDeplace >= 0;
     QPointer<DTabBarInterne> const moi(this);
     QTabBar::mousePressEvent(evenement);
     // A disabled tab is not made current, but the picture and the new window are of that one.
@@ -58,8 +55,6 @@ void DTabBarInterne::mouseReleaseEvent(QMouseEvent * evenement)
         Depose();
     if (!moi)
         return;
-    if (evenement->button() == Qt::LeftButton)
-        monBoutonEnfoncay = false;
     QTabBar::mouseReleaseEvent(evenement);
 }
 
@@ -100,11 +95,13 @@ bool DTabBarInterne::MetFinAuDeplacement(QObject const * objet, QEvent const & e
     case QEvent::UngrabMouse:
         return objet == this;
     case QEvent::WindowBlocked:
-        return objet == window() || objet == window()->windowHandle();
+        return objet == window();
     case QEvent::Show:
         return widget && widget->windowType() == Qt::Popup;
     case QEvent::MouseButtonPress:
     case QEvent::MouseButtonRelease:
+        // A tab's frame passes on to this bar what it gets, and this bar what it ignores to its
+        // parents.
         return widget && evenement.spontaneous() && widget != this && !isAncestorOf(widget) &&
                !widget->isAncestorOf(this);
     default:
@@ -137,7 +134,6 @@ void DTabBarInterne::CommenceDeplacement()
     if (monDeplacementExterne)
         return;
     monDeplacementExterne = true;
-    monOngletPressay = true;
     qApp->installEventFilter(this);
 }
 
@@ -152,19 +148,14 @@ void DTabBarInterne::TermineDeplacement()
 // Nothing more happens outside before the next press.
 void DTabBarInterne::AbandonneDeplacement()
 {
-    if (!monDeplacementExterne && !monBoutonEnfoncay)
-        return;
     TermineDeplacement();
     monDeplacementPermis = false;
     AbandonneDeplacementQt();
 }
 
-// Ends the move inside the row that Qt has begun: only the release of the button tells it to.
+// Ends the move inside the row that Qt may have begun: only the release of the button tells it to.
 void DTabBarInterne::AbandonneDeplacementQt()
 {
-    if (!monBoutonEnfoncay)
-        return;
-    monBoutonEnfoncay = false;
     QPoint const dehors(-1, -1);
     QMouseEvent relache(QEvent::MouseButtonRelease, dehors, mapToGlobal(dehors), Qt::LeftButton,
                         Qt::NoButton, Qt::NoModifier);
@@ -251,8 +242,7 @@ void DTabBarInterne::Depose()
     QPointer<DTabBarInterne> const moi(this);
     // A window that was closed without being destroyed takes nothing, nor does a bar keep the
     // places that it has lost since the last move of the mouse.
-    if (maBarreCible && maBarreCible->isVisible() &&
-        maBarreCible->monIdentifiantGroupe == monIdentifiantGroupe)
+    if (maBarreCible && maBarreCible->isVisible())
         Q_EMIT SignalAjouteOngletBarreExterne(monIndexDeplace, maBarreCible,
                                               std::min(monIndexCible, maBarreCible->count()));
     else
@@ -273,7 +263,7 @@ void DTabBarInterne::removeTab(int index)
 void DTabBarInterne::tabInserted(int index)
 {
     QTabBar::tabInserted(index);
-    if (!monOngletPressay || index > monIndexDeplace)
+    if (index > monIndexDeplace || count() == 1) // the first tab moves no other
         return;
     AbandonneDeplacementQt(); // Qt does not keep the tab that it moves
     ++monIndexDeplace;
@@ -286,13 +276,9 @@ void DTabBarInterne::tabRemoved(int index)
         AbandonneDeplacementQt();
     if (currentIndex() < 0) // see `removeTab`, which a host may have called by its base
         setCurrentIndex(std::min(index, count() - 1));
-    if (!monOngletPressay)
-        return;
     if (index == monIndexDeplace) {
         monInfobulleSauvee.clear(); // it went with the tab
         TermineDeplacement();
-        monDeplacementPermis = false;
-        monOngletPressay = false;
         monIndexDeplace = -1;
     } else if (index < monIndexDeplace) {
         --monIndexDeplace;

@@ -23,6 +23,19 @@ Depot DonneDepot(QSignalSpy const & espion)
     return {arguments.at(0).toInt(), arguments.at(1).value<QWidget *>(), arguments.at(2).toInt()};
 }
 
+class CompteurDePeintures : public QObject
+{
+public:
+    int nombre = 0;
+
+protected:
+    bool eventFilter(QObject *, QEvent * evenement) override
+    {
+        nombre += evenement->type() == QEvent::Paint;
+        return false;
+    }
+};
+
 } // namespace
 
 class tst_DTabBarInterneDeplacement : public QObject
@@ -36,6 +49,8 @@ private Q_SLOTS:
     void limitesDeLaBarre_data();
     void limitesDeLaBarre();
     void sansPresseLePremierOngletPart();
+    void sansOngletRienNePart();
+    void cibleRedessinee();
     void partSeulementDUneBonnePresse_data();
     void partSeulementDUneBonnePresse();
     void positionDansLaCible_data();
@@ -121,6 +136,37 @@ void tst_DTabBarInterneDeplacement::sansPresseLePremierOngletPart()
     QVERIFY(source.barre->EstEnDeplacementExterne());
     QCOMPARE(source.barre->tabToolTip(0), QString());
     QCOMPARE(source.barre->tabToolTip(2), u"Infobulle de Onglet 2"_s);
+}
+
+void tst_DTabBarInterneDeplacement::sansOngletRienNePart()
+{
+    RangeeDEssai source;
+    source.Expose();
+
+    source.Deplace(source.DonneAuDessous());
+
+    QVERIFY(!source.barre->EstEnDeplacementExterne());
+}
+
+// Once when a tab is over it, once when that one has gone: for hosts that draw the place.
+void tst_DTabBarInterneDeplacement::cibleRedessinee()
+{
+    RangeeDEssai source(2);
+    RangeeDEssai cible(2, "groupe", kPlaceCible);
+    source.Expose();
+    cible.Expose();
+    CompteurDePeintures compteur;
+    cible.barre->installEventFilter(&compteur);
+    source.Presse(1);
+    QCoreApplication::processEvents();
+    int avant = compteur.nombre;
+
+    source.Deplace(cible.DonnePoint(1));
+    QTRY_VERIFY(compteur.nombre > avant);
+    QCoreApplication::processEvents();
+    avant = compteur.nombre;
+    source.Deplace(source.DonneAuDessous());
+    QTRY_VERIFY(compteur.nombre > avant);
 }
 
 void tst_DTabBarInterneDeplacement::partSeulementDUneBonnePresse_data()

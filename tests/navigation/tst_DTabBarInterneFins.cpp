@@ -27,6 +27,9 @@ private Q_SLOTS:
     void permissionRetiree();
     void deplacementDansLaRangeePuisDehors();
     void autrePressePendantLeDeplacement();
+    void autrePresseDeLaSouris();
+    void dialogueSurUneAutreFenetre();
+    void receveurQuiRecommence();
     void presseGauchePerdue();
     void boutonDuMilieu();
     void boutonDuMilieuPendantLeDeplacement();
@@ -304,6 +307,43 @@ void tst_DTabBarInterneFins::autrePressePendantLeDeplacement()
     QCOMPARE(scene.depots.count(), 1);
     QCOMPARE(scene.depots.at(0).at(0).toInt(), 1);
     QCOMPARE(scene.source.DonneInfobulles(), scene.infobulles);
+}
+
+// As the mouse itself sends it: the bar ignores it, and it goes on to the parents.
+void tst_DTabBarInterneFins::autrePresseDeLaSouris()
+{
+    Scene scene;
+    QPoint const point = scene.source.barre->mapFromGlobal(scene.cible->DonnePoint(1));
+
+    QTest::mousePress(scene.source.barre, Qt::RightButton, {}, point);
+
+    QVERIFY(scene.EstEnCours());
+    QTest::mouseRelease(scene.source.barre, Qt::RightButton, {}, point);
+}
+
+void tst_DTabBarInterneFins::dialogueSurUneAutreFenetre()
+{
+    Scene scene;
+    QDialog dialogue(scene.cible.get());
+
+    dialogue.open(); // which blocks only that window
+
+    QVERIFY(scene.EstEnCours());
+}
+
+void tst_DTabBarInterneFins::receveurQuiRecommence()
+{
+    Scene scene;
+    QPoint const point = scene.cible->DonnePoint(2);
+    connect(scene.source.barre, &DTabBarInterne::SignalOngletNouvelleFenetre, &scene.source, [&] {
+        scene.source.Presse(0);
+        scene.source.Deplace(point);
+    });
+
+    scene.source.Deplace(scene.source.DonneAuDessous());
+    scene.source.Relache(scene.source.DonneAuDessous());
+
+    QVERIFY(scene.EstEnCours()); // the second one has kept its target
 }
 
 void tst_DTabBarInterneFins::presseGauchePerdue()

@@ -43,11 +43,12 @@ public:
 enum class Facon
 {
     kQTest,
+    kCadre, // to the frame of the tab, which Qt finds under the mouse
     kEvenements,
     kSansBouton // the moves do not tell of the button
 };
 
-/// A mouse in the coordinates of the screen, which always tells the bar that was pressed.
+/// A mouse that always tells the widget that was pressed.
 class Souris
 {
 public:
@@ -60,16 +61,19 @@ public:
 
     void Presse(QPoint const & point)
     {
-        if (maFacon == Facon::kQTest)
-            QTest::mousePress(&maBarre, Qt::LeftButton, {}, point);
+        if (maFacon == Facon::kCadre)
+            monRecepteur = maBarre.tabButton(maBarre.tabAt(point), QTabBar::LeftSide);
+        if (ParQTest())
+            QTest::mousePress(monRecepteur, Qt::LeftButton, {},
+                              monRecepteur->mapFrom(&maBarre, point));
         else
             Envoie(QEvent::MouseButtonPress, point, Qt::LeftButton, Qt::LeftButton);
     }
     void Deplace(QPoint const & global)
     {
         QPoint const point = maBarre.mapFromGlobal(global);
-        if (maFacon == Facon::kQTest)
-            QTest::mouseMove(&maBarre, point);
+        if (ParQTest())
+            QTest::mouseMove(monRecepteur, monRecepteur->mapFrom(&maBarre, point));
         else
             Envoie(QEvent::MouseMove, point, Qt::NoButton,
                    maFacon == Facon::kSansBouton ? Qt::NoButton : Qt::LeftButton);
@@ -77,13 +81,15 @@ public:
     void Relache(QPoint const & global)
     {
         QPoint const point = maBarre.mapFromGlobal(global);
-        if (maFacon == Facon::kQTest)
-            QTest::mouseRelease(&maBarre, Qt::LeftButton, {}, point);
+        if (ParQTest())
+            QTest::mouseRelease(monRecepteur, Qt::LeftButton, {},
+                                monRecepteur->mapFrom(&maBarre, point));
         else
             Envoie(QEvent::MouseButtonRelease, point, Qt::LeftButton, Qt::NoButton);
     }
 
 private:
+    bool ParQTest() const { return maFacon == Facon::kQTest || maFacon == Facon::kCadre; }
     void Envoie(QEvent::Type type, QPoint const & point, Qt::MouseButton bouton,
                 Qt::MouseButtons enfonces)
     {
@@ -94,6 +100,7 @@ private:
 
     DTabBarInterne & maBarre;
     Facon maFacon;
+    QWidget * monRecepteur = &maBarre;
 };
 
 QWidget * TrouveImage()
@@ -132,6 +139,7 @@ private:
     {
         QTest::addColumn<int>("facon");
         QTest::newRow("QTest") << int(Facon::kQTest);
+        QTest::newRow("QTest, to the frame") << int(Facon::kCadre);
         QTest::newRow("hand-made events") << int(Facon::kEvenements);
         QTest::newRow("moves without buttons") << int(Facon::kSansBouton);
     }

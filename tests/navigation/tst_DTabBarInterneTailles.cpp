@@ -36,6 +36,8 @@ private Q_SLOTS:
     void largeurDuCadre_data();
     void largeurDuCadre();
     void largeurSansBoutonDroit();
+    void largeurSuitLeBoutonDroit();
+    void largeurDUneBarreMontreeApres_data();
     void largeurDUneBarreMontreeApres();
     void largeurSuitLeStyle();
     void tailleDesOnglets_data();
@@ -83,6 +85,11 @@ void tst_DTabBarInterneTailles::tailleIcone()
     QVERIFY(essai.barre->DonneInfos(1).etiquetteIcone->isHidden());
     essai.AjouteOnglet(u"Neuf"_s);
     QCOMPARE(essai.barre->DonneInfos(2).etiquetteIcone->size(), QSize(12, 14));
+
+    essai.barre->MetsTailleIcone(QSize(60, 20)); // at the expense of the title
+    DTabBarInterne::InfosOnglet const infos = essai.barre->DonneInfos(0);
+    QTRY_COMPARE(infos.etiquetteIcone->width(), 60);
+    QTRY_VERIFY(infos.etiquetteTitre->geometry().right() < infos.cadre->width());
 }
 
 void tst_DTabBarInterneTailles::largeurDuCadre_data()
@@ -132,16 +139,43 @@ void tst_DTabBarInterneTailles::largeurSansBoutonDroit()
     }
 }
 
+void tst_DTabBarInterneTailles::largeurSuitLeBoutonDroit()
+{
+    RangeeDEssai essai(2);
+    essai.Expose();
+    int const avant = essai.barre->DonneInfos(0).cadre->width();
+    auto * const bouton = new QToolButton;
+    bouton->setFixedSize(70, 16);
+
+    essai.barre->setTabButton(0, QTabBar::RightSide, bouton);
+
+    DTabBarInterne::InfosOnglet const infos = essai.barre->DonneInfos(0);
+    QCOMPARE(infos.cadre->width(), DonnePlace(*essai.barre, 0));
+    QVERIFY(infos.cadre->width() < avant);
+    QVERIFY(infos.etiquetteTitre->width() <= infos.cadre->width());
+}
+
+void tst_DTabBarInterneTailles::largeurDUneBarreMontreeApres_data()
+{
+    QTest::addColumn<Qt::LayoutDirection>("sens");
+    QTest::newRow("left to right") << Qt::LeftToRight;
+    QTest::newRow("right to left") << Qt::RightToLeft;
+}
+
 void tst_DTabBarInterneTailles::largeurDUneBarreMontreeApres()
 {
+    QFETCH(Qt::LayoutDirection, sens);
     RangeeDEssai essai;
+    essai.setLayoutDirection(sens);
     int const index = essai.barre->addTab(QString());
     essai.barre->CreeCadreOnglet(index);
     essai.barre->MetsTitreOnglet(index, "Sans bouton de fermeture");
 
     essai.Expose();
 
-    QWidget const & cadre = *essai.barre->DonneInfos(0).cadre;
+    QRect const cadre =
+        QStyle::visualRect(sens, essai.barre->rect(), essai.barre->DonneInfos(0).cadre->geometry());
+    QVERIFY(cadre.x() < 30); // at the beginning of the tab
     QCOMPARE(cadre.x() + cadre.width(), 185 - 15);
 }
 
@@ -182,6 +216,7 @@ void tst_DTabBarInterneTailles::tailleDesOnglets()
     for (int i = 0; i < 3; ++i) {
         QCOMPARE(essai.barre->tabRect(i).width(), voulue);
         QVERIFY(essai.barre->DonneInfos(i).cadre->width() >= 0);
+        QVERIFY(essai.PreteTitre(i)->width() <= std::max(voulue - 66, 0));
     }
 }
 
@@ -304,6 +339,7 @@ void tst_DTabBarInterneTailles::largeurDeDroiteAGauche()
         for (int i = 0; i < nombre; ++i)
             rangee->AjouteOnglet(u"Un titre de plus"_s);
         rangee->barre->MetsIconeOnglet(0, DonneCarre(Qt::red));
+        QVERIFY(rangee->barre->DonneInfos(nombre - 1).cadre->width() > 100);
         rangee->Expose();
         if (nombre == 3)
             rangee->barre->setTabButton(1, QTabBar::RightSide, nullptr);

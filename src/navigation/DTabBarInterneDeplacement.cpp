@@ -100,10 +100,8 @@ bool DTabBarInterne::MetFinAuDeplacement(QObject const * objet, QEvent const & e
         return widget && widget->windowType() == Qt::Popup;
     case QEvent::MouseButtonPress:
     case QEvent::MouseButtonRelease:
-        // A tab's frame passes on to this bar what it gets, and this bar what it ignores to its
-        // parents.
-        return widget && evenement.spontaneous() && widget != this && !isAncestorOf(widget) &&
-               !widget->isAncestorOf(this);
+        // A tab's frame passes on to this bar what it gets.
+        return widget && evenement.spontaneous() && !isAncestorOf(widget);
     default:
         return false;
     }

@@ -158,12 +158,17 @@ void tst_DTabBarInterneDeplacement::cibleRedessinee()
     CompteurDePeintures compteur;
     cible.barre->installEventFilter(&compteur);
     source.Presse(1);
-    QCoreApplication::processEvents();
+    auto const calme = [&compteur] { // no painting is due
+        int const nombre = compteur.nombre;
+        QCoreApplication::processEvents();
+        return compteur.nombre == nombre;
+    };
+    QVERIFY(QTest::qWaitFor(calme));
     int avant = compteur.nombre;
 
     source.Deplace(cible.DonnePoint(1));
     QTRY_VERIFY(compteur.nombre > avant);
-    QCoreApplication::processEvents();
+    QVERIFY(QTest::qWaitFor(calme));
     avant = compteur.nombre;
     source.Deplace(source.DonneAuDessous());
     QTRY_VERIFY(compteur.nombre > avant);

@@ -89,7 +89,8 @@ void tst_DTabBarInterneTailles::tailleIcone()
     essai.barre->MetsTailleIcone(QSize(60, 20)); // at the expense of the title
     DTabBarInterne::InfosOnglet const infos = essai.barre->DonneInfos(0);
     QTRY_COMPARE(infos.etiquetteIcone->width(), 60);
-    QTRY_VERIFY(infos.etiquetteTitre->geometry().right() < infos.cadre->width());
+    QCOMPARE(infos.etiquetteTitre->width(),
+             infos.cadre->width() - 60 - 5 - infos.cadre->layout()->spacing());
 }
 
 void tst_DTabBarInterneTailles::largeurDuCadre_data()

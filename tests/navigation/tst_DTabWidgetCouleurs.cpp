@@ -113,6 +113,10 @@ void tst_DTabWidgetCouleurs::ongletNeufTantQueLActifNeChangePas()
     QCOMPARE(Couleurs(onglets), u"gAAA"_s);
     Barre(onglets).moveTab(2, 1); // and back
     QCOMPARE(Couleurs(onglets), u"gAAA"_s);
+    Barre(onglets).moveTab(2, 0); // the active one itself
+    QCOMPARE(Couleurs(onglets), u"AgAA"_s);
+    Barre(onglets).moveTab(0, 2);
+    QCOMPARE(Couleurs(onglets), u"gAAA"_s);
     QVERIFY(!Fermeture(onglets, 1)->property("selectionnay").isValid());
     QVERIFY(!Fermeture(onglets, 3)->property("selectionnay").isValid());
     onglets.MetsIndexCourant(0);

@@ -247,6 +247,14 @@ void tst_DTabWidgetSignaux::detache()
     QCOMPARE(journal.Prends(), (QStringList{u"x courant 2"_s, u"x fenetre 2 c"_s}));
     onglets.DetacheOnglet(2);
     QCOMPARE(journal.Prends(), QStringList(u"x fenetre 2 c"_s));
+
+    // Not another one, which a receiver prefers.
+    onglets.MetsIndexCourant(0);
+    connect(&onglets, &DTabWidget::SignalOngletCourantChangay, this,
+            [&] { onglets.MetsIndexCourant(0); });
+    journal.Prends();
+    onglets.DetacheOnglet(1);
+    QVERIFY(journal.Prends().filter(u"fenetre"_s).isEmpty());
 }
 
 // With the mouse, as Qt's bar does it.

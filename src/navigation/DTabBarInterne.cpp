@@ -14,6 +14,7 @@
 #include <QKeyEvent>
 #include <QLabel>
 #include <QScopedValueRollback>
+#include <QStyle>
 #include <QStyleOptionTab>
 
 #include <algorithm>
@@ -159,7 +160,11 @@ void DTabBarInterne::MetsLargeurCadre(int index, InfosOnglet const & infos)
     int const largeur = DonneLargeurCadre(index);
     if (largeur < 0)
         return;
-    tabButton(index, LeftSide)->setFixedWidth(largeur);
+    QWidget * const gauche = tabButton(index, LeftSide);
+    QPoint const coin(gauche->geometry().right() + 1 - largeur, gauche->y());
+    gauche->setFixedWidth(largeur);
+    if (isRightToLeft()) // the edge at which Qt has placed it is the right one
+        gauche->move(coin);
     if (!infos.etiquetteTitre || !infos.cadre)
         return;
     int place = maLargeurOnglet - kHorsDuTitre;
@@ -178,13 +183,19 @@ int DTabBarInterne::DonneLargeurCadre(int index) const
     QWidget const * const gauche = tabButton(index, LeftSide);
     if (!gauche)
         return -1;
+    // From right to left, the "left" button stands at the right end of the tab: without mirroring,
+    // there would be no room at all between it and the other one.
+    auto const bordAvant = [this](QRect const & place) {
+        return QStyle::visualRect(layoutDirection(), rect(), place).x();
+    };
+    int const debut = bordAvant(gauche->geometry());
     if (QWidget const * const droite = tabButton(index, RightSide))
-        return std::max(droite->x() - kEcartTitre - gauche->x(), 0);
+        return std::max(bordAvant(droite->geometry()) - kEcartTitre - debut, 0);
     if (!isVisible())
         return -1;
     // The left of the tab is added: the frame's place counts from the bar's.
-    QRect const rect = tabRect(index);
-    return std::max(rect.x() + rect.width() - kMargeSansBouton - gauche->x(), 0);
+    QRect const onglet = tabRect(index);
+    return std::max(bordAvant(onglet) + onglet.width() - kMargeSansBouton - debut, 0);
 }
 
 void DTabBarInterne::AjusteLargeursCadres()
@@ -207,12 +218,17 @@ void DTabBarInterne::MetsPeutGlisserDeposer(bool peut)
 void DTabBarInterne::MetsTailleOnglets(int largeur)
 {
     maLargeurOnglet = std::max(largeur, 0);
-    // Qt keeps the sizes of the tabs and has no call to have them asked for anew; this one, with
-    // what it has already, changes nothing else.
-    setElideMode(elideMode());
+    RefaisMiseEnPage();
     adjustSize();
     for (int i = 0; i < count(); ++i)
         AjusteLargeurTitre(i);
+}
+
+// Qt keeps the sizes of the tabs and has no call to have them asked for anew; this one, with what
+// it has already, changes nothing else.
+void DTabBarInterne::RefaisMiseEnPage()
+{
+    setElideMode(elideMode());
 }
 
 void DTabBarInterne::MetsTailleIcone(QSize const & taille)
@@ -268,6 +284,8 @@ void DTabBarInterne::changeEvent(QEvent * evenement)
     QTabBar::changeEvent(evenement);
     if (evenement->type() == QEvent::EnabledChange && !isEnabled())
         AbandonneDeplacement();
+    if (evenement->type() == QEvent::LayoutDirectionChange)
+        RefaisMiseEnPage(); // Qt mirrors the tabs, but leaves their buttons where they are
     if (evenement->type() != QEvent::FontChange)
         return;
     for (int i = 0; i < count(); ++i)
@@ -283,11 +301,8 @@ void DTabBarInterne::initStyleOption(QStyleOptionTab * option, int index) const
     }
     // Qt asks for every tab at each insertion and at each button, though only one is new. What the
     // places of the buttons depend on is a small part of the option.
-    option->state = index == currentIndex() ? QStyle::State_Selected : QStyle::State_None;
     option->direction = layoutDirection();
     option->rect = tabRect(index);
-    option->shape = shape();
-    option->tabIndex = index;
     if (QWidget const * const gauche = tabButton(index, LeftSide))
         option->leftButtonSize = gauche->size();
     if (QWidget const * const droite = tabButton(index, RightSide))

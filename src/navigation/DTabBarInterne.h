@@ -96,7 +96,6 @@ Q_SIGNALS:
 
 protected:
     bool eventFilter(QObject * objet, QEvent * evenement) override;
-    bool event(QEvent * evenement) override;
     void mousePressEvent(QMouseEvent * evenement) override;
     void mouseReleaseEvent(QMouseEvent * evenement) override;
     void mouseMoveEvent(QMouseEvent * evenement) override;
@@ -121,6 +120,7 @@ private:
     int DonneLargeurCadre(int index) const;
     void MetsLargeurCadre(int index, InfosOnglet const & infos);
     void AjusteLargeursCadres();
+    void RefaisMiseEnPage();
     void MetsPixmapIcone(InfosOnglet const & infos);
 
     // The drag.
@@ -130,7 +130,7 @@ private:
     void TermineDeplacement();
     void AbandonneDeplacement();
     void AbandonneDeplacementQt();
-    void RemetsInfobulle();
+    void RemetsOnglet();
     void MontreFantome(QPoint const & positionGlobale);
     DTabBarInterne * TrouveBarreSous(QPoint const & positionGlobale) const;
     void VisePositionDans(DTabBarInterne & barre, QPoint const & positionGlobale);
@@ -150,8 +150,6 @@ private:
     QSize maTailleIcone{20, 20};
     std::unique_ptr<FantomeOnglet> const monFantome;
     bool monDeplacementPermis = true;  // from the press on a tab to the end of its drag
-    bool monOngletPressay = false;     // `monIndexDeplace` is that of a press
-    bool monBoutonEnfoncay = false;    // Qt may be moving a tab of its own accord
     bool monLayoutEstSommaire = false; // its positions serve until the bar is shown
 };
 

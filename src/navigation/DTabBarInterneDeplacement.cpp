@@ -30,17 +30,14 @@ int SuisDeplacement(int index, int de, int vers)
 void DTabBarInterne::mousePressEvent(QMouseEvent * evenement)
 {
     bool const gauche = evenement->button() == Qt::LeftButton;
-    if (gauche) {
-        TermineDeplacement(); // its release went astray
-        monBoutonEnfoncay = true;
-    }
+    if (gauche)
+        TermineDeplacement();    // its release went astray
     if (monDeplacementExterne) { // another button, while a tab is outside
         QTabBar::mousePressEvent(evenement);
         return;
     }
     // Before the base: its receivers may change the tabs, and the bar may scroll.
     monIndexDeplace = tabAt(evenement->position().toPoint());
-    monOngletPressay = monIndexDeplace >= 0;
     QPointer<DTabBarInterne> const moi(this);
     QTabBar::mousePressEvent(evenement);
     // A disabled tab is not made current, but the picture and the new window are of that one.
@@ -58,8 +55,6 @@ void DTabBarInterne::mouseReleaseEvent(QMouseEvent * evenement)
         Depose();
     if (!moi)
         return;
-    if (evenement->button() == Qt::LeftButton)
-        monBoutonEnfoncay = false;
     QTabBar::mouseReleaseEvent(evenement);
 }
 
@@ -72,13 +67,6 @@ void DTabBarInterne::mouseMoveEvent(QMouseEvent * evenement)
     }
     TermineDeplacement();
     QTabBar::mouseMoveEvent(evenement);
-}
-
-bool DTabBarInterne::event(QEvent * evenement)
-{
-    if (evenement->type() == QEvent::UngrabMouse)
-        AbandonneDeplacement();
-    return QTabBar::event(evenement);
 }
 
 // Installed on the application while a tab is outside: the keyboard focus is seldom here.
@@ -104,14 +92,16 @@ bool DTabBarInterne::MetFinAuDeplacement(QObject const * objet, QEvent const & e
 {
     auto const * const widget = qobject_cast<QWidget const *>(objet);
     switch (evenement.type()) {
+    case QEvent::UngrabMouse:
+        return objet == this;
     case QEvent::WindowBlocked:
-        return objet == window() || objet == window()->windowHandle();
+        return objet == window();
     case QEvent::Show:
         return widget && widget->windowType() == Qt::Popup;
     case QEvent::MouseButtonPress:
     case QEvent::MouseButtonRelease:
-        return widget && evenement.spontaneous() && widget != this && !isAncestorOf(widget) &&
-               !widget->isAncestorOf(this);
+        // A tab's frame passes on to this bar what it gets.
+        return widget && evenement.spontaneous() && !isAncestorOf(widget);
     default:
         return false;
     }
@@ -142,7 +132,6 @@ void DTabBarInterne::CommenceDeplacement()
     if (monDeplacementExterne)
         return;
     monDeplacementExterne = true;
-    monOngletPressay = true;
     qApp->installEventFilter(this);
 }
 
@@ -150,37 +139,33 @@ void DTabBarInterne::TermineDeplacement()
 {
     if (!monDeplacementExterne)
         return;
-    monDeplacementExterne = false;
-    qApp->removeEventFilter(this);
-    RemetsInfobulle();
+    RemetsOnglet();
     VideCible();
-    monFantome->Cache();
 }
 
 // Nothing more happens outside before the next press.
 void DTabBarInterne::AbandonneDeplacement()
 {
-    if (!monDeplacementExterne && !monBoutonEnfoncay)
-        return;
     TermineDeplacement();
     monDeplacementPermis = false;
     AbandonneDeplacementQt();
 }
 
-// Ends the move inside the row that Qt has begun: only the release of the button tells it to.
+// Ends the move inside the row that Qt may have begun: only the release of the button tells it to.
 void DTabBarInterne::AbandonneDeplacementQt()
 {
-    if (!monBoutonEnfoncay)
-        return;
-    monBoutonEnfoncay = false;
     QPoint const dehors(-1, -1);
     QMouseEvent relache(QEvent::MouseButtonRelease, dehors, mapToGlobal(dehors), Qt::LeftButton,
                         Qt::NoButton, Qt::NoModifier);
     QTabBar::mouseReleaseEvent(&relache);
 }
 
-void DTabBarInterne::RemetsInfobulle()
+// As it was before it left the bar.
+void DTabBarInterne::RemetsOnglet()
 {
+    monDeplacementExterne = false;
+    qApp->removeEventFilter(this);
+    monFantome->Cache();
     if (!monInfobulleSauvee.isEmpty())
         setTabToolTip(monIndexDeplace, monInfobulleSauvee);
     monInfobulleSauvee.clear();
@@ -200,9 +185,13 @@ DTabBarInterne * DTabBarInterne::TrouveBarreSous(QPoint const & positionGlobale)
 
 void DTabBarInterne::VisePositionDans(DTabBarInterne & barre, QPoint const & positionGlobale)
 {
+    // Counted from the right where the tabs stand from right to left: "before" is there, and the
+    // scroll buttons are at the left.
+    Qt::LayoutDirection const sens = barre.layoutDirection();
+    QPoint const position = barre.mapFromGlobal(positionGlobale);
+    int const souris = QStyle::visualPos(sens, barre.rect(), position).x();
     int const nombre = barre.count();
     int largeur = barre.width();
-    int const souris = barre.mapFromGlobal(positionGlobale).x();
     // The hint is the width of all tabs: the right edge of the last one would not tell of the
     // scroll buttons once the bar is scrolled to its end.
     if (barre.sizeHint().width() > largeur) {
@@ -215,10 +204,10 @@ void DTabBarInterne::VisePositionDans(DTabBarInterne & barre, QPoint const & pos
     }
     if (maBarreCible != &barre)
         VideCible();
-    int index = barre.tabAt(barre.mapFromGlobal(positionGlobale));
+    int index = barre.tabAt(position);
     if (index == -1)
         index = nombre - 1;
-    QRect const rect = barre.tabRect(index);
+    QRect const rect = QStyle::visualRect(sens, barre.rect(), barre.tabRect(index));
     int x = rect.left();
     bool const premiereMoitie = std::abs(souris - x) < rect.width() / 2;
     if (x >= 0 && (premiereMoitie || rect.right() > largeur)) {
@@ -229,7 +218,7 @@ void DTabBarInterne::VisePositionDans(DTabBarInterne & barre, QPoint const & pos
         x -= x >= largeur || index == nombre ? 1 : 0;
     }
     monIndexCible = index;
-    barre.maPositionIndicateur = QPoint(x, 0);
+    barre.maPositionIndicateur = QStyle::visualPos(sens, barre.rect(), QPoint(x, 0));
     barre.update();
     maBarreCible = &barre;
 }
@@ -246,17 +235,18 @@ void DTabBarInterne::VideCible()
 
 void DTabBarInterne::Depose()
 {
-    QPointer<DTabBarInterne> const cible = maBarreCible;
-    int const index = monIndexDeplace;
-    int const indexCible = monIndexCible;
-    TermineDeplacement(); // first: receivers may do anything
+    RemetsOnglet(); // first: receivers may do anything
     monDeplacementPermis = false;
+    QPointer<DTabBarInterne> const moi(this);
     // A window that was closed without being destroyed takes nothing, nor does a bar keep the
     // places that it has lost since the last move of the mouse.
-    if (cible && cible->isVisible() && cible->monIdentifiantGroupe == monIdentifiantGroupe)
-        Q_EMIT SignalAjouteOngletBarreExterne(index, cible, std::min(indexCible, cible->count()));
+    if (maBarreCible && maBarreCible->isVisible())
+        Q_EMIT SignalAjouteOngletBarreExterne(monIndexDeplace, maBarreCible,
+                                              std::min(monIndexCible, maBarreCible->count()));
     else
         Q_EMIT SignalOngletNouvelleFenetre();
+    if (moi && !monDeplacementExterne) // a receiver that waits may have let the next one begin
+        VideCible();
 }
 
 // Qt cannot change the current tab while it moves one, and keeps neither index if others are
@@ -271,7 +261,7 @@ void DTabBarInterne::removeTab(int index)
 void DTabBarInterne::tabInserted(int index)
 {
     QTabBar::tabInserted(index);
-    if (!monOngletPressay || index > monIndexDeplace)
+    if (index > monIndexDeplace || count() == 1) // the first tab moves no other
         return;
     AbandonneDeplacementQt(); // Qt does not keep the tab that it moves
     ++monIndexDeplace;
@@ -284,13 +274,9 @@ void DTabBarInterne::tabRemoved(int index)
         AbandonneDeplacementQt();
     if (currentIndex() < 0) // see `removeTab`, which a host may have called by its base
         setCurrentIndex(std::min(index, count() - 1));
-    if (!monOngletPressay)
-        return;
     if (index == monIndexDeplace) {
         monInfobulleSauvee.clear(); // it went with the tab
         TermineDeplacement();
-        monDeplacementPermis = false;
-        monOngletPressay = false;
         monIndexDeplace = -1;
     } else if (index < monIndexDeplace) {
         --monIndexDeplace;

@@ -5,16 +5,12 @@
 #include "navigation/DTabBar.h"
 #include "navigation/DTabBarInterne.h"
 
-#include <QEvent>
 #include <QPushButton>
-#include <QScopedValueRollback>
 #include <QStackedWidget>
-#include <QStyle>
 #include <QToolButton>
 #include <QVBoxLayout>
 
 #include <algorithm>
-#include <utility>
 
 using namespace Qt::StringLiterals;
 
@@ -40,10 +36,9 @@ DTabWidget::DTabWidget(QWidget * parent, QString identifiantGroupe)
 
 DTabWidget::~DTabWidget()
 {
-    // Their deletion by the base tells of changes, which nobody is left to follow.
+    // A host that hears of the destruction by `destroyed` may still take pages and tabs away.
     PreteBarreInterne()->disconnect(this);
     maPile->disconnect(this);
-    PreteBarreInterne()->removeEventFilter(this);
 
     // Destroyed by a receiver of a signal: functions of Qt's bar and of its buttons may be running,
     // which need them until they return.
@@ -91,7 +86,7 @@ void DTabWidget::RetireOnglet(int index)
 
 void DTabWidget::AjouteWidgetCommun(QWidget * widget)
 {
-    if (!widget)
+    if (!widget || Contient(widget, this))
         return;
     // One that the host has deleted since is counted, but has no place any more.
     monLayout->removeWidget(widget);
@@ -218,44 +213,6 @@ DTabBar * DTabWidget::PreteBarre() const
     return monBarre;
 }
 
-void DTabWidget::changeEvent(QEvent * evenement)
-{
-    QFrame::changeEvent(evenement);
-    // The theme has no signal of its own; an application that changes it changes one of these.
-    if (evenement->type() != QEvent::PaletteChange && evenement->type() != QEvent::StyleChange)
-        return;
-    for (int i = 0; monBarre && i < DonneTotalOnglet(); ++i) {
-        bool const actif = i == monIndexPrecedent || mesPagesNeuves.contains(DonneWidget(i));
-        PreteBarreInterne()->MetsCouleurTitre(i, actif);
-    }
-}
-
-bool DTabWidget::eventFilter(QObject * objet, QEvent * evenement)
-{
-    if (evenement->type() != QEvent::MouseMove || objet != PreteBarreInterne())
-        return QFrame::eventFilter(objet, evenement);
-    // While it moves a tab with the mouse, Qt's bar does not stand the removal of another: hosts
-    // hear of the move when the event is over.
-    ++mesRetenues;
-    objet->event(evenement);
-    --mesRetenues;
-    Diffuse();
-    return true;
-}
-
-void DTabWidget::PriseOngletChangay(int index)
-{
-    maPile->setCurrentIndex(index);
-    MontreActif(index, true);
-    // A tab that has only got another index is no new one.
-    if (index != monIndexPrecedent) {
-        MontreActif(monIndexPrecedent, false);
-        GriseTitresNeufs(index);
-    }
-    monIndexPrecedent = index;
-    Publie({false, index, index});
-}
-
 void DTabWidget::PriseBoutonFermeture()
 {
     DTabBarInterne const & barre = *PreteBarreInterne();
@@ -271,17 +228,6 @@ void DTabWidget::PriseBoutonFermeture()
     }
 }
 
-void DTabWidget::PrisePageRetiree(int index)
-{
-    if (monRetraitEnCours)
-        return;
-    // Amid the destruction of a page or its change of parent, no receiver may destroy this.
-    ++mesRetenues;
-    RetireDeLaBarre(index);
-    --mesRetenues;
-    QMetaObject::invokeMethod(this, &DTabWidget::Diffuse, Qt::QueuedConnection);
-}
-
 DTabBarInterne * DTabWidget::PreteBarreInterne() const
 {
     return monBarre->PreteBarreInterne();
@@ -292,6 +238,14 @@ DTabWidget * DTabWidget::TrouveDepuis(QWidget * widget)
     while (widget && !qobject_cast<DTabWidget *>(widget))
         widget = widget->parentWidget();
     return static_cast<DTabWidget *>(widget);
+}
+
+// Also by way of another window, such as a dialog of the page, which `isAncestorOf` does not see.
+bool DTabWidget::Contient(QWidget const * page, QWidget const * widget)
+{
+    while (widget && widget != page)
+        widget = widget->parentWidget();
+    return widget;
 }
 
 void DTabWidget::Branche()
@@ -315,33 +269,6 @@ void DTabWidget::Branche()
     barre->installEventFilter(this);
 }
 
-// The index of the new tab; -1 when there is none, and when this is gone.
-int DTabWidget::PoseOnglet(QWidget * page, int position)
-{
-    if (!page || page == maPile || page->isAncestorOf(maPile))
-        return -1;
-    QPointer<DTabWidget> const vivant(this);
-    QPointer<QWidget> const pageVivante(page);
-    // Out of the tab that it has, before the pile takes it out of there amid its own change.
-    DTabWidget * const ancien = TrouveDepuis(page->parentWidget());
-    if (ancien)
-        ancien->RetireOnglet(ancien->maPile->indexOf(page));
-    if (!vivant || !pageVivante)
-        return -1;
-
-    int const index = maPile->insertWidget(position, page);
-    ++mesRetenues; // Qt's bar does not stand that receivers change it while it inserts a tab
-    PreteBarreInterne()->InsereOngletVide(index);
-    --mesRetenues;
-    if (index <= monIndexPrecedent && DonneTotalOnglet() > 1)
-        ++monIndexPrecedent;
-    mesPagesNeuves.append(pageVivante);
-    if (mesPagesNeuves.size() > DonneTotalOnglet()) // some have gone again
-        mesPagesNeuves.removeIf([this](auto const & neuve) { return maPile->indexOf(neuve) < 0; });
-    Diffuse();
-    return vivant && pageVivante ? maPile->indexOf(page) : -1;
-}
-
 void DTabWidget::AjouteBoutonFermeture(int index)
 {
     auto * const bouton = new QToolButton;
@@ -353,71 +280,4 @@ void DTabWidget::AjouteBoutonFermeture(int index)
     bouton->setFixedSize(kCoteBoutonFermeture, kCoteBoutonFermeture);
     PreteBarreInterne()->PoseBouton(index, QTabBar::RightSide, bouton);
     PreteBarreInterne()->AjusteLargeurTitre(index);
-}
-
-void DTabWidget::RetireDeLaPile(QWidget * page)
-{
-    QScopedValueRollback const retrait(monRetraitEnCours, true);
-    maPile->removeWidget(page);
-}
-
-void DTabWidget::RetireDeLaBarre(int index)
-{
-    if (index == monIndexPrecedent)
-        monIndexPrecedent = -1;
-    else if (index < monIndexPrecedent)
-        --monIndexPrecedent;
-    ++mesRetenues; // Qt's bar does not stand that receivers change it while it removes a tab
-    PreteBarreInterne()->removeTab(index);
-    --mesRetenues;
-    Diffuse();
-}
-
-void DTabWidget::MontreActif(int index, bool actif)
-{
-    if (index < 0)
-        return;
-    DTabBarInterne & barre = *PreteBarreInterne();
-    auto * const bouton = qobject_cast<QToolButton *>(barre.tabButton(index, QTabBar::RightSide));
-    if (bouton || !actif)
-        barre.MetsCouleurTitre(index, actif);
-    if (!bouton)
-        return;
-    bouton->setProperty("selectionnay", actif);
-    bouton->style()->unpolish(bouton);
-    bouton->style()->polish(bouton);
-    if (actif)
-        bouton->setIcon(monIconeFermeture);
-}
-
-// Titles begin with the active colour. Of all those that are not the active one, the first change
-// of tab takes it.
-void DTabWidget::GriseTitresNeufs(int indexActif)
-{
-    for (QPointer<QWidget> const & page : std::exchange(mesPagesNeuves, {})) {
-        int const index = maPile->indexOf(page);
-        if (index >= 0 && index != indexActif)
-            PreteBarreInterne()->MetsCouleurTitre(index, false);
-    }
-}
-
-void DTabWidget::Publie(Annonce const & annonce)
-{
-    mesAnnonces.append(annonce);
-    Diffuse();
-}
-
-void DTabWidget::Diffuse()
-{
-    QPointer<DTabWidget> const vivant(this);
-    while (vivant && mesRetenues == 0 && !mesAnnonces.isEmpty()) {
-        Annonce const annonce = mesAnnonces.takeFirst();
-        ++mesEmissions;
-        if (annonce.deplacement)
-            Q_EMIT SignalOngletDeplacay(annonce.de, annonce.vers);
-        else
-            Q_EMIT SignalOngletCourantChangay(annonce.vers);
-        if (vivant)
-            --mesEmissions;
-    }
 }

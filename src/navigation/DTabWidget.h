@@ -94,7 +94,7 @@ Q_SIGNALS:
 
 protected:
     void changeEvent(QEvent * evenement) override;
-    bool eventFilter(QObject * objet, QEvent * evenement) override;
+    bool eventFilter(QObject * barre, QEvent * evenement) override;
 
 private Q_SLOTS:
     void PriseDeplaceOngletVersBarreExterne(int index, QWidget * barre, int position);
@@ -114,6 +114,7 @@ private:
     };
 
     static DTabWidget * TrouveDepuis(QWidget * widget);
+    static bool Contient(QWidget const * page, QWidget const * widget);
 
     DTabBarInterne * PreteBarreInterne() const;
     void Branche();
@@ -121,8 +122,6 @@ private:
     void AjouteBoutonFermeture(int index);
     void RetireDeLaPile(QWidget * page);
     void RetireDeLaBarre(int index);
-    QWidget * RemplacePage(int index);
-    void RetireRemplacant(QWidget * remplacant);
     void MontreActif(int index, bool actif);
     void GriseTitresNeufs(int indexActif);
     void Publie(Annonce const & annonce);
@@ -135,8 +134,8 @@ private:
     QIcon monIconeFermeture;
     int monNombreWidgetsCommuns = 0;
 
-    QList<QPointer<QWidget>> mesPagesNeuves; // whose titles have the colour that they began with
-    QList<Annonce> mesAnnonces;              // held back while Qt's tab bar is amid a change
+    QList<QPointer<QWidget>> mesPagesNeuves; // since the last change of tab; some may have gone
+    QList<Annonce> mesAnnonces;              // held back amid a change
     int mesRetenues = 0;
     int mesEmissions = 0;           // signals that are being delivered
     bool monRetraitEnCours = false; // a page leaves the pile by our own hand

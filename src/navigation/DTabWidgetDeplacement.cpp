@@ -33,7 +33,7 @@ void DeplacePage(QStackedWidget & pile, int de, int vers)
 bool DTabWidget::EnvoieOnglet(int index, DTabWidget * cible, int position)
 {
     QWidget const * const page = maPile->widget(index);
-    if (!page || !cible || cible == this || page == cible || page->isAncestorOf(cible))
+    if (!page || !cible || cible == this || Contient(page, cible))
         return false;
     DTabBarInterne & barre = *cible->PreteBarreInterne();
     if (barre.DonneIdentifiantGroupe() != PreteBarreInterne()->DonneIdentifiantGroupe())
@@ -56,27 +56,31 @@ void DTabWidget::DetacheOnglet(int index)
 void DTabWidget::PriseDeplaceOngletVersBarreExterne(int index, QWidget * barre, int position)
 {
     QPointer<DTabWidget> const cible(TrouveDepuis(barre));
-    QPointer<QWidget> const page(maPile->widget(index));
-    if (!cible || cible == this || !page || page == cible || page->isAncestorOf(cible))
+    QWidget * const page = maPile->widget(index);
+    if (!cible || cible == this || !page || Contient(page, cible))
         return;
-    QPointer<DTabWidget> const vivant(this);
     auto const infos = PreteBarreInterne()->DonneInfos(index);
-    QPointer<QWidget> const remplacant(RemplacePage(index));
+    // Hosts hear of it when bar and pages are in step again on both sides.
+    ++mesRetenues;
+    ++cible->mesRetenues;
+    RetireDeLaPile(page);
     cible->InsereOnglet(page, position, infos.titre);
+    position = cible->maPile->indexOf(page);
+    cible->MetsIconeOnglet(position, infos.icone);
+    // Deliberate: one key for all, whatever theirs was, so that only the last value stays.
+    for (QVariant const & donnee : infos.donnees)
+        cible->MetsDataOnglet(position, donnee, kCleApresDeplacement);
+    RetireDeLaBarre(index);
+    --cible->mesRetenues;
+    --mesRetenues;
 
-    position = cible ? cible->maPile->indexOf(page) : -1;
-    if (position >= 0) {
-        cible->MetsIconeOnglet(position, infos.icone);
-        // Deliberate: one key for all, whatever theirs was, so that only the last value stays.
-        for (QVariant const & donnee : infos.donnees)
-            cible->MetsDataOnglet(position, donnee, kCleApresDeplacement);
-    }
-    if (vivant && remplacant)
-        RetireRemplacant(remplacant);
-    if (!cible || position < 0)
-        return;
-    cible->activateWindow();
+    QPointer<DTabWidget> const vivant(this);
+    cible->Diffuse();
     if (vivant)
+        Diffuse();
+    if (cible)
+        cible->activateWindow();
+    if (vivant && cible)
         Q_EMIT SignalOngletDeplacayVersBarreExterne(index, position, cible);
 }
 
@@ -88,6 +92,8 @@ void DTabWidget::PriseNouvelleFenetreOngletExistant()
 
 void DTabWidget::PriseOngletDeplacay(int de, int vers)
 {
+    if (!maPile->widget(de) || !maPile->widget(vers))
+        return;
     {
         QSignalBlocker const silence(maPile);
         DeplacePage(*maPile, de, vers);
@@ -99,24 +105,4 @@ void DTabWidget::PriseOngletDeplacay(int de, int vers)
     else if (vers <= monIndexPrecedent && monIndexPrecedent < de)
         ++monIndexPrecedent;
     Publie({true, de, vers});
-}
-
-// Puts an empty page in the place of one that leaves, so that bar and pile stay in step until the
-// tab goes as well.
-QWidget * DTabWidget::RemplacePage(int index)
-{
-    auto * const remplacant = new QWidget;
-    maPile->insertWidget(index + 1, remplacant);
-    RetireDeLaPile(maPile->widget(index));
-    return remplacant;
-}
-
-void DTabWidget::RetireRemplacant(QWidget * remplacant)
-{
-    int const index = maPile->indexOf(remplacant);
-    if (index >= 0)
-        RetireDeLaPile(remplacant);
-    delete remplacant;
-    if (index >= 0)
-        RetireDeLaBarre(index);
 }

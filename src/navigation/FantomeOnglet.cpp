@@ -32,7 +32,6 @@ FantomeOnglet::FantomeOnglet()
     : QWidget(nullptr, kFanions)
 {
     setAttribute(Qt::WA_TransparentForMouseEvents);
-    setAttribute(Qt::WA_ShowWithoutActivating);
     setAttribute(Qt::WA_StyledBackground); // a derived widget has no border of a sheet without it
     setStyleSheet(u"border: 1px solid #D0D0D0"_s);
     setWindowOpacity(kOpacite);
@@ -52,18 +51,16 @@ void FantomeOnglet::Montre(QWidget * modele, QPoint const & positionGlobale)
 void FantomeOnglet::Cache()
 {
     hide();
-    maTaille = QSize();
     monPixmap = QPixmap();
 }
 
 void FantomeOnglet::Photographie(QWidget & modele)
 {
     monPixmap = modele.grab();
-    maTaille = modele.size();
     QPalette palette = this->palette();
     palette.setBrush(backgroundRole(), QBrush(monPixmap));
     setPalette(palette);
-    setFixedSize(maTaille);
+    setFixedSize(modele.size());
 }
 
 // Some platforms look for the window under a point by their geometries only, without asking

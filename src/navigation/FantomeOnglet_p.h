@@ -28,6 +28,5 @@ protected:
 private:
     void Photographie(QWidget & modele);
 
-    QSize maTaille;
     QPixmap monPixmap;
 };

@@ -30,12 +30,12 @@ public:
     int AjouteOnglet(QString const & titre) { return InsereOnglet(barre->count(), titre); }
     int InsereOnglet(int position, QString const & titre)
     {
-        int const index = barre->insertTab(position, QString());
+        int const index = barre->InsereOngletVide(position);
         barre->CreeCadreOnglet(index);
         barre->MetsTitreOnglet(index, titre);
         auto * const bouton = new QToolButton;
         bouton->setFixedSize(16, 16);
-        barre->setTabButton(index, QTabBar::RightSide, bouton);
+        barre->PoseBouton(index, QTabBar::RightSide, bouton);
         barre->AjusteLargeurTitre(index);
         barre->setTabToolTip(index, QStringLiteral("Infobulle de ") + titre);
         return index;

@@ -23,6 +23,19 @@ Depot DonneDepot(QSignalSpy const & espion)
     return {arguments.at(0).toInt(), arguments.at(1).value<QWidget *>(), arguments.at(2).toInt()};
 }
 
+class CompteurDePeintures : public QObject
+{
+public:
+    int nombre = 0;
+
+protected:
+    bool eventFilter(QObject *, QEvent * evenement) override
+    {
+        nombre += evenement->type() == QEvent::Paint;
+        return false;
+    }
+};
+
 } // namespace
 
 class tst_DTabBarInterneDeplacement : public QObject
@@ -36,15 +49,20 @@ private Q_SLOTS:
     void limitesDeLaBarre_data();
     void limitesDeLaBarre();
     void sansPresseLePremierOngletPart();
+    void sansOngletRienNePart();
+    void cibleRedessinee();
     void partSeulementDUneBonnePresse_data();
     void partSeulementDUneBonnePresse();
     void positionDansLaCible_data();
     void positionDansLaCible();
+    void positionDeDroiteAGauche_data();
+    void positionDeDroiteAGauche();
     void moitieEntiere_data();
     void moitieEntiere();
     void cibleSansOnglet();
     void boutonsDeDefilement_data();
     void boutonsDeDefilement();
+    void boutonsDeDefilementDeDroiteAGauche();
     void ongletCoupeAGauche();
     void ongletCoupeADroite();
     void ongletPlusLargeQueLaBarre();
@@ -118,6 +136,46 @@ void tst_DTabBarInterneDeplacement::sansPresseLePremierOngletPart()
     QVERIFY(source.barre->EstEnDeplacementExterne());
     QCOMPARE(source.barre->tabToolTip(0), QString());
     QCOMPARE(source.barre->tabToolTip(2), u"Infobulle de Onglet 2"_s);
+}
+
+void tst_DTabBarInterneDeplacement::sansOngletRienNePart()
+{
+    RangeeDEssai source;
+    source.Expose();
+
+    source.Deplace(source.DonneAuDessous());
+
+    QVERIFY(!source.barre->EstEnDeplacementExterne());
+}
+
+// When a tab comes over it, moves there and has gone: for hosts that draw the place.
+void tst_DTabBarInterneDeplacement::cibleRedessinee()
+{
+    RangeeDEssai source(2);
+    RangeeDEssai cible(2, "groupe", kPlaceCible);
+    source.Expose();
+    cible.Expose();
+    CompteurDePeintures compteur;
+    cible.barre->installEventFilter(&compteur);
+    source.Presse(1);
+    auto const calme = [&compteur] { // no painting is due
+        int const nombre = compteur.nombre;
+        QCoreApplication::processEvents();
+        return compteur.nombre == nombre;
+    };
+    QVERIFY(QTest::qWaitFor(calme));
+    int avant = compteur.nombre;
+
+    source.Deplace(cible.DonnePoint(1));
+    QTRY_VERIFY(compteur.nombre > avant);
+    QVERIFY(QTest::qWaitFor(calme));
+    avant = compteur.nombre;
+    source.Deplace(cible.DonnePoint(1, 0.75)); // the picture is there already
+    QTRY_VERIFY(compteur.nombre > avant);
+    QVERIFY(QTest::qWaitFor(calme));
+    avant = compteur.nombre;
+    source.Deplace(source.DonneAuDessous());
+    QTRY_VERIFY(compteur.nombre > avant);
 }
 
 void tst_DTabBarInterneDeplacement::partSeulementDUneBonnePresse_data()
@@ -194,6 +252,60 @@ void tst_DTabBarInterneDeplacement::positionDansLaCible()
     QCOMPARE(depot.barre, cible.barre);
     QCOMPARE(depot.position, position);
     QCOMPARE(cible.barre->DonnePositionIndicateur(), QPoint());
+}
+
+void tst_DTabBarInterneDeplacement::positionDeDroiteAGauche_data()
+{
+    QTest::addColumn<int>("x"); // from the right end of the target bar of three tabs of 100
+    QTest::addColumn<int>("position");
+    QTest::newRow("right half of the first tab") << 49 << 0;
+    QTest::newRow("left half of the first tab") << 51 << 1;
+    QTest::newRow("right half of the last tab") << 249 << 2;
+    QTest::newRow("left half of the last tab") << 251 << 3;
+}
+
+void tst_DTabBarInterneDeplacement::positionDeDroiteAGauche()
+{
+    QFETCH(int, x);
+    QFETCH(int, position);
+    RangeeDEssai source(3);
+    RangeeDEssai cible(3, "groupe", kPlaceCible);
+    cible.barre->MetsTailleOnglets(100);
+    cible.setLayoutDirection(Qt::RightToLeft);
+    source.Expose();
+    cible.Expose();
+    QSignalSpy espion(source.barre, &DTabBarInterne::SignalAjouteOngletBarreExterne);
+    int const fin = cible.barre->width();
+    QPoint const point = cible.barre->mapToGlobal(QPoint(fin - 1 - x, 10));
+
+    source.Presse(1);
+    source.Deplace(point);
+    int const indicateur = cible.barre->DonnePositionIndicateur().x();
+    QVERIFY(qAbs(indicateur - (fin - 100 * position)) <= 2); // at the edge, or beside it
+    source.Relache(point);
+
+    QCOMPARE(DonneDepot(espion).position, position);
+}
+
+void tst_DTabBarInterneDeplacement::boutonsDeDefilementDeDroiteAGauche()
+{
+    RangeeDEssai source(1);
+    RangeeDEssai cible(10, "groupe", kPlaceCible, 500);
+    cible.setLayoutDirection(Qt::RightToLeft);
+    cible.Expose();
+    source.Expose();
+    QSignalSpy espion(source.barre, &DTabBarInterne::SignalOngletNouvelleFenetre);
+    QPoint const surLeBouton = cible.barre->mapToGlobal(QPoint(6, 14));
+    QVERIFY(qobject_cast<QToolButton *>(QApplication::widgetAt(surLeBouton)));
+
+    source.Presse(0);
+    source.Deplace(cible.barre->mapToGlobal(QPoint(cible.barre->width() - 6, 14)));
+    QVERIFY(!cible.barre->DonnePositionIndicateur().isNull());
+    source.Deplace(surLeBouton);
+    QVERIFY(cible.barre->DonnePositionIndicateur().isNull());
+    source.Relache(surLeBouton);
+
+    QCOMPARE(espion.count(), 1);
 }
 
 void tst_DTabBarInterneDeplacement::moitieEntiere_data()

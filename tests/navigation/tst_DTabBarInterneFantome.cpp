@@ -16,6 +16,7 @@ private Q_SLOTS:
     void fantomeNeSuitPasLaFeuilleDeLaFenetre();
     void fantomeMalgreLaFeuilleDeLApplication();
     void fantomeAncienNestPasRepris();
+    void fenetreCacheeAuDessous();
     void ongletSansCadrePartSansFantome();
     void infobulleDeCoteUneFois();
     void infobulleVideRevientVide();
@@ -36,6 +37,8 @@ void tst_DTabBarInterneFantome::fantomeSuitLaSouris()
     QVERIFY(fantome->testAttribute(Qt::WA_TransparentForMouseEvents));
     QVERIFY(fantome->windowFlags().testFlag(Qt::FramelessWindowHint));
     QVERIFY(fantome->windowFlags().testFlag(Qt::Tool));
+    QCOMPARE(fantome->palette().brush(fantome->backgroundRole()).texture().size(),
+             source.barre->DonneInfos(1).cadre->grab().size());
     QCOMPARE(fantome->styleSheet(), u"border: 1px solid #D0D0D0"_s);
     QVERIFY(!QApplication::activeWindow() || QApplication::activeWindow() == &source);
 
@@ -121,6 +124,24 @@ void tst_DTabBarInterneFantome::fantomeAncienNestPasRepris()
 
     QCOMPARE(image.pixelColor((QPointF(centre) * image.devicePixelRatio()).toPoint()),
              QColor(Qt::green));
+}
+
+void tst_DTabBarInterneFantome::fenetreCacheeAuDessous()
+{
+    RangeeDEssai source(2);
+    RangeeDEssai cible(2, "groupe", {40, 300});
+    RangeeDEssai cachee(2, "groupe", {40, 300});
+    source.Expose();
+    cible.Expose();
+    cachee.Expose();
+    cachee.hide();
+
+    source.Presse(1);
+    for (int i = 0; i < 2; ++i) // the second time with the picture in between
+        source.Deplace(cible.DonnePoint(1));
+
+    QVERIFY(!cible.barre->DonnePositionIndicateur().isNull());
+    QVERIFY(cachee.barre->DonnePositionIndicateur().isNull());
 }
 
 void tst_DTabBarInterneFantome::ongletSansCadrePartSansFantome()

@@ -13,6 +13,8 @@ private Q_SLOTS:
 
     void relacheSurUneCible();
     void relacheAilleurs();
+    void ordreDuDepot_data();
+    void ordreDuDepot();
     void relacheDUnAutreBouton();
     void retourDansLaBarre();
     void retourPuisNouvelleSortie();
@@ -25,6 +27,9 @@ private Q_SLOTS:
     void permissionRetiree();
     void deplacementDansLaRangeePuisDehors();
     void autrePressePendantLeDeplacement();
+    void autrePresseDeLaSouris();
+    void dialogueSurUneAutreFenetre();
+    void receveurQuiRecommence();
     void presseGauchePerdue();
     void boutonDuMilieu();
     void boutonDuMilieuPendantLeDeplacement();
@@ -60,6 +65,46 @@ void tst_DTabBarInterneFins::relacheAilleurs()
     QCOMPARE(scene.source.DonneInfobulles(), scene.infobulles);
     QCOMPARE(scene.depots.count(), 0);
     QCOMPARE(scene.fenetres.count(), 1);
+}
+
+void tst_DTabBarInterneFins::ordreDuDepot_data()
+{
+    QTest::addColumn<bool>("surLaCible");
+    QTest::newRow("on a bar of the group") << true;
+    QTest::newRow("elsewhere") << false;
+}
+
+// A receiver finds the tab as it was before, but the target still marked, and Qt's own move not yet
+// over.
+void tst_DTabBarInterneFins::ordreDuDepot()
+{
+    QFETCH(bool, surLaCible);
+    RangeeDEssai source(3);
+    RangeeDEssai cible(3, "groupe", kPlaceCible);
+    source.Expose();
+    cible.Expose();
+    QStringList const infobulles = source.DonneInfobulles();
+    QPoint const point = surLaCible ? cible.DonnePoint(1) : source.DonneAuDessous();
+    int recus = 0;
+    auto const verifie = [&] {
+        ++recus;
+        QVERIFY(!source.barre->EstEnDeplacementExterne());
+        QVERIFY(!TrouveFantome());
+        QCOMPARE(source.DonneInfobulles(), infobulles);
+        QCOMPARE(!cible.barre->DonnePositionIndicateur().isNull(), surLaCible);
+        QVERIFY(TrouveOngletQtEnMouvement(*source.barre));
+    };
+    connect(source.barre, &DTabBarInterne::SignalAjouteOngletBarreExterne, this, verifie);
+    connect(source.barre, &DTabBarInterne::SignalOngletNouvelleFenetre, this, verifie);
+
+    source.Presse(1);
+    source.Deplace(source.DonnePoint(1) + QPoint(QApplication::startDragDistance() + 5, 0));
+    source.Deplace(point);
+    source.Relache(point);
+
+    QCOMPARE(recus, 1);
+    QVERIFY(cible.barre->DonnePositionIndicateur().isNull());
+    QTRY_VERIFY(!TrouveOngletQtEnMouvement(*source.barre));
 }
 
 void tst_DTabBarInterneFins::relacheDUnAutreBouton()
@@ -262,6 +307,43 @@ void tst_DTabBarInterneFins::autrePressePendantLeDeplacement()
     QCOMPARE(scene.depots.count(), 1);
     QCOMPARE(scene.depots.at(0).at(0).toInt(), 1);
     QCOMPARE(scene.source.DonneInfobulles(), scene.infobulles);
+}
+
+// As the mouse itself sends it: the bar ignores it, and it goes on to the parents.
+void tst_DTabBarInterneFins::autrePresseDeLaSouris()
+{
+    Scene scene;
+    QPoint const point = scene.source.barre->mapFromGlobal(scene.cible->DonnePoint(1));
+
+    QTest::mousePress(scene.source.barre, Qt::RightButton, {}, point);
+
+    QVERIFY(scene.EstEnCours());
+    QTest::mouseRelease(scene.source.barre, Qt::RightButton, {}, point);
+}
+
+void tst_DTabBarInterneFins::dialogueSurUneAutreFenetre()
+{
+    Scene scene;
+    QDialog dialogue(scene.cible.get());
+
+    dialogue.open(); // which blocks only that window
+
+    QVERIFY(scene.EstEnCours());
+}
+
+void tst_DTabBarInterneFins::receveurQuiRecommence()
+{
+    Scene scene;
+    QPoint const point = scene.cible->DonnePoint(2);
+    connect(scene.source.barre, &DTabBarInterne::SignalOngletNouvelleFenetre, &scene.source, [&] {
+        scene.source.Presse(0);
+        scene.source.Deplace(point);
+    });
+
+    scene.source.Deplace(scene.source.DonneAuDessous());
+    scene.source.Relache(scene.source.DonneAuDessous());
+
+    QVERIFY(scene.EstEnCours()); // the second one has kept its target
 }
 
 void tst_DTabBarInterneFins::presseGauchePerdue()

@@ -36,6 +36,8 @@ private Q_SLOTS:
     void largeurDuCadre_data();
     void largeurDuCadre();
     void largeurSansBoutonDroit();
+    void largeurSuitLeBoutonDroit();
+    void largeurDUneBarreMontreeApres_data();
     void largeurDUneBarreMontreeApres();
     void largeurSuitLeStyle();
     void tailleDesOnglets_data();
@@ -44,6 +46,9 @@ private Q_SLOTS:
     void tailleDesOngletsDefiles();
     void miseEnPagesDUneBarreCachee();
     void deDroiteAGauche();
+    void largeurDeDroiteAGauche_data();
+    void largeurDeDroiteAGauche();
+    void changementDeSens();
 };
 
 void tst_DTabBarInterneTailles::iconeLaisseLeTitreEntier()
@@ -80,6 +85,12 @@ void tst_DTabBarInterneTailles::tailleIcone()
     QVERIFY(essai.barre->DonneInfos(1).etiquetteIcone->isHidden());
     essai.AjouteOnglet(u"Neuf"_s);
     QCOMPARE(essai.barre->DonneInfos(2).etiquetteIcone->size(), QSize(12, 14));
+
+    essai.barre->MetsTailleIcone(QSize(60, 20)); // at the expense of the title
+    DTabBarInterne::InfosOnglet const infos = essai.barre->DonneInfos(0);
+    QTRY_COMPARE(infos.etiquetteIcone->width(), 60);
+    QCOMPARE(infos.etiquetteTitre->width(),
+             infos.cadre->width() - 60 - 5 - infos.cadre->layout()->spacing());
 }
 
 void tst_DTabBarInterneTailles::largeurDuCadre_data()
@@ -129,16 +140,43 @@ void tst_DTabBarInterneTailles::largeurSansBoutonDroit()
     }
 }
 
+void tst_DTabBarInterneTailles::largeurSuitLeBoutonDroit()
+{
+    RangeeDEssai essai(2);
+    essai.Expose();
+    int const avant = essai.barre->DonneInfos(0).cadre->width();
+    auto * const bouton = new QToolButton;
+    bouton->setFixedSize(70, 16);
+
+    essai.barre->setTabButton(0, QTabBar::RightSide, bouton);
+
+    DTabBarInterne::InfosOnglet const infos = essai.barre->DonneInfos(0);
+    QCOMPARE(infos.cadre->width(), DonnePlace(*essai.barre, 0));
+    QVERIFY(infos.cadre->width() < avant);
+    QVERIFY(infos.etiquetteTitre->width() <= infos.cadre->width());
+}
+
+void tst_DTabBarInterneTailles::largeurDUneBarreMontreeApres_data()
+{
+    QTest::addColumn<Qt::LayoutDirection>("sens");
+    QTest::newRow("left to right") << Qt::LeftToRight;
+    QTest::newRow("right to left") << Qt::RightToLeft;
+}
+
 void tst_DTabBarInterneTailles::largeurDUneBarreMontreeApres()
 {
+    QFETCH(Qt::LayoutDirection, sens);
     RangeeDEssai essai;
+    essai.setLayoutDirection(sens);
     int const index = essai.barre->addTab(QString());
     essai.barre->CreeCadreOnglet(index);
     essai.barre->MetsTitreOnglet(index, "Sans bouton de fermeture");
 
     essai.Expose();
 
-    QWidget const & cadre = *essai.barre->DonneInfos(0).cadre;
+    QRect const cadre =
+        QStyle::visualRect(sens, essai.barre->rect(), essai.barre->DonneInfos(0).cadre->geometry());
+    QVERIFY(cadre.x() < 30); // at the beginning of the tab
     QCOMPARE(cadre.x() + cadre.width(), 185 - 15);
 }
 
@@ -179,6 +217,7 @@ void tst_DTabBarInterneTailles::tailleDesOnglets()
     for (int i = 0; i < 3; ++i) {
         QCOMPARE(essai.barre->tabRect(i).width(), voulue);
         QVERIFY(essai.barre->DonneInfos(i).cadre->width() >= 0);
+        QVERIFY(essai.PreteTitre(i)->width() <= std::max(voulue - 66, 0));
     }
 }
 
@@ -280,6 +319,58 @@ void tst_DTabBarInterneTailles::deDroiteAGauche()
     QVERIFY(!source.barre->EstEnDeplacementExterne());
     QTest::keyClick(essai.barre, Qt::Key_Tab, Qt::ControlModifier);
     QCOMPARE(essai.barre->currentIndex(), 0);
+}
+
+void tst_DTabBarInterneTailles::largeurDeDroiteAGauche_data()
+{
+    largeurDuCadre_data();
+}
+
+// The mirror image of a bar from left to right, to the pixel.
+void tst_DTabBarInterneTailles::largeurDeDroiteAGauche()
+{
+    QFETCH(bool, montree);
+    QFETCH(int, nombre);
+    RangeeDEssai modele;
+    RangeeDEssai essai;
+    essai.setLayoutDirection(Qt::RightToLeft);
+    for (RangeeDEssai * const rangee : {&modele, &essai}) {
+        if (montree)
+            rangee->Expose();
+        for (int i = 0; i < nombre; ++i)
+            rangee->AjouteOnglet(u"Un titre de plus"_s);
+        rangee->barre->MetsIconeOnglet(0, DonneCarre(Qt::red));
+        QVERIFY(rangee->barre->DonneInfos(nombre - 1).cadre->width() > 100);
+        rangee->Expose();
+        if (nombre == 3)
+            rangee->barre->setTabButton(1, QTabBar::RightSide, nullptr);
+        rangee->barre->AjusteLargeurTitre(1);
+    }
+
+    for (int i = 0; i < nombre; ++i) {
+        QWidget const & cadre = *essai.barre->tabButton(i, QTabBar::LeftSide);
+        QWidget const & voulu = *modele.barre->tabButton(i, QTabBar::LeftSide);
+        QCOMPARE(QStyle::visualRect(Qt::RightToLeft, essai.barre->rect(), cadre.geometry()),
+                 voulu.geometry());
+        QVERIFY(cadre.width() > 100);
+        QTRY_COMPARE(essai.PreteTitre(i)->width(), modele.PreteTitre(i)->width());
+    }
+}
+
+void tst_DTabBarInterneTailles::changementDeSens()
+{
+    RangeeDEssai essai(3);
+    essai.Expose();
+    QRect const avant = essai.barre->DonneInfos(2).cadre->geometry();
+
+    essai.setLayoutDirection(Qt::RightToLeft);
+    QTRY_COMPARE(QStyle::visualRect(Qt::RightToLeft, essai.barre->rect(),
+                                    essai.barre->DonneInfos(2).cadre->geometry()),
+                 avant);
+    QVERIFY(essai.barre->tabRect(2).contains(essai.barre->DonneInfos(2).cadre->geometry()));
+
+    essai.setLayoutDirection(Qt::LeftToRight);
+    QTRY_COMPARE(essai.barre->DonneInfos(2).cadre->geometry(), avant);
 }
 
 QTEST_MAIN(tst_DTabBarInterneTailles)

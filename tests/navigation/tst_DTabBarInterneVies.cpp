@@ -13,6 +13,7 @@ private Q_SLOTS:
 
     void cibleDetruite();
     void cibleFermee();
+    void barreDetruiteEnDeplacement_data();
     void barreDetruiteEnDeplacement();
     void ongletTraineRetire();
     void dernierOngletRetire();
@@ -56,8 +57,16 @@ void tst_DTabBarInterneVies::cibleFermee()
     QCOMPARE(scene.fenetres.count(), 1);
 }
 
+void tst_DTabBarInterneVies::barreDetruiteEnDeplacement_data()
+{
+    QTest::addColumn<bool>("fenetreEntiere");
+    QTest::newRow("with its window") << true;
+    QTest::newRow("alone") << false;
+}
+
 void tst_DTabBarInterneVies::barreDetruiteEnDeplacement()
 {
+    QFETCH(bool, fenetreEntiere);
     auto source = std::make_unique<RangeeDEssai>(2);
     RangeeDEssai cible(2, "groupe", kPlaceCible);
     source->Expose();
@@ -67,7 +76,10 @@ void tst_DTabBarInterneVies::barreDetruiteEnDeplacement()
     QPointer<QWidget> const fantome = TrouveFantome();
     QVERIFY(fantome);
 
-    source.reset();
+    if (fenetreEntiere)
+        source.reset();
+    else
+        delete source->rangee;
 
     QVERIFY(!fantome);
     QVERIFY(cible.barre->DonnePositionIndicateur().isNull());

@@ -19,6 +19,7 @@ private Q_SLOTS:
     void ordreDesSignaux();
     void ajoute();
     void titreDejaJusteApresLAjout();
+    void memesPlacesAjoutayCachay_data();
     void memesPlacesAjoutayCachay();
     void insere_data();
     void insere();
@@ -128,9 +129,17 @@ void tst_DTabWidget::titreDejaJusteApresLAjout()
     }
 }
 
+void tst_DTabWidget::memesPlacesAjoutayCachay_data()
+{
+    QTest::addColumn<Qt::LayoutDirection>("sens");
+    QTest::newRow("from left to right") << Qt::LeftToRight;
+    QTest::newRow("from right to left") << Qt::RightToLeft;
+}
+
 // Tabs that are added before the widget is shown stand as those that are added afterwards.
 void tst_DTabWidget::memesPlacesAjoutayCachay()
 {
+    QFETCH(Qt::LayoutDirection, sens);
     auto const places = [](DTabWidget const & onglets) {
         QList<QRect> rects;
         for (int i = 0; i < onglets.DonneTotalOnglet(); ++i)
@@ -143,6 +152,8 @@ void tst_DTabWidget::memesPlacesAjoutayCachay()
     QString const noms = u"un deux trois quatre cinq six"_s;
     DTabWidget cachay(nullptr, {});
     DTabWidget montray(nullptr, {});
+    cachay.setLayoutDirection(sens);
+    montray.setLayoutDirection(sens);
     Remplis(cachay, noms);
     cachay.InsereOnglet(Page(u"sept"_s), 1, u"sept"_s);
     cachay.MetsIndexCourant(2);
@@ -216,6 +227,10 @@ void tst_DTabWidget::pageQuiContientLeWidget()
     QCOMPARE(onglets.AjouteOnglet(&fenetre, u"x"_s), -1);
     QCOMPARE(onglets.AjouteOnglet(&onglets, u"x"_s), -1);
     QCOMPARE(onglets.AjouteOnglet(&Pile(onglets), u"x"_s), -1);
+    onglets.AjouteWidgetCommun(&fenetre);
+    QCOMPARE(onglets.layout()->count(), 2);
+    onglets.setWindowFlag(Qt::Dialog); // in another window, of which that one is the parent
+    QCOMPARE(onglets.AjouteOnglet(&fenetre, u"x"_s), -1);
     QCOMPARE(onglets.DonneTotalOnglet(), 0);
 }
 

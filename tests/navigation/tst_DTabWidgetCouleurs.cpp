@@ -52,6 +52,7 @@ private Q_SLOTS:
     void ongletAjoutayApresUnChangement();
     void ongletNeufTantQueLActifNeChangePas();
     void insertionAvantLActif();
+    void retraitDeLActif();
     void retrait_data();
     void retrait();
     void deplacement_data();
@@ -112,6 +113,10 @@ void tst_DTabWidgetCouleurs::ongletNeufTantQueLActifNeChangePas()
     QCOMPARE(Couleurs(onglets), u"gAAA"_s);
     Barre(onglets).moveTab(2, 1); // and back
     QCOMPARE(Couleurs(onglets), u"gAAA"_s);
+    Barre(onglets).moveTab(2, 0); // the active one itself
+    QCOMPARE(Couleurs(onglets), u"AgAA"_s);
+    Barre(onglets).moveTab(0, 2);
+    QCOMPARE(Couleurs(onglets), u"gAAA"_s);
     QVERIFY(!Fermeture(onglets, 1)->property("selectionnay").isValid());
     QVERIFY(!Fermeture(onglets, 3)->property("selectionnay").isValid());
     onglets.MetsIndexCourant(0);
@@ -129,6 +134,20 @@ void tst_DTabWidgetCouleurs::insertionAvantLActif()
     QCOMPARE(Couleurs(onglets), u"gggA"_s);
     QCOMPARE(Fermeture(onglets, 2)->property("selectionnay"), QVariant(false));
     QVERIFY(!Fermeture(onglets, 0)->property("selectionnay").isValid());
+}
+
+// Another one takes its place and its index: that is a change of tab.
+void tst_DTabWidgetCouleurs::retraitDeLActif()
+{
+    DTabWidget onglets(nullptr, {});
+    Remplis(onglets, u"a b c"_s);
+    onglets.MetsIndexCourant(1);
+    Remplis(onglets, u"d"_s);
+    QCOMPARE(Couleurs(onglets), u"gAgA"_s);
+    QScopedPointer<QWidget> const page(onglets.DonneWidget(1));
+    onglets.RetireOnglet(1);
+    QCOMPARE(Titres(onglets), u"a c d"_s);
+    QCOMPARE(Couleurs(onglets), u"gAg"_s);
 }
 
 void tst_DTabWidgetCouleurs::retrait_data()

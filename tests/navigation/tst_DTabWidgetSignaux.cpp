@@ -26,15 +26,6 @@ private Q_SLOTS:
     void deplacementDansLaBarre_data();
     void deplacementDansLaBarre();
     void pileDejaJustePendantLeSignal();
-    void versUnAutreWidget();
-    void versUnAutreWidgetEtatPendantLesSignaux();
-    void versUnAutreWidgetPlace_data();
-    void versUnAutreWidgetPlace();
-    void donneesApresDeplacement();
-    void envoie_data();
-    void envoie();
-    void envoieRefuse();
-    void sansWidgetCible();
     void nouvelleFenetre();
     void detache();
     void glisseDansLaBarre();
@@ -234,185 +225,6 @@ void tst_DTabWidgetSignaux::pileDejaJustePendantLeSignal()
     QCOMPARE(vus, (QStringList{u"b a c"_s, u"a"_s, u"1"_s}));
 }
 
-void tst_DTabWidgetSignaux::versUnAutreWidget()
-{
-    DTabWidget source(nullptr, u"g"_s);
-    DTabWidget cible(nullptr, u"g"_s);
-    cible.setObjectName(u"cible"_s);
-    Remplis(source, u"a b c"_s);
-    Journal journal;
-    journal.Ecoute(source, u"source"_s);
-    journal.Ecoute(cible, u"cible"_s);
-    QWidget * const page = source.DonneWidget(0);
-
-    // As the bar does on release.
-    Q_EMIT Barre(source).SignalAjouteOngletBarreExterne(0, &Barre(cible), 0);
-    QCOMPARE(journal.Prends(), (QStringList{u"cible courant 0"_s, u"source courant 0"_s,
-                                            u"source parti 0 0 cible"_s}));
-    QCOMPARE(Titres(source), u"b c"_s);
-    QCOMPARE(Titres(cible), u"a"_s);
-    QCOMPARE(page->parentWidget(), &Pile(cible));
-    QCOMPARE(Barre(cible).tabToolTip(0), u"a"_s);
-
-    // Found above the widget that is given. The index is that before the move, when those behind
-    // it had not yet moved up; the tab that arrives does not become the current one.
-    Q_EMIT Barre(source).SignalAjouteOngletBarreExterne(1, cible.DonneWidget(0), 0);
-    QCOMPARE(journal.Prends(), QStringList(u"source parti 1 0 cible"_s));
-    QCOMPARE(Titres(source), u"b"_s);
-    QCOMPARE(Titres(cible), u"c a"_s);
-    QCOMPARE(cible.DonneIndexCourant(), 1);
-    QVERIFY(cible.DonneWidget(0)->isHidden());
-
-    Q_EMIT Barre(source).SignalAjouteOngletBarreExterne(0, &Barre(cible), 2);
-    QCOMPARE(journal.Prends(), (QStringList{u"source courant -1"_s, u"source parti 0 2 cible"_s}));
-    QCOMPARE(source.DonneTotalOnglet(), 0);
-    QCOMPARE(Titres(cible), u"c a b"_s);
-}
-
-// At each signal, bar and pages are in step on both sides.
-void tst_DTabWidgetSignaux::versUnAutreWidgetEtatPendantLesSignaux()
-{
-    DTabWidget source(nullptr, u"g"_s);
-    DTabWidget cible(nullptr, u"g"_s);
-    Remplis(source, u"a b c"_s);
-    source.MetsIndexCourant(1);
-    QStringList vus;
-    auto const note = [&] {
-        vus.append(Titres(source) + u" | "_s + Titres(cible));
-        QCOMPARE(Pile(source).count(), source.DonneTotalOnglet());
-        QCOMPARE(Pile(cible).count(), cible.DonneTotalOnglet());
-    };
-    connect(&source, &DTabWidget::SignalOngletCourantChangay, &source, note);
-    connect(&cible, &DTabWidget::SignalOngletCourantChangay, &cible, note);
-    connect(&source, &DTabWidget::SignalOngletDeplacayVersBarreExterne, &source, note);
-
-    QVERIFY(source.EnvoieOnglet(1, &cible, 0));
-    // Of the tab that leaves, the page has gone first; that which arrives has no title yet.
-    QCOMPARE(vus, (QStringList{u"a b/ c | /b"_s, u"a c | b"_s, u"a c | b"_s}));
-    QCOMPARE(source.findChildren<QWidget *>(QString(), Qt::FindDirectChildrenOnly).size(), 2);
-    QCOMPARE(Pile(source).findChildren<QWidget *>(QString(), Qt::FindDirectChildrenOnly).size(), 2);
-}
-
-void tst_DTabWidgetSignaux::versUnAutreWidgetPlace_data()
-{
-    QTest::addColumn<int>("position");
-    QTest::addColumn<int>("arrivee");
-    QTest::newRow("first") << 0 << 0;
-    QTest::newRow("amid") << 1 << 1;
-    QTest::newRow("last") << 2 << 2;
-    QTest::newRow("past the end") << 9 << 2;
-    QTest::newRow("negative") << -1 << 2;
-}
-
-void tst_DTabWidgetSignaux::versUnAutreWidgetPlace()
-{
-    QFETCH(int, position);
-    QFETCH(int, arrivee);
-    DTabWidget source(nullptr, u"g"_s);
-    DTabWidget cible(nullptr, u"g"_s);
-    Remplis(source, u"a b"_s);
-    Remplis(cible, u"c d"_s);
-    QPixmap pixmap(20, 20);
-    pixmap.fill(Qt::blue);
-    source.MetsIconeOnglet(1, pixmap);
-    source.MetsDataOnglet(1, u"donnee"_s, 5);
-    QSignalSpy const espion(&source, &DTabWidget::SignalOngletDeplacayVersBarreExterne);
-
-    Q_EMIT Barre(source).SignalAjouteOngletBarreExterne(1, &Barre(cible), position);
-
-    QCOMPARE(cible.DonneWidget(arrivee)->objectName(), u"b"_s);
-    QCOMPARE(cible.DonneTitre(arrivee), u"b"_s);
-    QVERIFY(!cible.DonneIconeOnglet(arrivee).isNull());
-    QVERIFY(!Barre(cible).DonneInfos(arrivee).etiquetteIcone->isHidden());
-    QCOMPARE(cible.DonneDataOnglet(arrivee, 257), QVariant(u"donnee"_s));
-    QCOMPARE(espion.at(0), (QVariantList{1, arrivee, QVariant::fromValue(&cible)}));
-}
-
-void tst_DTabWidgetSignaux::donneesApresDeplacement()
-{
-    DTabWidget source(nullptr, u"g"_s);
-    DTabWidget cible(nullptr, u"g"_s);
-    Remplis(source, u"a"_s);
-    source.MetsDataOnglet(0, u"dernier"_s, 1'000);
-    source.MetsDataOnglet(0, u"premier"_s, -3);
-    source.MetsDataOnglet(0, u"milieu"_s, Qt::UserRole + 1);
-    QVERIFY(source.EnvoieOnglet(0, &cible, 0));
-    // Only the value of the greatest key is left, under another key.
-    QCOMPARE(cible.DonneDataOnglet(0, Qt::UserRole + 1), QVariant(u"dernier"_s));
-    QVERIFY(!cible.DonneDataOnglet(0, 1'000).isValid());
-    QVERIFY(!cible.DonneDataOnglet(0, -3).isValid());
-
-    QVERIFY(cible.EnvoieOnglet(0, &source, 0));
-    QCOMPARE(source.DonneDataOnglet(0, Qt::UserRole + 1), QVariant(u"dernier"_s));
-}
-
-void tst_DTabWidgetSignaux::envoie_data()
-{
-    QTest::addColumn<bool>("glisse");
-    QTest::newRow("a drop") << true;
-    QTest::newRow("the keyboard") << false;
-}
-
-// Both ways give the same.
-void tst_DTabWidgetSignaux::envoie()
-{
-    QFETCH(bool, glisse);
-    DTabWidget source(nullptr, u"g"_s);
-    DTabWidget cible(nullptr, u"g"_s);
-    cible.setObjectName(u"cible"_s);
-    Remplis(source, u"a b c"_s);
-    Remplis(cible, u"d e"_s);
-    source.MetsIndexCourant(1);
-    Journal journal;
-    journal.Ecoute(source, u"source"_s);
-    journal.Ecoute(cible, u"cible"_s);
-    if (glisse)
-        Q_EMIT Barre(source).SignalAjouteOngletBarreExterne(1, &Barre(cible), 1);
-    else
-        QVERIFY(source.EnvoieOnglet(1, &cible, 1));
-    QCOMPARE(journal.lignes, (QStringList{u"source courant 1"_s, u"source parti 1 1 cible"_s}));
-    QCOMPARE(Titres(source), u"a c"_s);
-    QCOMPARE(Titres(cible), u"d b e"_s);
-    QCOMPARE(source.DonneIndexCourant(), 1);
-    QCOMPARE(cible.DonneIndexCourant(), 0);
-}
-
-void tst_DTabWidgetSignaux::envoieRefuse()
-{
-    DTabWidget source(nullptr, u"g"_s);
-    DTabWidget etranger(nullptr, u"autre"_s);
-    Remplis(source, u"a b"_s);
-    auto * const dedans = new DTabWidget(source.DonneWidget(1), u"g"_s);
-    Journal journal;
-    journal.Ecoute(source, u"source"_s);
-    QVERIFY(!source.EnvoieOnglet(0, nullptr, 0));
-    QVERIFY(!source.EnvoieOnglet(0, &source, 0));
-    QVERIFY(!source.EnvoieOnglet(0, &etranger, 0));
-    QVERIFY(!source.EnvoieOnglet(1, dedans, 0)); // into its own page
-    QVERIFY(!source.EnvoieOnglet(2, dedans, 0));
-    Q_EMIT Barre(source).SignalAjouteOngletBarreExterne(1, dedans, 0);
-    QVERIFY(journal.lignes.isEmpty());
-    QCOMPARE(Titres(source), u"a b"_s);
-
-    QVERIFY(source.EnvoieOnglet(0, dedans, 0)); // into that of a neighbour
-    QCOMPARE(Titres(source), u"b"_s);
-    QCOMPARE(Titres(*dedans), u"a"_s);
-}
-
-void tst_DTabWidgetSignaux::sansWidgetCible()
-{
-    DTabWidget source(nullptr, u"g"_s);
-    Remplis(source, u"a b"_s);
-    QWidget ailleurs;
-    Journal journal;
-    journal.Ecoute(source, u"source"_s);
-    Q_EMIT Barre(source).SignalAjouteOngletBarreExterne(0, &ailleurs, 0);
-    Q_EMIT Barre(source).SignalAjouteOngletBarreExterne(0, nullptr, 0);
-    Q_EMIT Barre(source).SignalAjouteOngletBarreExterne(0, &Barre(source), 1);
-    QVERIFY(journal.lignes.isEmpty());
-    QCOMPARE(Titres(source), u"a b"_s);
-}
-
 void tst_DTabWidgetSignaux::nouvelleFenetre()
 {
     DTabWidget onglets(nullptr, {});
@@ -435,6 +247,14 @@ void tst_DTabWidgetSignaux::detache()
     QCOMPARE(journal.Prends(), (QStringList{u"x courant 2"_s, u"x fenetre 2 c"_s}));
     onglets.DetacheOnglet(2);
     QCOMPARE(journal.Prends(), QStringList(u"x fenetre 2 c"_s));
+
+    // Not another one, which a receiver prefers.
+    onglets.MetsIndexCourant(0);
+    connect(&onglets, &DTabWidget::SignalOngletCourantChangay, this,
+            [&] { onglets.MetsIndexCourant(0); });
+    journal.Prends();
+    onglets.DetacheOnglet(1);
+    QVERIFY(journal.Prends().filter(u"fenetre"_s).isEmpty());
 }
 
 // With the mouse, as Qt's bar does it.

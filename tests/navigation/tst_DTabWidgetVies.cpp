@@ -241,6 +241,8 @@ private Q_SLOTS:
     void receveurs_data();
     void receveurs();
     void fenetreDetruitePendantLeSignal();
+    void receveurQuiInsereAvantLePremier();
+    void hoteQuiRangeALaDestruction();
     void tousLesMouvementsSontDits();
 };
 
@@ -291,6 +293,41 @@ void tst_DTabWidgetVies::fenetreDetruitePendantLeSignal()
     connect(onglets, &DTabWidget::SignalOngletCourantChangay, this, [fenetre] { delete fenetre; });
     QTest::mousePress(&Barre(*onglets), Qt::LeftButton, {}, Barre(*onglets).tabRect(1).center());
     QVERIFY(!page);
+}
+
+// What follows the tab that is being added goes to that one.
+void tst_DTabWidgetVies::receveurQuiInsereAvantLePremier()
+{
+    DTabWidget onglets(nullptr, {});
+    connect(&onglets, &DTabWidget::SignalOngletCourantChangay, this, [&] {
+        if (onglets.DonneTotalOnglet() == 1)
+            onglets.InsereOnglet(Page(u"x"_s), 0, u"x"_s);
+    });
+    QCOMPARE(onglets.AjouteOnglet(Page(u"a"_s), u"a"_s), 1);
+    QCOMPARE(Titres(onglets), u"x a"_s);
+    onglets.MetsIndexCourant(0);
+    QCOMPARE(Fermeture(onglets, 0)->property("selectionnay"), QVariant(true));
+    QCOMPARE(Fermeture(onglets, 1)->property("selectionnay"), QVariant(false));
+    QCOMPARE(Couleurs(onglets), u"Ag"_s);
+}
+
+// Bar and pile live until then, but are no longer kept in step.
+void tst_DTabWidgetVies::hoteQuiRangeALaDestruction()
+{
+    auto * const onglets = new DTabWidget(nullptr, {});
+    Remplis(*onglets, u"a b c"_s);
+    DTabBarInterne & barre = Barre(*onglets);
+    QStackedWidget & pile = Pile(*onglets);
+    bool range = false;
+    connect(onglets, &QObject::destroyed, this, [&] {
+        delete pile.widget(0);
+        QCOMPARE(barre.count(), 3);
+        barre.setCurrentIndex(2);
+        QCOMPARE(pile.currentIndex(), 0);
+        range = true;
+    });
+    delete onglets;
+    QVERIFY(range);
 }
 
 // One event of the mouse may move a tab by several places.

@@ -209,7 +209,8 @@ void tst_ImportMots::mots_data()
     QTest::newRow("nothing") << QString() << CreeFormat(kLigne, 0) << QStringList();
     QTest::newRow("lines") << u"\narbre \n\n chat"_s << CreeFormat(kLigne, 0)
                            << QStringList{u"arbre"_s, u"chat"_s};
-    QTest::newRow("lines have one column") << u"a\nb"_s << CreeFormat(kLigne, 2) << QStringList();
+    QTest::newRow("lines have no columns")
+        << u"a;b\nc"_s << CreeFormat(kLigne, 2) << QStringList{u"a;b"_s, u"c"_s};
     QTest::newRow("first column") << table << CreeFormat(kPointVirgule, 1)
                                   << QStringList{u"mot"_s, u"arbre"_s, u"chat"_s};
     QTest::newRow("second column, with a short row")

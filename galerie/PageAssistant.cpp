@@ -277,7 +277,8 @@ void PageAssistant::PriseFini(int resultat)
     if (importFini)
         MemoireImports::Ajoute(monAssistant->DonneListe());
     PreteMemoire().importFini = importFini;
-    monAssistant->deleteLater(); // it is telling this
+    monAssistant->disconnect(this); // what it waits for may still move it on before it goes
+    monAssistant->deleteLater();    // it is telling this
     monAssistant = nullptr;
     MontreListes();
     MontreEtape(importFini ? static_cast<int>(AssistantImport::DonneTitres().size())

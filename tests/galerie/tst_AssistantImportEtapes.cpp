@@ -24,6 +24,7 @@ private Q_SLOTS:
     void verificationBloque();
     void sansListeFrancaise();
     void nomDejaPris();
+    void nomEffacay();
     void nomPropose();
     void resume();
 };
@@ -81,12 +82,15 @@ void tst_AssistantImportEtapes::colonneEtEnTete()
     QCOMPARE(mots(), (QStringList{u"arbre"_s, u"forêt"_s}));
     Champ<QSpinBox>("colonne").setValue(2);
     QCOMPARE(mots(), (QStringList{u"masculin"_s, u"féminin"_s}));
-    Champ<QSpinBox>("colonne").setValue(0);
-    QCOMPARE(Champ<QSpinBox>("colonne").text(), u"Toutes"_s);
-    QCOMPARE(mots().size(), 4);
+    // A line has no second column, and none can be chosen; the one that was is kept.
     Champ<QComboBox>("separateur").setCurrentIndex(0);
     QVERIFY(!Champ<QSpinBox>("colonne").isEnabled());
     QCOMPARE(mots(), (QStringList{u"arbre;masculin"_s, u"forêt;féminin"_s}));
+    Champ<QComboBox>("separateur").setCurrentIndex(2);
+    QCOMPARE(mots(), (QStringList{u"masculin"_s, u"féminin"_s}));
+    Champ<QSpinBox>("colonne").setValue(0);
+    QCOMPARE(Champ<QSpinBox>("colonne").text(), u"Toutes"_s);
+    QCOMPARE(mots().size(), 4);
 }
 
 void tst_AssistantImportEtapes::apercuDesRangees()
@@ -238,6 +242,22 @@ void tst_AssistantImportEtapes::nomDejaPris()
     Clique(Termine());
     QVERIFY(maPage->PreteAssistant());
     QCOMPARE(Refus(), u"Une liste a déjà ce nom."_s);
+}
+
+// Coming back, one is told why Finish cannot be pressed.
+void tst_AssistantImportEtapes::nomEffacay()
+{
+    OuvreALEtape(kResume, u"chat"_s);
+    QVERIFY(Refus().isEmpty());
+    Champ<QLineEdit>("nom").selectAll();
+    QTest::keyClick(&Champ<QLineEdit>("nom"), Qt::Key_Delete);
+    Clique(Precedent());
+    QVERIFY(Refus().isEmpty());
+    Clique(Suivant());
+    QCOMPARE(Etape(), static_cast<int>(kResume));
+    QVERIFY(Champ<QLineEdit>("nom").text().isEmpty());
+    QVERIFY(!Termine().isEnabled());
+    QCOMPARE(Refus(), u"La liste n’a pas de nom."_s);
 }
 
 void tst_AssistantImportEtapes::nomPropose()

@@ -27,6 +27,9 @@ private Q_SLOTS:
     void pageRefaite();
     void assistantRefait();
     void assistantRefaitQuiRefuse();
+    void assistantRefaitQuiLit_data();
+    void assistantRefaitQuiLit();
+    void assistantRefaitQuiVerifie();
     void pageRefaitePendantLaQuestion();
     void langueDeLaGalerie();
 
@@ -165,6 +168,44 @@ void tst_PageAssistantVies::assistantRefaitQuiRefuse()
     QCOMPARE(Etape(), static_cast<int>(kFormat));
     AvanceJusqua(kTri);
     QCOMPARE(Champ<QSpinBox>("longueurMin").value(), 20);
+}
+
+void tst_PageAssistantVies::assistantRefaitQuiLit_data()
+{
+    QTest::addColumn<QString>("nom");
+    QTest::newRow("a file") << u"francais"_s;
+    QTest::newRow("no such file") << u"franc"_s;
+    QTest::newRow("nothing") << QString(); // refused at once
+}
+
+// A path that was being typed is not read before one says so, nor told to be wrong.
+void tst_PageAssistantVies::assistantRefaitQuiLit()
+{
+    QFETCH(QString, nom);
+    QString const chemin = nom.isEmpty() ? nom : monDossier.filePath(nom);
+    OuvreALEtape(kTri, u"chat"_s);
+    for (int i = 0; i < 2; ++i)
+        Clique(Precedent());
+    Clique(Champ<QRadioButton>("choixFichier"));
+    Champ<QLineEdit>("chemin").setText(chemin);
+    Construis();
+    for (int tour = 0; tour < 5; ++tour)
+        QCoreApplication::processEvents();
+    QCOMPARE(Etape(), static_cast<int>(kSource));
+    QCOMPARE(Champ<QLineEdit>("chemin").text(), chemin);
+    QVERIFY(Refus().isEmpty());
+    QVERIFY(Suivant().isEnabled());
+}
+
+void tst_PageAssistantVies::assistantRefaitQuiVerifie()
+{
+    OuvreALEtape(kResume, u"chat\nété"_s);
+    CliqueEtape(kTri);
+    Champ<QComboBox>("casse").setCurrentIndex(2);
+    Clique(Suivant()); // the words are others now, and checked anew
+    Construis();
+    QTRY_VERIFY(Champ<QLabel>("resultatVerification").text().contains(u"connus\u00A0: 2"_s));
+    QCOMPARE(Etape(), static_cast<int>(kVerification));
 }
 
 void tst_PageAssistantVies::pageRefaitePendantLaQuestion()

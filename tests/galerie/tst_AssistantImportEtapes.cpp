@@ -17,6 +17,8 @@ private Q_SLOTS:
     void formatRefusay();
     void colonneEtEnTete();
     void apercuDesRangees();
+    void cellulesLues_data();
+    void cellulesLues();
     void triEnDirect();
     void triRefusay();
     void verification();
@@ -103,6 +105,33 @@ void tst_AssistantImportEtapes::apercuDesRangees()
     Champ<QComboBox>("separateur").setCurrentIndex(1);
     QVERIFY(modele.columnCount() > 3 && modele.columnCount() < 8);
     QCOMPARE(modele.headerData(0, Qt::Horizontal).toString(), u"Colonne 1"_s);
+}
+
+void tst_AssistantImportEtapes::cellulesLues_data()
+{
+    QTest::addColumn<int>("colonne");
+    QTest::addColumn<bool>("enTete");
+    QTest::addColumn<QList<bool>>("lues"); // of two rows of two cells
+    QTest::newRow("all") << 0 << false << QList<bool>{true, true, true, true};
+    QTest::newRow("first column") << 1 << false << QList<bool>{true, false, true, false};
+    QTest::newRow("second column") << 2 << false << QList<bool>{false, true, false, true};
+    QTest::newRow("heading") << 0 << true << QList<bool>{false, false, true, true};
+    QTest::newRow("heading of a column") << 2 << true << QList<bool>{false, false, false, true};
+}
+
+// The others are grey.
+void tst_AssistantImportEtapes::cellulesLues()
+{
+    QFETCH(int, colonne);
+    QFETCH(bool, enTete);
+    OuvreALEtape(kFormat, u"mot;genre\narbre;m"_s);
+    Champ<QSpinBox>("colonne").setValue(colonne);
+    Champ<QCheckBox>("enTete").setChecked(enTete);
+    auto const & modele = *Champ<DTreeView>("rangees").model();
+    QList<bool> noires;
+    for (int i = 0; i < 4; ++i)
+        noires.append(!modele.index(i / 2, i % 2).data(Qt::ForegroundRole).isValid());
+    QTEST(noires, "lues");
 }
 
 void tst_AssistantImportEtapes::triEnDirect()

@@ -125,6 +125,8 @@ void tst_ImportMots::separateurDevine_data()
     QTest::newRow("the one of most lines") << u"a;x, y\nb;x\nc;x, y, z\nd;x\n"_s << kPointVirgule;
     QTest::newRow("half of the lines are too few") << u"a, b\nc\nd, e\nf\n"_s << kLigne;
     QTest::newRow("more than half") << u"a, b\nc\nd, e\n"_s << kVirgule;
+    QTest::newRow("told from the first lines")
+        << u"a;b\n"_s.repeated(50) + u"c\n"_s.repeated(60) << kPointVirgule;
     QTest::newRow("a tab rather than a comma in as many") << u"a,b\tc\na,b\tc"_s << kTabulation;
 }
 
@@ -172,6 +174,8 @@ void tst_ImportMots::rangees_data()
     QTest::newRow("no separator") << u"a b"_s << kPointVirgule << QStringList{u"a b"_s};
     QTest::newRow("quotation marks")
         << u"\"a, b\", \"c\""_s << kVirgule << QStringList{u"a, b"_s, u"c"_s};
+    QTest::newRow("blanks in quotation marks")
+        << u"\" a \" ,b"_s << kVirgule << QStringList{u"a"_s, u"b"_s};
     QTest::newRow("doubled quotation marks")
         << u"\"dit \"\"a\"\"\";b"_s << kPointVirgule << QStringList{u"dit \"a\""_s, u"b"_s};
     QTest::newRow("mark that is not closed") << u"\"a,b"_s << kVirgule << QStringList{u"a,b"_s};

@@ -170,6 +170,12 @@ void tst_AssistantImportEtapes::triRefusay()
     QVERIFY(Refus().contains(u"Aucun mot"_s));
     QVERIFY(!Suivant().isEnabled());
     QVERIFY(Precedent().isEnabled());
+    Clique(Precedent()); // and back: nothing was tried yet
+    AvanceJusqua(kTri);
+    QVERIFY(Refus().isEmpty());
+    QVERIFY(Suivant().isEnabled());
+    Clique(Suivant());
+    QVERIFY(Refus().contains(u"Aucun mot"_s));
     Champ<QSpinBox>("longueurMin").setValue(2);
     QVERIFY(Refus().isEmpty());
     AvanceJusqua(kVerification);

@@ -366,7 +366,8 @@ void tst_ImportMots::lineaire()
     };
     dureeDe(1000);
     qint64 const petite = dureeDe(35'000);
-    qint64 const grande = dureeDe(350'000);
+    // The least of some: a machine that is busy makes any of them long.
+    qint64 const grande = std::min({dureeDe(350'000), dureeDe(350'000), dureeDe(350'000)});
     QVERIFY(petite > 0 && grande > 0);
     QVERIFY2(grande < petite * 50, qPrintable(u"%1 ns, %2 ns"_s.arg(petite).arg(grande)));
 }

@@ -65,6 +65,8 @@ void AssistantImport::Ouvre(SaisieImport const & saisie)
     show();
     while (monEtapeCourante < saisie.etapeMax && PriseBoutonSuivant()) {
     }
+    if (monEtapeCourante < saisie.etapeMax)
+        mesEtapes.at(monEtapeCourante)->AbandonneAvance();
     while (monEtapeCourante > saisie.etape)
         PriseBoutonPrecedent();
 }

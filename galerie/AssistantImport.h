@@ -25,7 +25,7 @@ public:
 
     SaisieImport DonneSaisie();
     /// Shows the wizard, which must not have been shown yet, where `saisie` left it; the moves
-    /// that lead there are made anew, and end at a step that refuses.
+    /// that lead there are made anew, and end at a step that refuses or waits.
     void Ouvre(SaisieImport const & saisie);
     /// The same without a window on the screen, for a picture of it.
     void OuvrePourApercu(SaisieImport const & saisie);

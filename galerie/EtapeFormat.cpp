@@ -182,9 +182,7 @@ void EtapeFormat::MontreRangees(QString const & texte)
         for (int i = 0; i < std::min<int>(static_cast<int>(cellules.size()), kColonnesMontrees);
              ++i) {
             auto * const item = new QStandardItem(cellules.at(i).left(kCaracteresMontres));
-            bool const estLue = !estEnTete && (format.colonne == ImportMots::kToutesLesColonnes ||
-                                               format.colonne == i + 1);
-            if (!estLue)
+            if (estEnTete || !format.PrendsColonne(i + 1))
                 item->setForeground(palette().brush(QPalette::PlaceholderText));
             rangee.append(item);
             if (titres.size() <= i)

@@ -84,6 +84,11 @@ bool EtapeImport::PeutFermer(QCloseEvent *)
     return false;
 }
 
+void EtapeImport::AbandonneAvance()
+{
+    LeveRefus();
+}
+
 QVariant EtapeImport::DonneOption(QLatin1StringView nom) const
 {
     return monAssistant.DonneOption(nom);

@@ -23,6 +23,10 @@ public:
     bool BloqueAvance() override;
     bool PeutFermer(QCloseEvent * evenement) override;
 
+    /// The move forward that was refused, or waits, was not the user's: as if it had not been
+    /// tried.
+    virtual void AbandonneAvance();
+
 protected:
     AssistantImport & PreteAssistant() const { return monAssistant; }
     /// Above the line that tells why.

@@ -42,7 +42,7 @@ void EtapeResume::EntreDansEtape()
 {
     EtapeImport::EntreDansEtape();
     PreteAssistant().ActiveBoutonSuivant(false); // the last step
-    PreteAssistant().ActiveBoutonTermine(DonneRefus().isEmpty());
+    VerifieNom();
 }
 
 bool EtapeResume::PeutTerminer()
@@ -106,10 +106,15 @@ QString EtapeResume::ProposeNom() const
     return nom;
 }
 
-void EtapeResume::PriseNom(QString const & nom)
+void EtapeResume::VerifieNom()
 {
-    PrendsOption(OptionsImport::kNom, nom);
     QString const refus = DonneRefus();
     MontreRefus(refus);
     PreteAssistant().ActiveBoutonTermine(refus.isEmpty());
+}
+
+void EtapeResume::PriseNom(QString const & nom)
+{
+    PrendsOption(OptionsImport::kNom, nom);
+    VerifieNom();
 }

@@ -26,6 +26,7 @@ protected:
 private:
     QLabel * AjouteLigne(QGridLayout & grille, QString const & titre);
     QString ProposeNom() const;
+    void VerifieNom();
 
     void PriseNom(QString const & nom);
 

@@ -111,6 +111,12 @@ bool EtapeSource::PeutAvancer()
     return EtapeImport::PeutAvancer();
 }
 
+void EtapeSource::AbandonneAvance()
+{
+    AbandonneLecture();
+    EtapeImport::AbandonneAvance();
+}
+
 void EtapeSource::Affiche()
 {
     QSignalBlocker const choix(monChoixTexte);
@@ -177,6 +183,8 @@ void EtapeSource::PriseSaisie()
     AbandonneLecture();
     PrendsOption(OptionsImport::kEstColle, monChoixTexte->isChecked());
     PrendsOption(OptionsImport::kChemin, monChemin->text());
+    // The file may have been changed because of a refusal.
+    PrendsOption(OptionsImport::kOctetsDe, QString());
     LeveRefus();
 }
 
@@ -201,6 +209,7 @@ void EtapeSource::PriseParcourir()
 void EtapeSource::PriseFichierChoisi(QString const & fichier)
 {
     monChemin->setText(QDir::toNativeSeparators(fichier));
+    PriseSaisie(); // also the same one again
 }
 
 void EtapeSource::PriseLu()

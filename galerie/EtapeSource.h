@@ -24,6 +24,7 @@ public:
     /// itself when it is.
     bool BloqueAvance() override;
     bool PeutAvancer() override;
+    void AbandonneAvance() override;
 
 protected:
     void Affiche() override;

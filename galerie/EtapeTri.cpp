@@ -161,7 +161,7 @@ void EtapeTri::MetsTri(ImportMots::Tri const & tri)
     mesChiffres->setChecked(tri.sansChiffres);
 }
 
-// A tenth of a second for the words of a dictionary.
+// Some hundredths of a second for the words of a dictionary.
 void EtapeTri::Calcule()
 {
     ImportMots::ResultatTri const resultat =

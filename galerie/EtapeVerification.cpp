@@ -61,6 +61,12 @@ bool EtapeVerification::PeutAvancer()
     return EtapeImport::PeutAvancer();
 }
 
+void EtapeVerification::AbandonneAvance()
+{
+    monAvanceEstDemandee = false;
+    EtapeImport::AbandonneAvance();
+}
+
 void EtapeVerification::Affiche()
 {
     QSignalBlocker const retrait(monRetrait);

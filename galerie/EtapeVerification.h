@@ -23,6 +23,7 @@ public:
     bool BloqueAvance() override;
     bool BloqueRetour() override;
     bool PeutAvancer() override;
+    void AbandonneAvance() override;
 
 protected:
     void Affiche() override;

@@ -56,6 +56,12 @@ struct Format
     eSeparateur separateur = kLigne;
     int colonne = kToutesLesColonnes; ///< from 1
     bool avecEnTete = false;          ///< the first line holds no words
+
+    /// Whether the cells of a column, from 1, are words. Whole lines have no columns to choose.
+    bool PrendsColonne(int autre) const
+    {
+        return separateur == kLigne || colonne == kToutesLesColonnes || colonne == autre;
+    }
 };
 
 struct Tri

@@ -161,7 +161,7 @@ QWidget * PageAssistant::CreeCommandes()
             Qt::UniqueConnection);
     auto * const explication = new QLabel(TraductionGalerie(TexteGalerie(
         "L’image montre l’étape du milieu, avec une liste courte. Échap referme l’assistant ; si "
-        "quelque chose y est entré, il demande d’abord.")));
+        "quelque chose y est entré, il demande d’abord. Annuler ne demande rien.")));
     explication->setObjectName(u"explicationPage"_s);
     explication->setWordWrap(true);
     auto * const commandes = new QWidget;
@@ -277,7 +277,8 @@ void PageAssistant::PriseFini(int resultat)
     if (importFini)
         MemoireImports::Ajoute(monAssistant->DonneListe());
     PreteMemoire().importFini = importFini;
-    monAssistant->deleteLater(); // it is telling this
+    monAssistant->disconnect(this); // what it waits for may still move it on before it goes
+    monAssistant->deleteLater();    // it is telling this
     monAssistant = nullptr;
     MontreListes();
     MontreEtape(importFini ? static_cast<int>(AssistantImport::DonneTitres().size())

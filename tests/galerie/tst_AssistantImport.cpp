@@ -17,6 +17,8 @@ private Q_SLOTS:
     void toutALaSouris();
     void sourceRefusee_data();
     void sourceRefusee();
+    void fichierCorrige_data();
+    void fichierCorrige();
     void fichierParcouru();
     void texteRefusay();
     void lectureBloque();
@@ -120,6 +122,39 @@ void tst_AssistantImport::sourceRefusee()
     QVERIFY(Suivant().isEnabled());
     Clique(Suivant());
     QTRY_COMPARE(Etape(), static_cast<int>(kFormat));
+}
+
+void tst_AssistantImport::fichierCorrige_data()
+{
+    QTest::addColumn<bool>("parcouru");
+    QTest::newRow("typed again") << false;
+    QTest::newRow("chosen again") << true;
+}
+
+// Who is told that the file has no words may put some in.
+void tst_AssistantImport::fichierCorrige()
+{
+    QFETCH(bool, parcouru);
+    QString const fichier = Ecris(u"corrige"_s, "--");
+    Ouvre();
+    auto & chemin = Champ<QLineEdit>("chemin");
+    chemin.setText(fichier);
+    Clique(Suivant());
+    QTRY_VERIFY(Refus().contains(u"aucun mot"_s));
+    Ecris(u"corrige"_s, "chat");
+    if (parcouru) {
+        Clique(Champ<QPushButton>("parcourir"));
+        auto * const dialogue = Assistant().findChild<QFileDialog *>();
+        dialogue->selectFile(fichier);
+        QMetaObject::invokeMethod(dialogue, "accept");
+        QTRY_VERIFY(!Assistant().findChild<QFileDialog *>());
+    } else {
+        chemin.selectAll();
+        QTest::keyClicks(&chemin, fichier);
+    }
+    QVERIFY(Refus().isEmpty());
+    AvanceJusqua(kFormat);
+    QCOMPARE(Champ<QLabel>("nombreLu").text(), u"1 mot lu"_s);
 }
 
 void tst_AssistantImport::fichierParcouru()

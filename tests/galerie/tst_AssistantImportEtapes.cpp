@@ -17,6 +17,8 @@ private Q_SLOTS:
     void formatRefusay();
     void colonneEtEnTete();
     void apercuDesRangees();
+    void cellulesLues_data();
+    void cellulesLues();
     void triEnDirect();
     void triRefusay();
     void verification();
@@ -24,6 +26,7 @@ private Q_SLOTS:
     void verificationBloque();
     void sansListeFrancaise();
     void nomDejaPris();
+    void nomEffacay();
     void nomPropose();
     void resume();
 };
@@ -81,12 +84,15 @@ void tst_AssistantImportEtapes::colonneEtEnTete()
     QCOMPARE(mots(), (QStringList{u"arbre"_s, u"forêt"_s}));
     Champ<QSpinBox>("colonne").setValue(2);
     QCOMPARE(mots(), (QStringList{u"masculin"_s, u"féminin"_s}));
-    Champ<QSpinBox>("colonne").setValue(0);
-    QCOMPARE(Champ<QSpinBox>("colonne").text(), u"Toutes"_s);
-    QCOMPARE(mots().size(), 4);
+    // A line has no second column, and none can be chosen; the one that was is kept.
     Champ<QComboBox>("separateur").setCurrentIndex(0);
     QVERIFY(!Champ<QSpinBox>("colonne").isEnabled());
     QCOMPARE(mots(), (QStringList{u"arbre;masculin"_s, u"forêt;féminin"_s}));
+    Champ<QComboBox>("separateur").setCurrentIndex(2);
+    QCOMPARE(mots(), (QStringList{u"masculin"_s, u"féminin"_s}));
+    Champ<QSpinBox>("colonne").setValue(0);
+    QCOMPARE(Champ<QSpinBox>("colonne").text(), u"Toutes"_s);
+    QCOMPARE(mots().size(), 4);
 }
 
 void tst_AssistantImportEtapes::apercuDesRangees()
@@ -99,6 +105,33 @@ void tst_AssistantImportEtapes::apercuDesRangees()
     Champ<QComboBox>("separateur").setCurrentIndex(1);
     QVERIFY(modele.columnCount() > 3 && modele.columnCount() < 8);
     QCOMPARE(modele.headerData(0, Qt::Horizontal).toString(), u"Colonne 1"_s);
+}
+
+void tst_AssistantImportEtapes::cellulesLues_data()
+{
+    QTest::addColumn<int>("colonne");
+    QTest::addColumn<bool>("enTete");
+    QTest::addColumn<QList<bool>>("lues"); // of two rows of two cells
+    QTest::newRow("all") << 0 << false << QList<bool>{true, true, true, true};
+    QTest::newRow("first column") << 1 << false << QList<bool>{true, false, true, false};
+    QTest::newRow("second column") << 2 << false << QList<bool>{false, true, false, true};
+    QTest::newRow("heading") << 0 << true << QList<bool>{false, false, true, true};
+    QTest::newRow("heading of a column") << 2 << true << QList<bool>{false, false, false, true};
+}
+
+// The others are grey.
+void tst_AssistantImportEtapes::cellulesLues()
+{
+    QFETCH(int, colonne);
+    QFETCH(bool, enTete);
+    OuvreALEtape(kFormat, u"mot;genre\narbre;m"_s);
+    Champ<QSpinBox>("colonne").setValue(colonne);
+    Champ<QCheckBox>("enTete").setChecked(enTete);
+    auto const & modele = *Champ<DTreeView>("rangees").model();
+    QList<bool> noires;
+    for (int i = 0; i < 4; ++i)
+        noires.append(!modele.index(i / 2, i % 2).data(Qt::ForegroundRole).isValid());
+    QTEST(noires, "lues");
 }
 
 void tst_AssistantImportEtapes::triEnDirect()
@@ -137,6 +170,12 @@ void tst_AssistantImportEtapes::triRefusay()
     QVERIFY(Refus().contains(u"Aucun mot"_s));
     QVERIFY(!Suivant().isEnabled());
     QVERIFY(Precedent().isEnabled());
+    Clique(Precedent()); // and back: nothing was tried yet
+    AvanceJusqua(kTri);
+    QVERIFY(Refus().isEmpty());
+    QVERIFY(Suivant().isEnabled());
+    Clique(Suivant());
+    QVERIFY(Refus().contains(u"Aucun mot"_s));
     Champ<QSpinBox>("longueurMin").setValue(2);
     QVERIFY(Refus().isEmpty());
     AvanceJusqua(kVerification);
@@ -238,6 +277,22 @@ void tst_AssistantImportEtapes::nomDejaPris()
     Clique(Termine());
     QVERIFY(maPage->PreteAssistant());
     QCOMPARE(Refus(), u"Une liste a déjà ce nom."_s);
+}
+
+// Coming back, one is told why Finish cannot be pressed.
+void tst_AssistantImportEtapes::nomEffacay()
+{
+    OuvreALEtape(kResume, u"chat"_s);
+    QVERIFY(Refus().isEmpty());
+    Champ<QLineEdit>("nom").selectAll();
+    QTest::keyClick(&Champ<QLineEdit>("nom"), Qt::Key_Delete);
+    Clique(Precedent());
+    QVERIFY(Refus().isEmpty());
+    Clique(Suivant());
+    QCOMPARE(Etape(), static_cast<int>(kResume));
+    QVERIFY(Champ<QLineEdit>("nom").text().isEmpty());
+    QVERIFY(!Termine().isEnabled());
+    QCOMPARE(Refus(), u"La liste n’a pas de nom."_s);
 }
 
 void tst_AssistantImportEtapes::nomPropose()

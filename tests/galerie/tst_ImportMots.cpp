@@ -125,6 +125,8 @@ void tst_ImportMots::separateurDevine_data()
     QTest::newRow("the one of most lines") << u"a;x, y\nb;x\nc;x, y, z\nd;x\n"_s << kPointVirgule;
     QTest::newRow("half of the lines are too few") << u"a, b\nc\nd, e\nf\n"_s << kLigne;
     QTest::newRow("more than half") << u"a, b\nc\nd, e\n"_s << kVirgule;
+    QTest::newRow("told from the first lines")
+        << u"a;b\n"_s.repeated(50) + u"c\n"_s.repeated(60) << kPointVirgule;
     QTest::newRow("a tab rather than a comma in as many") << u"a,b\tc\na,b\tc"_s << kTabulation;
 }
 
@@ -172,6 +174,8 @@ void tst_ImportMots::rangees_data()
     QTest::newRow("no separator") << u"a b"_s << kPointVirgule << QStringList{u"a b"_s};
     QTest::newRow("quotation marks")
         << u"\"a, b\", \"c\""_s << kVirgule << QStringList{u"a, b"_s, u"c"_s};
+    QTest::newRow("blanks in quotation marks")
+        << u"\" a \" ,b"_s << kVirgule << QStringList{u"a"_s, u"b"_s};
     QTest::newRow("doubled quotation marks")
         << u"\"dit \"\"a\"\"\";b"_s << kPointVirgule << QStringList{u"dit \"a\""_s, u"b"_s};
     QTest::newRow("mark that is not closed") << u"\"a,b"_s << kVirgule << QStringList{u"a,b"_s};
@@ -209,7 +213,8 @@ void tst_ImportMots::mots_data()
     QTest::newRow("nothing") << QString() << CreeFormat(kLigne, 0) << QStringList();
     QTest::newRow("lines") << u"\narbre \n\n chat"_s << CreeFormat(kLigne, 0)
                            << QStringList{u"arbre"_s, u"chat"_s};
-    QTest::newRow("lines have one column") << u"a\nb"_s << CreeFormat(kLigne, 2) << QStringList();
+    QTest::newRow("lines have no columns")
+        << u"a;b\nc"_s << CreeFormat(kLigne, 2) << QStringList{u"a;b"_s, u"c"_s};
     QTest::newRow("first column") << table << CreeFormat(kPointVirgule, 1)
                                   << QStringList{u"mot"_s, u"arbre"_s, u"chat"_s};
     QTest::newRow("second column, with a short row")
@@ -361,7 +366,8 @@ void tst_ImportMots::lineaire()
     };
     dureeDe(1000);
     qint64 const petite = dureeDe(35'000);
-    qint64 const grande = dureeDe(350'000);
+    // The least of some: a machine that is busy makes any of them long.
+    qint64 const grande = std::min({dureeDe(350'000), dureeDe(350'000), dureeDe(350'000)});
     QVERIFY(petite > 0 && grande > 0);
     QVERIFY2(grande < petite * 50, qPrintable(u"%1 ns, %2 ns"_s.arg(petite).arg(grande)));
 }

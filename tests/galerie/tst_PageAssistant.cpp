@@ -22,6 +22,7 @@ private Q_SLOTS:
     void apercu();
     void filSuit();
     void filApresAbandon();
+    void filApresAbandonEnLisant();
     void unSeulAssistant();
     void listes();
     void retrait();
@@ -133,6 +134,19 @@ void tst_PageAssistant::filApresAbandon()
     QCOMPARE(Etats().value(kTri), u"en cours"_s); // the picture's again
 }
 
+// What was read when the wizard was closed moves nothing any more.
+void tst_PageAssistant::filApresAbandonEnLisant()
+{
+    Ouvre();
+    Champ<QLineEdit>("chemin").setText(Ecris(u"mots"_s, "chat"));
+    Clique(Suivant());
+    Clique(Annule());
+    for (int tour = 0; tour < 5; ++tour)
+        QCoreApplication::processEvents();
+    QCOMPARE(Etats().value(kTri), u"en cours"_s);
+    QCOMPARE(Etats().value(kFormat), u"faite"_s);
+}
+
 void tst_PageAssistant::unSeulAssistant()
 {
     Ouvre();
@@ -184,6 +198,14 @@ void tst_PageAssistant::lisibleEnThemeSombre()
 {
     Nettoie();
     ThemeGalerie theme(u"fusion"_s);
+    auto const enClair = qScopeGuard([this, &theme] { // also when it fails
+        Nettoie();
+        theme.Reinitialise();
+        theme.Applique();
+        qApp->setStyleSheet(QString());
+        QApplication::setStyle(u"fusion"_s); // the library's keeps a widget of its own
+        ThemesQt::DetruisToi();
+    });
     theme.Reinitialise();
     theme.Assombris();
     QVERIFY(theme.Applique());
@@ -216,12 +238,6 @@ void tst_PageAssistant::lisibleEnThemeSombre()
         if (etape > kSource)
             Clique(Precedent());
     }
-    Nettoie();
-    theme.Reinitialise();
-    QVERIFY(theme.Applique());
-    qApp->setStyleSheet(QString());
-    QApplication::setStyle(u"fusion"_s); // the library's keeps a widget of its own
-    ThemesQt::DetruisToi();
 }
 
 QTEST_MAIN(tst_PageAssistant)

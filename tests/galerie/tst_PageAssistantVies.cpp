@@ -27,10 +27,15 @@ private Q_SLOTS:
     void pageRefaite();
     void assistantRefait();
     void assistantRefaitQuiRefuse();
+    void assistantRefaitQuiLit_data();
+    void assistantRefaitQuiLit();
+    void assistantRefaitQuiVerifie();
     void pageRefaitePendantLaQuestion();
     void langueDeLaGalerie();
 
 private:
+    void EntreTout();
+    void VerifieTout();
     void DemandeFermeture(QString const & maniere);
     DMessageBox * Question() const { return Assistant().findChild<DMessageBox *>(); }
     void Reponds(QString const & bouton);
@@ -76,14 +81,22 @@ void tst_PageAssistantVies::fermetureVierge()
 
 void tst_PageAssistantVies::fermetureAvecSaisie_data()
 {
-    fermetureVierge_data();
+    QTest::addColumn<QString>("maniere");
+    QTest::addColumn<bool>("collay");
+    QTest::newRow("Escape, text") << u"Escape"_s << true;
+    QTest::newRow("the window's button, text") << u"croix"_s << true;
+    QTest::newRow("Escape, path") << u"Escape"_s << false;
 }
 
 void tst_PageAssistantVies::fermetureAvecSaisie()
 {
     QFETCH(QString, maniere);
+    QFETCH(bool, collay);
     Ouvre();
-    Colle(u"chat"_s);
+    if (collay)
+        Colle(u"chat"_s);
+    else
+        Champ<QLineEdit>("chemin").setText(Ecris(u"mots"_s, "chat"));
     AvanceJusqua(kFormat);
     DemandeFermeture(maniere);
     QVERIFY(Assistant().isVisible());
@@ -115,17 +128,54 @@ void tst_PageAssistantVies::pageRefaite()
     QCOMPARE(Listes().model()->headerData(0, Qt::Horizontal).toString(), u"Name"_s);
 }
 
+void tst_PageAssistantVies::EntreTout()
+{
+    Ouvre();
+    Colle(u"collé"_s);
+    Clique(Champ<QRadioButton>("choixFichier"));
+    Champ<QLineEdit>("chemin").setText(
+        Ecris(u"liste"_s, "mot;genre\na;Chat\nb;\xC3\xA9t\xC3\xA9\nc;Zz\nd;Chat\ne;chat1\n"));
+    AvanceJusqua(kFormat);
+    Champ<QComboBox>("codage").setCurrentIndex(1);
+    Champ<QSpinBox>("colonne").setValue(2);
+    Clique(Champ<QCheckBox>("enTete"));
+    AvanceJusqua(kTri);
+    Champ<QComboBox>("casse").setCurrentIndex(1);
+    Champ<QSpinBox>("longueurMin").setValue(3);
+    Clique(Champ<QCheckBox>("doublons"));
+    Clique(Champ<QCheckBox>("chiffres"));
+    AvanceJusqua(kVerification);
+    QTRY_VERIFY(Champ<QLabel>("resultatVerification").text().contains(u"inconnus\u00A0: 2"_s));
+    Clique(Champ<QCheckBox>("retrait"));
+    AvanceJusqua(kResume);
+    QTest::keyClicks(&Champ<QLineEdit>("nom"), u" bis"_s);
+}
+
+void tst_PageAssistantVies::VerifieTout()
+{
+    QVERIFY(Champ<QRadioButton>("choixFichier").isChecked());
+    QCOMPARE(Champ<QLineEdit>("chemin").text(), monDossier.filePath(u"liste"_s));
+    QCOMPARE(Champ<QPlainTextEdit>("texteColle").toPlainText(), u"collé"_s);
+    QCOMPARE(Champ<QComboBox>("codage").currentIndex(), 1);
+    QCOMPARE(Champ<QComboBox>("separateur").currentIndex(), 2);
+    QCOMPARE(Champ<QSpinBox>("colonne").value(), 2);
+    QVERIFY(Champ<QCheckBox>("enTete").isChecked());
+    QCOMPARE(Champ<QComboBox>("casse").currentIndex(), 1);
+    QCOMPARE(Champ<QSpinBox>("longueurMin").value(), 3);
+    QVERIFY(!Champ<QCheckBox>("doublons").isChecked());
+    QVERIFY(!Champ<QCheckBox>("chiffres").isChecked());
+    QVERIFY(Champ<QCheckBox>("retrait").isChecked());
+    QCOMPARE(Champ<QLineEdit>("nom").text(), u"liste bis"_s);
+}
+
 // What was entered, where one stood, and how far one had come.
 void tst_PageAssistantVies::assistantRefait()
 {
-    OuvreALEtape(kFormat, u"a;Chat\nb;Été\nc;Zz"_s);
-    Champ<QSpinBox>("colonne").setValue(2);
-    AvanceJusqua(kTri);
-    Champ<QSpinBox>("longueurMin").setValue(3);
-    AvanceJusqua(kResume);
-    QTest::keyClicks(&Champ<QLineEdit>("nom"), u" bis"_s);
+    EntreTout();
     Clique(Precedent());
     Clique(Precedent());
+    QSize const taille = Assistant().size() + QSize(30, 20);
+    Assistant().resize(taille);
 
     Traductions::MetsLanguePourApplicationCourante(kLangueAnglais);
     Construis();
@@ -133,19 +183,18 @@ void tst_PageAssistantVies::assistantRefait()
     QVERIFY(maPage->PreteAssistant());
     Assistant().activateWindow();
     AttendsAssistant();
+    QCOMPARE(Assistant().size(), taille);
     QCOMPARE(Etape(), static_cast<int>(kTri));
     QCOMPARE(Assistant().windowTitle(), u"Import a Word List – Cleaning"_s);
     QCOMPARE(Assistant().DonneMaxEtapeParcouru(), static_cast<int>(kResume));
-    QCOMPARE(Champ<QSpinBox>("longueurMin").value(), 3);
-    QCOMPARE(Champ<QSpinBox>("colonne").value(), 2);
-    QCOMPARE(Champ<QLineEdit>("nom").text(), u"Texte collé bis"_s);
-    auto const & etapes = *Assistant().findChild<QListWidget *>();
-    QVERIFY(etapes.item(kResume)->flags().testFlag(Qt::ItemIsEnabled));
+    VerifieTout();
+    QVERIFY(Etapes().item(kResume)->flags().testFlag(Qt::ItemIsEnabled));
     for (int i = 0; i < 2; ++i)
         Clique(Bouton(u"Next >"_s));
     QTRY_COMPARE(Etape(), static_cast<int>(kResume));
     Clique(Bouton(u"Finish"_s));
-    QCOMPARE(MemoireImports::DonneListes().value(0).mots, (QStringList{u"Chat"_s, u"Été"_s}));
+    QCOMPARE(MemoireImports::DonneListes().value(0).nom, u"liste bis"_s);
+    QCOMPARE(MemoireImports::DonneListes().value(0).mots, (QStringList{u"chat"_s, u"chat"_s}));
     // Once only.
     Construis();
     QVERIFY(!maPage->PreteAssistant());
@@ -165,6 +214,44 @@ void tst_PageAssistantVies::assistantRefaitQuiRefuse()
     QCOMPARE(Etape(), static_cast<int>(kFormat));
     AvanceJusqua(kTri);
     QCOMPARE(Champ<QSpinBox>("longueurMin").value(), 20);
+}
+
+void tst_PageAssistantVies::assistantRefaitQuiLit_data()
+{
+    QTest::addColumn<QString>("nom");
+    QTest::newRow("a file") << u"francais"_s;
+    QTest::newRow("no such file") << u"franc"_s;
+    QTest::newRow("nothing") << QString(); // refused at once
+}
+
+// A path that was being typed is not read before one says so, nor told to be wrong.
+void tst_PageAssistantVies::assistantRefaitQuiLit()
+{
+    QFETCH(QString, nom);
+    QString const chemin = nom.isEmpty() ? nom : monDossier.filePath(nom);
+    OuvreALEtape(kTri, u"chat"_s);
+    for (int i = 0; i < 2; ++i)
+        Clique(Precedent());
+    Clique(Champ<QRadioButton>("choixFichier"));
+    Champ<QLineEdit>("chemin").setText(chemin);
+    Construis();
+    for (int tour = 0; tour < 5; ++tour)
+        QCoreApplication::processEvents();
+    QCOMPARE(Etape(), static_cast<int>(kSource));
+    QCOMPARE(Champ<QLineEdit>("chemin").text(), chemin);
+    QVERIFY(Refus().isEmpty());
+    QVERIFY(Suivant().isEnabled());
+}
+
+void tst_PageAssistantVies::assistantRefaitQuiVerifie()
+{
+    OuvreALEtape(kResume, u"chat\nété"_s);
+    CliqueEtape(kTri);
+    Champ<QComboBox>("casse").setCurrentIndex(2);
+    Clique(Suivant()); // the words are others now, and checked anew
+    Construis();
+    QTRY_VERIFY(Champ<QLabel>("resultatVerification").text().contains(u"connus\u00A0: 2"_s));
+    QCOMPARE(Etape(), static_cast<int>(kVerification));
 }
 
 void tst_PageAssistantVies::pageRefaitePendantLaQuestion()

@@ -222,12 +222,13 @@ void DTabWidget::changeEvent(QEvent * evenement)
 {
     QFrame::changeEvent(evenement);
     // The theme has no signal of its own; an application that changes it changes one of these.
-    if (evenement->type() != QEvent::PaletteChange && evenement->type() != QEvent::StyleChange)
-        return;
-    for (int i = 0; monBarre && i < DonneTotalOnglet(); ++i) {
-        bool const actif = i == monIndexPrecedent || mesPagesNeuves.contains(DonneWidget(i));
-        PreteBarreInterne()->MetsCouleurTitre(i, actif);
-    }
+    if (evenement->type() == QEvent::PaletteChange || evenement->type() == QEvent::StyleChange)
+        ActualiseCouleurs();
+    // Style sheets take their palettes away from the labels, which hear of it only behind this.
+    if (evenement->type() == QEvent::StyleChange)
+        QMetaObject::invokeMethod(this, &DTabWidget::ActualiseCouleurs, Qt::QueuedConnection);
+    if (evenement->type() == QEvent::LanguageChange)
+        NommeBoutonsFermeture();
 }
 
 bool DTabWidget::eventFilter(QObject * objet, QEvent * evenement)
@@ -355,6 +356,13 @@ void DTabWidget::AjouteBoutonFermeture(int index)
     PreteBarreInterne()->AjusteLargeurTitre(index);
 }
 
+void DTabWidget::NommeBoutonsFermeture()
+{
+    for (QToolButton * const bouton :
+         PreteBarreInterne()->findChildren<QToolButton *>(u"boutonFermeture"_s))
+        bouton->setAccessibleName(TraductionGui(TexteGui("Fermer l'onglet")));
+}
+
 void DTabWidget::RetireDeLaPile(QWidget * page)
 {
     QScopedValueRollback const retrait(monRetraitEnCours, true);
@@ -398,6 +406,14 @@ void DTabWidget::GriseTitresNeufs(int indexActif)
         int const index = maPile->indexOf(page);
         if (index >= 0 && index != indexActif)
             PreteBarreInterne()->MetsCouleurTitre(index, false);
+    }
+}
+
+void DTabWidget::ActualiseCouleurs()
+{
+    for (int i = 0; i < DonneTotalOnglet(); ++i) {
+        bool const actif = i == monIndexPrecedent || mesPagesNeuves.contains(DonneWidget(i));
+        PreteBarreInterne()->MetsCouleurTitre(i, actif);
     }
 }
 

@@ -132,6 +132,7 @@ void tst_FenetreOnglets::envoiVersUneFenetreReduite()
     QVERIFY(onglets.EnvoieOnglet(1, &detachee->PreteOnglets(), 1));
 
     QVERIFY(!detachee->isMinimized());
+    QCOMPARE(BancOnglets::PreteListe(*fenetre).currentRow(), int{BancOnglets::kPolices});
     QTRY_VERIFY(detachee->isActiveWindow());
 }
 
@@ -343,6 +344,9 @@ void tst_FenetreOnglets::marqueDeLaFenetreActive()
     QTRY_VERIFY(detachee->isActiveWindow());
     fenetre->PreteOnglets().MetsIndexCourant(0);
     QCOMPARE(liste.currentRow(), int{BancOnglets::kTextes});
+    // But what is asked for does.
+    fenetre->MontrePage(BancOnglets::kPolices);
+    QCOMPARE(liste.currentRow(), int{BancOnglets::kPolices});
 }
 
 void tst_FenetreOnglets::ajoutDansLaFenetreDetachee()

@@ -37,20 +37,22 @@ void CadrePage::Construis()
         return;
     monWidget = DonnePages().at(maPage).cree(monTheme);
     layout()->addWidget(monWidget);
+    mesDefauts = LisSaisies(*monWidget);
     RemetsSaisies(*monWidget, mesSaisies);
+    monWidget->show(); // the layout would do it later: too late for the focus
 }
 
 void CadrePage::Defais()
 {
     if (!monWidget)
         return;
-    mesSaisies = LisSaisies(*monWidget);
+    mesSaisies = DonneSaisies();
     delete monWidget;
 }
 
 SaisiesPage CadrePage::DonneSaisies() const
 {
-    return monWidget ? LisSaisies(*monWidget) : mesSaisies;
+    return monWidget ? OteTextesParDefaut(LisSaisies(*monWidget), mesDefauts) : mesSaisies;
 }
 
 void CadrePage::ReprendsFocus()

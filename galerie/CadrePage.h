@@ -38,6 +38,7 @@ private:
     int maPage;
     ThemeGalerie & monTheme;
     SaisiesPage mesSaisies; // of the page that is no more
+    SaisiesPage mesDefauts; // of the page when it was new
     QPointer<QWidget> monWidget;
     // Qt forgets it when the frame goes to another window.
     QPointer<QWidget> monDernierFocus;

@@ -110,6 +110,7 @@ QWidget * EssaisStyle::CreeBoutons()
     menu->setPopupMode(QToolButton::MenuButtonPopup);
     menu->setMenu(CreeMenuRiche(menu));
     auto * const liste = new QComboBox;
+    liste->setObjectName(u"essaiListe"_s);
     liste->setAccessibleName(TraductionGalerie(TexteGalerie("Liste déroulante")));
     for (int i = 1; i <= 3; ++i)
         liste->addItem(
@@ -129,9 +130,12 @@ QWidget * EssaisStyle::CreeChamps()
     auto * const champ = new DLineEdit;
     champ->setText(TraductionGalerie(TexteGalerie("Champ")));
     champ->setAccessibleName(champ->text());
+    champ->setObjectName(u"essaiChamp"_s);
     auto * const coche = new QCheckBox(TraductionGalerie(TexteGalerie("Case à cocher")));
+    coche->setObjectName(u"essaiCoche"_s);
     coche->setChecked(true);
     auto * const reglette = new QSlider(Qt::Horizontal);
+    reglette->setObjectName(u"essaiReglette"_s);
     reglette->setValue(reglette->maximum() / 2);
     reglette->setAccessibleName(TraductionGalerie(TexteGalerie("Réglette")));
     disposition->addWidget(champ, 1);

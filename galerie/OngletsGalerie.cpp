@@ -5,7 +5,6 @@
 #include "Pages.h"
 
 #include "foundation/ThemesQt.h"
-#include "foundation/TraductionGui.h"
 #include "navigation/DTabBar.h"
 #include "navigation/DTabBarInterne.h"
 
@@ -54,15 +53,16 @@ int OngletsGalerie::TrouvePage(int page)
 
 void OngletsGalerie::AjouteCadre(CadrePage & cadre)
 {
-    HabilleOnglet(AjouteOnglet(&cadre, cadre.DonneTitre()));
+    int const index = AjouteOnglet(&cadre, cadre.DonneTitre());
+    HabilleOnglet(index);
+    // It has the colour of the active one until another tab is chosen: here it waits for that.
+    PreteBarre()->PreteBarreInterne()->MetsCouleurTitre(index, index == DonneIndexCourant());
 }
 
 void OngletsGalerie::Habille()
 {
     for (int i = 0; i < DonneTotalOnglet(); ++i)
         HabilleOnglet(i);
-    PreteBarre()->PreteBoutonAjout()->setAccessibleName(
-        TraductionGui(TexteGui("Ajouter un onglet")));
 }
 
 void OngletsGalerie::MetsAjout(bool possible)
@@ -80,9 +80,8 @@ bool OngletsGalerie::event(QEvent * evenement)
 void OngletsGalerie::changeEvent(QEvent * evenement)
 {
     DTabWidget::changeEvent(evenement);
-    // Later: style sheets take their palettes away from the labels, which hear of it behind this.
     if (evenement->type() == QEvent::StyleChange)
-        QMetaObject::invokeMethod(this, &OngletsGalerie::PriseThemeChangay, Qt::QueuedConnection);
+        AccordeLigne();
 }
 
 bool OngletsGalerie::eventFilter(QObject * objet, QEvent * evenement)
@@ -128,14 +127,6 @@ void OngletsGalerie::PriseMenuAuClavier()
     Q_EMIT SignalMenuOnglet(index, barre.mapToGlobal(onglet.bottomLeft()));
 }
 
-void OngletsGalerie::PriseThemeChangay()
-{
-    AccordeLigne();
-    DTabBarInterne & barre = *PreteBarre()->PreteBarreInterne();
-    for (int i = 0; i < barre.count(); ++i)
-        barre.MetsCouleurTitre(i, i == barre.currentIndex());
-}
-
 // The line behind the add button, whose own colour is for light windows.
 void OngletsGalerie::AccordeLigne()
 {
@@ -171,10 +162,6 @@ void OngletsGalerie::HabilleOnglet(int index)
     CadrePage const & cadre = *PreteCadre(index);
     MetsTexteOnglet(index, cadre.DonneTitre());
     MetsIconeOnglet(index, CreeIconePage(DonnePages().at(cadre.DonnePage())));
-    DTabBarInterne & barre = *PreteBarre()->PreteBarreInterne();
-    barre.MetsCouleurTitre(index, index == barre.currentIndex());
-    if (QWidget * const bouton = barre.tabButton(index, QTabBar::RightSide))
-        bouton->setAccessibleName(TraductionGui(TexteGui("Fermer l'onglet")));
 }
 
 void OngletsGalerie::Tourne(int pas)

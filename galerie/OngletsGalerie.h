@@ -24,7 +24,7 @@ public:
 
     /// Adds a tab at the end.
     void AjouteCadre(CadrePage & cadre);
-    /// Gives each tab its title, its icon and its names again, in the language and the theme.
+    /// Gives each tab its title and its icon again, in the language and the theme.
     void Habille();
     /// Shows or hides the add button.
     void MetsAjout(bool possible);
@@ -45,7 +45,6 @@ private Q_SLOTS:
     void PrisePrecedent();
     void PriseFermer();
     void PriseMenuAuClavier();
-    void PriseThemeChangay();
 
 private:
     void AccordeLigne();

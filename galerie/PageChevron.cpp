@@ -145,6 +145,7 @@ QWidget * PageChevron::CreeOutils()
 void PageChevron::CreeTexte()
 {
     monTexte = new QTextEdit;
+    monTexte->setObjectName(u"texteChevron"_s);
     monTexte->setAccessibleName(TraductionGalerie(TexteGalerie("Texte")));
     monTexte->setTabChangesFocus(true);
     monTexte->setFixedHeight(kHauteurTexte);

@@ -210,6 +210,7 @@ QWidget * PageTexteRiche::CreeChamps()
     auto * const groupe = new QGroupBox(TraductionGalerie(TexteGalerie("Champs")));
     auto * const formulaire = new QFormLayout(groupe);
     monChampErreur = new DLineEdit;
+    monChampErreur->setObjectName(u"champErreur"_s);
     monChampErreur->setText(TraductionGalerie(TexteGalerie("Une valeur")));
     monErreur = new QCheckBox(TraductionGalerie(TexteGalerie("&Erronée")));
     monErreur->setObjectName(u"erreur"_s);

@@ -153,7 +153,9 @@ QLayout * PageTheme::CreeEssai()
     monApercu->setFrameShape(QFrame::StyledPanel);
     auto * const contenu = new QVBoxLayout(monApercu);
     contenu->addWidget(new QLabel(TraductionGalerie(TexteGalerie("Étiquette"))));
-    contenu->addWidget(new QLineEdit(TraductionGalerie(TexteGalerie("Champ"))));
+    auto * const champ = new QLineEdit(TraductionGalerie(TexteGalerie("Champ")));
+    champ->setObjectName(u"champApercu"_s);
+    contenu->addWidget(champ);
     contenu->addWidget(new QPushButton(TraductionGalerie(TexteGalerie("Bouton"))));
     contenu->addStretch();
 

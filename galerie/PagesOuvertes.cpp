@@ -272,6 +272,7 @@ void PagesOuvertes::PriseOngletEnvoyay(OngletsGalerie & source, DTabWidget & cib
     if (onglets == nullptr)
         return;
     onglets->MetsIndexCourant(position);
+    AmeneDevant(*onglets->window()); // it may have been minimized
     onglets->PreteCadreCourant()->ReprendsFocus();
     mesActifs = onglets;
     RetireSiVide(source);

@@ -29,8 +29,8 @@ public:
     PagesOuvertes(ThemeGalerie & theme, OngletsGalerie & principaux);
     ~PagesOuvertes() override;
 
-    /// Makes the page current in whichever window it stands, and that window the active one; opens
-    /// it in the main window where it stands in none.
+    /// Makes the page current in whichever window it stands, which comes to the front if it was
+    /// torn off; opens the page in the main window where it stands in none.
     void Montre(int page);
     /// Shows the page in the main window and closes all others.
     void MontreSeule(int page);

@@ -54,8 +54,10 @@ void PagesOuvertes::PriseAjout(OngletsGalerie & onglets)
         DescriptionPage const & description = DonnePages().at(page);
         QAction const * const action =
             menu.addAction(CreeIconePage(description), TraductionGalerie(description.titre));
-        connect(action, &QAction::triggered, this,
-                [this, page, &onglets] { Ouvre(page, onglets); });
+        connect(action, &QAction::triggered, this, [this, page, &onglets] {
+            Ouvre(page, onglets);
+            onglets.PreteCadreCourant()->ReprendsFocus();
+        });
     }
     QPushButton const & bouton = *onglets.PreteBarre()->PreteBoutonAjout();
     OuvreMenu(menu, bouton.mapToGlobal(bouton.rect().bottomLeft()));

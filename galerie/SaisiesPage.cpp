@@ -29,8 +29,17 @@ QList<QWidget *> DonneNommes(QWidget const & page)
     return nommes;
 }
 
+// What was typed and is none of the choices.
+bool EstTexteLibre(QComboBox const & combo)
+{
+    return combo.isEditable() && combo.currentText() != combo.itemText(combo.currentIndex());
+}
+
 QVariant LisSaisie(QWidget const & widget)
 {
+    auto const * const combo = qobject_cast<QComboBox const *>(&widget);
+    if (combo != nullptr && EstTexteLibre(*combo))
+        return combo->currentText();
     // Made of other widgets, it has no property of its own.
     if (auto const * const bouton = qobject_cast<DBoutonAbstrait const *>(&widget))
         return bouton->EstCochay();
@@ -41,6 +50,9 @@ void EcrisSaisie(QWidget & widget, QVariant const & saisie)
 {
     if (auto * const bouton = qobject_cast<DBoutonAbstrait *>(&widget))
         bouton->MetsCochay(saisie.toBool());
+    else if (auto * const combo = qobject_cast<QComboBox *>(&widget);
+             combo != nullptr && saisie.typeId() == QMetaType::QString)
+        combo->setEditText(saisie.toString());
     else
         DonneSaisie(widget).write(&widget, saisie);
 }
@@ -55,6 +67,18 @@ SaisiesPage LisSaisies(QWidget const & page)
     return saisies;
 }
 
+// Nothing stands in their places, so that those of one name keep their order.
+SaisiesPage OteTextesParDefaut(SaisiesPage saisies, SaisiesPage const & defauts)
+{
+    for (auto saisie = saisies.begin(); saisie != saisies.end(); ++saisie) {
+        QVariantList const deDepart = defauts.value(saisie.key());
+        for (int i = 0; i < saisie->size() && i < deDepart.size(); ++i)
+            if (saisie->at(i).typeId() == QMetaType::QString && saisie->at(i) == deDepart.at(i))
+                (*saisie)[i] = QVariant();
+    }
+    return saisies;
+}
+
 // Widgets of one name, as the two fields of a search bar, take theirs in turn.
 void RemetsSaisies(QWidget const & page, SaisiesPage saisies)
 {
@@ -64,7 +88,7 @@ void RemetsSaisies(QWidget const & page, SaisiesPage saisies)
             continue;
         QVariant const saisie = restantes->takeFirst();
         // Some tell of a value that is written even when it is the same.
-        if (LisSaisie(*widget) != saisie)
+        if (saisie.isValid() && LisSaisie(*widget) != saisie)
             EcrisSaisie(*widget, saisie);
     }
 }

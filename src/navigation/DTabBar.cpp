@@ -6,6 +6,7 @@
 #include "navigation/DTabBarInterne.h"
 #include "navigation/DTabWidget.h"
 
+#include <QEvent>
 #include <QHBoxLayout>
 #include <QPushButton>
 #include <QVBoxLayout>
@@ -35,6 +36,13 @@ DTabBar::DTabBar(DTabWidget * parent, UniChaine identifiantGroupe)
             Qt::UniqueConnection);
 }
 
+void DTabBar::changeEvent(QEvent * evenement)
+{
+    QFrame::changeEvent(evenement);
+    if (evenement->type() == QEvent::LanguageChange)
+        NommeBoutonAjout();
+}
+
 void DTabBar::CreeBarreInterne()
 {
     maBarreInterne = new DTabBarInterne(this, monIdentifiantGroupe);
@@ -55,7 +63,7 @@ void DTabBar::CreeBoutonAjout()
 
     monBoutonAjout = new QPushButton(this);
     monBoutonAjout->setObjectName(u"boutonAjoutOnglet"_s);
-    monBoutonAjout->setAccessibleName(TraductionGui(TexteGui("Ajouter un onglet")));
+    NommeBoutonAjout();
     monBoutonAjout->setIcon(QIcon(u":/Images/boutonAjoutOnglet.png"_s));
     monBoutonAjout->setFixedSize(kTailleBoutonAjout);
     colonne->addWidget(monBoutonAjout);
@@ -66,4 +74,9 @@ void DTabBar::CreeBoutonAjout()
     ligne->setSizePolicy(QSizePolicy::MinimumExpanding, QSizePolicy::Minimum);
     ligne->setMinimumHeight(1);
     colonne->addWidget(ligne);
+}
+
+void DTabBar::NommeBoutonAjout()
+{
+    monBoutonAjout->setAccessibleName(TraductionGui(TexteGui("Ajouter un onglet")));
 }

@@ -29,9 +29,13 @@ Q_SIGNALS:
     /// The button was clicked; the row adds nothing by itself.
     void SignalAjouteOnglet();
 
+protected:
+    void changeEvent(QEvent * evenement) override;
+
 private:
     void CreeBarreInterne();
     void CreeBoutonAjout();
+    void NommeBoutonAjout();
 
     DTabBarInterne * maBarreInterne = nullptr;
     QPushButton * monBoutonAjout = nullptr;

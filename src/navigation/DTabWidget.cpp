@@ -281,3 +281,10 @@ void DTabWidget::AjouteBoutonFermeture(int index)
     PreteBarreInterne()->PoseBouton(index, QTabBar::RightSide, bouton);
     PreteBarreInterne()->AjusteLargeurTitre(index);
 }
+
+void DTabWidget::NommeBoutonsFermeture()
+{
+    for (QToolButton * const bouton :
+         PreteBarreInterne()->findChildren<QToolButton *>(u"boutonFermeture"_s))
+        bouton->setAccessibleName(TraductionGui(TexteGui("Fermer l'onglet")));
+}

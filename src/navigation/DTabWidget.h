@@ -120,10 +120,12 @@ private:
     void Branche();
     int PoseOnglet(QWidget * page, int position);
     void AjouteBoutonFermeture(int index);
+    void NommeBoutonsFermeture();
     void RetireDeLaPile(QWidget * page);
     void RetireDeLaBarre(int index);
     void MontreActif(int index, bool actif);
     void GriseTitresNeufs(int indexActif);
+    void ActualiseCouleurs();
     void Publie(Annonce const & annonce);
     void Diffuse();
 

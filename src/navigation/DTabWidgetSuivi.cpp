@@ -14,12 +14,13 @@ void DTabWidget::changeEvent(QEvent * evenement)
 {
     QFrame::changeEvent(evenement);
     // The theme has no signal of its own; an application that changes it changes one of these.
-    if (evenement->type() != QEvent::PaletteChange && evenement->type() != QEvent::StyleChange)
-        return;
-    for (int i = 0; monBarre && i < DonneTotalOnglet(); ++i) {
-        bool const actif = i == monIndexPrecedent || mesPagesNeuves.contains(DonneWidget(i));
-        PreteBarreInterne()->MetsCouleurTitre(i, actif);
-    }
+    if (evenement->type() == QEvent::PaletteChange || evenement->type() == QEvent::StyleChange)
+        ActualiseCouleurs();
+    // Style sheets take their palettes away from the labels, which hear of it only behind this.
+    if (evenement->type() == QEvent::StyleChange)
+        QMetaObject::invokeMethod(this, &DTabWidget::ActualiseCouleurs, Qt::QueuedConnection);
+    if (evenement->type() == QEvent::LanguageChange)
+        NommeBoutonsFermeture();
 }
 
 bool DTabWidget::eventFilter(QObject * barre, QEvent * evenement)
@@ -129,6 +130,14 @@ void DTabWidget::GriseTitresNeufs(int indexActif)
         int const index = maPile->indexOf(page);
         if (index != indexActif)
             PreteBarreInterne()->MetsCouleurTitre(index, false);
+    }
+}
+
+void DTabWidget::ActualiseCouleurs()
+{
+    for (int i = 0; i < DonneTotalOnglet(); ++i) {
+        bool const actif = i == monIndexPrecedent || mesPagesNeuves.contains(DonneWidget(i));
+        PreteBarreInterne()->MetsCouleurTitre(i, actif);
     }
 }
 

@@ -57,6 +57,8 @@ private Q_SLOTS:
     void langueRefaitLesPages();
     void saisiesGardees();
     void saisiesDuMemeNom();
+    void saisiesDesTextesDepart();
+    void saisieDansUnCombo();
     void saisiesDansLesApercus();
     void lettresUniques_data();
     void lettresUniques();
@@ -176,6 +178,41 @@ void tst_FenetreGalerie::saisiesDuMemeNom()
     QCOMPARE(champs().last()->text(), u"livre"_s);
 }
 
+// A text that nobody has changed is in the language of its page.
+void tst_FenetreGalerie::saisiesDesTextesDepart()
+{
+    FenetreGalerie fenetre(monTheme);
+    MontreToutesLesPages(fenetre);
+    auto const texte = [&fenetre](QString const & nom) {
+        return fenetre.findChild<QLineEdit *>(nom)->text();
+    };
+    QCOMPARE(texte(u"champApercu"_s), u"Champ"_s);
+    fenetre.findChild<QLineEdit *>(u"essaiChamp"_s)->setText(u"un essai"_s);
+
+    fenetre.MetsLangue(kLangueAnglais);
+    MontreToutesLesPages(fenetre);
+    QCOMPARE(texte(u"champApercu"_s), u"Field"_s);
+    QCOMPARE(texte(u"essaiChamp"_s), u"un essai"_s);
+
+    // It is still a change where the page is built with it.
+    fenetre.MetsLangue(kLangueFrancais);
+    MontreToutesLesPages(fenetre);
+    QCOMPARE(texte(u"essaiChamp"_s), u"un essai"_s);
+}
+
+void tst_FenetreGalerie::saisieDansUnCombo()
+{
+    FenetreGalerie fenetre(monTheme);
+    MontreToutesLesPages(fenetre);
+    auto const combo = [&fenetre] { return fenetre.findChild<QComboBox *>(u"motCherche"_s); };
+    combo()->setEditText(u"pas encore"_s);
+
+    fenetre.MetsLangue(kLangueAnglais);
+    MontreToutesLesPages(fenetre);
+
+    QCOMPARE(combo()->currentText(), u"pas encore"_s);
+}
+
 // What stands in a window that is closed is kept, and seen in its picture.
 void tst_FenetreGalerie::saisiesDansLesApercus()
 {
@@ -221,7 +258,6 @@ void tst_FenetreGalerie::lettresUniques()
         QWidget const * const page = onglets.DonneWidgetCourant();
         QStringList textes;
         for (auto const * const etiquette : fenetre.findChildren<QLabel *>())
-            // Windows of the pages, as the wizard's, have letters of their own.
             // Windows of the pages, as the wizard's, have letters of their own.
             if (etiquette->buddy() && etiquette->window() == &fenetre &&
                 (page->isAncestorOf(etiquette) || !onglets.isAncestorOf(etiquette)))

@@ -1,6 +1,8 @@
 // tests/galerie/tst_FenetreOnglets.cpp
 #include "BancOnglets.h"
 
+#include "controls/DLabelElision.h"
+
 using namespace Qt::StringLiterals;
 
 // Windows that were torn off, beside the main one.
@@ -15,9 +17,11 @@ private Q_SLOTS:
     void detachementGardeLaPage();
     void renvoiParLaMemeVoie();
     void envoiEntreDetachees();
+    void envoiVersUneFenetreReduite();
     void dernierOngletFermay();
     void seulOngletDetachayDeplaceSaFenetre();
     void detachementDuSeulOngletPrincipal();
+    void retourDePlusieursOnglets();
     void fermetureRameneLesPages();
     void fermetureDeLaPrincipale();
     void destructionAvecDetachees();
@@ -117,6 +121,21 @@ void tst_FenetreOnglets::envoiEntreDetachees()
     QCOMPARE(premiere->windowTitle(), u"Textes – Galerie de libFabrelGui"_s);
 }
 
+void tst_FenetreOnglets::envoiVersUneFenetreReduite()
+{
+    auto const fenetre =
+        monBanc.Ouvre({BancOnglets::kTheme, BancOnglets::kTextes, BancOnglets::kPolices});
+    OngletsGalerie & onglets = fenetre->PreteOnglets();
+    FenetreOnglets * const detachee = BancOnglets::Detache(onglets, BancOnglets::kTextes);
+    detachee->showMinimized();
+
+    QVERIFY(onglets.EnvoieOnglet(1, &detachee->PreteOnglets(), 1));
+
+    QVERIFY(!detachee->isMinimized());
+    QCOMPARE(BancOnglets::PreteListe(*fenetre).currentRow(), int{BancOnglets::kPolices});
+    QTRY_VERIFY(detachee->isActiveWindow());
+}
+
 void tst_FenetreOnglets::dernierOngletFermay()
 {
     auto const fenetre = monBanc.Ouvre({BancOnglets::kTheme, BancOnglets::kTextes});
@@ -159,6 +178,29 @@ void tst_FenetreOnglets::detachementDuSeulOngletPrincipal()
     QCOMPARE(BancOnglets::PreteListe(*fenetre).currentRow(), int{BancOnglets::kTextes});
     QVERIFY(detachee->close());
     QVERIFY(phrase->isHidden());
+}
+
+// Of several that come back to an empty window one is the active one.
+void tst_FenetreOnglets::retourDePlusieursOnglets()
+{
+    auto const fenetre = monBanc.Ouvre({BancOnglets::kTextes, BancOnglets::kPolices});
+    OngletsGalerie & onglets = fenetre->PreteOnglets();
+    FenetreOnglets * const detachee = BancOnglets::Detache(onglets, BancOnglets::kTextes);
+    QVERIFY(onglets.EnvoieOnglet(0, &detachee->PreteOnglets(), 1));
+    detachee->PreteOnglets().MetsIndexCourant(0);
+    QCOMPARE(onglets.DonneTotalOnglet(), 0);
+
+    QVERIFY(detachee->close());
+
+    QCOMPARE(BancOnglets::DonnePages(onglets),
+             (QList<int>{BancOnglets::kTextes, BancOnglets::kPolices}));
+    QCOMPARE(onglets.DonneIndexCourant(), 0);
+    auto const couleur = [&](int index) {
+        return BancOnglets::PreteBarre(onglets).DonneInfos(index).etiquetteTitre->palette().color(
+            QPalette::WindowText);
+    };
+    QCOMPARE(couleur(0), ThemesQt::Instance()->DonneCouleur(u"couleurTexteDeBase"_s));
+    QCOMPARE(couleur(1), ThemesQt::Instance()->DonneCouleur(u"couleurTexteGris"_s));
 }
 
 void tst_FenetreOnglets::fermetureRameneLesPages()
@@ -302,6 +344,9 @@ void tst_FenetreOnglets::marqueDeLaFenetreActive()
     QTRY_VERIFY(detachee->isActiveWindow());
     fenetre->PreteOnglets().MetsIndexCourant(0);
     QCOMPARE(liste.currentRow(), int{BancOnglets::kTextes});
+    // But what is asked for does.
+    fenetre->MontrePage(BancOnglets::kPolices);
+    QCOMPARE(liste.currentRow(), int{BancOnglets::kPolices});
 }
 
 void tst_FenetreOnglets::ajoutDansLaFenetreDetachee()

@@ -1,9 +1,11 @@
 #include "navigation/DTabWidget.h"
 
 #include "navigation/EssaisOnglets.h"
+#include "noyau/Traductions.h"
 #include "outils/LecteurSimulay.h"
 
 #include <QAccessible>
+#include <QScopeGuard>
 #include <QtTest>
 
 using namespace EssaisOnglets;
@@ -58,6 +60,7 @@ private Q_SLOTS:
     void nomsDesOnglets();
     void ongletActif();
     void boutons();
+    void boutonsDansUneAutreLangue();
     void boutonsDeFermetureParLeurNom();
 };
 
@@ -132,6 +135,30 @@ void tst_DTabWidgetAcces::boutonsDeFermetureParLeurNom()
         QTRY_COMPARE(espion.count(), 1);
         QCOMPARE(espion.at(0).at(0).toInt(), i);
     }
+}
+
+void tst_DTabWidgetAcces::boutonsDansUneAutreLangue()
+{
+    auto const retablis = qScopeGuard([langue = Traductions::DonneLanguePourApplicationCourante()] {
+        Traductions::MetsLanguePourApplicationCourante(langue);
+    });
+    Traductions::MetsLanguePourApplicationCourante(kLangueFrancais);
+    QWidget fenetre;
+    DTabWidget onglets(&fenetre, {});
+    Remplis(onglets, u"a b"_s);
+    auto * const aLHote = new QToolButton; // in the place of the widget's own
+    aLHote->setAccessibleName(u"Plus"_s);
+    Barre(onglets).setTabButton(1, QTabBar::RightSide, aLHote);
+    QPushButton const & ajout = *onglets.PreteBarre()->PreteBoutonAjout();
+    QCOMPARE(Fermeture(onglets, 0)->accessibleName(), u"Fermer l'onglet"_s);
+
+    Traductions::MetsLanguePourApplicationCourante(kLangueAnglais);
+    QEvent langue(QEvent::LanguageChange);
+    QCoreApplication::sendEvent(&fenetre, &langue);
+
+    QCOMPARE(Fermeture(onglets, 0)->accessibleName(), u"Close Tab"_s);
+    QCOMPARE(ajout.accessibleName(), u"Add Tab"_s);
+    QCOMPARE(aLHote->accessibleName(), u"Plus"_s);
 }
 
 QTEST_MAIN(tst_DTabWidgetAcces)

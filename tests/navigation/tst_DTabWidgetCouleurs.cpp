@@ -60,6 +60,7 @@ private Q_SLOTS:
     void deplacementVersUnAutreWidget();
     void pageReprise();
     void suitLeTheme();
+    void suitLesFeuillesDeLApplication();
     void repolitLesBoutons();
     void remetLIcone();
     void feuilleDeStyle();
@@ -269,6 +270,29 @@ void tst_DTabWidgetCouleurs::suitLeTheme()
     onglets.setStyleSheet(u"QLabel { margin: 1px; }"_s);
     QCOMPARE(CouleurTitre(onglets, 1), QColor(Qt::magenta));
     QCOMPARE(Couleurs(onglets), u"gAA"_s);
+}
+
+// Sheets with colours take the labels' palettes away and give back those from before.
+void tst_DTabWidgetCouleurs::suitLesFeuillesDeLApplication()
+{
+    auto const retablis = qScopeGuard([] {
+        qApp->setStyleSheet({});
+        ThemesQt::DetruisToi();
+    });
+    qApp->setStyleSheet(u"QWidget { color: #102030; }"_s);
+    DTabWidget onglets(nullptr, {});
+    Remplis(onglets, u"a b"_s);
+    onglets.MetsIndexCourant(1);
+    Remplis(onglets, u"c"_s);
+    onglets.show(); // polished with that sheet
+    QVERIFY(QTest::qWaitForWindowExposed(&onglets));
+
+    ThemesQt::Instance()->AjouterVariable(u"couleurTexteDeBase"_s, QColor(Qt::yellow));
+    ThemesQt::Instance()->AjouterVariable(u"couleurTexteGris"_s, QColor(Qt::cyan));
+    qApp->setStyleSheet(u"QPushButton { color: #302010; }"_s);
+    QTRY_COMPARE(Couleurs(onglets), u"gAA"_s);
+    QCOMPARE(CouleurTitre(onglets, 1), QColor(Qt::yellow));
+    QCOMPARE(CouleurTitre(onglets, 0), QColor(Qt::cyan));
 }
 
 void tst_DTabWidgetCouleurs::repolitLesBoutons()

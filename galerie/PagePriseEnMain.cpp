@@ -70,9 +70,9 @@ PagePriseEnMain::PagePriseEnMain(QWidget * parent)
 
 PagePriseEnMain::~PagePriseEnMain()
 {
-    FenPriseEnMain const & fenetre = *FenPriseEnMain::Instance();
-    if (fenetre.isVisible()) {
-        PreteOuverture() = fenetre.pos();
+    FenPriseEnMain const * const fenetre = FenPriseEnMain::Instance();
+    if (fenetre && fenetre->isVisible()) {
+        PreteOuverture() = fenetre->pos();
         OublieOuverturePlusTard();
     }
     FenPriseEnMain::LibereSingleton();

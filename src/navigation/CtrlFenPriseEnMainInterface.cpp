@@ -82,6 +82,11 @@ UniChaine CtrlFenPriseEnMainInterface::DonneExplication() const
     return monExplication;
 }
 
+std::vector<RangeePriseEnMain> & CtrlFenPriseEnMainInterface::PreteVecteurRangeesPriseEnMain()
+{
+    return mesRangees;
+}
+
 std::vector<RangeePriseEnMain> const &
 CtrlFenPriseEnMainInterface::PreteVecteurRangeesPriseEnMain() const
 {

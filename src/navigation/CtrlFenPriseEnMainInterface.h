@@ -40,6 +40,7 @@ public:
     UniChaine DonneTitreFenetre() const;
     UniChaine DonneExplication() const;
     /// The rows, in their order, until the next `Initialise`.
+    std::vector<RangeePriseEnMain> & PreteVecteurRangeesPriseEnMain();
     std::vector<RangeePriseEnMain> const & PreteVecteurRangeesPriseEnMain() const;
 
     /// The value of the first setting whose key, with "/" between its names, is `cle`; false

@@ -33,6 +33,11 @@ bool EstClair(QColor const & couleur)
     return couleur.lightness() > 127; // of 255
 }
 
+QString NumeroteTitre(int numero, QString const & titre)
+{
+    return u"%1. %2"_s.arg(QString::number(numero), titre);
+}
+
 void ActiveItem(QListWidgetItem * item, bool actif)
 {
     // Qt tells assistive technologies of rows that can't be selected, not of disabled ones.
@@ -152,11 +157,12 @@ void DAssistant::AjouteEtape(DAssistantEtape * etape, bool)
     maPile->addWidget(etape);
     mesEtapes.append(etape);
 
-    auto * const item = new QListWidgetItem;
-    item->setData(kRoleTitre, QString(etape->DonneTitreEtape()));
+    QString const titre = etape->DonneTitreEtape();
+    auto * const item = new QListWidgetItem(NumeroteTitre(maVueEtapes->count() + 1, titre));
+    item->setData(kRoleTitre, titre);
     ActiveItem(item, false);
     maVueEtapes->addItem(item);
-    NumeroteRangees();
+    maVueEtapes->setAccessibleName(DonneTitreGenerique(monEtapeCourante));
     RangeFocus();
 }
 
@@ -251,8 +257,7 @@ void DAssistant::NumeroteRangees()
     maVueEtapes->setAccessibleName(DonneTitreGenerique(monEtapeCourante));
     for (int rangee = 0; rangee < maVueEtapes->count(); ++rangee) {
         QListWidgetItem * const item = maVueEtapes->item(rangee);
-        item->setText(
-            u"%1. %2"_s.arg(QString::number(rangee + 1), item->data(kRoleTitre).toString()));
+        item->setText(NumeroteTitre(rangee + 1, item->data(kRoleTitre).toString()));
     }
 }
 

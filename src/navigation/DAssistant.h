@@ -33,7 +33,7 @@ class FABRELGUI_EXPORT DAssistant : public QDialog
     Q_OBJECT
 
 public:
-    explicit DAssistant(QWidget * parent);
+    explicit DAssistant(QWidget * parent = nullptr);
     ~DAssistant() override;
 
     /// Adds a step at the end and takes ownership of it. The second argument has no effect. Null
@@ -90,7 +90,7 @@ protected:
 private Q_SLOTS:
     void PriseSelectionEtape(QItemSelection selectionnay, QItemSelection deselectionnay);
     void PriseClicEtape(QModelIndex const & index);
-    void PriseEtapeEnlevay(int index);
+    void PriseEtapeEnlevay();
 
 private:
     void CreeListe();

@@ -61,7 +61,7 @@ bool DAssistant::PriseBoutonSuivant()
     DAssistantEtape * const suivante = mesEtapes.at(cible);
     monEtapeCourante = suivante;
     maPile->setCurrentWidget(suivante);
-    monBoutonPrecedent->setEnabled(!monHistorique.isEmpty());
+    monBoutonPrecedent->setEnabled(!monHistorique.isEmpty()); // nothing is behind the first one
     ChangeTitre();
     if (!garde || suivante != monEtapeCourante)
         return true; // the step has moved on as it was shown, or whoever listens to the title
@@ -185,13 +185,21 @@ void DAssistant::PriseSelectionEtape(QItemSelection selectionnay, QItemSelection
 void DAssistant::PriseClicEtape(QModelIndex const & index)
 {
     // The list clicks disabled items too and selects nothing by itself.
-    if (index.flags().testFlag(Qt::ItemIsEnabled))
-        maVueEtapes->selectionModel()->select(index, QItemSelectionModel::ClearAndSelect);
+    if (!index.flags().testFlag(Qt::ItemIsEnabled))
+        return;
+    ActiveRangee(index.row()); // the host may have enabled the item only, which can't be selected
+    maVueEtapes->selectionModel()->select(index, QItemSelectionModel::ClearAndSelect);
 }
 
-void DAssistant::PriseEtapeEnlevay(int index)
+void DAssistant::PriseEtapeEnlevay()
 {
-    DAssistantEtape * const etape = mesEtapes.at(index);
+    // Found by its absence: the host may have put widgets of its own among the steps.
+    auto const enlevay = std::find_if(mesEtapes.cbegin(), mesEtapes.cend(),
+                                      [this](auto * etape) { return maPile->indexOf(etape) < 0; });
+    if (enlevay == mesEtapes.cend())
+        return;
+    DAssistantEtape * const etape = *enlevay;
+    auto const index = int(enlevay - mesEtapes.cbegin());
     bool const etaitCourante = etape == monEtapeCourante;
     if (etaitCourante)
         monEtapeCourante = nullptr; // the row that goes selects a neighbour, which is no jump

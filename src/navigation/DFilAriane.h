@@ -16,7 +16,7 @@ class FABRELGUI_EXPORT DFilAriane : public QFrame
     Q_OBJECT
 
 public:
-    explicit DFilAriane(QWidget * parent);
+    explicit DFilAriane(QWidget * parent = nullptr);
 
     /// Adds a marker at the end. One made before under the same identifier stays in the strip,
     /// which still owns it, but is no longer lent.

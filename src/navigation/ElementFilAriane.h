@@ -17,7 +17,7 @@ class FABRELGUI_EXPORT ElementFilAriane : public QWidget
     Q_OBJECT
 
 public:
-    enum eEtat
+    enum eEtat : int
     {
         kBienvenue = 0, ///< the welcome step
         kAVenir = 1,    ///< still to come
@@ -26,7 +26,7 @@ public:
     };
 
     /// A marker without text in the state `kAVenir`.
-    explicit ElementFilAriane(QWidget * parent);
+    explicit ElementFilAriane(QWidget * parent = nullptr);
 
     /// Shows the state. A value outside the enumeration only has the sheet applied again.
     void MetsEtat(ElementFilAriane::eEtat etat);

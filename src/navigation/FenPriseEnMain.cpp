@@ -140,7 +140,7 @@ void FenPriseEnMain::PopuleAffichage(QVBoxLayout * disposition)
     CreeEntete(disposition);
     if (!monCtrl)
         return;
-    for (RangeePriseEnMain const & rangee : monCtrl->PreteVecteurRangeesPriseEnMain()) {
+    for (RangeePriseEnMain & rangee : monCtrl->PreteVecteurRangeesPriseEnMain()) {
         mesRangees.push_back(CreeRangee(rangee));
         disposition->addLayout(mesRangees.back());
     }
@@ -221,13 +221,12 @@ void FenPriseEnMain::CreeEntete(QVBoxLayout * disposition)
         widget->setFocusPolicy(Qt::TabFocus);
 }
 
-QHBoxLayout * FenPriseEnMain::CreeRangee(RangeePriseEnMain const & rangee)
+QHBoxLayout * FenPriseEnMain::CreeRangee(RangeePriseEnMain & rangee)
 {
     auto * const caseVue = new QCheckBox;
     caseVue->setObjectName(u"CheckBoxListeLien"_s);
     caseVue->setAccessibleName(rangee.titre);
-    UniChaine cle = rangee.cle;
-    caseVue->setChecked(monCtrl->LisReglage(cle));
+    caseVue->setChecked(monCtrl->LisReglage(rangee.cle));
 
     auto * const bouton = new QPushButton(rangee.titre);
     bouton->setFlat(true);

@@ -65,7 +65,7 @@ protected:
 private:
     void CreeDefilement();
     void CreeEntete(QVBoxLayout * disposition);
-    QHBoxLayout * CreeRangee(RangeePriseEnMain const & rangee);
+    QHBoxLayout * CreeRangee(RangeePriseEnMain & rangee);
     void BrancheRangee(RangeePriseEnMain const & rangee, QCheckBox * caseVue, QPushButton * bouton);
 
     void PriseFermeture();

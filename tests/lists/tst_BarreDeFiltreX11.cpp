@@ -1,5 +1,5 @@
-#include "outils/EntreeX11.h"
 #include "lists/PiecesBarreDeFiltre.h"
+#include "outils/EntreeX11.h"
 
 #include <QLineEdit>
 #include <QWindow>

@@ -1,7 +1,7 @@
 #include "lists/ListeChoixFlottante.h"
 
-#include "outils/EntreeX11.h"
 #include "lists/EssaisListeChoix.h"
+#include "outils/EntreeX11.h"
 
 #include <QDialog>
 #include <QScreen>

@@ -1,9 +1,9 @@
 #include "lists/WidgetListeEditableAvecListeChoix.h"
 #include "lists/WidgetListeEditableDragAndDrop.h"
 
-#include "outils/EntreeX11.h"
 #include "lists/EssaisVariantes.h"
 #include "lists/ListeChoixFlottante.h"
+#include "outils/EntreeX11.h"
 
 #include <QTreeView>
 #include <QtTest>

@@ -229,6 +229,9 @@ void tst_CtrlFenPriseEnMainInterface::reglages()
     UniChaine texte = cle;
     QCOMPARE(monCtrl->LisReglage(texte), valeur);
     QCOMPARE(QString(texte), cle);
+    // A row's key can be given as it is lent.
+    monCtrl->PreteVecteurRangeesPriseEnMain().push_back({{}, {}, texte, false});
+    QCOMPARE(monCtrl->LisReglage(monCtrl->PreteVecteurRangeesPriseEnMain().back().cle), valeur);
 }
 
 void tst_CtrlFenPriseEnMainInterface::premierReglage()

@@ -18,6 +18,7 @@ private Q_SLOTS:
     void detruiteEnSAffichant();
     void etapeReprise();
     void hasardDesDestructions();
+    void autreWidgetDetruit();
 };
 
 void tst_DAssistantEtapesDetruites::cleanup()
@@ -137,6 +138,21 @@ void tst_DAssistantEtapesDetruites::hasardDesDestructions()
         if (QTest::currentTestFailed())
             return;
     }
+}
+
+// A widget of the host's among the steps is none of the wizard's.
+void tst_DAssistantEtapesDetruites::autreWidgetDetruit()
+{
+    Banc banc(3);
+    QVERIFY(banc.Avance(1));
+    for (int const place : {0, 3}) {
+        auto * const autre = new QWidget;
+        banc.pile->insertWidget(place, autre);
+        delete autre;
+        QCOMPARE(banc.liste->count(), 3);
+        QCOMPARE(banc.Rangee(), 1);
+    }
+    VerifieCoherence(banc);
 }
 
 QTEST_MAIN(tst_DAssistantEtapesDetruites)

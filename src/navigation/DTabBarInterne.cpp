@@ -234,13 +234,13 @@ void DTabBarInterne::RefaisMiseEnPage()
 void DTabBarInterne::MetsTailleIcone(QSize const & taille)
 {
     setIconSize(taille);
-    maTailleIcone = taille;
+    maTailleIcone = iconSize(); // the style's for an invalid one
     for (int i = 0; i < count(); ++i) {
         InfosOnglet const infos = DonneInfos(i);
         if (!infos.etiquetteIcone)
             continue;
-        infos.cadre->setMinimumHeight(taille.height());
-        infos.etiquetteIcone->setFixedSize(taille);
+        infos.cadre->setMinimumHeight(maTailleIcone.height());
+        infos.etiquetteIcone->setFixedSize(maTailleIcone);
         MetsPixmapIcone(infos);
         MetsLargeurCadre(i, infos);
     }

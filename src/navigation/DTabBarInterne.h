@@ -78,7 +78,7 @@ public:
     void MetsPeutGlisserDeposer(bool peut);
     /// The width of every tab, in logical pixels; 185 at first.
     void MetsTailleOnglets(int largeur);
-    /// `setIconSize` for the labels too.
+    /// `setIconSize` for the labels too, which are 20 by 20 until then.
     void MetsTailleIcone(QSize const & taille);
 
     /// True while a tab is outside of this bar.

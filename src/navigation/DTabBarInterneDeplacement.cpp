@@ -126,9 +126,11 @@ void DTabBarInterne::DeplaceHorsDeLaBarre(QPoint const & positionGlobale)
 
 void DTabBarInterne::CommenceDeplacement()
 {
-    if (monInfobulleSauvee.isEmpty())
-        monInfobulleSauvee = tabToolTip(monIndexDeplace);
-    setTabToolTip(monIndexDeplace, QString()); // it would pop up during the drag
+    // Also one that the host has set since the drag began.
+    if (QString const infobulle = tabToolTip(monIndexDeplace); !infobulle.isEmpty()) {
+        monInfobulleSauvee = infobulle;
+        setTabToolTip(monIndexDeplace, QString()); // it would pop up during the drag
+    }
     if (monDeplacementExterne)
         return;
     monDeplacementExterne = true;
@@ -166,7 +168,7 @@ void DTabBarInterne::RemetsOnglet()
     monDeplacementExterne = false;
     qApp->removeEventFilter(this);
     monFantome->Cache();
-    if (!monInfobulleSauvee.isEmpty())
+    if (!monInfobulleSauvee.isEmpty() && tabToolTip(monIndexDeplace).isEmpty())
         setTabToolTip(monIndexDeplace, monInfobulleSauvee);
     monInfobulleSauvee.clear();
 }

@@ -57,6 +57,7 @@ public:
     void MetsDataOnglet(int index, QVariant const & donnee, int cle);
     /// The size of the bar of tabs, in spite of the name.
     QSize DonneTailleBoutonAjout() const;
+    /// The style's until it is set; the icons themselves begin with 20 by 20 logical pixels.
     QSize DonneTailleIcone() const;
     void MetsTailleIcone(QSize const & taille);
     /// A null icon takes no room.

@@ -13,6 +13,7 @@ private Q_SLOTS:
 
     void relacheSurUneCible();
     void relacheAilleurs();
+    void infobulleChangeeEnChemin();
     void ordreDuDepot_data();
     void ordreDuDepot();
     void relacheDUnAutreBouton();
@@ -65,6 +66,20 @@ void tst_DTabBarInterneFins::relacheAilleurs()
     QCOMPARE(scene.source.DonneInfobulles(), scene.infobulles);
     QCOMPARE(scene.depots.count(), 0);
     QCOMPARE(scene.fenetres.count(), 1);
+}
+
+void tst_DTabBarInterneFins::infobulleChangeeEnChemin()
+{
+    for (bool const bougeEncore : {false, true}) {
+        Scene scene;
+        scene.source.barre->setTabToolTip(1, u"Neuve"_s);
+        if (bougeEncore) {
+            scene.source.Deplace(scene.cible->DonnePoint(2));
+            QVERIFY(scene.source.barre->tabToolTip(1).isEmpty());
+        }
+        scene.source.Relache(scene.cible->DonnePoint(1));
+        QCOMPARE(scene.source.barre->tabToolTip(1), u"Neuve"_s);
+    }
 }
 
 void tst_DTabBarInterneFins::ordreDuDepot_data()

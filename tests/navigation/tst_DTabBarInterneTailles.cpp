@@ -91,6 +91,10 @@ void tst_DTabBarInterneTailles::tailleIcone()
     QTRY_COMPARE(infos.etiquetteIcone->width(), 60);
     QCOMPARE(infos.etiquetteTitre->width(),
              infos.cadre->width() - 60 - 5 - infos.cadre->layout()->spacing());
+
+    essai.barre->MetsTailleIcone(QSize()); // the style's
+    QCOMPARE(infos.etiquetteIcone->size(), essai.barre->iconSize());
+    QVERIFY(essai.barre->iconSize().isValid());
 }
 
 void tst_DTabBarInterneTailles::largeurDuCadre_data()

@@ -95,7 +95,7 @@ Q_SIGNALS:
 
 protected:
     void changeEvent(QEvent * evenement) override;
-    bool eventFilter(QObject * barre, QEvent * evenement) override;
+    bool eventFilter(QObject * objet, QEvent * evenement) override;
 
 private Q_SLOTS:
     void PriseDeplaceOngletVersBarreExterne(int index, QWidget * barre, int position);

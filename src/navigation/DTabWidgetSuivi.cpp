@@ -23,14 +23,15 @@ void DTabWidget::changeEvent(QEvent * evenement)
         NommeBoutonsFermeture();
 }
 
-bool DTabWidget::eventFilter(QObject * barre, QEvent * evenement)
+bool DTabWidget::eventFilter(QObject * objet, QEvent * evenement)
 {
-    if (evenement->type() != QEvent::MouseMove)
-        return QFrame::eventFilter(barre, evenement);
+    // A derived class may filter other objects too.
+    if (evenement->type() != QEvent::MouseMove || objet != PreteBarreInterne())
+        return QFrame::eventFilter(objet, evenement);
     // While it moves a tab with the mouse, Qt's bar does not stand the removal of another: hosts
     // hear of the move when the event is over.
     ++mesRetenues;
-    barre->event(evenement);
+    objet->event(evenement);
     --mesRetenues;
     Diffuse();
     return true;

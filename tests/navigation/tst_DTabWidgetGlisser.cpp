@@ -80,6 +80,7 @@ private Q_SLOTS:
     void hoteQuiOuvreUneFenetre();
     void cibleDetruiteEnChemin();
     void pageFermeeEnChemin();
+    void filtreDUneClasseDerivee();
 };
 
 void tst_DTabWidgetGlisser::cleanup()
@@ -233,6 +234,24 @@ void tst_DTabWidgetGlisser::pageFermeeEnChemin()
     QCOMPARE(Titres(*bureau.source), u"b c"_s);
     QCOMPARE(Titres(*bureau.cible), u"d e"_s);
     QVERIFY(bureau.journal.lignes.filter(u"parti"_s).isEmpty());
+}
+
+// A derived widget that filters the events of a page gives the rest to the base.
+void tst_DTabWidgetGlisser::filtreDUneClasseDerivee()
+{
+    class Derive : public DTabWidget
+    {
+    public:
+        using DTabWidget::DTabWidget;
+        bool eventFilter(QObject * objet, QEvent * evenement) override
+        {
+            return DTabWidget::eventFilter(objet, evenement);
+        }
+    } onglets(nullptr, {});
+    QWidget page;
+    QMouseEvent mouvement(QEvent::MouseMove, {5, 5}, {5, 5}, Qt::NoButton, Qt::NoButton,
+                          Qt::NoModifier);
+    QVERIFY(!onglets.eventFilter(&page, &mouvement));
 }
 
 QTEST_MAIN(tst_DTabWidgetGlisser)

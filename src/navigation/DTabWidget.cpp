@@ -21,6 +21,7 @@ constexpr int kCoteBoutonFermeture = 16;
 
 } // namespace
 
+// NOLINTNEXTLINE(performance-unnecessary-value-param): by value is the interface
 DTabWidget::DTabWidget(QWidget * parent, QString identifiantGroupe)
     : QFrame(parent)
     , monIconeFermeture(u":/Images/fermer.svg"_s)
@@ -48,6 +49,7 @@ DTabWidget::~DTabWidget()
     }
 }
 
+// NOLINTNEXTLINE(performance-unnecessary-value-param): by value is the interface
 int DTabWidget::AjouteOnglet(QWidget * page, QString titre)
 {
     int const index = PoseOnglet(page, -1);
@@ -62,6 +64,7 @@ int DTabWidget::AjouteOnglet(QWidget * page, QString titre)
     return index;
 }
 
+// NOLINTNEXTLINE(performance-unnecessary-value-param): by value is the interface
 void DTabWidget::InsereOnglet(QWidget * page, int index, QString titre)
 {
     index = PoseOnglet(page, index);
@@ -200,6 +203,7 @@ void DTabWidget::MetsTailleOnglets(int largeur)
     PreteBarreInterne()->MetsTailleOnglets(largeur);
 }
 
+// NOLINTNEXTLINE(performance-unnecessary-value-param): by value is the interface
 void DTabWidget::MetsTexteOnglet(int index, QString texte)
 {
     if (!maPile->widget(index))

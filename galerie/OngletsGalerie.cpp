@@ -148,7 +148,7 @@ void OngletsGalerie::BrancheClavier()
     };
     for (auto const & [touche, prise] : raccourcis) {
         auto * const raccourci = new QShortcut(touche, this);
-        connect(raccourci, &QShortcut::activated, this, prise, Qt::UniqueConnection);
+        connect(raccourci, &QShortcut::activated, this, prise);
     }
     // Not all systems ask for the menu with it, as they do with the key of its own.
     auto * const menu = new QShortcut(Qt::SHIFT | Qt::Key_F10, PreteBarre()->PreteBarreInterne());

@@ -36,9 +36,10 @@ void PagesOuvertes::AjouteEnvois(QMenu & menu, OngletsGalerie const & onglets, i
     if (mesFenetres.isEmpty())
         return;
     QMenu & envois = *menu.addMenu(TraductionGalerie(TexteGalerie("&Envoyer vers")));
-    for (QPointer<OngletsGalerie> const cible : DonneOnglets()) {
-        if (cible == &onglets)
+    for (OngletsGalerie * const autre : DonneOnglets()) {
+        if (autre == &onglets)
             continue;
+        QPointer<OngletsGalerie> const cible(autre); // gone, maybe, when the menu is answered
         QAction const * const action = envois.addAction(cible->window()->windowTitle());
         connect(action, &QAction::triggered, this, [this, page, cible] { Envoie(page, cible); });
     }

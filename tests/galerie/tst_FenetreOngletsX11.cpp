@@ -87,6 +87,9 @@ void tst_FenetreOngletsX11::Montre(FenetreGalerie & fenetre)
     fenetre.show();
     fenetre.activateWindow();
     QVERIFY(QTest::qWaitForWindowActive(&fenetre, kDelai));
+    // A window that is torn off is given room for the frame that this one has: a busy window
+    // manager may tell of it late.
+    QTRY_VERIFY_WITH_TIMEOUT(fenetre.frameGeometry().height() > fenetre.height(), kDelai);
 }
 
 void tst_FenetreOngletsX11::tireDehorsEtRamene()
